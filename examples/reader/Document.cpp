@@ -1,0 +1,136 @@
+#include "Document.h"
+
+#include "DocumentEdits.h"
+#include "PageGenerator.h"
+
+#include <QFileInfo>
+#include <QLineF>
+
+namespace {
+
+/** Not qHash(), whose values differ from run to run and from version to version. */
+quint32 seedOf(const QFileInfo &file)
+{
+    quint32 seed = 2166136261U;
+    const QByteArray name = file.fileName().toUtf8();
+    for (const char byte : name)
+        seed = (seed ^ quint8(byte)) * 16777619U;
+    return seed ^ quint32(file.size());
+}
+
+bool passesNear(const Mark &ink, QPointF point, qreal radius)
+{
+    for (const QPointF &step : ink.points) {
+        if (QLineF(step, point).length() <= radius + ink.width / 2)
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
+Document::Document(QObject *parent)
+    : QObject(parent)
+{
+}
+
+void Document::open(const QString &fileName)
+{
+    const QFileInfo file(fileName);
+    const quint32 seed = seedOf(file);
+    m_fileName = fileName;
+    m_undoStack.clear();
+    m_marks.clear();
+    m_pages.clear();
+    for (int number = 1; number <= PageGenerator::pageCount(seed); ++number)
+        m_pages.append(PageGenerator::page(seed, number));
+    Q_EMIT pagesChanged();
+    Q_EMIT marksChanged();
+}
+
+void Document::close()
+{
+    m_fileName.clear();
+    m_undoStack.clear();
+    m_marks.clear();
+    m_pages.clear();
+    Q_EMIT pagesChanged();
+    Q_EMIT marksChanged();
+}
+
+QString Document::title() const
+{
+    return QFileInfo(m_fileName).fileName();
+}
+
+bool Document::hasPageOf(const Mark &mark) const
+{
+    return mark.page == everyPage || mark.page < pageCount();
+}
+
+int Document::characterCount() const
+{
+    int count = 0;
+    for (const Page &page : m_pages) {
+        for (const TextLine &line : page.lines)
+            count += line.length;
+    }
+    return count;
+}
+
+void Document::addMark(Mark mark, const QString &what)
+{
+    mark.id = ++m_lastMarkId;
+    m_undoStack.push(new AddMarkEdit(*this, mark, what));
+}
+
+void Document::eraseInk(int page, QPointF point, qreal radius)
+{
+    for (int i = int(m_marks.size()) - 1; i >= 0; --i) {
+        const Mark mark = m_marks.at(i);
+        if (mark.kind == MarkKind::Ink && mark.page == page && passesNear(mark, point, radius))
+            m_undoStack.push(new RemoveMarkEdit(*this, i));
+    }
+}
+
+void Document::insertPage(int index, const Page &page, const QString &what)
+{
+    m_undoStack.push(new InsertPageEdit(*this, index, page, what));
+}
+
+void Document::placeMark(int position, const Mark &mark)
+{
+    m_marks.insert(position, mark);
+    Q_EMIT marksChanged();
+}
+
+void Document::removeMark(int id)
+{
+    for (int i = 0; i < m_marks.size(); ++i) {
+        if (m_marks.at(i).id == id) {
+            m_marks.removeAt(i);
+            break;
+        }
+    }
+    Q_EMIT marksChanged();
+}
+
+void Document::placePage(int index, const Page &page)
+{
+    m_pages.insert(index, page);
+    for (Mark &mark : m_marks) {
+        if (mark.page >= index)
+            ++mark.page;
+    }
+    Q_EMIT pagesChanged();
+}
+
+void Document::removePage(int index)
+{
+    m_pages.removeAt(index);
+    for (Mark &mark : m_marks) {
+        if (mark.page > index)
+            --mark.page;
+    }
+    Q_EMIT pagesChanged();
+}

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "Document.h"
+
+#include <QUndoCommand>
+
+/** A mark put on a page. */
+class AddMarkEdit : public QUndoCommand
+{
+public:
+    AddMarkEdit(Document &document, const Mark &mark, const QString &what);
+    void redo() override;
+    void undo() override;
+
+private:
+    Document &m_document;
+    Mark m_mark;
+};
+
+/** A mark rubbed out; it comes back where it was in the order of drawing. */
+class RemoveMarkEdit : public QUndoCommand
+{
+public:
+    RemoveMarkEdit(Document &document, int position);
+    void redo() override;
+    void undo() override;
+
+private:
+    Document &m_document;
+    int m_position;
+    Mark m_mark;
+};
+
+/** A page inserted before the one at an index. */
+class InsertPageEdit : public QUndoCommand
+{
+public:
+    InsertPageEdit(Document &document, int index, const Page &page, const QString &what);
+    void redo() override;
+    void undo() override;
+
+private:
+    Document &m_document;
+    int m_index;
+    Page m_page;
+};

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "ReaderParts.h"
+
+#include <QString>
+
+class CommandTable;
+
+/** Files, settings and what the reader says of itself. */
+class FileCommands
+{
+public:
+    explicit FileCommands(const ReaderParts &parts);
+
+    void addTo(CommandTable &table);
+
+    /** Opens any file and remembers it, unless the user keeps unsaved marks. */
+    void open(const QString &fileName);
+    /** Whether the open document may go: it is unchanged, or the user gives its marks up. */
+    bool mayDiscard() const;
+
+private:
+    void askAndOpen();
+    void close();
+    void save();
+    void saveAs();
+    void print();
+    void showProperties() const;
+    void showPreferences();
+    void showAbout() const;
+    QString askFileToWrite(const QString &title, const QString &filter) const;
+    void saveTo(const QString &fileName);
+
+    ReaderParts m_parts;
+    QString m_savedFile; ///< Where the open document was saved last.
+};

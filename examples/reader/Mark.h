@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QColor>
+#include <QPolygonF>
+#include <QString>
+
+/** What can be put on a page. The order of drawing is the order of the marks, not of this list. */
+enum class MarkKind
+{
+    Highlight,
+    Underline,
+    WavyLine,
+    DeleteLine,
+    Revision,
+    StraightLine,
+    Arrow,
+    Rectangle,
+    Ellipse,
+    Polygon,
+    Polyline,
+    Cloud,
+    Ink,
+    DisplayMask,
+    PrintMask,
+    TextBox,
+    Note,
+    RoundSeal,
+    EdgeSeal,
+    SquareSeal,
+    SealPlace,
+    Stamp,
+    Picture,
+    Watermark
+};
+
+/** A mark that stands on every page bears this page index. */
+constexpr int everyPage = -1;
+
+/** One mark on a page, in page units. */
+struct Mark
+{
+    MarkKind kind = MarkKind::Highlight;
+    int page = 0;     ///< Counted from 0, or everyPage.
+    QPolygonF points; ///< Two corners or ends; of ink all points; of text four a line.
+    QString text;     ///< Of revisions the sign, of boxes and stamps what they say.
+    QColor colour = Qt::red;
+    qreal width = 2;
+    int id = 0; ///< Given by the document.
+
+    QRectF rect() const { return points.boundingRect(); }
+};
+
+/** What a mark is called in lists. */
+QString markName(MarkKind kind);

@@ -1,0 +1,243 @@
+#include "NavigationPanel.h"
+
+#include "PagePainter.h"
+
+#include <QListWidget>
+#include <QPainter>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace {
+
+const QString outline = QStringLiteral("vn_outline");
+const QString thumbnails = QStringLiteral("vn_thumbnail");
+const QString words = QStringLiteral("vn_customtag");
+const QString bookmarks = QStringLiteral("vn_bookmark");
+const QString marks = QStringLiteral("vn_annotation");
+const QString attachments = QStringLiteral("vn_attachment");
+
+constexpr int pageRole = Qt::UserRole;
+constexpr int wordRole = Qt::UserRole + 1;
+constexpr int leastWidth = 200;
+constexpr QSize thumbnailSize(106, 150);
+
+QString titleOf(const QString &panel)
+{
+    static const QHash<QString, QString> titles = {
+        {outline, QStringLiteral("大纲")},     {thumbnails, QStringLiteral("缩略图")},
+        {words, QStringLiteral("自定义标引")}, {bookmarks, QStringLiteral("书签")},
+        {marks, QStringLiteral("批注")},       {attachments, QStringLiteral("附件")},
+    };
+    return titles.value(panel);
+}
+
+QStringList indexedWords()
+{
+    return {QStringLiteral("文档"), QStringLiteral("页面"), QStringLiteral("搜索"),
+            QStringLiteral("签章"), QStringLiteral("批注"), QStringLiteral("OFD")};
+}
+
+void addItem(QListWidget *list, const QString &text, int page)
+{
+    auto *item = new QListWidgetItem(text, list);
+    item->setData(pageRole, page);
+}
+
+void addNotice(QListWidget *list, const QString &text)
+{
+    auto *item = new QListWidgetItem(text, list);
+    item->setFlags(Qt::NoItemFlags);
+}
+
+QIcon thumbnailOf(const Document &document, int page, qreal ratio)
+{
+    QPixmap pixmap(thumbnailSize * ratio);
+    pixmap.setDevicePixelRatio(ratio);
+    QPainter painter(&pixmap);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+    painter.scale(thumbnailSize.width() / pageSize.width(),
+                  thumbnailSize.height() / pageSize.height());
+    paintPage(painter, document, page, PageColours::of(Background_Default), PageDecoration());
+    painter.resetTransform();
+    painter.setPen(Qt::gray);
+    painter.drawRect(QRect(QPoint(0, 0), thumbnailSize).adjusted(0, 0, -1, -1));
+    return QIcon(pixmap);
+}
+
+} // namespace
+
+NavigationPanel::NavigationPanel(const Document &document, QWidget *parent)
+    : QDockWidget(parent)
+    , m_document(document)
+    , m_stack(new QStackedWidget)
+    , m_bookmarkButton(new QPushButton(QStringLiteral("为当前页添加书签")))
+{
+    setObjectName(QStringLiteral("navigation"));
+    auto *content = new QWidget;
+    auto *layout = new QVBoxLayout(content);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_stack);
+    layout->addWidget(m_bookmarkButton);
+    content->setMinimumWidth(leastWidth);
+    setWidget(content);
+    for (const QString &name : names())
+        addPanel(name);
+    m_lists.value(thumbnails)->setIconSize(thumbnailSize);
+    addBookmarkButton();
+    hide();
+    connect(&document, &Document::pagesChanged, this, &NavigationPanel::documentOpened);
+    connect(&document, &Document::marksChanged, this, &NavigationPanel::refill);
+    connect(this, &QDockWidget::visibilityChanged, this, &NavigationPanel::shownPanelChanged);
+}
+
+QStringList NavigationPanel::names()
+{
+    return {outline, thumbnails, words, bookmarks, marks, attachments};
+}
+
+QListWidget *NavigationPanel::addPanel(const QString &name)
+{
+    auto *list = new QListWidget;
+    list->setAccessibleName(titleOf(name));
+    m_stack->addWidget(list);
+    m_lists.insert(name, list);
+    connect(list, &QListWidget::itemClicked, this, &NavigationPanel::itemChosen);
+    connect(list, &QListWidget::itemActivated, this, &NavigationPanel::itemChosen);
+    return list;
+}
+
+void NavigationPanel::addBookmarkButton()
+{
+    connect(m_bookmarkButton, &QPushButton::clicked, this, [this] {
+        if (!m_document.isOpen() || m_bookmarks.contains(m_currentPage))
+            return;
+        m_bookmarks.append(m_currentPage);
+        std::sort(m_bookmarks.begin(), m_bookmarks.end());
+        refill();
+    });
+}
+
+void NavigationPanel::toggle(const QString &name)
+{
+    if (shownPanel() == name) {
+        hide();
+        return;
+    }
+    m_panel = name;
+    setWindowTitle(titleOf(name));
+    m_stack->setCurrentWidget(m_lists.value(name));
+    m_bookmarkButton->setVisible(name == bookmarks);
+    show();
+    refill();
+    Q_EMIT shownPanelChanged();
+}
+
+QString NavigationPanel::shownPanel() const
+{
+    return isHidden() ? QString() : m_panel;
+}
+
+void NavigationPanel::documentOpened()
+{
+    if (m_fileName != m_document.fileName()) {
+        m_fileName = m_document.fileName();
+        m_bookmarks.clear();
+    }
+    refill();
+}
+
+void NavigationPanel::refill()
+{
+    if (isHidden())
+        return;
+    QListWidget *list = m_lists.value(m_panel);
+    const int row = list->currentRow();
+    list->clear();
+    if (!m_document.isOpen())
+        addNotice(list, QStringLiteral("没有打开的文档"));
+    else if (m_panel == outline)
+        fillOutline();
+    else if (m_panel == thumbnails)
+        fillThumbnails();
+    else if (m_panel == words)
+        fillWords();
+    else if (m_panel == bookmarks)
+        fillBookmarks();
+    else if (m_panel == marks)
+        fillMarks();
+    else
+        fillAttachments();
+    list->setCurrentRow(row);
+}
+
+void NavigationPanel::fillOutline()
+{
+    for (int page = 0; page < m_document.pageCount(); ++page) {
+        const QString heading = m_document.page(page).heading;
+        addItem(m_lists.value(outline), QStringLiteral("%1　%2").arg(page + 1).arg(heading), page);
+    }
+}
+
+void NavigationPanel::fillThumbnails()
+{
+    QListWidget *list = m_lists.value(thumbnails);
+    for (int page = 0; page < m_document.pageCount(); ++page) {
+        addItem(list, QString::number(page + 1), page);
+        list->item(page)->setIcon(thumbnailOf(m_document, page, devicePixelRatioF()));
+    }
+}
+
+void NavigationPanel::fillWords()
+{
+    QListWidget *list = m_lists.value(words);
+    for (const QString &word : indexedWords()) {
+        int count = 0;
+        for (int page = 0; page < m_document.pageCount(); ++page)
+            count += int(m_document.page(page).text.count(word));
+        auto *item = new QListWidgetItem(QStringLiteral("%1（%2 处）").arg(word).arg(count), list);
+        item->setData(wordRole, word);
+    }
+}
+
+void NavigationPanel::fillBookmarks()
+{
+    QListWidget *list = m_lists.value(bookmarks);
+    for (const int page : std::as_const(m_bookmarks)) {
+        if (page < m_document.pageCount())
+            addItem(list, QStringLiteral("第 %1 页").arg(page + 1), page);
+    }
+    if (list->count() == 0)
+        addNotice(list, QStringLiteral("还没有书签"));
+}
+
+void NavigationPanel::fillMarks()
+{
+    QListWidget *list = m_lists.value(marks);
+    for (const Mark &mark : m_document.marks()) {
+        const QString place = mark.page == everyPage
+                                  ? QStringLiteral("每一页")
+                                  : QStringLiteral("第 %1 页").arg(mark.page + 1);
+        const QString text = mark.text.isEmpty() ? QString() : QStringLiteral("：") + mark.text;
+        addItem(list, place + QStringLiteral("　") + markName(mark.kind) + text,
+                std::max(0, mark.page));
+    }
+    if (list->count() == 0)
+        addNotice(list, QStringLiteral("还没有批注"));
+}
+
+void NavigationPanel::fillAttachments()
+{
+    addNotice(m_lists.value(attachments), QStringLiteral("本文档没有附件"));
+}
+
+void NavigationPanel::itemChosen(const QListWidgetItem *item)
+{
+    const QString word = item->data(wordRole).toString();
+    if (!word.isEmpty())
+        Q_EMIT wordChosen(word);
+    else if (item->data(pageRole).isValid())
+        Q_EMIT pageChosen(item->data(pageRole).toInt());
+}

@@ -1,0 +1,84 @@
+#include "Options.h"
+
+#include <QCommandLineParser>
+
+namespace {
+
+const QStringList skins = {QStringLiteral("marodi"), QStringLiteral("lum")};
+
+const QCommandLineOption &skinOption()
+{
+    static const QCommandLineOption option(QStringLiteral("skin"),
+                                           QStringLiteral("Skin to show: marodi or lum (marodi)."),
+                                           QStringLiteral("name"), skins.first());
+    return option;
+}
+
+const QCommandLineOption &descriptionOption()
+{
+    static const QCommandLineOption option(
+        QStringLiteral("description"),
+        QStringLiteral("Toolbar description: a file, or release or debug for one of the skin's own "
+                       "(release)."),
+        QStringLiteral("file"), QStringLiteral("release"));
+    return option;
+}
+
+const QCommandLineOption &screenshotOption()
+{
+    static const QCommandLineOption option(
+        QStringLiteral("screenshot"),
+        QStringLiteral("Save a picture of the window to this .png file and end."),
+        QStringLiteral("file"));
+    return option;
+}
+
+const QCommandLineOption &clearHistoryOption()
+{
+    static const QCommandLineOption option(
+        QStringLiteral("clear-history"),
+        QStringLiteral("Add the entry that clears the recent files to their menu; without it the "
+                       "menu stays empty."));
+    return option;
+}
+
+QString faultOf(const QCommandLineParser &parser)
+{
+    const QString skin = parser.value(skinOption());
+    if (!skins.contains(skin))
+        return QStringLiteral("--skin takes marodi or lum, not '%1'").arg(skin);
+    if (parser.positionalArguments().size() > 1)
+        return QStringLiteral("only one file can be opened at a time");
+    if (parser.isSet(screenshotOption()) && parser.value(screenshotOption()).isEmpty())
+        return QStringLiteral("--screenshot takes a file name");
+    return QString();
+}
+
+} // namespace
+
+Options Options::of(const QStringList &arguments, QString *error)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("A small reader on generated pages."));
+    parser.addPositionalArgument(QStringLiteral("file"),
+                                 QStringLiteral("Any file; its pages are made from its name."),
+                                 QStringLiteral("[file]"));
+    parser.addOptions(
+        {skinOption(), descriptionOption(), screenshotOption(), clearHistoryOption()});
+    const QCommandLineOption help = parser.addHelpOption();
+
+    Options options;
+    if (!parser.parse(arguments)) {
+        *error = parser.errorText();
+        return options;
+    }
+    if (parser.isSet(help))
+        parser.showHelp();
+    *error = faultOf(parser);
+    options.skin = parser.value(skinOption());
+    options.description = parser.value(descriptionOption());
+    options.screenshot = parser.value(screenshotOption());
+    options.file = parser.positionalArguments().value(0);
+    options.clearHistory = parser.isSet(clearHistoryOption());
+    return options;
+}

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+/** What was asked for on the command line. */
+struct Options
+{
+    QString skin;
+    QString description;
+    QString screenshot; ///< Empty for a window that stays.
+    QString file;       ///< The document to open; empty for the sample.
+    bool clearHistory = false;
+
+    /** Shows the help and ends the program if that is asked for; tells what is wrong in @p error.
+     */
+    static Options of(const QStringList &arguments, QString *error);
+};

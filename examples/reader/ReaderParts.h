@@ -1,0 +1,25 @@
+#pragma once
+
+class Document;
+class HandwritingSettings;
+class NavigationPanel;
+class PageView;
+class QMainWindow;
+class QString;
+class ReaderSettings;
+class SearchPanel;
+
+/** What commands work on. The window owns all of it. */
+struct ReaderParts
+{
+    QMainWindow *window = nullptr;
+    Document *document = nullptr;
+    PageView *view = nullptr;
+    NavigationPanel *navigation = nullptr;
+    SearchPanel *search = nullptr;
+    HandwritingSettings *handwriting = nullptr;
+    ReaderSettings *settings = nullptr;
+
+    /** Shows a line in the status bar for a while. */
+    void say(const QString &message) const;
+};

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <toolbar/ToolBarTypes.h>
+
+#include <QStringList>
+
+/** All that the toolbar shows of the reader. */
+struct ReaderState
+{
+    bool isOpen = false;
+    bool isModified = false;
+    bool canUndo = false;
+    bool canRedo = false;
+    bool hasSelection = false;
+    int page = 0; ///< Counted from 1; 0 without a document.
+    int pageCount = 0;
+    QString zoomMode;
+    QString layoutMode; ///< These three by the object name of their control.
+    QString tool;
+    QString panel; ///< Empty while no panel is shown.
+    BackgroundStyle background = Background_Default;
+    QStringList recentFiles;
+};

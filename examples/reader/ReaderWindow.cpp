@@ -1,0 +1,274 @@
+#include "ReaderWindow.h"
+
+#include "HandwritingSettings.h"
+#include "HostPanel.h"
+#include "NavigationPanel.h"
+#include "PageView.h"
+#include "SearchPanel.h"
+#include "SignalLog.h"
+
+#include <toolbar/MRToolBar.h>
+
+#include <QCloseEvent>
+#include <QDomDocument>
+#include <QLabel>
+#include <QShortcut>
+#include <QStatusBar>
+#include <QVBoxLayout>
+
+namespace {
+
+const QString quickAccessKey = QStringLiteral("quickaccessbarbuttons");
+const QString sampleName = QStringLiteral("示例文档.ofd");
+constexpr int messageTime = 6000;
+constexpr int logWidth = 300;
+constexpr QSize windowSize(1280, 800);
+constexpr int referenceDpi = 96;
+
+} // namespace
+
+void ReaderParts::say(const QString &message) const
+{
+    window->statusBar()->showMessage(message, messageTime);
+}
+
+ReaderWindow::ReaderWindow(const QDomDocument &description, const QString &skin)
+    : m_skin(skin)
+    , m_view(new PageView(m_document, this))
+    , m_navigation(new NavigationPanel(m_document, this))
+    , m_search(new SearchPanel(m_document, *m_view, this))
+    , m_handwriting(new HandwritingSettings(this))
+    , m_hostPanel(new HostPanel)
+    , m_log(new SignalLog)
+    , m_place(new QLabel)
+    , m_fileCommands(parts())
+    , m_viewCommands(parts())
+    , m_editCommands(parts())
+{
+    setCentralWidget(m_view);
+    statusBar()->addPermanentWidget(m_place);
+    createDocks();
+    createToolBar(description);
+    createCommands();
+    createShortcuts();
+    connectToolBar();
+    connectParts();
+    updateTitle();
+    m_report->tellAll(state());
+    resize(windowSize * logicalDpiX() / referenceDpi);
+    m_view->setFocus();
+}
+
+ReaderWindow::~ReaderWindow()
+{
+    // The docks go last, with the window, and have no business with a document that is gone.
+    m_document.disconnect();
+    m_document.undoStack().disconnect();
+    m_navigation->disconnect(this);
+}
+
+ReaderParts ReaderWindow::parts()
+{
+    return {this, &m_document, m_view, m_navigation, m_search, m_handwriting, &m_settings};
+}
+
+void ReaderWindow::createDocks()
+{
+    addDockWidget(Qt::LeftDockWidgetArea, m_navigation);
+    addDockWidget(Qt::LeftDockWidgetArea, m_search);
+
+    auto *content = new QWidget;
+    auto *layout = new QVBoxLayout(content);
+    layout->addWidget(m_hostPanel);
+    layout->addWidget(m_log);
+    content->setMinimumWidth(logWidth * logicalDpiX() / referenceDpi);
+    auto *dock = new QDockWidget(QStringLiteral("宿主"), this);
+    dock->setObjectName(QStringLiteral("host"));
+    dock->setWidget(content);
+    addDockWidget(Qt::RightDockWidgetArea, dock);
+}
+
+void ReaderWindow::createToolBar(const QDomDocument &description)
+{
+    ToolBarSkinStyle skin = HostPanel::firstSkin();
+    const QString buttons = m_settings.quickAccessButtons(m_skin);
+    if (!buttons.isEmpty())
+        skin.insert(quickAccessKey, buttons);
+    QDomNode root = description.documentElement();
+    m_toolBar = std::make_unique<MRToolBar>(this, root, skin, ToolBarLeft);
+    m_report.emplace(*m_toolBar, m_commands);
+    m_log->listenTo(*m_toolBar);
+}
+
+void ReaderWindow::createCommands()
+{
+    m_fileCommands.addTo(m_commands);
+    m_viewCommands.addTo(m_commands);
+    m_editCommands.addTo(m_commands);
+}
+
+void ReaderWindow::createShortcuts()
+{
+    // The keys that the tooltips of the shipped descriptions promise, and what readers expect.
+    const QMap<QString, QString> keys = {
+        {QStringLiteral("Ctrl+O"), QStringLiteral("f_open")},
+        {QStringLiteral("Ctrl+S"), QStringLiteral("f_save")},
+        {QStringLiteral("Ctrl+P"), QStringLiteral("f_print")},
+        {QStringLiteral("Ctrl+Z"), QStringLiteral("e_undo")},
+        {QStringLiteral("Ctrl+Y"), QStringLiteral("e_redo")},
+        {QStringLiteral("Ctrl+F"), QStringLiteral("e_find")},
+        {QStringLiteral("F11"), QStringLiteral("v_fullscreen")},
+    };
+    for (auto key = keys.cbegin(); key != keys.cend(); ++key) {
+        auto *shortcut = new QShortcut(QKeySequence(key.key()), this);
+        const QString name = key.value();
+        connect(shortcut, &QShortcut::activated, this, [this, name] {
+            if (m_commands.isUsable(name, state()))
+                runCommand(name);
+        });
+    }
+    auto *escape = new QShortcut(QKeySequence(Qt::Key_Escape), this);
+    connect(escape, &QShortcut::activated, this, [this] {
+        if (isFullScreen())
+            m_viewCommands.toggleFullScreen();
+        m_view->setFocus();
+    });
+}
+
+void ReaderWindow::connectToolBar()
+{
+    const MRToolBar *toolBar = m_toolBar.get();
+    connect(toolBar, &MRToolBar::DoActive, this, &ReaderWindow::runCommand);
+    connect(toolBar, &MRToolBar::DoGotoPage, this, [this](int page) {
+        m_view->setCurrentPage(page - 1);
+        m_view->setFocus();
+        stateChanged();
+    });
+    connect(toolBar, &MRToolBar::DoOpenFile, this, &ReaderWindow::open);
+    connect(toolBar, &MRToolBar::DoSetZoomMode, this, [this](const QString &mode) {
+        if (m_document.isOpen())
+            m_view->setZoomMode(ZoomMode::fromName(mode));
+    });
+    connect(toolBar, &MRToolBar::DoSearchContent, m_search, &SearchPanel::search);
+    connect(toolBar, &MRToolBar::DoSetBackground, this, [this](BackgroundStyle style) {
+        m_view->setBackground(style);
+        stateChanged();
+    });
+    connect(toolBar, &MRToolBar::DoRequestAuthority, this, [this] { m_report->tellAll(state()); });
+}
+
+void ReaderWindow::connectParts()
+{
+    m_updateTimer.setSingleShot(true);
+    connect(&m_updateTimer, &QTimer::timeout, this, &ReaderWindow::updateToolBar);
+
+    connect(&m_document, &Document::pagesChanged, this, &ReaderWindow::stateChanged);
+    connect(&m_document.undoStack(), &QUndoStack::indexChanged, this, &ReaderWindow::stateChanged);
+    connect(&m_document.undoStack(), &QUndoStack::cleanChanged, this, &ReaderWindow::stateChanged);
+    connect(m_view, &PageView::currentPageChanged, m_navigation, &NavigationPanel::setCurrentPage);
+    connect(m_view, &PageView::currentPageChanged, this, &ReaderWindow::stateChanged);
+    connect(m_view, &PageView::zoomChanged, this, &ReaderWindow::stateChanged);
+    connect(m_view, &PageView::selectionChanged, this, &ReaderWindow::stateChanged);
+    connect(m_view, &PageView::zoomStepAsked, this, [this](bool larger) {
+        if (m_document.isOpen())
+            m_viewCommands.stepZoom(larger);
+    });
+    connect(m_view, &PageView::markDrawn, this,
+            [this](const Mark &mark) { m_editCommands.addDrawn(mark); });
+    connect(m_view, &PageView::inkRubbed, &m_document, &Document::eraseInk);
+
+    connect(m_navigation, &NavigationPanel::pageChosen, m_view, &PageView::setCurrentPage);
+    connect(m_navigation, &NavigationPanel::wordChosen, m_search, &SearchPanel::searchWord);
+    connect(m_navigation, &NavigationPanel::shownPanelChanged, this, &ReaderWindow::stateChanged);
+    connect(m_search, &SearchPanel::found, this,
+            [this](const QString &message) { parts().say(message); });
+
+    connect(m_hostPanel, &HostPanel::skinChosen, m_toolBar.get(), &MRToolBar::DoSetSkinStyleSlot);
+    connect(m_hostPanel, &HostPanel::handwritingAsked, this, [this] {
+        m_editCommands.editHandwriting();
+        stateChanged();
+    });
+}
+
+void ReaderWindow::runCommand(const QString &name)
+{
+    if (!m_commands.run(name))
+        parts().say(QStringLiteral("没有实现的命令：%1").arg(name));
+    stateChanged();
+}
+
+void ReaderWindow::open(const QString &fileName)
+{
+    m_fileCommands.open(fileName);
+    stateChanged();
+}
+
+void ReaderWindow::openSample()
+{
+    m_document.open(sampleName);
+    m_view->setCurrentPage(0);
+}
+
+ReaderState ReaderWindow::state() const
+{
+    ReaderState state;
+    state.isOpen = m_document.isOpen();
+    state.isModified = !m_document.undoStack().isClean();
+    state.canUndo = m_document.undoStack().canUndo();
+    state.canRedo = m_document.undoStack().canRedo();
+    state.hasSelection = !m_view->selection().isEmpty();
+    state.page = m_document.isOpen() ? m_view->currentPage() + 1 : 0;
+    state.pageCount = m_document.pageCount();
+    state.zoomMode = m_view->zoomMode().name();
+    state.layoutMode = ViewCommands::nameOf(m_view->layoutMode());
+    state.tool = m_view->tool().name;
+    state.panel = m_navigation->shownPanel();
+    state.background = m_view->background();
+    state.recentFiles = m_settings.recentFiles();
+    return state;
+}
+
+void ReaderWindow::stateChanged()
+{
+    // One command changes several things; the toolbar is told once, when all is done.
+    m_updateTimer.start(0);
+}
+
+void ReaderWindow::updateToolBar()
+{
+    m_report->tellChanges(state());
+    updateTitle();
+}
+
+void ReaderWindow::updateTitle()
+{
+    const QString application = QStringLiteral("OFD阅读器");
+    setWindowModified(!m_document.undoStack().isClean());
+    if (!m_document.isOpen()) {
+        setWindowTitle(application);
+        m_place->clear();
+        return;
+    }
+    setWindowTitle(QStringLiteral("%1[*]（生成的页面）- %2").arg(m_document.title(), application));
+    m_place->setText(QStringLiteral("第 %1 / %2 页　%3%")
+                         .arg(m_view->currentPage() + 1)
+                         .arg(m_document.pageCount())
+                         .arg(m_view->percent(), 0, 'f', 0));
+}
+
+void ReaderWindow::closeEvent(QCloseEvent *event)
+{
+    if (!m_fileCommands.mayDiscard()) {
+        event->ignore();
+        return;
+    }
+    m_settings.setQuickAccessButtons(m_skin, m_toolBar->GetQuickAccessButtonList());
+    QMainWindow::closeEvent(event);
+}
+
+void ReaderWindow::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::WindowStateChange)
+        stateChanged();
+    QMainWindow::changeEvent(event);
+}

@@ -1,0 +1,76 @@
+#pragma once
+
+#include "CommandTable.h"
+#include "Document.h"
+#include "EditCommands.h"
+#include "FileCommands.h"
+#include "ReaderSettings.h"
+#include "ToolBarReport.h"
+#include "ViewCommands.h"
+
+#include <QMainWindow>
+#include <QTimer>
+
+#include <memory>
+#include <optional>
+
+class HostPanel;
+class MRToolBar;
+class NavigationPanel;
+class PageView;
+class QDomDocument;
+class QLabel;
+class SearchPanel;
+class SignalLog;
+
+/** The reader: a toolbar made from a description, the pages, and the docks around them. */
+class ReaderWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    /** @param skin under which name the quick access buttons of this skin are remembered. */
+    ReaderWindow(const QDomDocument &description, const QString &skin);
+    ~ReaderWindow() override;
+
+    void open(const QString &fileName);
+    /** Opens a document that leaves no trace in the recent files. */
+    void openSample();
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    ReaderParts parts();
+    void createDocks();
+    void createToolBar(const QDomDocument &description);
+    void createCommands();
+    void createShortcuts();
+    void connectToolBar();
+    void connectParts();
+    void runCommand(const QString &name);
+    ReaderState state() const;
+    void stateChanged();
+    void updateToolBar();
+    void updateTitle();
+
+    const QString m_skin;
+    ReaderSettings m_settings;
+    Document m_document;
+    PageView *m_view;
+    NavigationPanel *m_navigation;
+    SearchPanel *m_search;
+    HandwritingSettings *m_handwriting;
+    HostPanel *m_hostPanel;
+    SignalLog *m_log;
+    QLabel *m_place;
+
+    CommandTable m_commands;
+    FileCommands m_fileCommands;
+    ViewCommands m_viewCommands;
+    EditCommands m_editCommands;
+    std::unique_ptr<MRToolBar> m_toolBar;
+    std::optional<ToolBarReport> m_report;
+    QTimer m_updateTimer;
+};

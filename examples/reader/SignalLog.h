@@ -1,0 +1,26 @@
+#pragma once
+
+#include <toolbar/ToolBarTypes.h>
+
+#include <QWidget>
+
+class MRToolBar;
+class QListWidget;
+
+/** Lists every signal of a toolbar with its arguments, as it comes; the newest stands last. */
+class SignalLog : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit SignalLog(QWidget *parent = nullptr);
+
+    void listenTo(const MRToolBar &toolBar);
+
+private:
+    void add(const QString &line);
+    void addSearch(const SearchOption &option);
+    void addBackground(BackgroundStyle style);
+
+    QListWidget *m_list;
+};

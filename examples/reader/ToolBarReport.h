@@ -1,0 +1,29 @@
+#pragma once
+
+#include "CommandTable.h"
+#include "ReaderState.h"
+
+class MRToolBar;
+
+/** Tells the toolbar how the reader stands. */
+class ToolBarReport
+{
+public:
+    ToolBarReport(MRToolBar &toolBar, const CommandTable &commands);
+
+    /** Controls were just made and know nothing yet: everything is told. */
+    void tellAll(const ReaderState &state);
+    /** Something happened: what is shown in fields is told only where it changed. */
+    void tellChanges(const ReaderState &state);
+
+private:
+    void tellUsable(const ReaderState &state);
+    void tellChecked(const ReaderState &state);
+    void tellPage();
+    void tellZoom();
+    void setChecked(QString name, bool checked);
+
+    MRToolBar &m_toolBar;
+    const CommandTable &m_commands;
+    ReaderState m_told;
+};

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "PageLayout.h"
+#include "ReaderParts.h"
+
+class CommandTable;
+class QString;
+
+/** Pages, zoom, layout, panels and search. */
+class ViewCommands
+{
+public:
+    explicit ViewCommands(const ReaderParts &parts);
+
+    void addTo(CommandTable &table);
+
+    void stepZoom(bool larger);
+    void toggleFullScreen();
+
+    /** The object name of the control for a layout. */
+    static QString nameOf(LayoutMode mode);
+
+private:
+    void addPages(CommandTable &table);
+    void addZoom(CommandTable &table);
+    void addLayouts(CommandTable &table);
+    void addPanels(CommandTable &table);
+    void turnPages(int direction);
+    void showRevisions();
+    void showInk() const;
+    void findInToolBar();
+
+    ReaderParts m_parts;
+};

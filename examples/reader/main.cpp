@@ -1,0 +1,57 @@
+// A small reader on generated pages, whose commands all come from the toolbar.
+
+#include "Description.h"
+#include "Options.h"
+#include "ReaderWindow.h"
+#include "Screenshot.h"
+
+#include <toolbar/NewToolBar.h>
+
+#include <QApplication>
+#include <QTextStream>
+
+namespace {
+
+constexpr int lumStyle = 1;
+
+int fail(const QString &reason)
+{
+    QTextStream(stderr) << QCoreApplication::applicationName() << ": " << reason << '\n';
+    return 1;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("mrtoolbar-reader"));
+
+    QString error;
+    const Options options = Options::of(QCoreApplication::arguments(), &error);
+    if (!error.isEmpty())
+        return fail(error);
+    QDomDocument description = Description::read(options.description, options.skin, &error);
+    if (!error.isEmpty())
+        return fail(error);
+    if (options.clearHistory)
+        Description::addClearHistory(description);
+
+    // The skin is the process's, and is chosen before the first toolbar is made.
+    NewToolBar::uiStyle = options.skin == QLatin1String("lum") ? lumStyle : 0;
+    ReaderWindow window(description, options.skin);
+    if (options.file.isEmpty())
+        window.openSample();
+    else
+        window.open(options.file);
+    window.show();
+    if (options.screenshot.isEmpty())
+        return QApplication::exec();
+
+    Screenshot screenshot(&window, options.screenshot);
+    QObject::connect(&screenshot, &Screenshot::saved, &application,
+                     [] { QCoreApplication::exit(0); });
+    QObject::connect(&screenshot, &Screenshot::failed, &application,
+                     [](const QString &reason) { QCoreApplication::exit(fail(reason)); });
+    return QApplication::exec();
+}

@@ -1,0 +1,101 @@
+#include "tests/support/TestHost.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QMenu>
+#include <QTimer>
+
+namespace {
+
+QDomDocument parsed(const QByteArray &xml)
+{
+    QDomDocument document;
+    if (!document.setContent(xml))
+        qFatal("The test's description is not well-formed");
+    return document;
+}
+
+} // namespace
+
+TestHost::TestHost(const QString &sections, const SkinMap &skin, ToolBarAlignment alignment)
+    : TestHost(parsed("<uiconfig prefix=\"\">" + sections.toUtf8() + "</uiconfig>"), skin,
+               alignment)
+{
+}
+
+TestHost::TestHost(const QDomDocument &document, const SkinMap &skin, ToolBarAlignment alignment)
+    : m_document(document)
+    , m_window(std::make_unique<QMainWindow>())
+{
+    m_window->resize(1300, 600);
+    QDomElement root = m_document.documentElement();
+    m_facade = std::make_unique<MRToolBar>(m_window.get(), root, skin, alignment);
+}
+
+std::unique_ptr<TestHost> TestHost::withShipped(const QString &path, const SkinMap &skin)
+{
+    QFile file(QStringLiteral(":/mr_toolbar/Resources/") + path);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("No description %s", qPrintable(path));
+    return std::unique_ptr<TestHost>(new TestHost(parsed(file.readAll()), skin, ToolBarLeft));
+}
+
+void TestHost::show()
+{
+    m_window->show();
+    m_window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+}
+
+int TestHost::scaled(double designPixels) const
+{
+    const auto scale = static_cast<float>(m_window->physicalDpiX()) / 96.0F;
+    return static_cast<int>(designPixels * static_cast<double>(scale));
+}
+
+void TestHost::click(const QString &buttonName)
+{
+    auto *button = find<QAbstractButton>(buttonName);
+    QVERIFY2(button, qPrintable(QStringLiteral("There is no button ") + buttonName));
+    QTest::mouseClick(button, Qt::LeftButton);
+}
+
+void TestHost::setUsable(QString name, bool usable)
+{
+    m_facade->DoSetControlUsableStateSlot(name, usable);
+}
+
+void TestHost::setVisible(QString name, bool visible)
+{
+    m_facade->DoSetControlVisibleStateSlot(name, visible);
+}
+
+void TestHost::setChecked(QString name, bool checked)
+{
+    m_facade->DoSetControlCheckedStateSlot(name, checked);
+}
+
+QStringList TestHost::texts(const QSignalSpy &spy)
+{
+    QStringList texts;
+    for (const QList<QVariant> &arguments : spy)
+        texts.append(arguments.value(0).toString());
+    return texts;
+}
+
+void whenMenuPops(const std::function<void(QMenu *)> &action)
+{
+    auto *timer = new QTimer(qApp);
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, action] {
+        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        if (!menu)
+            return;
+        timer->stop();
+        timer->deleteLater();
+        const QPointer<QMenu> guarded(menu);
+        action(menu);
+        if (guarded)
+            guarded->close();
+    });
+    timer->start(20);
+}

@@ -1,0 +1,80 @@
+#pragma once
+
+#include "toolbar/MRToolBar.h"
+#include "toolbar/NewToolBar.h"
+
+#include <QDomDocument>
+#include <QMainWindow>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <memory>
+
+/** Chooses a skin for the time of one test. */
+class SkinChoice
+{
+public:
+    explicit SkinChoice(int style)
+        : m_previous(std::exchange(NewToolBar::uiStyle, style))
+    {
+    }
+    ~SkinChoice() { NewToolBar::uiStyle = m_previous; }
+    Q_DISABLE_COPY_MOVE(SkinChoice)
+
+private:
+    int m_previous;
+};
+
+constexpr int marodi = 0;
+constexpr int lum = 1;
+
+/** A host window with a toolbar, made of the sections of a description. */
+class TestHost
+{
+public:
+    using SkinMap = QMap<QString, QString>;
+
+    explicit TestHost(const QString &sections, const SkinMap &skin = {},
+                      ToolBarAlignment alignment = ToolBarLeft);
+
+    /** A host with a shipped description such as "marodi/mr_toolbar.release.xml". */
+    static std::unique_ptr<TestHost> withShipped(const QString &path, const SkinMap &skin = {});
+
+    /** Shows the window and waits until it is on the screen and active. */
+    void show();
+
+    QMainWindow &window() { return *m_window; }
+    void deleteWindow() { m_window.reset(); }
+    MRToolBar &facade() { return *m_facade; }
+    void deleteFacade() { m_facade.reset(); }
+    NewToolBar *toolBar() const { return m_window->findChild<NewToolBar *>(); }
+    /** Device-independent pixels of a length given in pixels at 96 dpi. */
+    int scaled(double designPixels) const;
+
+    /** The child of the window of that class and object name; null if there is none. */
+    template <typename Object>
+    Object *find(const QString &name) const
+    {
+        return m_window->findChild<Object *>(name);
+    }
+
+    void click(const QString &buttonName);
+
+    void setUsable(QString name, bool usable);
+    void setVisible(QString name, bool visible);
+    void setChecked(QString name, bool checked);
+
+    /** The first argument of every emission that the spy has seen. */
+    static QStringList texts(const QSignalSpy &spy);
+
+private:
+    TestHost(const QDomDocument &document, const SkinMap &skin, ToolBarAlignment alignment);
+
+    QDomDocument m_document;
+    std::unique_ptr<QMainWindow> m_window;
+    std::unique_ptr<MRToolBar> m_facade;
+};
+
+/** Runs @p action when a menu has popped up, then closes whatever is left of it. */
+void whenMenuPops(const std::function<void(class QMenu *)> &action);

@@ -1,0 +1,45 @@
+#include "toolbar/ControlWidth.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr double fewestCharacters = 2.5;
+constexpr double mostCharacters = 4.0;
+constexpr double buttonCharacterWidth = 18.0;
+constexpr double shownEntryCharacterWidth = 22.0;
+constexpr double arrowWidth = 12.0;
+
+int scaled(double designWidth, float scale)
+{
+    return static_cast<int>(designWidth * static_cast<double>(scale));
+}
+
+} // namespace
+
+int ControlWidth::ofButton(const QString &text, float scale)
+{
+    double characters = static_cast<double>(text.size());
+    if (characters < fewestCharacters)
+        characters = fewestCharacters;
+    else if (characters > mostCharacters)
+        characters -= 1.0;
+    return scaled(characters * buttonCharacterWidth, scale);
+}
+
+int ControlWidth::ofEmptyMenu(const QString &text, float scale)
+{
+    return scaled(shownEntryCharacterWidth * static_cast<double>(text.size()) + arrowWidth, scale);
+}
+
+int ControlWidth::ofMenu(const QString &text, const QStringList &entryTexts, int index, float scale)
+{
+    double characters = static_cast<double>(text.size());
+    if (index >= 1) {
+        for (const QString &entry : entryTexts)
+            characters = std::max(characters, static_cast<double>(entry.size()));
+    }
+    characters = std::clamp(characters, fewestCharacters, mostCharacters);
+    const double characterWidth = index >= 1 ? shownEntryCharacterWidth : buttonCharacterWidth;
+    return scaled(characterWidth * characters + arrowWidth, scale);
+}

@@ -1,0 +1,147 @@
+#pragma once
+
+#include "toolbar/MRToolBarExport.h"
+#include "toolbar/ToolBarTypes.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QRect>
+#include <QStringList>
+
+class NewToolBar;
+class QDomNode;
+class QMainWindow;
+
+/**
+ * The whole command surface of a reader, as one object that the host talks to.
+ *
+ * The host owns the window, the document and the effect of every command. It constructs one
+ * MRToolBar, listens to the signals below and reports states through the slots. Controls are
+ * addressed by their object names, the `name` or `action` of their element in the description.
+ * A name that no control bears is ignored; a query about it answers false, an empty string or a
+ * null rectangle.
+ *
+ * All calls belong to the GUI thread. Set NewToolBar::uiStyle before constructing the first one.
+ */
+class MRTOOLBAR_EXPORT MRToolBar : public QObject
+{
+    Q_OBJECT
+
+public:
+    /**
+     * Builds the toolbar and docks it at the top of @p mainWindow. No signal is emitted before the
+     * constructor returns.
+     *
+     * @param mainWindow  becomes the owner of the toolbar widget, which lives as long as the
+     *                    window. With a null window no toolbar is made and every call is ignored.
+     * @param description the root element `uiconfig` of a description. With anything else the
+     *                    toolbar is empty but works.
+     * @param skin        colours by placeholder; what is missing gets the skin's default. The key
+     *                    "externalqss" leaves it to the host to apply GetToolBarStyleSheet(); the
+     *                    key "quickaccessbarbuttons" brings back GetQuickAccessButtonList().
+     * @param alignment   where the controls of a tool row stand.
+     */
+    MRToolBar(QMainWindow *mainWindow, QDomNode &description, QMap<QString, QString> skin,
+              ToolBarAlignment alignment);
+
+    /** Ends the relay of signals. The toolbar widget stays with its window. */
+    ~MRToolBar() override;
+
+    /** Constructs a toolbar as the constructor does; the caller owns the result. */
+    static MRToolBar *InitToolBar(QMainWindow *mainWindow, QDomNode &description,
+                                  QMap<QString, QString> skin, ToolBarAlignment alignment);
+
+    /** Whether the control, or the area of that reserved name, is visible on the screen. */
+    bool GetCompositeVisible(QString objName);
+
+    /** Whether an action of exactly that name has been built; rows and menus are built lazily. */
+    bool IsSupportByToolBar(QString objName);
+
+    /** Whether the first checkable control of that name is checked. */
+    bool GetControlCheckedState(QString objName);
+
+    /**
+     * The quick access buttons shown, as short names each followed by ";", for the host to store
+     * and to hand back under the skin key "quickaccessbarbuttons".
+     */
+    QString GetQuickAccessButtonList();
+
+    /**
+     * Where the control stands, in global coordinates and device-independent pixels; a null
+     * rectangle for a control that no tool row shows.
+     */
+    QRect GetControlGeometry(QString objName);
+
+    /** The sheet for the host to apply; empty unless the skin held the key "externalqss". */
+    QString GetToolBarStyleSheet();
+
+    /** Whether the control, or the area of that reserved name, is enabled. */
+    bool GetCompositeEnable(QString objName);
+
+protected:
+    // The way from the facade's slots to the toolbar's; of no use to a host.
+    Q_SIGNAL void Inner_DoSetControlUsableState(QString &objName, bool usable);
+    Q_SIGNAL void Inner_DoSetControlCheckedState(QString &objName, bool checked);
+    Q_SIGNAL void Inner_DoSetControlVisibleState(QString &objName, bool visible);
+    Q_SIGNAL void Inner_DoSetTotalPage(QString totalPage);
+    Q_SIGNAL void Inner_DoSetPageNum(QString pageNum);
+    Q_SIGNAL void Inner_DoSetZoomMode(QString zmode);
+    Q_SIGNAL void Inner_DoUpdateRecentFile(QStringList list);
+    Q_SIGNAL void Inner_DoSetBackgound(BackgroundStyle style); // Spelled so for existing callers.
+    Q_SIGNAL void Inner_DoSetSkinStyle(ToolBarSkinStyle style);
+
+Q_SIGNALS:
+    /** The user asks for a page; @p pageNum is 1-based and not above the reported total. */
+    void DoGotoPage(int pageNum);
+    /** The user triggered the control of that name. */
+    void DoActive(QString objName);
+    /** The user double-clicked a control described with `doubleclick`. */
+    void DoDoubleActive(QString objName);
+    /** The user chose a recent file; @p fileName is an absolute path. */
+    void DoOpenFile(QString fileName);
+    /** The user chose a zoom mode such as "vzmode_fitpage" or "vzmode_125p" (10 to 6400 percent). */
+    void DoSetZoomMode(QString zmode);
+    /** The user searches. */
+    void DoSearchContent(SearchOption opt);
+    /** The user chose a page background. */
+    void DoSetBackground(BackgroundStyle style);
+    /** Controls were just made: the host reports the states of its controls again. */
+    void DoRequestAuthority();
+
+public Q_SLOTS:
+    // Spare entry points that emit the signal of the same meaning; the relay does not need them.
+    void Inner_DoGotoPageSlot(int pageNum);
+    void Inner_DoActiveSlot(QString objName);
+    void Inner_DoDoubleActionSlot(QString objName);
+    void Inner_DoOpenFileSlot(QString fileName);
+    void Inner_DoSetZoomModeSlot(QString zmode);
+    void Inner_DoSearchContentSlot(SearchOption opt);
+    void Inner_DoSetBackgroundSlot(BackgroundStyle style);
+
+    /** Enables or disables the control, or the area of that reserved name. */
+    void DoSetControlUsableStateSlot(QString &objName, bool usable);
+    /**
+     * Checks or unchecks the control, without a signal to the host. A name with ":" is cut there,
+     * in the caller's string too.
+     */
+    void DoSetControlCheckedStateSlot(QString &objName, bool checked);
+    /** Shows the zoom mode in the zoom box, for instance "vzmode_fitpage" or "vzmode_37p". */
+    void DoSetZoomModeSlot(QString zmode);
+    /** Shows the page and the number of pages, both counted from 1; a 0 clears both displays. */
+    void DoSetPageInfoSlot(int pageNum, int totalPage);
+    /** Fills the menu of recent files with these paths, in this order; an empty list clears it. */
+    void DoUpdateRecentFileSlot(QStringList list);
+    /** Shows or hides the control, or the area of that reserved name. */
+    void DoSetControlVisibleStateSlot(QString &objName, bool visible);
+    /** Checks the menu entry of the page background. */
+    void DoSetBackgroundSlot(BackgroundStyle style);
+    /** Replaces the skin's colours; an empty map changes nothing. */
+    void DoSetSkinStyleSlot(ToolBarSkinStyle style);
+    /** Back to actual size, no page and nothing checked; nothing is enabled or shown by it. */
+    void DoResetToolbarSlot();
+
+private:
+    void connectToolBar();
+
+    QPointer<NewToolBar> m_toolBar; ///< Owned by its window.
+};

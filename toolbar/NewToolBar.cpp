@@ -1,0 +1,294 @@
+#include "toolbar/NewToolBar.h"
+
+#include "toolbar/description/Controller.h"
+#include "toolbar/description/DescriptionParser.h"
+#include "toolbar/skin/Skin.h"
+#include "toolbar/widgets/CustomMenuStyle.h"
+#include "toolbar/widgets/MRSearchBar.h"
+#include "toolbar/widgets/ToolTipCard.h"
+
+#include <QAction>
+#include <QButtonGroup>
+#include <QDomElement>
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QMainWindow>
+#include <QMenu>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+int NewToolBar::uiStyle = 0;
+
+namespace {
+
+/** Room between two groups of the top line. */
+void addSpacer(QHBoxLayout *layout, int width)
+{
+    constexpr int height = 20;
+    layout->addItem(
+        new QSpacerItem(width, height, QSizePolicy::Minimum, QSizePolicy::Minimum));
+}
+
+QFrame *createSeparatorLine()
+{
+    auto *line = new QFrame;
+    line->setObjectName(QStringLiteral("vseparator"));
+    line->setFrameShape(QFrame::VLine);
+    line->setFrameShadow(QFrame::Plain);
+    return line;
+}
+
+} // namespace
+
+NewToolBar::NewToolBar(QMainWindow *mainWindow, QDomNode &description, QMap<QString, QString> skin,
+                       ToolBarAlignment alignment)
+    : QWidget(mainWindow)
+    , m_mainWindow(mainWindow)
+    , m_alignment(alignment)
+{
+    m_scale = static_cast<float>(physicalDpiX()) / 96.0F;
+    connect(&m_delayTimer, &QTimer::timeout, this, &NewToolBar::Inner_DoDelayActionSlot);
+    m_quickAccessButtons = skin.value(QStringLiteral("quickaccessbarbuttons"));
+
+    // A document that can't be used leaves an empty toolbar that works.
+    Init(description);
+    InitWidget();
+    InitSkinStyle(skin);
+    setLayout(m_mainLayout);
+    dockIntoMainWindow();
+}
+
+NewToolBar::~NewToolBar()
+{
+    m_delayTimer.stop();
+    DeleteUnitControl(&m_controllers);
+    m_controllers.clear();
+
+    // The menus outlive their styles by a moment; let go of the styles before they are gone.
+    const QList<QMenu *> menus = findChildren<QMenu *>();
+    for (QMenu *menu : menus) {
+        if (menu->testAttribute(Qt::WA_SetStyle))
+            menu->setStyle(nullptr);
+    }
+    qDeleteAll(m_menuStyles);
+
+    // When the window dies it takes its tool bar along, and the pointer is null by now. Otherwise
+    // the empty strip would stay.
+    if (m_hostToolBar)
+        m_hostToolBar->deleteLater();
+}
+
+bool NewToolBar::Init(QDomNode &description)
+{
+    m_resourceDir = GetResourceDir();
+
+    const QDomElement root = description.toElement();
+    if (root.tagName() != QLatin1String("uiconfig") || !root.hasAttribute(QStringLiteral("prefix")))
+        return false;
+
+    // An empty prefix stays empty, deliberately; the fallback is never reached.
+    m_iconPrefix = root.attribute(QStringLiteral("prefix"),
+                                  QStringLiteral(":/mr_toolbar/Resources/res/icons/actions/"));
+    for (QDomElement section = root.firstChildElement(); !section.isNull();
+         section = section.nextSiblingElement())
+        ParseXMLElement(&section, &m_controllers);
+    return true;
+}
+
+bool NewToolBar::InitLayout()
+{
+    m_mainLayout = new QVBoxLayout;
+    m_mainLayout->setSpacing(0);
+    m_mainLayout->setContentsMargins(0, 0, 0, 0);
+    setLayout(m_mainLayout);
+    return true;
+}
+
+bool NewToolBar::InitWidget()
+{
+    if (!InitLayout())
+        return false;
+
+    m_topWidget = new QWidget(nullptr, Qt::FramelessWindowHint);
+    m_mainLayout->addWidget(m_topWidget);
+    m_topWidget->setObjectName(QStringLiteral("top_widget"));
+
+    bool customiseVisible = false;
+    QList<bool> visibleTabs;
+    auto *outer = new QHBoxLayout;
+    outer->setContentsMargins(0, 0, 0, 0);
+    outer->addLayout(createLeftLayout(customiseVisible));
+    outer->addLayout(createMiddleLayout(visibleTabs));
+    outer->addLayout(createRightLayout());
+    m_topWidget->setLayout(outer);
+
+    showTabButtons(visibleTabs);
+    if (m_quickAccessSetButton)
+        m_quickAccessSetButton->setVisible(customiseVisible);
+    return true;
+}
+
+QHBoxLayout *NewToolBar::createLeftLayout(bool &customiseVisible)
+{
+    const bool isCompact = Skin::isLum();
+    auto *left = new QHBoxLayout;
+    left->setContentsMargins(isCompact ? 7 : 0, 0, 0, 0);
+    if (!isCompact)
+        left->setSpacing(4);
+
+    if (CreateAppButton()) {
+        for (QWidget *button : std::as_const(m_appButtonWidgets))
+            left->addWidget(button, 0, Qt::AlignLeft);
+    }
+    if (isCompact) {
+        left->setSpacing(0);
+        addSpacer(left, 6);
+        left->addWidget(createSeparatorLine());
+        addSpacer(left, 6);
+    } else {
+        addSpacer(left, 8);
+    }
+
+    m_quickAccessBar = CreateQuickAccessBar();
+    if (m_quickAccessBar)
+        left->addWidget(m_quickAccessBar, 0, Qt::AlignHCenter);
+    if (isCompact)
+        addSpacer(left, 2);
+    if (QPushButton *customise = CreateQuickAccessSet(customiseVisible))
+        left->addWidget(customise, 0, Qt::AlignLeft);
+
+    if (isCompact)
+        addSpacer(left, 16);
+    else
+        left->addStretch();
+    return left;
+}
+
+QHBoxLayout *NewToolBar::createMiddleLayout(QList<bool> &visibleTabs)
+{
+    auto *middle = new QHBoxLayout;
+    middle->setContentsMargins(0, 0, 0, 0);
+    m_tabButtonGroup = CreateTabBar(visibleTabs);
+    if (!m_tabButtonGroup)
+        return middle;
+
+    middle->setSpacing(Skin::isLum() ? 4 : 0);
+    const QList<QAbstractButton *> buttons = m_tabButtonGroup->buttons();
+    for (QAbstractButton *button : buttons)
+        middle->addWidget(button, 0, Qt::AlignCenter);
+    return middle;
+}
+
+QHBoxLayout *NewToolBar::createRightLayout()
+{
+    auto *right = new QHBoxLayout;
+    right->setContentsMargins(0, 0, 0, 0);
+    right->setSpacing(3);
+    right->addStretch();
+
+    m_searchBar = CreateSearchBar();
+    if (m_searchBar)
+        right->addWidget(m_searchBar, 0, Qt::AlignHCenter);
+    m_searchSetButton = CreateSearchSetButton();
+    if (m_searchSetButton)
+        right->addWidget(m_searchSetButton, 0, Qt::AlignRight);
+    const QList<QWidget *> controls = CreateAddtionalControl();
+    for (QWidget *control : controls) {
+        right->addWidget(control, 0, Qt::AlignRight);
+        m_additionalWidgets.append(control);
+    }
+    addSpacer(right, 5);
+    return right;
+}
+
+void NewToolBar::showTabButtons(const QList<bool> &visibleTabs)
+{
+    if (!m_tabButtonGroup)
+        return;
+
+    const QList<QAbstractButton *> buttons = m_tabButtonGroup->buttons();
+    for (int i = 0; i < buttons.size(); ++i) {
+        if (auto *button = qobject_cast<QPushButton *>(buttons.at(i)))
+            button->setVisible(visibleTabs.value(i));
+    }
+}
+
+void NewToolBar::dockIntoMainWindow()
+{
+    m_hostToolBar = m_mainWindow ? m_mainWindow->addToolBar(QStringLiteral("mr_toolbar")) : nullptr;
+    if (!m_hostToolBar)
+        return;
+
+    m_hostToolBar->setObjectName(QStringLiteral("mrtoolbar"));
+    m_hostToolBar->setProperty("intoolbar", "true");
+    m_hostToolBar->setContextMenuPolicy(Qt::NoContextMenu);
+    m_hostToolBar->setMovable(false);
+    m_hostToolBar->addWidget(this);
+    ResetSkinStyle();
+}
+
+void NewToolBar::showFoldButtons(bool folded)
+{
+    if (m_unfoldButton)
+        m_unfoldButton->setVisible(folded);
+    if (m_foldButton)
+        m_foldButton->setVisible(!folded);
+}
+
+void NewToolBar::setRowsFolded(bool folded)
+{
+    showFoldButtons(folded);
+    if (m_toolRowStack)
+        m_toolRowStack->setVisible(!folded);
+}
+
+QList<Controller *> NewToolBar::sectionRecords(const char *section) const
+{
+    QList<Controller *> records;
+    for (Controller *record : m_controllers) {
+        if (record && record->section == QLatin1String(section))
+            records.append(record);
+    }
+    return records;
+}
+
+QSize NewToolBar::scaledIconSize(double side) const
+{
+    const int scaled = static_cast<int>(side * static_cast<double>(m_scale));
+    return {scaled, scaled};
+}
+
+QPushButton *NewToolBar::createTopLineButton(const Controller &record, QWidget *parent)
+{
+    auto *button = new QPushButton(parent);
+    button->setProperty("intoolbar", "true");
+    button->setFlat(true);
+    button->setObjectName(record.name);
+    button->setText(record.text);
+    button->setIcon(icon(record.icon));
+    button->setIconSize(scaledIconSize(16.0));
+    SetWidgetToolTip(button, record.tooltip);
+    if (record.text.isEmpty())
+        button->setAccessibleName(toolTipTitle(record.tooltip));
+    return button;
+}
+
+void NewToolBar::SetWidgetToolTip(QObject *target, const QString &tip)
+{
+    if (tip.isEmpty())
+        return;
+
+    const QString text = toolTipCard(tip);
+    if (auto *widget = qobject_cast<QWidget *>(target))
+        widget->setToolTip(text);
+    else if (auto *action = qobject_cast<QAction *>(target))
+        action->setToolTip(text);
+}
+
+void NewToolBar::FlushExtendMenu()
+{
+    resize(width() - 1, height());
+    resize(width() + 1, height());
+}

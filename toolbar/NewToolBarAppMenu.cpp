@@ -1,0 +1,294 @@
+#include "toolbar/NewToolBar.h"
+
+#include "toolbar/ActionData.h"
+#include "toolbar/description/Controller.h"
+#include "toolbar/description/DescriptionParser.h"
+#include "toolbar/widgets/CustomMenuStyle.h"
+#include "toolbar/widgets/MRMenuButton.h"
+#include "toolbar/widgets/ToolTipCard.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QFileInfo>
+#include <QMenu>
+
+namespace {
+
+constexpr int usedAppRecords = 2;
+constexpr int appMenuIconSize = 20;
+constexpr int setMenuIconSize = 16;
+
+const QString setButtonName = QStringLiteral("ab_set");
+const QString recentFileName = QStringLiteral("f_openrecentfile");
+const QString noFileName = QStringLiteral("no_file");
+const QString clearHistoryName = QStringLiteral("f_clearhistory");
+const QString noIndicatorSheet =
+    QStringLiteral("QPushButton::menu-indicator{image:none;height:0px;width:0px;}");
+
+/** Where a recent file's item keeps the path that the host gets: a tooltip may be a card. */
+constexpr char absolutePathProperty[] = "absolutepath";
+
+/** Whether an item bears that name, plain or as a menu's way to the command of that name. */
+bool isCommand(const QString &name, const QString &command)
+{
+    return name == command || name == QLatin1String("menu_") + command;
+}
+
+void showHistory(const QList<QAction *> &actions, bool hasFiles)
+{
+    actions.first()->setVisible(!hasFiles);
+    actions.last()->setEnabled(hasFiles);
+    actions.last()->setVisible(hasFiles);
+}
+
+} // namespace
+
+bool NewToolBar::CreateAppButton()
+{
+    auto *appButton = new MRMenuButton(this, 0, 0, nullptr);
+    appButton->setFlat(true);
+    appButton->setProperty("module", "toolbarbutton");
+    m_menuStyles.append(new CustomMenuStyle(appMenuIconSize));
+
+    auto *setButton = new MRMenuButton(this, 0, 0, appButton);
+    setButton->setFlat(true);
+    setButton->setObjectName(setButtonName);
+
+    const QList<Controller *> records = sectionRecords(Section::appButton).mid(0, usedAppRecords);
+    if (!records.isEmpty())
+        setUpAppButton(appButton, *records.first());
+    if (records.size() == usedAppRecords)
+        setUpSetButton(setButton, appButton, *records.last());
+
+    m_appButtonWidgets.append(appButton);
+    m_appButtonWidgets.append(setButton);
+    return true;
+}
+
+void NewToolBar::setUpAppButton(MRMenuButton *button, const Controller &record)
+{
+    button->setIcon(icon(record.icon));
+    button->setIconSize(scaledIconSize(16.0));
+    button->setObjectName(record.name);
+    SetWidgetToolTip(button, record.tooltip);
+    button->setProperty("loaded", "false");
+    button->setStyleSheet(noIndicatorSheet);
+    button->setText(record.text);
+    if (record.children.isEmpty())
+        return;
+
+    createAppMenu(button, record, m_menuStyles.first());
+    connect(button, &QPushButton::clicked, this, &NewToolBar::Inner_SetUncheckedAppSetButtonSlot);
+}
+
+void NewToolBar::setUpSetButton(MRMenuButton *button, MRMenuButton *appButton,
+                                const Controller &record)
+{
+    button->setIcon(icon(record.icon));
+    button->setIconSize(scaledIconSize(16.0));
+    button->setAccessibleName(toolTipTitle(record.tooltip));
+    SetWidgetToolTip(button, record.tooltip);
+    if (!record.children.isEmpty()) {
+        m_menuStyles.append(new CustomMenuStyle(setMenuIconSize));
+        createAppMenu(button, record, m_menuStyles.last());
+        return;
+    }
+    // Without a menu of its own it is a second face of the application button.
+    button->setCheckable(true);
+    button->setStyleSheet(noIndicatorSheet);
+    connect(button, &QPushButton::clicked, appButton, &QPushButton::click);
+    connect(button, &QPushButton::pressed, this, &NewToolBar::Inner_SetCheckedAppButtonSlot);
+}
+
+void NewToolBar::createAppMenu(MRMenuButton *button, const Controller &record,
+                               CustomMenuStyle *style)
+{
+    auto *menu = new QMenu(record.text, button);
+    menu->setObjectName(record.name);
+    menu->setProperty("module", "toolbarmenu");
+    menu->setProperty("intoolbar", "true");
+    menu->setStyle(style);
+    button->SetMenu(menu);
+}
+
+MRMenuButton *NewToolBar::appButtonAt(int position) const
+{
+    return qobject_cast<MRMenuButton *>(m_appButtonWidgets.value(position));
+}
+
+void NewToolBar::Inner_DoDelayLoadMenuSlot()
+{
+    if (m_menusLoaded)
+        return;
+
+    const QList<Controller *> records = sectionRecords(Section::appButton).mid(0, usedAppRecords);
+    for (int i = 0; i < records.size(); ++i) {
+        if (const MRMenuButton *button = appButtonAt(i))
+            AppendSubMenu(button->GetMenu(), records.at(i)->children, m_menuStyles.value(i));
+    }
+    // Set before the host is asked: its answer may pop a menu, or delete this toolbar.
+    m_menusLoaded = true;
+    Q_EMIT DoRequestAuthority();
+}
+
+bool NewToolBar::AppendSubMenu(QMenu *menu, const QList<Controller *> &items, QProxyStyle *style)
+{
+    if (!menu || items.isEmpty())
+        return false;
+
+    for (const Controller *record : items) {
+        if (!record)
+            continue;
+        CreateActionGroup(record->group, menu);
+        if (!record->children.isEmpty())
+            appendMenu(menu, *record, style);
+        else if (record->type == QLatin1String(separatorTag))
+            menu->addSeparator();
+        else
+            appendMenuItem(menu, *record);
+    }
+    return true;
+}
+
+void NewToolBar::appendMenu(QMenu *menu, const Controller &record, QProxyStyle *style)
+{
+    auto *subMenu = new QMenu(record.text, menu);
+    subMenu->setObjectName(record.name);
+    subMenu->setProperty("intoolbar", "true");
+    if (menu->property("toolbar").toString() == QLatin1String("true"))
+        subMenu->setProperty("toolbar", "true");
+    subMenu->setIcon(icon(record.icon));
+    if (style)
+        subMenu->setStyle(style);
+    if (isCommand(record.name, QStringLiteral("f_openrecent"))) {
+        m_recentFilesMenu = subMenu;
+        connect(subMenu, &QMenu::triggered, this, &NewToolBar::Inner_DoOpenRecentFileSlot);
+    }
+    AppendSubMenu(subMenu, record.children, style);
+    menu->addMenu(subMenu)->setVisible(record.visible);
+}
+
+void NewToolBar::appendMenuItem(QMenu *menu, const Controller &record)
+{
+    QAction *action = GetActionInTotal(record.name);
+    const bool isNew = !action;
+    if (isNew)
+        action = createMenuAction(menu, record);
+
+    if (QActionGroup *group = GetActionGroup(record.group))
+        group->addAction(action);
+    action->setShortcut(QKeySequence(record.shortcut));
+    action->setStatusTip(record.tooltip);
+    action->setCheckable(record.checkable);
+    action->setChecked(record.checked);
+    action->setVisible(record.visible);
+    if (record.doubleclick)
+        ActionData::addDoubleClick(action);
+    if (isNew)
+        m_actions.append(action);
+    menu->addAction(action);
+    connectMenuAction(action, record, isNew);
+
+    // Both the menu and the item would report a cleared history; the menu's slot does it.
+    if (menu == m_recentFilesMenu && isCommand(record.name, clearHistoryName))
+        disconnect(action, &QAction::triggered, this, &NewToolBar::Inner_DoBarActionSlot);
+}
+
+QAction *NewToolBar::createMenuAction(QMenu *menu, const Controller &record)
+{
+    auto *action = new QAction(record.text, menu);
+    const bool isInToolBar = menu->property("toolbar").toString() == QLatin1String("true");
+    // Elsewhere every item waits for the host's answer to DoRequestAuthority().
+    action->setEnabled(isInToolBar && record.available && record.usable);
+    ActionData::set(action, record.available);
+    if (!record.icon.isEmpty())
+        action->setIcon(icon(record.icon));
+    action->setIconVisibleInMenu(true);
+    action->setObjectName(record.name);
+    return action;
+}
+
+void NewToolBar::connectMenuAction(QAction *action, const Controller &record, bool isNew)
+{
+    if (record.section == QLatin1String(Section::searchBar)) {
+        connect(action, &QAction::triggered, this, &NewToolBar::Inner_DoSearchBarActionSlot,
+                Qt::UniqueConnection);
+        return;
+    }
+    const bool isCommandSection = record.section == QLatin1String(Section::tabBar)
+        || record.section == QLatin1String(Section::appButton)
+        || record.section == QLatin1String(Section::additional);
+    if (isNew && isCommandSection)
+        connect(action, &QAction::triggered, this, &NewToolBar::Inner_DoBarActionSlot);
+}
+
+void NewToolBar::DoUpdateRecentFileSlot(QStringList paths)
+{
+    const QList<QAction *> actions =
+        m_recentFilesMenu ? m_recentFilesMenu->actions() : QList<QAction *>();
+    if (actions.size() < 2 || actions.first()->objectName() != noFileName
+        || !actions.last()->objectName().contains(clearHistoryName))
+        return;
+
+    removeRecentFiles();
+    showHistory(actions, !paths.isEmpty());
+    for (int i = 0; i < paths.size(); ++i)
+        m_recentFilesMenu->insertAction(actions.last(), createRecentFileAction(i + 1, paths.at(i)));
+}
+
+void NewToolBar::removeRecentFiles()
+{
+    const QList<QAction *> actions = m_recentFilesMenu->actions();
+    for (int i = 1; i < actions.size() - 1; ++i)
+        m_recentFilesMenu->removeAction(actions.at(i));
+}
+
+QAction *NewToolBar::createRecentFileAction(int position, const QString &path)
+{
+    const QFileInfo file(path);
+    auto *action = new QAction(this);
+    action->setIconVisibleInMenu(true);
+    action->setObjectName(recentFileName);
+    action->setText(QObject::tr("&%1 %2").arg(QString::number(position), file.fileName()));
+    action->setData(path);
+    action->setProperty(absolutePathProperty, file.absoluteFilePath());
+    SetWidgetToolTip(action, file.absoluteFilePath());
+    return action;
+}
+
+void NewToolBar::Inner_DoOpenRecentFileSlot(QAction *action)
+{
+    if (!action)
+        return;
+
+    const QString name = action->objectName();
+    if (name == recentFileName) {
+        Q_EMIT DoOpenFile(action->property(absolutePathProperty).toString());
+        return;
+    }
+    if (!isCommand(name, clearHistoryName))
+        return;
+
+    const QPointer<NewToolBar> self(this);
+    Q_EMIT DoActive(name);
+    if (!self || !m_recentFilesMenu)
+        return;
+    const QList<QAction *> actions = m_recentFilesMenu->actions();
+    if (actions.size() > 2)
+        removeRecentFiles();
+    showHistory(actions, false);
+}
+
+void NewToolBar::Inner_SetCheckedAppButtonSlot()
+{
+    if (MRMenuButton *appButton = appButtonAt(0))
+        appButton->setChecked(true);
+    if (MRMenuButton *setButton = appButtonAt(1))
+        setButton->setChecked(false);
+}
+
+void NewToolBar::Inner_SetUncheckedAppSetButtonSlot()
+{
+    if (MRMenuButton *setButton = appButtonAt(1))
+        setButton->setChecked(false);
+}

@@ -1,0 +1,123 @@
+#include "toolbar/NewToolBar.h"
+
+#include "toolbar/ActionData.h"
+#include "toolbar/ActionTrigger.h"
+#include "toolbar/widgets/MRDropButton.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QMenu>
+
+#include <chrono>
+
+namespace {
+
+constexpr std::chrono::milliseconds doubleClickWait(250);
+
+const QString menuPrefix = QStringLiteral("menu_");
+const QString annotationGroup = QStringLiteral("annotgroup");
+
+/** Whether a name is a background's; any name with the word in it is, deliberately. */
+bool isBackground(const QString &name)
+{
+    return name.contains(QLatin1String("background"));
+}
+
+BackgroundStyle backgroundOf(const QString &name)
+{
+    if (name == QLatin1String("background_nighttime"))
+        return Background_Nighttime;
+    if (name == QLatin1String("background_daytime"))
+        return Background_Daytime;
+    if (name == QLatin1String("background_parchment"))
+        return Background_Parchment;
+    if (name == QLatin1String("background_eyeguard"))
+        return Background_Eyeguard;
+    return Background_Default;
+}
+
+} // namespace
+
+QAction *NewToolBar::GetActionInTotal(QString name)
+{
+    return m_actions.first(name);
+}
+
+QActionGroup *NewToolBar::GetActionGroup(QString name)
+{
+    return m_actionGroups.first(name);
+}
+
+void NewToolBar::Inner_DoBarActionSlot()
+{
+    auto *action = qobject_cast<QAction *>(sender());
+    if (!action)
+        return;
+    if (ActionData::isSilent(action)) {
+        // The first trigger of an action without data stays unreported, and the double-click bit
+        // is lost with it, deliberately: `available` and the check by name are made of this.
+        ActionData::endSilence(action);
+        return;
+    }
+
+    releaseOtherDropButtons(action);
+    const QString name = action->objectName();
+    if (isBackground(name))
+        Q_EMIT DoSetBackground(backgroundOf(name));
+    else if (ActionData::reactsToDoubleClick(action))
+        dispatchDoubleClickAction(name);
+    else
+        dispatchPlainAction(name);
+}
+
+void NewToolBar::releaseOtherDropButtons(QAction *action)
+{
+    const QActionGroup *group = action->actionGroup();
+    if (!group || group->objectName() != annotationGroup)
+        return;
+
+    for (MRDropButton *button : std::as_const(m_dropButtons)) {
+        if (!button->menu() || !button->menu()->actions().contains(action))
+            button->setChecked(false);
+    }
+}
+
+void NewToolBar::dispatchPlainAction(QString name)
+{
+    const QPointer<NewToolBar> self(this);
+    QAction *target = nullptr;
+    if (name.startsWith(menuPrefix)) {
+        name.remove(0, menuPrefix.size());
+        target = GetActionInTotal(name);
+    }
+    // The target comes back through Inner_DoBarActionSlot() and reports itself.
+    if (target)
+        triggerAction(target);
+    else
+        Q_EMIT DoActive(name);
+
+    if (self
+        && (name == QLatin1String("vpmode_singlepage")
+            || name == QLatin1String("vpmode_doublepage"))) {
+        QString flowMode = QStringLiteral("vmode_flow");
+        DoSetControlCheckedStateSlot(flowMode, false);
+    }
+}
+
+void NewToolBar::dispatchDoubleClickAction(const QString &name)
+{
+    const bool isSecondClick = m_delayTimer.isActive() && name == m_delayedActionName;
+    m_delayTimer.stop();
+    if (isSecondClick) {
+        Q_EMIT DoDoubleActive(name);
+        return;
+    }
+    m_delayedActionName = name;
+    m_delayTimer.start(doubleClickWait);
+}
+
+void NewToolBar::Inner_DoDelayActionSlot()
+{
+    m_delayTimer.stop();
+    Q_EMIT DoActive(m_delayedActionName);
+}

@@ -1,0 +1,42 @@
+#include "toolbar/QuickAccessSetting.h"
+
+namespace {
+
+constexpr QLatin1Char separator(';');
+
+} // namespace
+
+QuickAccessSetting::QuickAccessSetting(const QString &stored)
+    : m_isSet(!stored.isEmpty())
+    , m_shortNames(stored.split(separator))
+{
+}
+
+QString QuickAccessSetting::shortName(const QString &objectName)
+{
+    for (const char *prefix : {"qbar_f_", "qbar_e_", "qbar_"}) {
+        if (objectName.startsWith(QLatin1String(prefix))) {
+            // Every occurrence goes, not just the first: stored settings were made that way.
+            QString name = objectName;
+            return name.remove(QLatin1String(prefix));
+        }
+    }
+    return QString();
+}
+
+QString QuickAccessSetting::join(const QStringList &objectNames)
+{
+    QString stored;
+    for (const QString &objectName : objectNames) {
+        const QString name = shortName(objectName);
+        if (!name.isNull())
+            stored += name + separator;
+    }
+    return stored;
+}
+
+bool QuickAccessSetting::isShown(const QString &objectName, bool describedVisible) const
+{
+    const QString name = shortName(objectName);
+    return m_isSet && !name.isNull() ? m_shortNames.contains(name) : describedVisible;
+}

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QMap>
+#include <QMetaType>
+#include <QString>
+
+/**
+ * @file
+ * The values that cross the boundary between the library and its host.
+ *
+ * The library registers them with the meta-type system under the names used in signatures
+ * (`SearchOption`, `BackgroundStyle`, `ToolBarSkinStyle`) when the first MRToolBar is constructed,
+ * so that they can be carried by queued connections and by QSignalSpy.
+ */
+
+/** Where the controls of a tool row stand within the width of the window. */
+enum ToolBarAlignment
+{
+    ToolBarLeft = 0,
+    ToolBarCenter = 1, ///< Centred in both directions; any value outside the enumeration, too.
+    ToolBarRight = 2
+};
+
+/** How the host paints the ground of its pages. Values outside it stand for the default. */
+enum BackgroundStyle
+{
+    Background_Default = 0,   ///< control "background_default"
+    Background_Daytime = 1,   ///< control "background_daytime"
+    Background_Nighttime = 2, ///< control "background_nighttime"
+    Background_Eyeguard = 3,  ///< control "background_eyeguard"
+    Background_Parchment = 4  ///< control "background_parchment"
+};
+
+/** What the user asks the host to search for. */
+struct SearchContentOption
+{
+    QString content;        ///< The text to find; never empty in an emitted signal.
+    qint32 direction = 1;   ///< 0 backwards, 1 forwards.
+    bool wholeWord = false; ///< State of the option whose name contains "wholeword".
+    bool noCase = false;    ///< State of the option whose name contains "nocase".
+    bool newSearch = false; ///< True when the search comes from the second search field.
+};
+
+/** The name under which SearchContentOption stands in signatures. */
+typedef SearchContentOption SearchOption;
+
+/** Settings of a skin: colour placeholders such as "[MainColor]", and two keys of behaviour. */
+typedef QMap<QString, QString> ToolBarSkinStyle;
+
+Q_DECLARE_METATYPE(SearchOption)
+Q_DECLARE_METATYPE(BackgroundStyle)

@@ -1,0 +1,368 @@
+#include "toolbar/handwrite/MRHandWriteDialog.h"
+
+#include "toolbar/QtCompat.h"
+#include "ui_HandWriteDialog.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPainterPath>
+
+#include <algorithm>
+
+namespace {
+
+constexpr QSize swatchIconSize(35, 35);
+constexpr QSize swatchSize(38, 38);
+constexpr QSize trackIconSize(60, 40);
+constexpr QSize opacityIconSize(44, 26);
+constexpr int defaultMaximumThickness = 10;
+constexpr int defaultThickness = 8;
+constexpr int opacitySteps = 4;
+constexpr char colourProperty[] = "swatchColour";
+
+struct NamedColour
+{
+    Qt::GlobalColor colour;
+    const char *name;
+};
+
+/** The default swatches in their order; the names are what a screen reader says. */
+constexpr NamedColour defaultColours[] = {
+    {Qt::red, QT_TRANSLATE_NOOP("MRHandWriteDialog", "红色")},
+    {Qt::green, QT_TRANSLATE_NOOP("MRHandWriteDialog", "绿色")},
+    {Qt::yellow, QT_TRANSLATE_NOOP("MRHandWriteDialog", "黄色")},
+    {Qt::black, QT_TRANSLATE_NOOP("MRHandWriteDialog", "黑色")},
+    {Qt::white, QT_TRANSLATE_NOOP("MRHandWriteDialog", "白色")},
+    {Qt::blue, QT_TRANSLATE_NOOP("MRHandWriteDialog", "蓝色")},
+    {Qt::darkRed, QT_TRANSLATE_NOOP("MRHandWriteDialog", "深红色")},
+    {Qt::magenta, QT_TRANSLATE_NOOP("MRHandWriteDialog", "品红色")},
+    {Qt::darkGreen, QT_TRANSLATE_NOOP("MRHandWriteDialog", "深绿色")},
+    {Qt::cyan, QT_TRANSLATE_NOOP("MRHandWriteDialog", "青色")},
+};
+
+QString colourName(const QColor &colour)
+{
+    const auto known =
+        std::find_if(std::begin(defaultColours), std::end(defaultColours),
+                     [&](const NamedColour &entry) { return QColor(entry.colour) == colour; });
+    return known == std::end(defaultColours) ? colour.name() : MRHandWriteDialog::tr(known->name);
+}
+
+QPixmap transparentPixmap(const QSize &size, qreal devicePixelRatio)
+{
+    QPixmap pixmap(size * devicePixelRatio);
+    pixmap.setDevicePixelRatio(devicePixelRatio);
+    pixmap.fill(Qt::transparent);
+    return pixmap;
+}
+
+QPixmap plainSwatch(const QColor &colour, qreal devicePixelRatio)
+{
+    QPixmap pixmap = transparentPixmap(swatchIconSize, devicePixelRatio);
+    pixmap.fill(colour);
+    return pixmap;
+}
+
+/** The swatch with a tick, in black or white, whichever stands out from @p colour. */
+QPixmap tickedSwatch(const QColor &colour, qreal devicePixelRatio)
+{
+    constexpr int lightFromGrey = 140;
+    QPixmap pixmap = plainSwatch(colour, devicePixelRatio);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QColor tick = qGray(colour.rgb()) < lightFromGrey ? Qt::white : Qt::black;
+    painter.setPen(QPen(tick, 3, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPolyline(QPolygonF({{10.5, 18}, {15.5, 23}, {25, 12}}));
+    return pixmap;
+}
+
+/** A ring in black and white, so that the keyboard's place can be seen on every colour. */
+QPixmap withFocusRing(QPixmap swatch)
+{
+    QPainter painter(&swatch);
+    const QRectF edge(QPointF(0, 0), QSizeF(swatchIconSize));
+    painter.setPen(QPen(Qt::black, 2, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter.drawRect(edge.adjusted(1, 1, -1, -1));
+    painter.setPen(QPen(Qt::white, 2, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter.drawRect(edge.adjusted(3, 3, -3, -3));
+    return swatch;
+}
+
+QIcon swatchIcon(const QColor &colour, qreal devicePixelRatio)
+{
+    QPixmap plain(swatchIconSize);
+    plain.fill(colour);
+    QIcon icon(plain);
+    const QPixmap ticked = tickedSwatch(colour, devicePixelRatio);
+    icon.addPixmap(ticked, QIcon::Normal, QIcon::On);
+    // A button with the focus draws the active picture.
+    icon.addPixmap(withFocusRing(plainSwatch(colour, devicePixelRatio)), QIcon::Active, QIcon::Off);
+    icon.addPixmap(withFocusRing(ticked), QIcon::Active, QIcon::On);
+    return icon;
+}
+
+/** A ground on which translucent ink can be told from pale ink; a darker one for pale ink. */
+void paintChequeredGround(QPainter &painter, const QRect &area, const QColor &ink)
+{
+    constexpr int square = 6;
+    constexpr int paleFromGrey = 215;
+    const bool isPale = qGray(ink.rgb()) >= paleFromGrey;
+    const QColor light = isPale ? QColor(0x8c, 0x8c, 0x8c) : QColor(0xff, 0xff, 0xff);
+    const QColor dark = isPale ? QColor(0x70, 0x70, 0x70) : QColor(0xdc, 0xdc, 0xdc);
+    painter.fillRect(area, light);
+    for (int row = 0; row * square < area.height(); ++row) {
+        for (int column = row % 2; column * square < area.width(); column += 2) {
+            const QRect tile(column * square, row * square, square, square);
+            painter.fillRect(tile.translated(area.topLeft()).intersected(area), dark);
+        }
+    }
+}
+
+QIcon opacityIcon(QColor ink, qreal opacity, qreal devicePixelRatio)
+{
+    const QColor edge(0x80, 0x80, 0x80, 0x80);
+    QPixmap pixmap = transparentPixmap(opacityIconSize, devicePixelRatio);
+    QPainter painter(&pixmap);
+    const QRect area(QPoint(0, 0), opacityIconSize);
+    paintChequeredGround(painter, area, ink);
+    ink.setAlphaF(opacity);
+    painter.fillRect(area, ink);
+    painter.setPen(edge);
+    painter.drawRect(area.adjusted(0, 0, -1, -1));
+    return QIcon(pixmap);
+}
+
+QPainterPath sampleStroke(const QSizeF &size)
+{
+    const qreal margin = size.height() / 2;
+    const qreal width = size.width() - 2 * margin;
+    QPainterPath path(QPointF(margin, size.height() * 0.62));
+    path.cubicTo(margin + width * 0.30, -size.height() * 0.35, margin + width * 0.45,
+                 size.height() * 1.45, margin + width * 0.68, size.height() * 0.45);
+    path.cubicTo(margin + width * 0.78, size.height() * 0.05, margin + width * 0.90,
+                 size.height() * 0.25, margin + width, size.height() * 0.5);
+    return path;
+}
+
+/** Checks @p button, or none if it is null. An exclusive group would refuse to uncheck its last. */
+void checkOnly(QButtonGroup *group, const QAbstractButton *button)
+{
+    group->setExclusive(false);
+    const QList<QAbstractButton *> members = group->buttons();
+    for (QAbstractButton *member : members)
+        member->setChecked(member == button);
+    group->setExclusive(true);
+}
+
+} // namespace
+
+MRHandWriteDialog::MRHandWriteDialog(QWidget *parent)
+    : QDialog(parent)
+    , m_ui(std::make_unique<Ui::HandWriteDialog>())
+{
+    m_ui->setupUi(this);
+    // The hint alone would leave no window type, and lay a dialog with a parent into that parent.
+    setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
+    collectButtons();
+    // "DotLine" is no border style of sheets: the form's own sheet shows what is checked.
+    setStyleSheet(QStringLiteral("QPushButton:checked{border:1px DotLine lightgray;} "
+                                 "QDialog{border:1px solid lightgray;}"));
+    connectControls();
+
+    QList<QColor> colours;
+    for (const NamedColour &entry : defaultColours)
+        colours.append(entry.colour);
+    SetCommonColor(colours);
+
+    m_ui->spliderThickness->setMaximum(defaultMaximumThickness);
+    m_ui->spliderThickness->setValue(defaultThickness);
+}
+
+MRHandWriteDialog::~MRHandWriteDialog() = default;
+
+void MRHandWriteDialog::collectButtons()
+{
+    m_colourButtons = {m_ui->pushButtonColor1, m_ui->pushButtonColor2, m_ui->pushButtonColor3,
+                       m_ui->pushButtonColor4, m_ui->pushButtonColor5, m_ui->pushButtonColor6,
+                       m_ui->pushButtonColor7, m_ui->pushButtonColor8, m_ui->pushButtonColor9,
+                       m_ui->pushButtonColor10};
+    m_trackButtons = {m_ui->pushButtonTrack1, m_ui->pushButtonTrack2, m_ui->pushButtonTrack3,
+                      m_ui->pushButtonTrack4, m_ui->pushButtonTrack5, m_ui->pushButtonTrack6};
+
+    // The number of an opacity button is the value that a track has for it.
+    QButtonGroup *group = m_ui->buttonOpacityGroup;
+    group->setId(m_ui->pushButtonOpacity25p, 0);
+    group->setId(m_ui->pushButtonOpacity50p, 1);
+    group->setId(m_ui->pushButtonOpacity75p, 2);
+    group->setId(m_ui->pushButtonOpacity100p, 3);
+}
+
+void MRHandWriteDialog::connectControls()
+{
+    connect(m_ui->spliderThickness, &QSlider::valueChanged, m_ui->labelThickness,
+            qOverload<int>(&QLabel::setNum));
+    connect(m_ui->spliderThickness, &QSlider::valueChanged, this,
+            &MRHandWriteDialog::updatePreview);
+    connect(m_ui->buttonColorGroup, qOverload<QAbstractButton *>(&QButtonGroup::buttonClicked),
+            this, [this] {
+                m_trackInk = QColor();
+                updateSamples();
+            });
+    connect(m_ui->buttonOpacityGroup, qOverload<QAbstractButton *>(&QButtonGroup::buttonClicked),
+            this, &MRHandWriteDialog::updatePreview);
+    // The size of the preview is known only once the layout has run.
+    m_ui->labelPreview->installEventFilter(this);
+}
+
+void MRHandWriteDialog::SetCommonColor(QList<QColor> &colours)
+{
+    m_colours = colours;
+    const auto count = std::min(m_colourButtons.size(), m_colours.size());
+    for (int i = 0; i < count; ++i)
+        dressSwatch(m_colourButtons.at(i), m_colours.at(i));
+    updateSamples();
+}
+
+void MRHandWriteDialog::dressSwatch(QPushButton *button, const QColor &colour)
+{
+    button->setIcon(swatchIcon(colour, devicePixelRatioF()));
+    button->setText(QString());
+    button->setIconSize(swatchIconSize);
+    button->setFixedSize(swatchSize);
+    button->setFlat(true);
+    button->setCheckable(true);
+
+    button->setProperty(colourProperty, colour);
+    button->setAccessibleName(colourName(colour));
+    button->setToolTip(colourName(colour));
+}
+
+void MRHandWriteDialog::SetCommonTrackInfo(QList<Track *> &tracks)
+{
+    m_tracks = tracks;
+    dressTrackButtons();
+
+    const auto selected = std::find_if(m_tracks.cbegin(), m_tracks.cend(),
+                                       [](const Track *track) { return track && track->selected; });
+    if (selected != m_tracks.cend())
+        showTrack(static_cast<int>(selected - m_tracks.cbegin()));
+}
+
+void MRHandWriteDialog::dressTrackButtons()
+{
+    for (int i = 0; i < m_trackButtons.size(); ++i) {
+        // Deliberate: two or more tracks end the loop at once, so only a single track is dressed.
+        if (m_tracks.size() > i + 1)
+            break;
+        const Track *track = m_tracks.value(i);
+        if (!track)
+            continue;
+        QPushButton *button = m_trackButtons.at(i);
+        button->setText(QString());
+        button->setIcon(QIcon(track->icon));
+        button->setIconSize(trackIconSize);
+        button->setCheckable(true);
+        button->setFlat(true);
+    }
+}
+
+void MRHandWriteDialog::showTrack(int index)
+{
+    const Track *track = m_tracks.at(index);
+    // Deliberate: the first track's button stays unchecked while its track is the current one.
+    checkOnly(m_ui->buttonTrackGroup, index != 0 ? m_trackButtons.value(index) : nullptr);
+
+    const bool isPreset = m_colours.contains(track->colour);
+    // Deliberate: the swatch is found by the track's place in its list, not by the colour's place.
+    checkOnly(m_ui->buttonColorGroup, isPreset ? m_colourButtons.value(index) : nullptr);
+
+    QSlider *slider = m_ui->spliderThickness;
+    slider->setMaximum(std::max(slider->minimum(), track->maximumThickness));
+    slider->setValue(track->thickness);
+    checkOnly(m_ui->buttonOpacityGroup, m_ui->buttonOpacityGroup->button(track->opacity));
+
+    m_trackInk = track->colour;
+    updateSamples();
+}
+
+QList<Track *> MRHandWriteDialog::GetCommonTrackInfo()
+{
+    return m_tracks;
+}
+
+void MRHandWriteDialog::SetRegionSize(int size)
+{
+    m_regionSize = size;
+}
+
+int MRHandWriteDialog::GetRegionSize()
+{
+    return m_regionSize;
+}
+
+QColor MRHandWriteDialog::inkColour() const
+{
+    if (m_trackInk.isValid())
+        return m_trackInk;
+    const QAbstractButton *swatch = m_ui->buttonColorGroup->checkedButton();
+    return swatch ? swatch->property(colourProperty).value<QColor>() : QColor();
+}
+
+void MRHandWriteDialog::updateSamples()
+{
+    const QColor ink = inkColour();
+    for (int step = 0; step < opacitySteps; ++step) {
+        QAbstractButton *button = m_ui->buttonOpacityGroup->button(step);
+        button->setIcon(opacityIcon(ink.isValid() ? ink : QColor(Qt::black),
+                                    qreal(step + 1) / opacitySteps, devicePixelRatioF()));
+        button->setIconSize(opacityIconSize);
+    }
+    updatePreview();
+}
+
+void MRHandWriteDialog::updatePreview()
+{
+    QLabel *preview = m_ui->labelPreview;
+    QColor ink = inkColour();
+    const int thickness = m_ui->spliderThickness->value();
+    const QRect area(QPoint(0, 0), preview->contentsRect().size());
+    if (!ink.isValid() || thickness <= 0 || area.isEmpty()) {
+        preview->setText(tr("图片预览区域"));
+        return;
+    }
+
+    const int step = m_ui->buttonOpacityGroup->checkedId();
+    ink.setAlphaF(step < 0 ? 1.0 : qreal(step + 1) / opacitySteps);
+    QPixmap pixmap = transparentPixmap(area.size(), preview->devicePixelRatioF());
+    QPainter painter(&pixmap);
+    paintChequeredGround(painter, area, ink);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.strokePath(sampleStroke(area.size()),
+                       QPen(ink, thickness, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.end();
+    preview->setPixmap(pixmap);
+}
+
+void MRHandWriteDialog::mousePressEvent(QMouseEvent *event)
+{
+    m_dragOffset = QtCompat::globalPosition(event) - pos();
+}
+
+void MRHandWriteDialog::mouseMoveEvent(QMouseEvent *event)
+{
+    // A control that took the press may still let the moves through; they are no dragging.
+    if (m_dragOffset)
+        move(QtCompat::globalPosition(event) - *m_dragOffset);
+}
+
+void MRHandWriteDialog::mouseReleaseEvent(QMouseEvent *)
+{
+    m_dragOffset.reset();
+}
+
+bool MRHandWriteDialog::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_ui->labelPreview && event->type() == QEvent::Resize)
+        updatePreview();
+    return QDialog::eventFilter(watched, event);
+}

@@ -1,0 +1,83 @@
+#include "toolbar/NewToolBar.h"
+
+#include "toolbar/skin/Skin.h"
+#include "toolbar/skin/SkinIcon.h"
+#include "toolbar/skin/StyleSheet.h"
+
+#include <QFile>
+#include <QToolBar>
+
+namespace {
+
+/** Takes away what the platform's style would draw around the library's own tool bars. */
+const QString plainToolBarRule =
+    QStringLiteral("QToolBar[intoolbar=\"true\"]{border:none;padding:0px 0px 0px 0px;}");
+
+} // namespace
+
+QString NewToolBar::GetResourceDir()
+{
+    return Skin::resourceDirectory();
+}
+
+QString NewToolBar::GetIconPath(QString name)
+{
+    // The directory itself exists, and an icon made of it would take up room.
+    if (name.isEmpty())
+        return QString();
+
+    const QString path = m_resourceDir + QStringLiteral("icons/") + name;
+    return QFile::exists(path) ? path : QString();
+}
+
+QIcon NewToolBar::icon(const QString &name)
+{
+    return skinIcon(GetIconPath(name));
+}
+
+QString NewToolBar::ScaleSheet(QString const &sheet, float factor)
+{
+    return StyleSheet::scaled(sheet, factor);
+}
+
+QString NewToolBar::GetToolBarStyleSheet()
+{
+    return m_toolBarStyleSheet;
+}
+
+void NewToolBar::InitSkinStyle(QMap<QString, QString> skin)
+{
+    m_skinMap = Skin::initialMap(skin);
+    m_externalQss = m_skinMap.contains(QLatin1String(Skin::externalSheetKey));
+}
+
+void NewToolBar::SwitchSkinStyle(QMap<QString, QString> skin)
+{
+    if (skin.isEmpty())
+        return;
+
+    // Who applies the sheet was settled at construction and stays so.
+    m_skinMap = Skin::switchedMap(skin);
+    ResetSkinStyle();
+}
+
+bool NewToolBar::ResetSkinStyle()
+{
+    const QString sheet =
+        StyleSheet::filled(LoadQss(GetResourceDir() + QStringLiteral("qssfile.qss")), m_skinMap,
+                           Skin::isLum());
+    if (m_externalQss) {
+        // The host scales and applies it.
+        m_toolBarStyleSheet = sheet + plainToolBarRule;
+        return true;
+    }
+    if (m_hostToolBar)
+        m_hostToolBar->setStyleSheet(
+            ScaleSheet(sheet + QLatin1Char(' ') + plainToolBarRule, m_scale));
+    return true;
+}
+
+void NewToolBar::DoSetSkinStyleSlot(ToolBarSkinStyle skin)
+{
+    SwitchSkinStyle(skin);
+}

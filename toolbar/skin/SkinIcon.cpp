@@ -1,0 +1,69 @@
+#include "toolbar/skin/SkinIcon.h"
+
+#include <QCoreApplication>
+#include <QHash>
+#include <QIconEngine>
+#include <QPainter>
+
+namespace {
+
+/** The toolkit's own disabled look leaves light glyphs as they are; this one fades all alike. */
+constexpr qreal disabledOpacity = 0.4;
+
+class SkinIconEngine : public QIconEngine
+{
+public:
+    explicit SkinIconEngine(const QString &path)
+        : m_path(path)
+    {
+    }
+
+    void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State state) override
+    {
+        if (m_icon.isNull())
+            m_icon = QIcon(m_path);
+        const qreal opacity = painter->opacity();
+        if (mode == QIcon::Disabled)
+            painter->setOpacity(opacity * disabledOpacity);
+        m_icon.paint(painter, rect, Qt::AlignCenter, QIcon::Normal, state);
+        painter->setOpacity(opacity);
+    }
+
+    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override
+    {
+        QPixmap pixmap(size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        paint(&painter, QRect(QPoint(), size), mode, state);
+        return pixmap;
+    }
+
+    QIconEngine *clone() const override { return new SkinIconEngine(m_path); }
+
+private:
+    QString m_path;
+    QIcon m_icon;
+};
+
+QHash<QString, QIcon> &iconCache()
+{
+    static QHash<QString, QIcon> cache;
+    return cache;
+}
+
+} // namespace
+
+QIcon skinIcon(const QString &path)
+{
+    if (path.isEmpty())
+        return QIcon();
+
+    QHash<QString, QIcon> &cache = iconCache();
+    // Icons must not outlive the application; a process may have several, one after the other.
+    if (cache.isEmpty())
+        qAddPostRoutine([] { iconCache().clear(); });
+    QIcon &icon = cache[path];
+    if (icon.isNull())
+        icon = QIcon(new SkinIconEngine(path));
+    return icon;
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QProxyStyle>
+
+/**
+ * The style of the application button's menus: it scales their icons with the screen and draws
+ * the arrow of a sub-menu. Text, icon and ground of an item are the style sheet's.
+ */
+class CustomMenuStyle : public QProxyStyle
+{
+    Q_OBJECT
+
+public:
+    /** @param smallIconSize side of an item's icon at 96 dpi, in pixels */
+    explicit CustomMenuStyle(int smallIconSize);
+
+    void setSmallIconSize(int smallIconSize);
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                       const QWidget *widget = nullptr) const override;
+    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                     const QWidget *widget = nullptr) const override;
+    int pixelMetric(PixelMetric metric, const QStyleOption *option = nullptr,
+                    const QWidget *widget = nullptr) const override;
+
+private:
+    void DrawCustomMenuItem(const QStyleOption *option, QPainter *painter,
+                            const QWidget *widget) const;
+
+    int m_smallIconSize;
+};

@@ -1,0 +1,140 @@
+#include "toolbar/widgets/HoverSheets.h"
+
+#include <QCursor>
+#include <QStringList>
+#include <QStyle>
+#include <QStyleOptionToolButton>
+#include <QToolButton>
+
+namespace {
+
+// The texts are kept to the letter, deliberately: a missing colon, a single colon, a stray "%" and
+// a doubled brace are part of them, and the look of the buttons is what the toolkit makes of that.
+
+constexpr char rowArrowMarodi[] =
+    "QToolButton::menu-button:hover{background-color:%1;border:2px solid %2;"
+    "border-left:2px solid %2;border-top-right-radius:2px;border-bottom-right-radius:2px;} "
+    "QToolButton:menu-button:pressed{background-color:%1;} "
+    "QToolButton{background-color:%2;border:1px solid %2;}";
+
+constexpr char rowBodyMarodi[] =
+    "QToolButton{background-color:%1;border 1px solid %2;} QToolButton::menu-button:hover{"
+    "background-color:%2;border:2px solid %2;border-left:2px solid %2;"
+    "border-top-right-radius:2px;border-bottom-right-radius:2px;} "
+    "QToolButton::menu-button:pressed{background-color:%1;}";
+
+constexpr char rowArrowLum[] =
+    "QToolButton{background-color:#ffffff;border:1px solid %1;border-radius:3px;} "
+    "QToolButton::menu-button{background-color:%1;border:1px solid %1;"
+    "border-top-right-radius:3px;border-bottom-right-radius:3px;} "
+    "QToolButton::menu-button:pressed{background-color:%2;border:none;"
+    "%border-top-right-radius:3px;border-bottom-right-radius:3px;}";
+
+constexpr char rowBodyLum[] =
+    "QToolButton{background-color:%1;border-radius:3px;} "
+    "QToolButton:pressed{background-color:%2;} QToolButton:checked{background-color:%3;} "
+    "QToolButton::menu-button{background-color:#ffffff;border:1px solid %1;"
+    "border-top-right-radius:3px;border-bottom-right-radius:3px;}";
+
+constexpr char menuArrowMarodi[] =
+    "QToolButton::menu-button:hover{background-color:%1;border:2px solid %2;"
+    "border-left:2px solid %2;border-top-right-radius:2px;border-bottom-right-radius:2px;} "
+    "QToolButton:menu-button:pressed{background-color:%1;} QToolButton::menu-arrow{"
+    "image: url(:/mr_toolbar/Resources/marodi/icons/icon19-22/arrowDown.svg);"
+    "subcontrol-position: right center;top:0.1em;} "
+    "QToolButton{background-color:%2;border:2px solid %2;height:%3em;padding-left:2px;}} "
+    "QToolButton:pressed{background-color:%1;}";
+
+constexpr char menuBodyMarodi[] =
+    "QToolButton::menu-button:hover{background-color:%2;border:2px solid %2;"
+    "border-left:2px solid %2;border-top-right-radius:2px;border-bottom-right-radius:2px;} "
+    "QToolButton:menu-button:pressed{background-color:%2;} QToolButton::menu-arrow{"
+    "image: url(:/mr_toolbar/Resources/marodi/icons/icon19-22/arrowDown.svg);"
+    "subcontrol-position: right center;top:0.1em;} "
+    "QToolButton{background-color:%1;border:2px solid %2;height:%3em;padding-left:2px;}} "
+    "QToolButton:pressed{background-color:%1;}";
+
+constexpr char menuArrowLum[] =
+    "QToolButton{padding-left:3px;background-color:#ffffff;border:1px solid %3;"
+    "border-radius:3px;} QToolButton::menu-button{background-color:%3;border:none;} "
+    "QToolButton::menu-button:pressed{background-color:%2;border:none;} "
+    "QToolButton:checked{background-color:%1;border:none;}";
+
+constexpr char menuBodyLum[] =
+    "QToolButton::menu-button:hover{background-color:#ffffff;} QToolButton::menu-indicator{"
+    "image: url(:/mr_toolbar/Resources/lum/icons/icon19-22/arrowDown.svg);"
+    " subcontrol-position: right center;} "
+    "QToolButton{background-color:%1;border:1px solid %1;padding-left:3px;} "
+    "QToolButton:pressed{background-color:%2;} QToolButton:checked{background-color:%3;}";
+
+constexpr char groupArrowMarodi[] =
+    "QToolButton::menu-button:hover{background-color:%1;border:2px solid %2;"
+    "border-left:2px solid %2;border-top-right-radius:2px;border-bottom-right-radius:2px;} "
+    "QToolButton{background-color:%2;border:2px solid %2;} QToolButton:pressed{background:%1;}";
+
+constexpr char groupBodyMarodi[] =
+    "QToolButton::menu-button:hover{background-color:%2;border:2px solid %2;"
+    "border-left:2px solid %2;border-top-right-radius:2px;border-bottom-right-radius:2px;} "
+    "QToolButton{background:%1;border:2px solid %2;}";
+
+// The colours are fixed; they do not come from the skin map.
+const QString white = QStringLiteral("#FFFFFF");
+const QString grey = QStringLiteral("#EAEAEA");
+const QString hovered = QStringLiteral("rgb(219,222,227)");
+const QString pressed = QStringLiteral("rgb(183,185,190)");
+const QString checked = QStringLiteral("rgb(195,198,202)");
+
+QString filled(const char *sheet, const QStringList &values)
+{
+    QString text = QString::fromLatin1(sheet);
+    for (const QString &value : values)
+        text = text.arg(value);
+    return text;
+}
+
+/** What a button on a tool row shows in the skin lum, drop button or group button. */
+QString lumRowSheet(bool overArrow)
+{
+    return overArrow ? filled(rowArrowLum, {hovered, pressed})
+                     : filled(rowBodyLum, {hovered, pressed, checked});
+}
+
+QString menuSheet(bool overArrow, bool isLum, double scale)
+{
+    if (isLum) {
+        return overArrow ? filled(menuArrowLum, {checked, pressed, hovered})
+                         : filled(menuBodyLum, {hovered, pressed, checked});
+    }
+    constexpr double heightInEms = 2.0;
+    const QString height = QStringLiteral("%1").arg(heightInEms * scale);
+    return filled(overArrow ? menuArrowMarodi : menuBodyMarodi, {white, grey, height});
+}
+
+} // namespace
+
+QString HoverSheets::dropButton(bool inExtendMenu, bool overArrow, bool isLum, double scale)
+{
+    if (inExtendMenu)
+        return menuSheet(overArrow, isLum, scale);
+    if (isLum)
+        return lumRowSheet(overArrow);
+    return filled(overArrow ? rowArrowMarodi : rowBodyMarodi, {white, grey});
+}
+
+QString HoverSheets::groupButton(bool overArrow, bool isLum)
+{
+    if (isLum)
+        return lumRowSheet(overArrow);
+    return filled(overArrow ? groupArrowMarodi : groupBodyMarodi, {white, grey});
+}
+
+bool HoverSheets::isCursorOverArrow(const QToolButton &button, const QStyleOptionToolButton &option)
+{
+    // Without a part of its own for the arrow the style reports the whole button.
+    if (button.popupMode() != QToolButton::MenuButtonPopup)
+        return false;
+
+    const QRect arrow = button.style()->subControlRect(QStyle::CC_ToolButton, &option,
+                                                       QStyle::SC_ToolButtonMenu, &button);
+    return arrow.isValid() && arrow.contains(button.mapFromGlobal(QCursor::pos()));
+}

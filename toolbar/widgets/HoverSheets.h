@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QString>
+
+class QStyleOptionToolButton;
+class QToolButton;
+
+/** The style sheets by which split buttons show which of their two parts the pointer is over. */
+namespace HoverSheets {
+
+/**
+ * The sheet of a drop button under the pointer.
+ * @param inExtendMenu whether the button lives in the menu of what a tool row has no room for
+ * @param overArrow whether the pointer is over the arrow that opens the button's menu
+ * @param scale physical dpi by 96; the height of a button in a menu follows it
+ */
+QString dropButton(bool inExtendMenu, bool overArrow, bool isLum, double scale);
+
+/** The sheet of a checkable group button under the pointer. */
+QString groupButton(bool overArrow, bool isLum);
+
+/**
+ * Whether the pointer is over the arrow part of @p button, going by where it is now and not by an
+ * event. A button that opens its menu as a whole has no arrow part.
+ */
+bool isCursorOverArrow(const QToolButton &button, const QStyleOptionToolButton &option);
+
+} // namespace HoverSheets

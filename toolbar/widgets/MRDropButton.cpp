@@ -1,0 +1,384 @@
+#include "toolbar/widgets/MRDropButton.h"
+
+#include "toolbar/NewToolBar.h"
+#include "toolbar/skin/Skin.h"
+#include "toolbar/widgets/HoverSheets.h"
+
+#include <QFontMetricsF>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QStyleOptionToolButton>
+
+namespace {
+
+// The texts are kept to the letter, deliberately; see HoverSheets.cpp.
+
+constexpr char extendMenuLum[] = "QMenu:item{padding-left:%1px;margin-top:2px;margin-bottom:2px;} "
+                                 "QMenu::icon{left:%2em;}";
+
+constexpr char extendMenuMarodi[] = "QMenu:item{padding-left:%1em;} QMenu::icon{left:%2em}";
+
+constexpr char menuCopyLum[] =
+    "QToolButton{height:%1em;transparent;padding-left:3px;} QToolButton::menu-indicator{"
+    "image: url(:/mr_toolbar/Resources/lum/icons/icon19-22/arrowDown.svg);"
+    " subcontrol-position: right center;} "
+    "QToolButton::menu-button{border:1px solid transparent;}";
+
+constexpr char menuCopyMarodi[] =
+    "QToolButton{height:%2em;padding-left:4px;} QToolButton::menu-arrow{"
+    "image: url(:/mr_toolbar/Resources/marodi/icons/icon19-22/arrowDown.svg);"
+    " subcontrol-position: right center;top:0.1em;} QToolButton::menu-indicator{"
+    "image: url(:/mr_toolbar/Resources/marodi/icons/icon19-22/arrowDown.svg);"
+    " subcontrol-position: right center;top:0.1em;}";
+
+constexpr char positionProperty[] = "position";
+
+double dpiScale(const QWidget *widget)
+{
+    return widget->physicalDpiX() / 96.0;
+}
+
+QString extendMenuSheet(double scale)
+{
+    constexpr int paddingInPixels = 40;
+    constexpr double paddingInEms = 3.5;
+    constexpr double iconOffsetInEms = 0.6;
+    if (Skin::isLum())
+        return QString::fromLatin1(extendMenuLum).arg(paddingInPixels).arg(iconOffsetInEms);
+    return QString::fromLatin1(extendMenuMarodi).arg(scale * paddingInEms).arg(iconOffsetInEms);
+}
+
+QString menuCopySheet(double scale)
+{
+    // One marker each: the first text has only a %1, the second only a %2.
+    return Skin::isLum() ? QString::fromLatin1(menuCopyLum).arg(scale * 1.75)
+                         : QString::fromLatin1(menuCopyMarodi).arg(scale * 2.0);
+}
+
+} // namespace
+
+MRDropButton::MRDropButton(QWidget *, QWidget *parent, QString text, QString iconPath, QString,
+                           QString)
+    : QToolButton(parent)
+    , m_toolBar(qobject_cast<NewToolBar *>(parent))
+{
+    setText(text);
+    setIcon(QIcon(iconPath));
+    setAutoRaise(false);
+    connect(this, &QToolButton::clicked, this, &MRDropButton::DoCurrentActionSlot);
+    setMouseTracking(false);
+}
+
+void MRDropButton::takeFace(QAction *action)
+{
+    m_previousIcon = icon();
+    if (!action->icon().isNull())
+        setIcon(action->icon());
+
+    m_previousText = text();
+    setText(m_textSwitchable ? action->text() + QStringLiteral("   ")
+                             : QStringLiteral("    ") + action->text());
+    setCheckable(true);
+    m_currentAction = action;
+}
+
+void MRDropButton::SetAction(QAction *action)
+{
+    if (!action)
+        return;
+
+    takeFace(action);
+    Q_EMIT currentActionChanged();
+}
+
+void MRDropButton::DoSwitchSlot(QAction *action)
+{
+    if (!action)
+        return;
+
+    takeFace(action);
+    setChecked(true);
+    refreshToolBar();
+    // After a choice from the menu a copy switches by itself, and must not do so twice: Reset()
+    // would have nothing to go back to. So it hears of this switch when it has done that.
+    QMetaObject::invokeMethod(this, &MRDropButton::currentActionChanged, Qt::QueuedConnection);
+}
+
+void MRDropButton::DoCurrentActionSlot()
+{
+    const QPointer<QAction> action = m_currentAction;
+    if (!action || !action->isEnabled()) {
+        showMenu();
+        return;
+    }
+
+    // The host may do anything on a command, even away with the button.
+    const QPointer<MRDropButton> self(this);
+    action->activate(QAction::Trigger);
+    if (action)
+        action->setChecked(true);
+    if (self)
+        refreshToolBar();
+}
+
+void MRDropButton::Reset()
+{
+    if (!m_previousIcon.isNull())
+        setIcon(m_previousIcon);
+    if (!m_previousText.isEmpty())
+        setText(m_previousText);
+    m_currentAction = nullptr;
+    Q_EMIT currentActionChanged();
+}
+
+void MRDropButton::followFace(const MRDropButton &other)
+{
+    QAction *action = other.GetCurrentAction();
+    if (action && action != m_currentAction)
+        SetAction(action);
+    else if (!action && m_currentAction)
+        Reset();
+    setCheckable(other.isCheckable());
+    setChecked(other.isChecked());
+}
+
+void MRDropButton::refreshToolBar()
+{
+    if (m_updateToolBar && m_toolBar)
+        m_toolBar->FlushExtendMenu();
+}
+
+QAction *MRDropButton::GetCurrentAction() const
+{
+    return m_currentAction;
+}
+
+void MRDropButton::SetTextSwitchable(bool switchable)
+{
+    m_textSwitchable = switchable;
+    setMouseTracking(switchable);
+}
+
+void MRDropButton::SetUpdateToolbar(bool update)
+{
+    m_updateToolBar = update;
+}
+
+void MRDropButton::SetInHideFlag(bool inHide)
+{
+    m_inHide = inHide;
+}
+
+void MRDropButton::SetName(QString name)
+{
+    m_name = name;
+    setObjectName(name);
+}
+
+QString MRDropButton::GetName() const
+{
+    return m_name;
+}
+
+void MRDropButton::changeEvent(QEvent *event)
+{
+    QToolButton::changeEvent(event);
+    if (event->type() == QEvent::EnabledChange)
+        Q_EMIT enabledChanged(isEnabledTo(parentWidget()));
+}
+
+void MRDropButton::keyPressEvent(QKeyEvent *event)
+{
+    // A split button's arrow has no key of its own in the toolkit.
+    if (event->key() == Qt::Key_Down && event->modifiers().testFlag(Qt::AltModifier))
+        showMenu();
+    else
+        QToolButton::keyPressEvent(event);
+}
+
+void MRDropButton::mouseMoveEvent(QMouseEvent *)
+{
+    // Neither this handler nor the next two let the base class have the event, and the sheet is
+    // set on every move: deliberate, as the look of pressing and dragging depends on it.
+    QStyleOptionToolButton option;
+    initStyleOption(&option);
+    const bool overArrow = HoverSheets::isCursorOverArrow(*this, option);
+    setStyleSheet(HoverSheets::dropButton(m_inHide, overArrow, Skin::isLum(), dpiScale(this)));
+}
+
+void MRDropButton::enterEvent(QtCompat::EnterEvent *)
+{
+    if (m_savedStyleSheet.isEmpty())
+        m_savedStyleSheet = styleSheet();
+}
+
+void MRDropButton::leaveEvent(QEvent *)
+{
+    // On a tool row the skin's own sheet is to apply again.
+    setStyleSheet(m_inHide ? m_savedStyleSheet : QString());
+    m_savedStyleSheet.clear();
+}
+
+MRDropButtonAction::MRDropButtonAction(QWidget *parentWidget, QWidget *toolbarWidget)
+    : QWidgetAction(parentWidget)
+    , m_toolBarWidget(toolbarWidget)
+{
+    setIconVisibleInMenu(true);
+}
+
+QWidget *MRDropButtonAction::createWidget(QWidget *parent)
+{
+    adoptExtendMenu(parent);
+    if (m_withAction)
+        QAction::setCheckable(m_checkable);
+
+    auto *button = new MRDropButton(m_toolBarWidget, parent, {}, {}, {}, {});
+    button->setIcon(m_icon);
+    setUpMenu(button);
+    if (m_firstWidget)
+        setUpMenuCopy(button);
+    else
+        setUpRowButton(button);
+    button->setMouseTracking(m_switchable || m_withAction);
+
+    if (m_extendMenu) {
+        const double textWidth = QFontMetricsF(button->font()).horizontalAdvance(m_text);
+        m_extendMenu->setMinimumWidth(static_cast<int>(textWidth) + 80);
+    }
+    return button;
+}
+
+void MRDropButtonAction::adoptExtendMenu(QWidget *parent)
+{
+    if (!m_extendMenu)
+        m_extendMenu = qobject_cast<QMenu *>(parent);
+    if (m_extendMenu)
+        m_extendMenu->setStyleSheet(extendMenuSheet(dpiScale(m_extendMenu)));
+}
+
+void MRDropButtonAction::setUpMenu(MRDropButton *button)
+{
+    button->setMenu(m_menu);
+    button->setPopupMode(m_checkable ? QToolButton::MenuButtonPopup : QToolButton::InstantPopup);
+    button->SetUpdateToolbar(m_checkable);
+    if (m_switchable && m_menu)
+        connect(m_menu, &QMenu::triggered, button, &MRDropButton::DoSwitchSlot);
+}
+
+void MRDropButtonAction::setUpRowButton(MRDropButton *button)
+{
+    button->setProperty(positionProperty, "toolbar");
+    button->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    button->setText(m_text);
+    button->SetAction(m_defaultAction);
+    button->setVisible(m_visible);
+    button->setEnabled(m_enabled);
+    m_firstWidget = button;
+}
+
+void MRDropButtonAction::setUpMenuCopy(MRDropButton *copy)
+{
+    copy->setProperty(positionProperty, "toolbarextend");
+    copy->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    copy->SetTextSwitchable(false);
+    copy->setText(QStringLiteral("   ") + m_text);
+    if (m_menu && m_extendMenu) {
+        connect(m_menu, &QMenu::triggered, this, &MRDropButtonAction::DoDelayCloseMenuSlot,
+                Qt::UniqueConnection);
+    }
+    copy->setVisible(m_visible);
+    copy->setStyleSheet(menuCopySheet(dpiScale(copy)));
+    copy->SetInHideFlag(true);
+    linkCopy(copy);
+}
+
+void MRDropButtonAction::linkCopy(MRDropButton *copy)
+{
+    MRDropButton *first = m_firstWidget;
+    copy->followFace(*first);
+    copy->setEnabled(first->isEnabledTo(first->parentWidget()));
+    connect(first, &MRDropButton::currentActionChanged, copy,
+            [copy, first] { copy->followFace(*first); });
+    connect(first, &MRDropButton::enabledChanged, copy, &QWidget::setEnabled);
+    connect(first, &QToolButton::toggled, copy, &QToolButton::setChecked);
+    connect(copy, &QToolButton::toggled, first, &QToolButton::setChecked);
+}
+
+void MRDropButtonAction::DoDelayCloseMenuSlot()
+{
+    if (m_extendMenu)
+        m_extendMenu->close();
+}
+
+MRDropButton *MRDropButtonAction::GetWidget() const
+{
+    return m_firstWidget;
+}
+
+QMenu *MRDropButtonAction::GetExtendMenu() const
+{
+    return m_extendMenu;
+}
+
+void MRDropButtonAction::SetIcon(QIcon icon)
+{
+    m_icon = icon;
+}
+
+void MRDropButtonAction::SetText(QString text)
+{
+    m_text = text;
+}
+
+QMenu *MRDropButtonAction::GetMenu() const
+{
+    return m_menu;
+}
+
+void MRDropButtonAction::SetMenu(QMenu *menu)
+{
+    m_menu = menu;
+}
+
+void MRDropButtonAction::SetCheckable(bool checkable)
+{
+    m_checkable = checkable;
+}
+
+void MRDropButtonAction::SetSwichable(bool switchable)
+{
+    m_switchable = switchable;
+    if (m_firstWidget)
+        m_firstWidget->setMouseTracking(switchable);
+}
+
+void MRDropButtonAction::SetWithAction(bool withAction)
+{
+    m_withAction = withAction;
+    if (m_firstWidget)
+        m_firstWidget->setMouseTracking(withAction);
+}
+
+void MRDropButtonAction::SetAction(QAction *action)
+{
+    m_defaultAction = action;
+}
+
+void MRDropButtonAction::setVisible(bool visible)
+{
+    m_visible = visible;
+    const QList<QWidget *> buttons = createdWidgets();
+    for (QWidget *button : buttons)
+        button->setVisible(visible);
+    // Last, for the row to have the final say on what it has no room for.
+    QAction::setVisible(visible);
+}
+
+void MRDropButtonAction::setEnabled(bool enabled)
+{
+    m_enabled = enabled;
+    QAction::setEnabled(enabled);
+    const QList<QWidget *> buttons = createdWidgets();
+    for (QWidget *button : buttons)
+        button->setEnabled(enabled);
+}

@@ -1,0 +1,101 @@
+#include "toolbar/widgets/MRGroupButton.h"
+
+#include "toolbar/skin/Skin.h"
+#include "toolbar/widgets/HoverSheets.h"
+
+#include <QActionEvent>
+#include <QKeyEvent>
+#include <QStyleOptionToolButton>
+
+namespace {
+
+constexpr char initialSheet[] =
+    "QToolButton::menu-button{background:transparent;border:2px solid transparent;"
+    "border-left:2px solid transparent;border-top-right-radius:2px;"
+    "border-bottom-right-radius:2px;} "
+    "QToolButton{background:transparent;border:2px solid transparent;}";
+
+constexpr char leftSheet[] =
+    "QToolButton::menu-button{background:transparent;border:2px solid transparent;"
+    "border-left:2px solid transparent;border-top-right-radius:2px;"
+    "border-bottom-right-radius:2px;} "
+    "QToolButton{background:transparent;border:2px solid transparent;} "
+    "QToolButton:checked{background:%1;}";
+
+} // namespace
+
+MRGroupButton::MRGroupButton(QWidget *parent)
+    : QToolButton(parent)
+{
+    setMouseTracking(true);
+    setStyleSheet(QString::fromLatin1(initialSheet));
+}
+
+void MRGroupButton::SetIcon(QIcon icon)
+{
+    m_icon = icon;
+    setIcon(icon);
+}
+
+void MRGroupButton::SetDefaultAction(QAction *action)
+{
+    if (!action)
+        return;
+
+    // The action shown so far no longer has a say in the icon.
+    if (QAction *former = defaultAction())
+        disconnect(former, &QAction::toggled, this, &MRGroupButton::ChangeIcon);
+    setDefaultAction(action);
+    if (action->icon().isNull()) {
+        ChangeIcon(true);
+        connect(action, &QAction::toggled, this, &MRGroupButton::ChangeIcon);
+    }
+}
+
+void MRGroupButton::ChangeIcon(bool)
+{
+    if (!m_icon.isNull())
+        setIcon(m_icon);
+}
+
+void MRGroupButton::actionEvent(QActionEvent *event)
+{
+    QToolButton::actionEvent(event);
+    // The base class copies the action's icon on every change, on enabling for instance.
+    const QAction *action = defaultAction();
+    if (event->type() == QEvent::ActionChanged && action && action->icon().isNull())
+        ChangeIcon(true);
+}
+
+void MRGroupButton::keyPressEvent(QKeyEvent *event)
+{
+    // The arrow has no key of its own in the toolkit.
+    if (event->key() == Qt::Key_Down && event->modifiers().testFlag(Qt::AltModifier))
+        showMenu();
+    else
+        QToolButton::keyPressEvent(event);
+}
+
+void MRGroupButton::mouseMoveEvent(QMouseEvent *)
+{
+    // The base class does not see the event, deliberately, as with drop buttons.
+    if (!isCheckable())
+        return;
+
+    QStyleOptionToolButton option;
+    initStyleOption(&option);
+    const bool overArrow = menu() && HoverSheets::isCursorOverArrow(*this, option);
+    setStyleSheet(HoverSheets::groupButton(overArrow, Skin::isLum()));
+}
+
+void MRGroupButton::leaveEvent(QEvent *event)
+{
+    // The checked colour is the same in both skins, deliberately.
+    setStyleSheet(QString::fromLatin1(leftSheet).arg(QStringLiteral("#D3D3D3")));
+    QToolButton::leaveEvent(event);
+}
+
+MRButtonGroup::MRButtonGroup(QObject *parent)
+    : QWidgetAction(parent)
+{
+}

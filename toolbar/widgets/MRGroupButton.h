@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QIcon>
+#include <QToolButton>
+#include <QWidgetAction>
+
+/**
+ * A small tool button of a button group. It shows its default action, but keeps an icon of its own
+ * for actions that have none.
+ */
+class MRGroupButton : public QToolButton
+{
+    Q_OBJECT
+
+public:
+    explicit MRGroupButton(QWidget *parent);
+
+    /** Sets the button's own icon and shows it. */
+    void SetIcon(QIcon icon);
+
+public Q_SLOTS:
+    /** Makes @p action the one that the button shows and triggers. Null is ignored. */
+    void SetDefaultAction(QAction *action);
+
+    /** Shows the button's own icon, if it has one. The argument is not used. */
+    void ChangeIcon(bool);
+
+protected:
+    void actionEvent(QActionEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void leaveEvent(QEvent *event) override;
+
+private:
+    QIcon m_icon;
+};
+
+/** The action by which a panel of group buttons stands on a tool row. */
+class MRButtonGroup : public QWidgetAction
+{
+    Q_OBJECT
+
+public:
+    /** @param parent the toolbar, which owns the action */
+    explicit MRButtonGroup(QObject *parent);
+};

@@ -1,0 +1,56 @@
+#include "toolbar/widgets/MRMenuButton.h"
+
+#include "toolbar/NewToolBar.h"
+#include "toolbar/skin/Skin.h"
+
+#include <QMenu>
+
+MRMenuButton::MRMenuButton(QWidget *parent, int dx, int dy, QWidget *anchor)
+    : QPushButton(parent)
+    , m_dx(dx)
+    , m_dy(dy)
+    , m_anchor(anchor)
+    , m_toolBar(qobject_cast<NewToolBar *>(parent))
+{
+    connect(this, &QPushButton::clicked, this, &MRMenuButton::PopMenuSlot);
+}
+
+void MRMenuButton::SetMenu(QMenu *menu)
+{
+    m_menu = menu;
+}
+
+QMenu *MRMenuButton::GetMenu() const
+{
+    return m_menu;
+}
+
+void MRMenuButton::PopMenuSlot()
+{
+    if (!m_menu)
+        return;
+
+    // Loading asks the host for states, and the host may do anything, even away with the button.
+    const QPointer<MRMenuButton> self(this);
+    if (m_toolBar)
+        m_toolBar->Inner_DoDelayLoadMenuSlot();
+    // Nothing of this object is touched once the menu has closed.
+    if (self && m_menu)
+        m_menu->exec(menuPosition());
+}
+
+QPoint MRMenuButton::menuPosition() const
+{
+    QPoint position;
+    if (m_anchor && m_anchor->isVisible()) {
+        // The anchor's own position is mapped from this button, deliberately: the two stand side
+        // by side, and the menu lands where the skins' menus have their width for.
+        position = QPoint(m_anchor->x() - m_anchor->width() - 6,
+                          m_anchor->y() + m_anchor->height() / 2 + 4);
+    } else if (Skin::isLum()) {
+        position = QPoint(0, y() + height());
+    } else {
+        position = QPoint(0, y() + height() / 2 + 4);
+    }
+    return mapToGlobal(position + QPoint(m_dx, m_dy));
+}

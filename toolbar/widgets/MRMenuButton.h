@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QPointer>
+#include <QPushButton>
+
+class NewToolBar;
+class QMenu;
+
+/** A push button that pops its menu at a place of the toolbar's choosing. */
+class MRMenuButton : public QPushButton
+{
+    Q_OBJECT
+
+public:
+    /**
+     * @param parent the owner; if it is the toolbar, the button has it load its menus before they
+     *               are shown for the first time
+     * @param dx, dy offset of the menu from its computed place, in pixels
+     * @param anchor widget beside which the menu appears while that is visible; may be null
+     */
+    MRMenuButton(QWidget *parent, int dx, int dy, QWidget *anchor);
+
+    /** Sets the menu to pop, which the button does not own; null for none. */
+    void SetMenu(QMenu *menu);
+    QMenu *GetMenu() const;
+
+public Q_SLOTS:
+    /** Pops the menu and returns when it is closed. The button may be gone by then. */
+    void PopMenuSlot();
+
+private:
+    QPoint menuPosition() const;
+
+    int m_dx;
+    int m_dy;
+    QPointer<QWidget> m_anchor;
+    QPointer<QMenu> m_menu;
+    QPointer<NewToolBar> m_toolBar;
+};

@@ -1,0 +1,223 @@
+#include "toolbar/widgets/MRScrollWidget.h"
+
+#include "toolbar/skin/Skin.h"
+#include "toolbar/skin/SkinIcon.h"
+#include "toolbar/widgets/ObjectTree.h"
+
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QHBoxLayout>
+#include <QPropertyAnimation>
+#include <QScrollBar>
+#include <QWheelEvent>
+
+namespace {
+
+const QString leftSide = QStringLiteral("left");
+const QString rightSide = QStringLiteral("right");
+
+constexpr int scrollStep = 180;
+constexpr int scrollDuration = 300;
+
+/** Side of an arrow's square, in pixels. */
+int arrowSide(const QWidget *widget)
+{
+    return static_cast<int>(widget->physicalDpiY() / 96.0 * 12.0);
+}
+
+/**
+ * Whether @p object, somewhere below @p area, is or belongs to something that the wheel is meant
+ * for: a combo box with its field and its list, or a window that is open above the row.
+ */
+bool keepsWheel(const QObject *object, const QObject *area)
+{
+    for (; object && object != area; object = object->parent()) {
+        const auto *widget = qobject_cast<const QWidget *>(object);
+        if (qobject_cast<const QComboBox *>(object) || (widget && widget->isWindow()))
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
+MRExtendButton::MRExtendButton(QWidget *parent)
+    : QPushButton(parent)
+    , m_arrow(new QPushButton(this))
+{
+    setFlat(true);
+    setFocusPolicy(Qt::NoFocus);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
+
+    auto *layout = new QHBoxLayout(this);
+    layout->setSpacing(0);
+    layout->setContentsMargins(0, 2, 0, 2);
+    layout->addWidget(m_arrow);
+    connect(m_arrow, &QPushButton::clicked, this, &MRExtendButton::Clicked);
+}
+
+void MRExtendButton::SetObjectName(QString name)
+{
+    setObjectName(name);
+    const int side = arrowSide(this);
+    m_arrow->setIconSize(QSize(side, side));
+
+    const bool isLeft = name.contains(leftSide);
+    m_arrow->setObjectName(isLeft ? leftSide : rightSide);
+    m_arrow->setAccessibleName(isLeft ? QStringLiteral("向左滚动") : QStringLiteral("向右滚动"));
+    const QString file =
+        isLeft ? QStringLiteral("extendLeft.svg") : QStringLiteral("extendRight.svg");
+    m_arrow->setIcon(skinIcon(Skin::resourceDirectory() + file));
+}
+
+void MRExtendButton::SetExtendButtonVisible(bool visible)
+{
+    m_arrow->setVisible(visible);
+}
+
+MRScrollArea::MRScrollArea(QWidget *parent)
+    : QScrollArea(parent)
+    , m_animation(new QPropertyAnimation(horizontalScrollBar(), "value", this))
+{
+    setObjectName(QStringLiteral("scrollarea"));
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    setWidgetResizable(true);
+
+    m_animation->setDuration(scrollDuration);
+    m_animation->setEasingCurve(QEasingCurve::InQuad);
+    connect(m_animation, &QPropertyAnimation::finished, this, &MRScrollArea::UpdateExtendButton);
+
+    // A row that is filled later changes its width by itself, and the focus scrolls to where it
+    // goes, both without a resize of the area.
+    connect(horizontalScrollBar(), &QScrollBar::rangeChanged, this,
+            &MRScrollArea::UpdateExtendButton);
+    connect(horizontalScrollBar(), &QScrollBar::valueChanged, this, [this] {
+        if (!isScrolling())
+            UpdateExtendButton();
+    });
+
+    QCoreApplication::instance()->installEventFilter(this);
+}
+
+MRScrollArea::~MRScrollArea()
+{
+    // Children still to be deleted must not find a filter that is half gone.
+    if (QCoreApplication *application = QCoreApplication::instance())
+        application->removeEventFilter(this);
+}
+
+bool MRScrollArea::isScrolling() const
+{
+    return m_animation->state() == QAbstractAnimation::Running;
+}
+
+int MRScrollArea::hiddenWidth() const
+{
+    const int contentWidth = widget() ? widget()->width() : 0;
+    return contentWidth - viewport()->width();
+}
+
+void MRScrollArea::animate(int from, int to)
+{
+    m_animation->setStartValue(from);
+    m_animation->setEndValue(to);
+    m_animation->start();
+}
+
+void MRScrollArea::UpdateExtendButton()
+{
+    const int value = horizontalScrollBar()->value();
+    Q_EMIT SetExtendButtonVisible(leftSide, value >= 1);
+    Q_EMIT SetExtendButtonVisible(rightSide, value < hiddenWidth());
+}
+
+void MRScrollArea::DoScrollAction()
+{
+    if (isScrolling() || !widget())
+        return;
+
+    const int value = horizontalScrollBar()->value();
+    if (value != 0 && value >= hiddenWidth()) {
+        animate(value, 0);
+    } else if (value == 0) {
+        // From the start either arrow leads to the far end, where the scroll bar stops.
+        animate(0, widget()->width());
+    } else if (const auto *arrow = qobject_cast<QPushButton *>(sender())) {
+        const bool toLeft = arrow->objectName().contains(leftSide);
+        animate(value, toLeft ? value - scrollStep : value + scrollStep);
+    }
+}
+
+void MRScrollArea::wheelEvent(QWheelEvent *event)
+{
+    const int delta = event->angleDelta().y();
+    if (delta == 0 || isScrolling())
+        return;
+
+    const int value = horizontalScrollBar()->value();
+    animate(value, delta > 0 ? value + scrollStep : value - scrollStep);
+}
+
+bool MRScrollArea::eventFilter(QObject *watched, QEvent *event)
+{
+    // First of all, as every event of the application passes here.
+    if (event->type() != QEvent::Wheel)
+        return QScrollArea::eventFilter(watched, event);
+
+    // Where the pointer is costs less to find out than who the object's ancestors are.
+    if (!rect().contains(mapFromGlobal(QCursor::pos())) || !isChildren(this, watched))
+        return QScrollArea::eventFilter(watched, event);
+
+    // The event goes on to its target; what hands it up from there finds the row moving already.
+    if (!keepsWheel(watched, this))
+        wheelEvent(static_cast<QWheelEvent *>(event));
+    return false;
+}
+
+void MRScrollArea::resizeEvent(QResizeEvent *event)
+{
+    QScrollArea::resizeEvent(event);
+    UpdateExtendButton();
+}
+
+MRScrollWidget::MRScrollWidget(QWidget *parent)
+    : QWidget(parent)
+    , m_left(new MRExtendButton(this))
+    , m_right(new MRExtendButton(this))
+    , m_area(new MRScrollArea(this))
+{
+    setObjectName(QStringLiteral("scrollbar"));
+    m_left->SetObjectName(QStringLiteral("leftextend"));
+    m_right->SetObjectName(QStringLiteral("rightextend"));
+
+    auto *layout = new QHBoxLayout(this);
+    layout->setSpacing(1);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_left);
+    layout->addWidget(m_area);
+    layout->addWidget(m_right);
+
+    for (MRExtendButton *button : {m_left, m_right}) {
+        button->SetExtendButtonVisible(false);
+        button->setMinimumWidth(arrowSide(this));
+        connect(button, &MRExtendButton::Clicked, m_area, &MRScrollArea::DoScrollAction);
+    }
+    connect(m_area, &MRScrollArea::SetExtendButtonVisible, this,
+            &MRScrollWidget::DoSetExtendButtonVisible);
+    // By the order of construction the right arrow would come before the row.
+    setTabOrder(m_area, m_right);
+}
+
+void MRScrollWidget::SetWidget(QWidget *widget, Qt::Alignment alignment)
+{
+    m_area->setWidget(widget);
+    m_area->setAlignment(alignment);
+}
+
+void MRScrollWidget::DoSetExtendButtonVisible(QString side, bool visible)
+{
+    MRExtendButton *button = side == leftSide ? m_left : m_right;
+    button->SetExtendButtonVisible(visible);
+}

@@ -1,0 +1,96 @@
+#pragma once
+
+#include <QPushButton>
+#include <QScrollArea>
+
+class QPropertyAnimation;
+
+/**
+ * The arrow at one end of a scrolling tool row. It is a flat container that keeps its place; the
+ * arrow inside it comes and goes.
+ */
+class MRExtendButton : public QPushButton
+{
+    Q_OBJECT
+
+public:
+    explicit MRExtendButton(QWidget *parent = nullptr);
+
+    /**
+     * Sets the object name, and with it the side: the arrow points to the left if @p name contains
+     * "left", otherwise to the right.
+     */
+    void SetObjectName(QString name);
+
+    /** Shows or hides the arrow; the container stays. */
+    void SetExtendButtonVisible(bool visible);
+
+Q_SIGNALS:
+    /** The arrow was clicked. */
+    void Clicked();
+
+private:
+    QPushButton *m_arrow;
+};
+
+/**
+ * An area without scroll bars that shows a wide tool row. It is scrolled with a short animation by
+ * the wheel, anywhere over the row but a combo box, and by the arrows at its ends.
+ */
+class MRScrollArea : public QScrollArea
+{
+    Q_OBJECT
+
+public:
+    explicit MRScrollArea(QWidget *parent = nullptr);
+    ~MRScrollArea() override;
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+Q_SIGNALS:
+    /** Whether there is hidden content on @p side, which is "left" or "right". */
+    void SetExtendButtonVisible(QString side, bool visible);
+
+public Q_SLOTS:
+    /**
+     * Scrolls as a click on an arrow says: from the start to the far end, from the end back to the
+     * start, in between by a step to the side that the sender is named after. Nothing happens
+     * while the row is still moving.
+     */
+    void DoScrollAction();
+
+    /** Reports on both sides with SetExtendButtonVisible(). */
+    void UpdateExtendButton();
+
+protected:
+    void wheelEvent(QWheelEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    bool isScrolling() const;
+    int hiddenWidth() const;
+    void animate(int from, int to);
+
+    QPropertyAnimation *m_animation;
+};
+
+/** A tool row in its scrolling area, between the two arrows. */
+class MRScrollWidget : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit MRScrollWidget(QWidget *parent = nullptr);
+
+    /** Puts @p widget into the area, which owns it from now on. */
+    void SetWidget(QWidget *widget, Qt::Alignment alignment);
+
+public Q_SLOTS:
+    /** Shows or hides an arrow: the left one for exactly "left", otherwise the right one. */
+    void DoSetExtendButtonVisible(QString side, bool visible);
+
+private:
+    MRExtendButton *m_left;
+    MRExtendButton *m_right;
+    MRScrollArea *m_area;
+};

@@ -1,0 +1,151 @@
+#include "toolbar/widgets/MRSearchBar.h"
+
+#include "toolbar/skin/Skin.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+
+namespace {
+
+constexpr int restingPixelsPerCharacter = 18;
+constexpr int widenedPixelsPerCharacter = 36;
+
+} // namespace
+
+MRSearchBar::MRSearchBar(QWidget *parent, QLabel *label, QPushButton *previous, QPushButton *next,
+                         bool mainBar)
+    : QLineEdit(parent)
+    , m_layout(new QHBoxLayout)
+    , m_next(next)
+    , m_previous(previous)
+    , m_scale(static_cast<float>(physicalDpiX()) / 96.0F)
+    , m_mainBar(mainBar)
+{
+    setProperty("intoolbar", "true");
+    setButtonsVisible(false);
+    fillLayout(label);
+    setAlignment(Qt::AlignVCenter);
+    if (m_mainBar && Skin::isLum()) {
+        setTextMargins(0, 0, 0, 0);
+        m_layout->setContentsMargins(scaledLength(4), 0, scaledLength(6), 0);
+    }
+    for (QPushButton *button : buttons())
+        button->setCursor(Qt::ArrowCursor);
+    setLayout(m_layout);
+}
+
+QList<QPushButton *> MRSearchBar::buttons() const
+{
+    QList<QPushButton *> present;
+    if (m_previous)
+        present.append(m_previous);
+    if (m_next)
+        present.append(m_next);
+    return present;
+}
+
+void MRSearchBar::fillLayout(QLabel *label)
+{
+    m_layout->setSpacing(0);
+    m_layout->setContentsMargins(0, 0, 0, 0);
+    m_layout->addItem(
+        new QSpacerItem(scaledLength(4), 2, QSizePolicy::Minimum, QSizePolicy::Minimum));
+    if (label)
+        m_layout->addWidget(label);
+    m_layout->addStretch();
+    for (QPushButton *button : buttons())
+        m_layout->addWidget(button);
+}
+
+void MRSearchBar::setButtonsVisible(bool visible)
+{
+    for (QPushButton *button : buttons())
+        button->setVisible(visible);
+}
+
+int MRSearchBar::scaledLength(int designPixels) const
+{
+    return static_cast<int>(static_cast<float>(designPixels) * m_scale);
+}
+
+void MRSearchBar::applyWidth(int pixelsPerCharacter)
+{
+    if (!m_resizable || Skin::isLum())
+        return;
+
+    const int designWidth = static_cast<int>(placeholderText().size()) * pixelsPerCharacter;
+    setFixedWidth(scaledLength(designWidth));
+}
+
+void MRSearchBar::setPlaceholderText(const QString &text)
+{
+    QLineEdit::setPlaceholderText(text);
+    if (!text.isEmpty())
+        applyWidth(restingPixelsPerCharacter);
+}
+
+void MRSearchBar::SetResizable(bool resizable)
+{
+    m_resizable = resizable;
+    if (!m_resizable && !m_mainBar)
+        setButtonsVisible(true);
+}
+
+void MRSearchBar::SetRelational(bool relational)
+{
+    m_relational = relational;
+}
+
+void MRSearchBar::SetButtonProperty(const char *name, QString value)
+{
+    for (QPushButton *button : buttons())
+        button->setProperty(name, value);
+}
+
+void MRSearchBar::mousePressEvent(QMouseEvent *event)
+{
+    // Without a placeholder there is no length to go by.
+    if (!placeholderText().isEmpty())
+        applyWidth(widenedPixelsPerCharacter);
+    QLineEdit::mousePressEvent(event);
+}
+
+void MRSearchBar::focusInEvent(QFocusEvent *event)
+{
+    setButtonsVisible(true);
+    const QList<QPushButton *> present = buttons();
+    const int buttonWidth = present.isEmpty() ? 0 : present.first()->width();
+    setTextMargins(0, 0, static_cast<int>(present.size()) * buttonWidth, 0);
+    QLineEdit::focusInEvent(event);
+}
+
+void MRSearchBar::focusOutEvent(QFocusEvent *event)
+{
+    if (m_resizable && text().isEmpty()) {
+        setButtonsVisible(false);
+        if (!Skin::isLum())
+            setTextMargins(0, 0, 0, scaledLength(3));
+        if (!placeholderText().isEmpty())
+            applyWidth(restingPixelsPerCharacter);
+    }
+    QLineEdit::focusOutEvent(event);
+}
+
+void MRSearchBar::enterEvent(QtCompat::EnterEvent *event)
+{
+    if (!m_hovered && m_relational) {
+        Q_EMIT DoActiveSetButton(true);
+        m_hovered = true;
+    }
+    QLineEdit::enterEvent(event);
+}
+
+void MRSearchBar::leaveEvent(QEvent *event)
+{
+    if (m_hovered && m_relational) {
+        Q_EMIT DoActiveSetButton(false);
+        m_hovered = false;
+    }
+    QLineEdit::leaveEvent(event);
+}
