@@ -1,0 +1,85 @@
+#!/usr/bin/env bash
+# Builds the library on both versions of the toolkit and runs its tests; --help tells the options.
+set -euo pipefail
+# shellcheck source-path=SCRIPTDIR source=common.sh
+source "$(dirname -- "${BASH_SOURCE[0]}")/common.sh"
+
+suppressions=$root/tests/support/lsan.supp
+versions=(5 6)
+settings=(MRTOOLBAR_WERROR=ON)
+suffix=
+result=0
+
+show_help()
+{
+    cat <<'END'
+Usage: scripts/test.sh [OPTION]...
+Builds everything on Qt 5 and on Qt 6 and runs the tests of both, after installing what they
+need (Debian 12). Ends with an error if anything fails on either.
+
+  --qt 5|6    only this version of Qt
+  --sanitize  with the address and undefined-behaviour sanitizers
+  --help      show this text
+END
+}
+
+read_options()
+{
+    while (($#)); do
+        case $1 in
+            --qt) require_one_of "$1" "${2-}" 5 6 && versions=("$2") && shift ;;
+            --sanitize) sanitize ;;
+            --help) show_help && exit ;;
+            *) usage_error "unknown option '$1'" ;;
+        esac
+        shift
+    done
+}
+
+sanitize()
+{
+    [[ -r $suppressions ]] || die "cannot read $suppressions"
+    settings+=("MRTOOLBAR_SANITIZE=address,undefined")
+    suffix=-sanitize
+    export LSAN_OPTIONS="suppressions='$suppressions':print_suppressions=0"
+    export UBSAN_OPTIONS=print_stacktrace=1
+}
+
+# build VERSION
+build()
+{
+    local directory=$root/build/qt$1$suffix
+    say "building with Qt $1"
+    configure "$directory" "MRTOOLBAR_QT_MAJOR=$1" "${settings[@]}" && cmake --build "$directory"
+}
+
+# run_tests VERSION: one test after the other, as they share the pointer and the focus.
+run_tests()
+{
+    say "testing with Qt $1"
+    ctest --test-dir "$root/build/qt$1$suffix" --output-on-failure --no-tests=error --timeout 300
+}
+
+read_options "$@"
+needed+=(xvfb)
+for version in "${versions[@]}"; do
+    need_toolkit "$version"
+done
+install_needed
+
+# The tests come after all the building, so that their summaries end the output.
+built=()
+unbuilt=()
+for version in "${versions[@]}"; do
+    if build "$version"; then built+=("$version"); else unbuilt+=("$version"); fi
+done
+for version in "${unbuilt[@]}"; do
+    say "the build with Qt $version failed, its tests do not run" >&2
+    result=1
+done
+
+start_xvfb 96
+for version in "${built[@]}"; do
+    run_tests "$version" || result=1
+done
+exit "$result"
