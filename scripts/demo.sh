@@ -20,7 +20,8 @@ Without a display it opens on one of its own, and a picture of the window is sav
 
   --qt 5|6            version of Qt to build with (5)
   --skin marodi|lum   skin to show (marodi)
-  --description FILE  toolbar description to show instead of the skin's own
+  --description FILE  toolbar description to show: a file, or release or debug for the
+                      skin's own (release)
   --dpi N             density of a display of its own, 48 to 384 (96); no window on yours
   --screenshot FILE   save a picture of the window to this .png file and end
   --help              show this text
@@ -29,7 +30,7 @@ END
 
 require_description()
 {
-    [[ -f $1 && -r $1 ]] || usage_error "--description: cannot read a file '$1'"
+    [[ $1 == release || $1 == debug || (-f $1 && -r $1) ]] || usage_error "--description: cannot read a file '$1'"
 }
 
 require_dpi()

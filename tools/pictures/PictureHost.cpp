@@ -12,6 +12,7 @@
 #include <QToolBar>
 #include <QToolButton>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace {
@@ -51,7 +52,7 @@ PictureHost::PictureHost(const QDomDocument &description, const QDir &folder,
     , m_prefix(prefix)
 {
     m_window.setWindowTitle(QStringLiteral("OFD阅读器"));
-    m_window.resize(width, 420);
+    m_window.resize(width, 240 * m_window.physicalDpiY() / 96);
     auto *page = new QLabel;
     page->setStyleSheet(QStringLiteral("background:#FFFFFF"));
     m_window.setCentralWidget(page);
@@ -88,20 +89,33 @@ void PictureHost::answerAuthority()
 
 void PictureHost::takeTabs()
 {
+    QList<QPushButton *> tabs;
     const QList<QPushButton *> buttons = m_window.findChildren<QPushButton *>();
-    QPushButton *first = nullptr;
     for (QPushButton *button : buttons) {
-        if (button->property("module").toString() != QLatin1String("tabbutton"))
-            continue;
-        if (first)
-            QTest::mouseClick(button, Qt::LeftButton);
-        else
-            first = button;
-        QTest::mouseMove(&m_window, QPoint(m_window.width() / 2, m_window.height() - 20));
-        take(QStringLiteral("tab-") + button->objectName());
+        if (button->property("module").toString() == QLatin1String("tabbutton")
+            && button->isVisible())
+            tabs.append(button);
     }
-    if (first && m_window.findChildren<QPushButton *>().size() > 1 && !first->isChecked())
-        QTest::mouseClick(first, Qt::LeftButton);
+    // A click on the tab that is on show would fold the rows.
+    const auto open = [](QPushButton *tab) {
+        if (!tab->isChecked())
+            QTest::mouseClick(tab, Qt::LeftButton);
+    };
+    const auto first = std::find_if(tabs.cbegin(), tabs.cend(),
+                                    [](const QPushButton *tab) { return tab->isChecked(); });
+    QPushButton *const onShow = first == tabs.cend() ? nullptr : *first;
+    for (QPushButton *tab : std::as_const(tabs)) {
+        open(tab);
+        restPointer();
+        take(QStringLiteral("tab-") + tab->objectName());
+    }
+    if (onShow)
+        open(onShow);
+}
+
+void PictureHost::restPointer()
+{
+    QTest::mouseMove(&m_window, QPoint(m_window.width() / 2, m_window.height() - 20));
 }
 
 void PictureHost::takeStates()
@@ -120,7 +134,7 @@ void PictureHost::takeStates()
         if (action->isCheckable() && action->objectName() == QLatin1String("t_handtool"))
             action->setChecked(true);
     }
-    QTest::mouseMove(&m_window, QPoint(m_window.width() / 2, m_window.height() - 20));
+    restPointer();
     take(QStringLiteral("checked"));
 }
 
@@ -189,8 +203,13 @@ void PictureHost::takeSubMenus(QMenu *menu, const QString &name)
 void PictureHost::take(const QString &name)
 {
     QTest::qWait(settleTime);
-    // The screen, not the window: menus and tips are windows of their own.
-    const QRect area = m_window.frameGeometry().adjusted(0, 0, 0, 420);
+    // The screen, not the window: menus are windows of their own.
+    QRect area = m_window.frameGeometry();
+    const QList<QWidget *> windows = QApplication::topLevelWidgets();
+    for (const QWidget *window : windows) {
+        if (window->isVisible())
+            area |= window->frameGeometry();
+    }
     const QPixmap picture =
         m_window.screen()->grabWindow(0, area.x(), area.y(), area.width(), area.height());
     const QString path =

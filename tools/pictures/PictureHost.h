@@ -28,6 +28,7 @@ public:
 private:
     void answerAuthority();
     void takeTabs();
+    void restPointer();
     void takeStates();
     void takeMenus();
     void takeMenuOf(QAbstractButton *button, const QString &name);

@@ -1,0 +1,7 @@
+# Fails unless the README shows the smallest host exactly as it is built.
+file(READ ${README} readme)
+file(READ ${SOURCE} source)
+string(FIND "${readme}" "```cpp\n${source}```" position)
+if(position EQUAL -1)
+    message(FATAL_ERROR "The host code in ${README} is not that of ${SOURCE}")
+endif()
