@@ -105,8 +105,8 @@ void DescriptionTest::shouldConvertAttributes_data()
         "<b checkable='true' checked='true' check='true' editable='true' switchable='true' "
         "withaction='true' scalable='true' doubleclick='true'/>",
         [](auto &r) {
-            return r.checkable && r.checked && r.check && r.editable && r.switchable
-                && r.withaction && r.scalable && r.doubleclick;
+            return r.checkable && r.checked && r.check && r.editable && r.switchable && r.withaction
+                   && r.scalable && r.doubleclick;
         });
     row("tooltip from text", "<button text='t' tooltip=''/>",
         [](auto &r) { return r.tooltip == "t"; });
@@ -132,7 +132,8 @@ void DescriptionTest::shouldConvertAttributes()
 void DescriptionTest::shouldKeepSectionAndOrderAtAnyDepth()
 {
     parse("<!-- c --><toolbar_addtional><a name='1'><!-- c --><b name='2'><c name='3'/></b>text"
-          "<d name='4'/></a></toolbar_addtional><toolbar_appbutton><e name='5'/></toolbar_appbutton>");
+          "<d name='4'/></a></toolbar_addtional><toolbar_appbutton><e "
+          "name='5'/></toolbar_appbutton>");
     QStringList names;
     forEach(m_records, [&names](const Controller &record) {
         names.append(record.name + QLatin1Char(' ') + record.section);
@@ -208,9 +209,8 @@ void DescriptionTest::shippedDocumentsShouldHaveFiveSections()
         sections.append(section.tagName());
         ParseXMLElement(&section, &m_records);
     }
-    QCOMPARE(sections,
-             QStringList({"toolbar_appbutton", "toolbar_quickaccessbar", "toolbar_tabbar",
-                          "toolbar_searchbar", "toolbar_addtional"}));
+    QCOMPARE(sections, QStringList({"toolbar_appbutton", "toolbar_quickaccessbar", "toolbar_tabbar",
+                                    "toolbar_searchbar", "toolbar_addtional"}));
     forEach(m_records, [](const Controller &record) {
         QVERIFY2(!record.type.isEmpty(), "an element without attributes");
         QVERIFY2(record.checkable || !record.checked || record.type == "tabbutton",
@@ -226,10 +226,11 @@ void DescriptionTest::shippedDocumentsShouldNameOnlyPresentIcons_data()
 void DescriptionTest::shippedDocumentsShouldNameOnlyPresentIcons()
 {
     QFETCH(QString, path);
-    parse(resource(path).mid(QByteArray("\xEF\xBB\xBF<uiconfig prefix=\"\">").size())
+    parse(resource(path)
+              .mid(QByteArray("\xEF\xBB\xBF<uiconfig prefix=\"\">").size())
               .chopped(QByteArray("</uiconfig>\n").size()));
-    const QString icons =
-        QStringLiteral(":/mr_toolbar/Resources/") + path.section('/', 0, 0) + QStringLiteral("/icons/");
+    const QString icons = QStringLiteral(":/mr_toolbar/Resources/") + path.section('/', 0, 0)
+                          + QStringLiteral("/icons/");
     forEach(m_records, [&icons](const Controller &record) {
         for (const QString &icon : {record.icon, record.dropicon}) {
             // A bare name resolves only for a file directly in the directory of icons.

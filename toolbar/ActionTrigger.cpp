@@ -13,8 +13,7 @@ void triggerAction(QAction *action)
 
     const QPointer<QAction> self(action);
     const QActionGroup *group = action->actionGroup();
-    const bool isHeldByGroup =
-        group && group->isExclusive() && group->checkedAction() == action;
+    const bool isHeldByGroup = group && group->isExclusive() && group->checkedAction() == action;
     if (action->isCheckable() && !isHeldByGroup)
         action->setChecked(!action->isChecked());
     if (self)

@@ -27,8 +27,7 @@ namespace {
 void addSpacer(QHBoxLayout *layout, int width)
 {
     constexpr int height = 20;
-    layout->addItem(
-        new QSpacerItem(width, height, QSizePolicy::Minimum, QSizePolicy::Minimum));
+    layout->addItem(new QSpacerItem(width, height, QSizePolicy::Minimum, QSizePolicy::Minimum));
 }
 
 QFrame *createSeparatorLine()

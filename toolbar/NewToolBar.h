@@ -303,7 +303,7 @@ private:
     QButtonGroup *m_tabButtonGroup = nullptr;
     QStackedWidget *m_toolRowStack = nullptr;
     NamedList<QPushButton> m_tabButtons; ///< The buttons of the group, by name.
-    QPointer<QToolBar> m_hostToolBar; ///< Owned by the main window; holds this widget.
+    QPointer<QToolBar> m_hostToolBar;    ///< Owned by the main window; holds this widget.
     QList<QWidget *> m_extraGroups;
     NamedList<QToolButton> m_groupButtons;
     float m_scale = 1.0F; ///< Physical dpi of this widget's screen by 96.

@@ -37,8 +37,8 @@ bool endsSeparatorWait(const Controller &record)
     if (!record.visible)
         return false;
     return !isTag(record, "buttongroup")
-        || std::any_of(record.children.begin(), record.children.end(),
-                       [](const Controller *child) { return child && child->visible; });
+           || std::any_of(record.children.begin(), record.children.end(),
+                          [](const Controller *child) { return child && child->visible; });
 }
 
 /** A control of a row with room for a caption below it. */
@@ -73,9 +73,9 @@ QString zoomBoxHint()
     return QStringLiteral("<font style='font-family:Microsoft YaHei; font-size:10pt;"
                           "background-color:transparent;color:blue;'>%1</font>")
                .arg(QObject::tr("Invalid Char"))
-        + QStringLiteral("<br><font style='font-family:Microsoft YaHei;font-size:8pt; "
-                         "background-color:transparent;color:black;'>%1</font>")
-              .arg(QObject::tr("Please Input a Number or Point"));
+           + QStringLiteral("<br><font style='font-family:Microsoft YaHei;font-size:8pt; "
+                            "background-color:transparent;color:black;'>%1</font>")
+                 .arg(QObject::tr("Please Input a Number or Point"));
 }
 
 /** Makes the described entry of the menu, if there is one, the button's own. */

@@ -216,8 +216,8 @@ void NewToolBar::connectMenuAction(QAction *action, const Controller &record, bo
         return;
     }
     const bool isCommandSection = record.section == QLatin1String(Section::tabBar)
-        || record.section == QLatin1String(Section::appButton)
-        || record.section == QLatin1String(Section::additional);
+                                  || record.section == QLatin1String(Section::appButton)
+                                  || record.section == QLatin1String(Section::additional);
     if (isNew && isCommandSection)
         connect(action, &QAction::triggered, this, &NewToolBar::Inner_DoBarActionSlot);
 }

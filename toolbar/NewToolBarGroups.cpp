@@ -23,8 +23,7 @@ constexpr int buttonsPerColumn = 2;
 
 void setGroupButtonModule(QToolButton *button, const QString &text)
 {
-    button->setProperty("module",
-                        text.isEmpty() ? "groupbutton_withouttext" : "groupbutton");
+    button->setProperty("module", text.isEmpty() ? "groupbutton_withouttext" : "groupbutton");
 }
 
 qsizetype longestText(const QString &text, const QMenu &menu)

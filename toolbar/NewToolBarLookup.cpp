@@ -203,8 +203,8 @@ QList<QWidget *> NewToolBar::askedAreaWidgets(const QString &name) const
         appendPresent(widgets, m_searchBar);
     else if (name == QLatin1String("toolbar_maintoolbar"))
         appendPresent(widgets, m_currentScrollWidget
-                          ? m_currentScrollWidget->findChild<MRMainToolBar *>()
-                          : nullptr);
+                                   ? m_currentScrollWidget->findChild<MRMainToolBar *>()
+                                   : nullptr);
     else
         widgets = areaWidgets(name);
     return widgets;

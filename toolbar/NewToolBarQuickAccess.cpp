@@ -137,9 +137,8 @@ void NewToolBar::Inner_DoUpdateQuickAccessBarSlot()
         if (action->objectName() == entry->objectName())
             action->setVisible(entry->isChecked());
     }
-    m_quickAccessBar->setVisible(std::any_of(actions.begin(), actions.end(), [](QAction *action) {
-        return action->isVisible();
-    }));
+    m_quickAccessBar->setVisible(std::any_of(actions.begin(), actions.end(),
+                                             [](QAction *action) { return action->isVisible(); }));
 }
 
 QString NewToolBar::GetQuickAccessButtonList()

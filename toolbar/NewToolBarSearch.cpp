@@ -39,18 +39,19 @@ bool mentions(const QString &name, const char *word)
 QString activeSetButtonSheet(const QString &textColour, const QString &ground)
 {
     return noIndicatorRule
-        + QStringLiteral("QPushButton{color:%1;background-color:%2;border: none;border-radius:4px;}")
-              .arg(textColour, ground);
+           + QStringLiteral(
+                 "QPushButton{color:%1;background-color:%2;border: none;border-radius:4px;}")
+                 .arg(textColour, ground);
 }
 
 QString idleSetButtonSheet(const QString &textColour, const QString &hover, const QString &pressed)
 {
     return noIndicatorRule
-        + QStringLiteral("QPushButton{   background:transparent;}"
-                         "QPushButton:hover{ background-color:%2;}"
-                         "QPushButton:pressed{color:%1;background-color:%3;border: "
-                         "none;border-radius:4px;}")
-              .arg(textColour, hover, pressed);
+           + QStringLiteral("QPushButton{   background:transparent;}"
+                            "QPushButton:hover{ background-color:%2;}"
+                            "QPushButton:pressed{color:%1;background-color:%3;border: "
+                            "none;border-radius:4px;}")
+                 .arg(textColour, hover, pressed);
 }
 
 /** The elements of the search section that the field is made of; each may be absent. */

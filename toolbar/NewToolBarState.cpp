@@ -84,19 +84,18 @@ void NewToolBar::DoSetControlUsableStateSlot(QString &objName, bool usable)
         return;
     }
 
-    StateSetter setter(
-        {[usable](ControlPlace place, QAction *action) {
-             // An entry that opens a menu has no data to go by.
-             if (place == ControlPlace::AppMenu)
-                 action->setEnabled(usable);
-             else
-                 enableIfAvailable(action, usable);
-         },
-         [usable](QWidget *widget) { widget->setEnabled(usable); },
-         [](QObject *button) {
-             return button->property("usable").toString() == QLatin1String("true");
-         },
-         false, [this](const QAbstractButton *tab) { return leaveTab(tab); }});
+    StateSetter setter({[usable](ControlPlace place, QAction *action) {
+                            // An entry that opens a menu has no data to go by.
+                            if (place == ControlPlace::AppMenu)
+                                action->setEnabled(usable);
+                            else
+                                enableIfAvailable(action, usable);
+                        },
+                        [usable](QWidget *widget) { widget->setEnabled(usable); },
+                        [](QObject *button) {
+                            return button->property("usable").toString() == QLatin1String("true");
+                        },
+                        false, [this](const QAbstractButton *tab) { return leaveTab(tab); }});
     visitControls(objName, setter);
 }
 
@@ -163,8 +162,8 @@ void NewToolBar::showAdditionalControls(bool visible)
         const QString name = control->objectName();
         // Of the two fold buttons only the one that can do something comes back.
         const bool stays = visible
-            && ((name.contains(QLatin1String("extend")) && !isRowHidden)
-                || (name.contains(QLatin1String("fold")) && !isRowShown));
+                           && ((name.contains(QLatin1String("extend")) && !isRowHidden)
+                               || (name.contains(QLatin1String("fold")) && !isRowShown));
         if (!stays)
             control->setVisible(visible);
     }

@@ -12,7 +12,7 @@ const QString modePrefix = QStringLiteral("vzmode_");
 bool isDigit(const QString &text, qsizetype position)
 {
     return position >= 0 && position < text.size() && text.at(position) >= QLatin1Char('0')
-        && text.at(position) <= QLatin1Char('9');
+           && text.at(position) <= QLatin1Char('9');
 }
 
 } // namespace
@@ -76,5 +76,5 @@ bool ZoomText::isInvalid(const QString &typed)
     static const QRegularExpression ideographs(QStringLiteral("[\\x{4e00}-\\x{9fa5}]+"));
     static const QRegularExpression letters(QStringLiteral("[a-zA-Z_=+]+"));
     return typed.contains(ideographs)
-        || (!typed.contains(QLatin1Char(' ')) && typed.contains(letters));
+           || (!typed.contains(QLatin1Char(' ')) && typed.contains(letters));
 }

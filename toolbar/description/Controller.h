@@ -13,10 +13,10 @@ struct Controller
 {
     QString type; ///< The tag; empty for an element without attributes that is no separator.
     QString text;
-    QString name;       ///< From "name" or "action": documents carry one of the two.
-    QString icon;       ///< Relative to the skin's directory of icons.
-    QString arrow;      ///< "down" where a menu's arrow is described.
-    QString layout;     ///< Such as "top:icon;bottom:text,arrow".
+    QString name;   ///< From "name" or "action": documents carry one of the two.
+    QString icon;   ///< Relative to the skin's directory of icons.
+    QString arrow;  ///< "down" where a menu's arrow is described.
+    QString layout; ///< Such as "top:icon;bottom:text,arrow".
     QString output;
     QString tooltip;    ///< The text, where the element has no tooltip of its own.
     QString prompt;     ///< The tooltip of a line edit, shown in the empty field.

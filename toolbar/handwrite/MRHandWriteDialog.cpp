@@ -149,8 +149,12 @@ void checkOnly(QButtonGroup *group, const QAbstractButton *button)
 {
     group->setExclusive(false);
     const QList<QAbstractButton *> members = group->buttons();
-    for (QAbstractButton *member : members)
+    for (QAbstractButton *member : members) {
         member->setChecked(member == button);
+        // As after a click, the tab key enters the group at the checked button.
+        if (button)
+            member->setFocusPolicy(member == button ? Qt::StrongFocus : Qt::ClickFocus);
+    }
     group->setExclusive(true);
 }
 

@@ -63,9 +63,8 @@ void NewToolBar::SwitchSkinStyle(QMap<QString, QString> skin)
 
 bool NewToolBar::ResetSkinStyle()
 {
-    const QString sheet =
-        StyleSheet::filled(LoadQss(GetResourceDir() + QStringLiteral("qssfile.qss")), m_skinMap,
-                           Skin::isLum());
+    const QString sheet = StyleSheet::filled(
+        LoadQss(GetResourceDir() + QStringLiteral("qssfile.qss")), m_skinMap, Skin::isLum());
     if (m_externalQss) {
         // The host scales and applies it.
         m_toolBarStyleSheet = sheet + plainToolBarRule;

@@ -1,7 +1,7 @@
 #include "PictureHost.h"
 
-#include <QApplication>
 #include <QAction>
+#include <QApplication>
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
@@ -23,8 +23,8 @@ void collectNames(const QDomElement &parent, QStringList &names)
 {
     for (QDomElement element = parent.firstChildElement(); !element.isNull();
          element = element.nextSiblingElement()) {
-        const QString name = element.attribute(QStringLiteral("action"),
-                                               element.attribute(QStringLiteral("name")));
+        const QString name =
+            element.attribute(QStringLiteral("action"), element.attribute(QStringLiteral("name")));
         if (!name.isEmpty() && element.tagName() != QLatin1String("tabbutton"))
             names.append(name);
         collectNames(element, names);
@@ -45,8 +45,8 @@ Button *firstButton(QWidget *parent, const Test &test)
 
 } // namespace
 
-PictureHost::PictureHost(const QDomDocument &description, const QDir &folder,
-                         const QString &prefix, int width)
+PictureHost::PictureHost(const QDomDocument &description, const QDir &folder, const QString &prefix,
+                         int width)
     : m_description(description)
     , m_folder(folder)
     , m_prefix(prefix)
@@ -143,11 +143,10 @@ void PictureHost::takeMenus()
     QSet<QString> taken;
     const QList<QAbstractButton *> buttons = m_window.findChildren<QAbstractButton *>();
     for (QAbstractButton *button : buttons) {
-        const bool isOfInterest = button->isVisible() && button->isEnabled()
-            && !button->objectName().isEmpty()
+        const bool isOfInterest =
+            button->isVisible() && button->isEnabled() && !button->objectName().isEmpty()
             && button->property("module").toString() != QLatin1String("tabbutton")
-            && (!button->findChildren<QMenu *>().isEmpty()
-                || button->property("position").isValid()
+            && (!button->findChildren<QMenu *>().isEmpty() || button->property("position").isValid()
                 || (qobject_cast<QPushButton *>(button)
                     && static_cast<QPushButton *>(button)->menu()));
         if (isOfInterest && !taken.contains(button->objectName())) {

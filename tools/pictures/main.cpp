@@ -49,9 +49,10 @@ int main(int argc, char *argv[])
     const QString description = parser.value(QStringLiteral("description"));
     const bool isShipped =
         description == QLatin1String("release") || description == QLatin1String("debug");
-    QFile file(isShipped ? QStringLiteral(":/mr_toolbar/Resources/%1/mr_toolbar.%2.xml")
-                               .arg(skin, description)
-                         : description);
+    QFile file(
+        isShipped
+            ? QStringLiteral(":/mr_toolbar/Resources/%1/mr_toolbar.%2.xml").arg(skin, description)
+            : description);
     QDomDocument document;
     if (!file.open(QIODevice::ReadOnly) || !document.setContent(file.readAll()))
         return fail(QStringLiteral("cannot read '%1'").arg(description));

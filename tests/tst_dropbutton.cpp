@@ -1,0 +1,417 @@
+#include "tests/support/TestHost.h"
+#include "toolbar/widgets/HoverSheets.h"
+#include "toolbar/widgets/MRDropButton.h"
+
+#include <QMenu>
+#include <QToolBar>
+
+#include <memory>
+
+namespace {
+
+QIcon colouredIcon(const QColor &colour)
+{
+    QPixmap pixmap(16, 16);
+    pixmap.fill(colour);
+    return {pixmap};
+}
+
+QColor shownColour(const QToolButton *button)
+{
+    return button->icon().pixmap(16, 16).toImage().pixelColor(8, 8);
+}
+
+/** A row that is no child of a main window, with a drop button that offers three shapes. */
+class Row
+{
+public:
+    Row()
+        : menu(&window)
+        , row(new QToolBar(&window))
+        , action(new MRDropButtonAction(row, &window))
+    {
+        window.resize(400, 200);
+        row->resize(400, 60);
+        line = menu.addAction(colouredIcon(Qt::red), QStringLiteral("Line"));
+        oval = menu.addAction(colouredIcon(Qt::blue), QStringLiteral("Oval"));
+        plain = menu.addAction(QStringLiteral("Plain"));
+        action->SetText(QStringLiteral("Shapes"));
+        action->SetIcon(colouredIcon(Qt::green));
+        action->SetMenu(&menu);
+        action->SetCheckable(true);
+        action->SetSwichable(true);
+    }
+
+    /** Puts the button on the row, and a copy into a menu as the row does for want of room. */
+    void addWithCopy()
+    {
+        row->addAction(action);
+        extendMenu = std::make_unique<QMenu>(&window);
+        extendMenu->addAction(action);
+        copy = extendMenu->findChild<MRDropButton *>();
+        QVERIFY(button() && copy);
+    }
+
+    void show()
+    {
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+    }
+
+    MRDropButton *button() const { return action->GetWidget(); }
+
+    QWidget window;
+    QMenu menu;
+    QToolBar *row;
+    MRDropButtonAction *action;
+    QAction *line = nullptr;
+    QAction *oval = nullptr;
+    QAction *plain = nullptr;
+    std::unique_ptr<QMenu> extendMenu;
+    QPointer<MRDropButton> copy;
+};
+
+QPoint bodyOf(const QWidget *button)
+{
+    return {6, button->height() / 2};
+}
+
+QPoint arrowOf(const QWidget *button)
+{
+    return {button->width() - 4, button->height() / 2};
+}
+
+/** Counts how often an object is resized. */
+class ResizeCounter : public QObject
+{
+public:
+    explicit ResizeCounter(QObject *object) { object->installEventFilter(this); }
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        count += event->type() == QEvent::Resize ? 1 : 0;
+        return false;
+    }
+
+    int count = 0;
+};
+
+} // namespace
+
+class TestDropButton : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    // Away from every window, so that nothing is hovered over before the test says so.
+    void init() { QCursor::setPos(1500, 1100); }
+
+    void aChosenEntryTakesTheFaceAndAClickRepeatsIt()
+    {
+        Row fixture;
+        fixture.row->addAction(fixture.action);
+        fixture.show();
+        MRDropButton *button = fixture.button();
+        const QSignalSpy repeated(fixture.line, &QAction::triggered);
+        fixture.line->setCheckable(true);
+
+        fixture.line->trigger();
+        QCOMPARE(button->text(), QStringLiteral("Line   "));
+        QCOMPARE(shownColour(button), QColor(Qt::red));
+        QVERIFY(button->isChecked());
+        QCOMPARE(button->GetCurrentAction(), fixture.line);
+
+        QTest::mouseClick(button, Qt::LeftButton, {}, bodyOf(button));
+        QCOMPARE(repeated.count(), 2);
+        QVERIFY(button->isChecked() && fixture.line->isChecked());
+
+        // An entry without an icon leaves the one there is.
+        fixture.plain->trigger();
+        QCOMPARE(button->text(), QStringLiteral("Plain   "));
+        QCOMPARE(shownColour(button), QColor(Qt::red));
+    }
+
+    void aClickOpensTheMenuWhileThereIsNothingToRepeat_data()
+    {
+        QTest::addColumn<QString>("fate");
+        for (const char *fate : {"none", "disabled", "deleted", "usable, but asked for by key"})
+            QTest::newRow(fate) << QString::fromLatin1(fate);
+    }
+
+    void aClickOpensTheMenuWhileThereIsNothingToRepeat()
+    {
+        QFETCH(QString, fate);
+        Row fixture;
+        fixture.row->addAction(fixture.action);
+        fixture.show();
+        MRDropButton *button = fixture.button();
+        const QSignalSpy triggered(&fixture.menu, &QMenu::triggered);
+        if (fate != QLatin1String("none"))
+            button->SetAction(fixture.line);
+        if (fate == QLatin1String("disabled"))
+            fixture.line->setEnabled(false);
+        else if (fate == QLatin1String("deleted"))
+            delete fixture.line;
+
+        QMenu *popped = nullptr;
+        whenMenuPops([&popped](QMenu *menu) { popped = menu; });
+        if (fate == QLatin1String("usable, but asked for by key"))
+            QTest::keyClick(button, Qt::Key_Down, Qt::AltModifier);
+        else
+            QTest::mouseClick(button, Qt::LeftButton, {}, bodyOf(button));
+        QTRY_COMPARE(popped, &fixture.menu);
+        QCOMPARE(triggered.count(), 0);
+    }
+
+    void resetGoesBackOneSwitchOnly()
+    {
+        Row fixture;
+        fixture.addWithCopy();
+        fixture.line->trigger();
+        fixture.oval->trigger();
+        QCoreApplication::processEvents();
+
+        fixture.button()->Reset();
+        QCOMPARE(fixture.button()->text(), QStringLiteral("Line   "));
+        QCOMPARE(fixture.copy->text(), QStringLiteral("    Line"));
+        for (MRDropButton *button : {fixture.button(), fixture.copy.data()}) {
+            QCOMPARE(shownColour(button), QColor(Qt::red));
+            QVERIFY(!button->GetCurrentAction());
+        }
+    }
+
+    void theButtonMayBeDeletedByWhatItRepeats()
+    {
+        Row fixture;
+        auto *button = new MRDropButton(nullptr, &fixture.window, {}, {}, {}, {});
+        button->SetAction(fixture.line);
+        const QPointer<MRDropButton> guarded(button);
+        connect(fixture.line, &QAction::triggered, button, [button] { delete button; });
+
+        button->DoCurrentActionSlot();
+        QVERIFY(!guarded);
+    }
+
+    void theDefaultEntryIsShownUnchecked()
+    {
+        Row fixture;
+        fixture.action->SetAction(fixture.oval);
+        fixture.addWithCopy();
+
+        QCOMPARE(fixture.button()->text(), QStringLiteral("Oval   "));
+        QCOMPARE(fixture.copy->text(), QStringLiteral("    Oval"));
+        for (MRDropButton *button : {fixture.button(), fixture.copy.data()}) {
+            QVERIFY(button->isCheckable());
+            QVERIFY(!button->isChecked());
+            QCOMPARE(button->popupMode(), QToolButton::MenuButtonPopup);
+        }
+    }
+
+    void theCopyStaysInStepWithTheRow()
+    {
+        Row fixture;
+        fixture.addWithCopy();
+        MRDropButton *button = fixture.button();
+        QCOMPARE(fixture.copy->text(), QStringLiteral("   Shapes"));
+        QCOMPARE(button->property("position").toString(), QStringLiteral("toolbar"));
+        QCOMPARE(fixture.copy->property("position").toString(), QStringLiteral("toolbarextend"));
+
+        fixture.oval->trigger();
+        QCOMPARE(button->text(), QStringLiteral("Oval   "));
+        QCOMPARE(fixture.copy->text(), QStringLiteral("    Oval"));
+        QVERIFY(button->isChecked() && fixture.copy->isChecked());
+
+        button->setChecked(false);
+        QVERIFY(!fixture.copy->isChecked());
+        fixture.copy->setChecked(true);
+        QVERIFY(button->isChecked());
+
+        button->SetAction(fixture.line);
+        QCOMPARE(fixture.copy->GetCurrentAction(), fixture.line);
+        button->DoSwitchSlot(fixture.plain);
+        QTRY_COMPARE(fixture.copy->GetCurrentAction(), fixture.plain);
+
+        button->setEnabled(false);
+        QVERIFY(!fixture.copy->isEnabled());
+    }
+
+    void theActionEnablesAndShowsEveryButton()
+    {
+        Row fixture;
+        fixture.addWithCopy();
+        fixture.show();
+        const QList<MRDropButton *> buttons{fixture.button(), fixture.copy};
+
+        // Of a row that is disabled as a whole, too.
+        fixture.row->setEnabled(false);
+        fixture.action->setEnabled(false);
+        fixture.row->setEnabled(true);
+        for (const MRDropButton *button : buttons)
+            QVERIFY(!button->isEnabled());
+        fixture.action->setEnabled(true);
+        for (const MRDropButton *button : buttons)
+            QVERIFY(button->isEnabled());
+        fixture.button()->setEnabled(false); // Told by itself; the action has the last word.
+        fixture.action->setEnabled(true);
+        for (const MRDropButton *button : buttons)
+            QVERIFY(button->isEnabled());
+
+        fixture.action->setVisible(false);
+        QVERIFY(!fixture.action->isVisible());
+        for (const MRDropButton *button : buttons)
+            QVERIFY(button->isHidden());
+        fixture.action->setVisible(true);
+        for (const MRDropButton *button : buttons)
+            QTRY_VERIFY(!button->isHidden());
+    }
+
+    void theExtendMenuMayBeDeletedAndComeBack()
+    {
+        Row fixture;
+        fixture.addWithCopy();
+        fixture.extendMenu.reset();
+        QVERIFY(!fixture.copy);
+        QVERIFY(!fixture.action->GetExtendMenu());
+        fixture.line->trigger();
+        fixture.action->DoDelayCloseMenuSlot();
+        fixture.action->setEnabled(false);
+
+        fixture.addWithCopy();
+        QCOMPARE(fixture.action->GetExtendMenu(), fixture.extendMenu.get());
+        QCOMPARE(fixture.copy->GetCurrentAction(), fixture.line);
+        QVERIFY(fixture.copy->isChecked() && !fixture.copy->isEnabled());
+
+        delete fixture.button();
+        QVERIFY(!fixture.action->GetWidget());
+        fixture.oval->trigger();
+        QCOMPARE(fixture.copy->GetCurrentAction(), fixture.oval);
+    }
+
+    void aNarrowRowOffersAWorkingCopy()
+    {
+        Row fixture;
+        for (int i = 0; i < 4; ++i)
+            fixture.row->addAction(QStringLiteral("A rather long command"));
+        fixture.row->addAction(fixture.action);
+        fixture.row->addAction(QStringLiteral("Last"));
+        fixture.row->resize(200, 60);
+        fixture.show();
+        auto *extension =
+            fixture.row->findChild<QToolButton *>(QStringLiteral("qt_toolbar_ext_button"));
+        QTRY_VERIFY(extension->isVisible());
+        QTRY_VERIFY(fixture.button()->isHidden());
+        QVERIFY(extension->menu());
+
+        // Showing what there is no room for leaves it where it is.
+        fixture.action->setVisible(true);
+        QTRY_VERIFY(fixture.button()->isHidden());
+
+        whenMenuPops([&fixture](QMenu *menu) {
+            fixture.copy = menu->findChild<MRDropButton *>();
+            QVERIFY(fixture.copy && fixture.copy->isVisible());
+            fixture.oval->trigger();
+            QVERIFY(!menu->isVisible());
+        });
+        extension->showMenu();
+        QTRY_COMPARE(fixture.button()->text(), QStringLiteral("Oval   "));
+        QVERIFY(!fixture.copy || fixture.copy->isChecked());
+    }
+
+    void theCopyAndItsMenuAreDressedForTheSkin()
+    {
+        for (const int skin : {marodi, lum}) {
+            const SkinChoice choice(skin);
+            Row fixture;
+            fixture.action->SetText(QString(40, QLatin1Char('w')));
+            fixture.addWithCopy();
+
+            const double scale = fixture.copy->physicalDpiX() / 96.0;
+            const QString padding =
+                skin == lum ? QStringLiteral("40px") : QStringLiteral("%1em").arg(scale * 3.5);
+            const QString menuStart = QStringLiteral("QMenu:item{padding-left:") + padding;
+            QVERIFY(fixture.extendMenu->styleSheet().startsWith(menuStart));
+            const QString copyStart =
+                QStringLiteral("QToolButton{height:%1em;").arg(scale * (skin == lum ? 1.75 : 2.0));
+            QVERIFY(fixture.copy->styleSheet().startsWith(copyStart));
+            QVERIFY(!fixture.copy->styleSheet().contains(QLatin1Char('%')));
+            QVERIFY(fixture.extendMenu->minimumWidth() > 80 + 40);
+        }
+    }
+
+    void hoveringTellsTheArrowFromTheBody_data()
+    {
+        QTest::addColumn<int>("skin");
+        QTest::addColumn<bool>("isSplit");
+        QTest::newRow("marodi, split") << marodi << true;
+        QTest::newRow("lum, split") << lum << true;
+        QTest::newRow("lum, whole") << lum << false;
+    }
+
+    void hoveringTellsTheArrowFromTheBody()
+    {
+        QFETCH(int, skin);
+        QFETCH(bool, isSplit);
+        const SkinChoice choice(skin);
+        Row fixture;
+        fixture.action->SetCheckable(isSplit);
+        fixture.row->addAction(fixture.action);
+        fixture.show();
+        MRDropButton *button = fixture.button();
+        button->setFixedSize(90, 50); // As on a tool row; the sheets alone would move the arrow.
+        const QString body = HoverSheets::dropButton(false, false, skin == lum, 1.0);
+        const QString arrow = HoverSheets::dropButton(false, true, skin == lum, 1.0);
+
+        QTest::mouseMove(button, bodyOf(button));
+        QTRY_COMPARE(button->styleSheet(), body);
+        QTest::mouseMove(button, arrowOf(button));
+        QTRY_COMPARE(button->styleSheet(), isSplit ? arrow : body);
+
+        // The sheet is set anew on every move.
+        button->setStyleSheet(QString());
+        QTest::mouseMove(button, arrowOf(button) + QPoint(0, 1));
+        QTRY_COMPARE(button->styleSheet(), isSplit ? arrow : body);
+
+        QCursor::setPos(1500, 1100);
+        QTRY_VERIFY(button->styleSheet().isEmpty());
+    }
+
+    void theCopyGetsItsOwnSheetBackOnLeaving()
+    {
+        Row fixture;
+        MRDropButton button(nullptr, &fixture.window, QStringLiteral("Copy"), {}, {}, {});
+        button.SetInHideFlag(true);
+        button.setMouseTracking(true);
+        button.setGeometry(50, 80, 120, 40);
+        button.setStyleSheet(QStringLiteral("QToolButton{height:2em;}"));
+        fixture.show();
+
+        QTest::mouseMove(&button, bodyOf(&button));
+        QTRY_COMPARE(button.styleSheet(),
+                     HoverSheets::dropButton(true, false, false, button.physicalDpiX() / 96.0));
+        QCursor::setPos(1500, 1100);
+        QTRY_COMPARE(button.styleSheet(), QStringLiteral("QToolButton{height:2em;}"));
+    }
+
+    void aSwitchRefreshesTheToolBarThatOwnsTheButton()
+    {
+        TestHost host(QString{});
+        host.show();
+        QAction entry(QStringLiteral("Line"));
+        MRDropButton button(nullptr, host.toolBar(), {}, {}, {}, {});
+        const ResizeCounter resizes(host.toolBar());
+        const QSize size = host.toolBar()->size();
+
+        button.DoSwitchSlot(&entry);
+        button.SetUpdateToolbar(true);
+        button.SetAction(&entry);
+        QCOMPARE(resizes.count, 0);
+        button.DoSwitchSlot(&entry);
+        QCOMPARE(resizes.count, 2);
+        button.DoCurrentActionSlot();
+        QCOMPARE(resizes.count, 4);
+        QCOMPARE(host.toolBar()->size(), size);
+    }
+};
+
+QTEST_MAIN(TestDropButton)
+#include "tst_dropbutton.moc"

@@ -1,0 +1,240 @@
+#include "tests/support/TestHost.h"
+#include "toolbar/widgets/MRScrollWidget.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPropertyAnimation>
+#include <QScrollBar>
+#include <QWheelEvent>
+#include <qtestspontaneevent.h>
+
+namespace {
+
+constexpr int rowWidth = 900;
+
+/** A row of fixed width in a narrower window, with a label and a combo box on it. */
+class ScrolledRow
+{
+public:
+    explicit ScrolledRow(int windowWidth)
+        : row(new QWidget)
+        , label(new QLabel(QStringLiteral("Label"), row))
+        , combo(new QComboBox(row))
+    {
+        row->setFixedSize(rowWidth, 60);
+        label->setGeometry(250, 0, 60, 60);
+        combo->setGeometry(80, 10, 100, 30);
+        for (int i = 0; i < 30; ++i)
+            combo->addItem(QString::number(i));
+        holder.SetWidget(row, Qt::AlignLeft);
+        holder.move(20, 20);
+        holder.resize(windowWidth, 64);
+        holder.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&holder));
+    }
+
+    MRScrollArea *area() const { return holder.findChild<MRScrollArea *>(); }
+    QScrollBar *bar() const { return area()->horizontalScrollBar(); }
+    int end() const { return rowWidth - area()->viewport()->width(); }
+    QPushButton *arrow(const char *side) const
+    {
+        return holder.findChild<QPushButton *>(QString::fromLatin1(side));
+    }
+    bool isMoving() const
+    {
+        return area()->findChild<QPropertyAnimation *>()->state() == QAbstractAnimation::Running;
+    }
+    void click(const char *side) const { QTest::mouseClick(arrow(side), Qt::LeftButton); }
+
+    MRScrollWidget holder;
+    QWidget *row;
+    QLabel *label;
+    QComboBox *combo;
+};
+
+/** Turns the wheel over the middle of a widget, with the pointer there. */
+void turnWheel(QWidget *target, const QPoint &delta)
+{
+    const QPoint centre = target->rect().center();
+    const QPoint global = target->mapToGlobal(centre);
+    QCursor::setPos(global);
+    QTRY_COMPARE(QCursor::pos(), global);
+    QWheelEvent event(centre, global, QPoint(), delta, Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    // Only an event from outside is handed up from widget to widget.
+    QSpontaneKeyEvent::setSpontaneous(&event);
+    qApp->notify(target, &event);
+}
+
+} // namespace
+
+class TestScrollWidget : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { QCursor::setPos(1500, 1100); }
+
+    void anArrowIsShownWhereContentIsHidden()
+    {
+        ScrolledRow fixture(1000);
+        QVERIFY(!fixture.arrow("left")->isVisible());
+        QVERIFY(!fixture.arrow("right")->isVisible());
+
+        fixture.holder.resize(400, 64);
+        QTRY_VERIFY(fixture.arrow("right")->isVisible());
+        QVERIFY(!fixture.arrow("left")->isVisible());
+
+        // A row that changes its own width, and one that is scrolled by the focus.
+        fixture.row->setFixedWidth(200);
+        QTRY_VERIFY(!fixture.arrow("right")->isVisible());
+        fixture.row->setFixedWidth(rowWidth);
+        QTRY_VERIFY(fixture.arrow("right")->isVisible());
+        fixture.bar()->setValue(fixture.end());
+        QVERIFY(fixture.arrow("left")->isVisible());
+        QVERIFY(!fixture.arrow("right")->isVisible());
+    }
+
+    void arrowsAreNamedAndKeepTheirPlace()
+    {
+        const ScrolledRow fixture(400);
+        const QRect before = fixture.area()->geometry();
+        fixture.bar()->setValue(10);
+        QCOMPARE(fixture.area()->geometry(), before);
+        QCOMPARE(fixture.arrow("left")->accessibleName(), QStringLiteral("向左滚动"));
+        QCOMPARE(fixture.arrow("right")->accessibleName(), QStringLiteral("向右滚动"));
+        QVERIFY(fixture.holder.findChild<MRExtendButton *>(QStringLiteral("leftextend")));
+        QVERIFY(fixture.holder.findChild<MRExtendButton *>(QStringLiteral("rightextend")));
+        QVERIFY(!fixture.arrow("left")->icon().isNull());
+    }
+
+    void clicksGoToTheFarEndAndBack()
+    {
+        const ScrolledRow fixture(400);
+        fixture.click("right");
+        QVERIFY(fixture.isMoving());
+        QTRY_COMPARE(fixture.bar()->value(), fixture.end());
+        QTRY_VERIFY(fixture.arrow("left")->isVisible());
+        QVERIFY(!fixture.arrow("right")->isVisible());
+
+        fixture.click("left");
+        QTRY_COMPARE(fixture.bar()->value(), 0);
+        QTRY_VERIFY(!fixture.arrow("left")->isVisible());
+    }
+
+    void clicksInTheMiddleGoAStepToTheirSide()
+    {
+        const ScrolledRow fixture(400);
+        fixture.bar()->setValue(200);
+        fixture.click("right");
+        QTRY_VERIFY(fixture.bar()->value() > 200);
+        fixture.click("right"); // Still moving.
+        QTRY_VERIFY(!fixture.isMoving());
+        QCOMPARE(fixture.bar()->value(), 380);
+        fixture.click("left");
+        QTRY_VERIFY(!fixture.isMoving());
+        QCOMPARE(fixture.bar()->value(), 200);
+    }
+
+    void theWheelGoesAStep_data()
+    {
+        QTest::addColumn<QPoint>("delta");
+        QTest::addColumn<int>("value");
+        QTest::newRow("away from the user") << QPoint(0, 120) << 380;
+        QTest::newRow("towards the user") << QPoint(0, -15) << 20;
+        QTest::newRow("sideways") << QPoint(120, 0) << 200;
+    }
+
+    void theWheelGoesAStep()
+    {
+        QFETCH(QPoint, delta);
+        QFETCH(int, value);
+        const ScrolledRow fixture(400);
+        for (QWidget *target :
+             {static_cast<QWidget *>(fixture.label), fixture.area()->viewport()}) {
+            fixture.bar()->setValue(200);
+            turnWheel(target, delta);
+            QTRY_VERIFY(!fixture.isMoving() || fixture.bar()->value() != 200);
+            turnWheel(target, delta); // Ignored while it moves.
+            QTRY_VERIFY(!fixture.isMoving());
+            QCOMPARE(fixture.bar()->value(), value);
+        }
+    }
+
+    void theWheelOverAComboBoxIsTheComboBoxsOwn_data()
+    {
+        QTest::addColumn<bool>("isEditable");
+        QTest::newRow("field") << false;
+        QTest::newRow("line edit") << true;
+    }
+
+    void theWheelOverAComboBoxIsTheComboBoxsOwn()
+    {
+        QFETCH(bool, isEditable);
+        const ScrolledRow fixture(400);
+        fixture.combo->setEditable(isEditable);
+        QWidget *target =
+            isEditable ? static_cast<QWidget *>(fixture.combo->lineEdit()) : fixture.combo;
+        // At the last entry, too, where the combo box itself has nothing left to do.
+        fixture.combo->setCurrentIndex(28);
+        for (int turn = 0; turn < 2; ++turn) {
+            turnWheel(target, QPoint(0, -120));
+            QVERIFY(!fixture.isMoving());
+            QCOMPARE(fixture.combo->currentIndex(), 29);
+        }
+    }
+
+    void theWheelOverAnOpenListScrollsTheListOnly()
+    {
+        const ScrolledRow fixture(400);
+        fixture.combo->showPopup();
+        QAbstractItemView *list = fixture.combo->view();
+        // Over the row, where the pointer alone doesn't tell the two apart.
+        list->window()->move(fixture.row->mapToGlobal(QPoint(0, 0)));
+        list->window()->resize(150, 60);
+        QTRY_VERIFY(list->verticalScrollBar()->maximum() > 0);
+
+        turnWheel(list->viewport(), QPoint(0, -120));
+        QVERIFY(list->verticalScrollBar()->value() > 0);
+        QVERIFY(!fixture.isMoving());
+        fixture.combo->hidePopup();
+    }
+
+    void theWheelElsewhereLeavesTheRowAlone()
+    {
+        const ScrolledRow fixture(400);
+        QWidget other;
+        other.setGeometry(600, 600, 100, 100);
+        other.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&other));
+        turnWheel(&other, QPoint(0, 120));
+        QVERIFY(!fixture.isMoving());
+        other.move(fixture.label->mapToGlobal(QPoint(-20, -20))); // In front of the row.
+        turnWheel(&other, QPoint(0, 120));
+        QVERIFY(!fixture.isMoving());
+
+        // Nor does the row answer for an event that the pointer is not there for.
+        QCursor::setPos(1500, 1100);
+        QWheelEvent stray(QPoint(5, 5), QPoint(5, 5), QPoint(), QPoint(0, 120), Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        fixture.label->setAttribute(Qt::WA_NoMousePropagation);
+        QApplication::sendEvent(fixture.label, &stray);
+        QVERIFY(!fixture.isMoving());
+    }
+
+    void anAreaThatIsGoneWatchesNothing()
+    {
+        auto *doomed = new ScrolledRow(400);
+        doomed->click("right");
+        delete doomed;
+        const ScrolledRow fixture(400);
+        turnWheel(fixture.label, QPoint(0, 120));
+        QVERIFY(fixture.isMoving());
+    }
+};
+
+QTEST_MAIN(TestScrollWidget)
+#include "tst_scrollwidget.moc"
