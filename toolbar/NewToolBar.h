@@ -324,6 +324,7 @@ private:
     bool m_externalQss = false;
     bool m_toolRowsShown = true;
     bool m_isFirstUsableCall = true;
+    bool m_isLeavingTab = false;
 
     // Last, so that it is the first to go.
     QTimer m_delayTimer;

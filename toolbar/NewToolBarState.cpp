@@ -12,6 +12,7 @@
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QToolBar>
+#include <QWidgetAction>
 
 #include <algorithm>
 
@@ -51,6 +52,27 @@ void enableIfAvailable(QAction *action, bool usable)
 {
     if (ActionData::isAvailable(action))
         enableAction(action, usable);
+}
+
+/** Triggers the action without a report to the host. */
+void triggerSilently(QAction *action)
+{
+    const QPointer<QAction> guarded(action);
+    const QVariant data = action->data();
+    ActionData::silence(action);
+    triggerAction(action);
+    // Nobody but the dispatcher ends the silence, and not every action is connected to that.
+    if (guarded && ActionData::isSilent(action))
+        action->setData(data);
+}
+
+/** A widget on a tool row takes its enabled state from its action whenever that is shown. */
+void showRowWidget(QWidgetAction *action, bool visible)
+{
+    QWidget *widget = action->defaultWidget();
+    const bool isEnabled = widget->isEnabledTo(widget->parentWidget());
+    action->setVisible(visible);
+    widget->setEnabled(isEnabled);
 }
 
 bool hasCheckedAction(const QMenu *menu)
@@ -156,8 +178,8 @@ void NewToolBar::showToolRows(bool visible)
 
 void NewToolBar::showAdditionalControls(bool visible)
 {
-    const bool isRowShown = m_currentScrollWidget && !m_currentScrollWidget->isHidden();
-    const bool isRowHidden = m_currentScrollWidget && m_currentScrollWidget->isHidden();
+    const bool isRowShown = m_currentScrollWidget && m_currentScrollWidget->isVisibleTo(this);
+    const bool isRowHidden = m_currentScrollWidget && !isRowShown;
     for (QWidget *control : m_additionalWidgets) {
         const QString name = control->objectName();
         // Of the two fold buttons only the one that can do something comes back.
@@ -197,6 +219,9 @@ void NewToolBar::showAction(QAction *action, bool visible)
 {
     if (auto *dropAction = qobject_cast<MRDropButtonAction *>(action))
         dropAction->setVisible(visible);
+    else if (auto *widgetAction = qobject_cast<QWidgetAction *>(action);
+             widgetAction && widgetAction->defaultWidget())
+        showRowWidget(widgetAction, visible);
     else
         action->setVisible(visible);
     if (!visible)
@@ -210,7 +235,8 @@ void NewToolBar::replaceCurrentEntry(const QAction *hidden)
             continue;
         const QList<QAction *> entries = button->menu()->actions();
         const auto start = entries.indexOf(const_cast<QAction *>(hidden));
-        for (qsizetype step = 1; step < entries.size(); ++step) {
+        // The button's own entry is not in the menu; the search then begins with the first.
+        for (qsizetype step = 1; step <= entries.size(); ++step) {
             QAction *entry = entries.at((start + step) % entries.size());
             if (entry != hidden && entry->isVisible()) {
                 button->SetAction(entry);
@@ -234,12 +260,10 @@ void NewToolBar::DoSetControlCheckedStateSlot(QString &objName, bool checked)
         QAction *action = m_actions.at(position);
         if (action->isChecked() == checked)
             continue;
-        if (checked) {
-            ActionData::silence(action);
-            triggerAction(action);
-        } else {
+        if (checked)
+            triggerSilently(action);
+        else
             action->setChecked(false);
-        }
         if (!self)
             return;
     }

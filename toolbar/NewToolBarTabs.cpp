@@ -188,7 +188,8 @@ QString NewToolBar::currentTabName() const
 
 bool NewToolBar::leaveTab(const QAbstractButton *button)
 {
-    if (currentTabName() != button->objectName())
+    // In its answer to the move the host may set the state of this tab once more.
+    if (m_isLeavingTab || currentTabName() != button->objectName())
         return false;
 
     // Folded and moved on whatever the state that the host has set, deliberately.
@@ -197,7 +198,11 @@ bool NewToolBar::leaveTab(const QAbstractButton *button)
         m_currentScrollWidget->hide();
     const QList<QAbstractButton *> buttons = m_tabButtonGroup->buttons();
     const auto position = buttons.indexOf(const_cast<QAbstractButton *>(button));
+    const QPointer<NewToolBar> self(this);
+    m_isLeavingTab = true;
     buttons.at((position + 1) % buttons.size())->click();
+    if (self)
+        m_isLeavingTab = false;
     return true;
 }
 

@@ -65,7 +65,12 @@ MRDropButton::MRDropButton(QWidget *, QWidget *parent, QString text, QString ico
     setText(text);
     setIcon(QIcon(iconPath));
     setAutoRaise(false);
-    connect(this, &QToolButton::clicked, this, &MRDropButton::DoCurrentActionSlot);
+    connect(this, &QToolButton::clicked, this, [this] {
+        // Pressing a button that is all menu has opened the menu already; a click that is not the
+        // mouse's, a mnemonic's for instance, would open it once more.
+        if (popupMode() != InstantPopup || !menu())
+            DoCurrentActionSlot();
+    });
     setMouseTracking(false);
 }
 
