@@ -88,6 +88,7 @@ private Q_SLOTS:
         button.setCheckable(true);
         QTest::mouseMove(&button, {12, 20});
         QTRY_COMPARE(button.styleSheet(), HoverSheets::groupButton(false, skin == lum));
+        button.setStyleSheet(QString());
         QTest::mouseMove(&button, {button.width() - 4, 20});
         QTRY_COMPARE(button.styleSheet(), HoverSheets::groupButton(hasMenu, skin == lum));
 

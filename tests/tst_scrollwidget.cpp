@@ -55,18 +55,18 @@ public:
     QComboBox *combo;
 };
 
-/** Turns the wheel over the middle of a widget, with the pointer there. */
+/** Turns the wheel over the middle of a widget, as the windowing system would report it. */
 void turnWheel(QWidget *target, const QPoint &delta)
 {
     const QPoint centre = target->rect().center();
     const QPoint global = target->mapToGlobal(centre);
     QCursor::setPos(global);
     QTRY_COMPARE(QCursor::pos(), global);
-    QWheelEvent event(centre, global, QPoint(), delta, Qt::NoButton, Qt::NoModifier,
-                      Qt::NoScrollPhase, false);
-    // Only an event from outside is handed up from widget to widget.
+    QWidget *window = target->window();
+    QWheelEvent event(target->mapTo(window, centre), global, QPoint(), delta, Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
     QSpontaneKeyEvent::setSpontaneous(&event);
-    qApp->notify(target, &event);
+    qApp->notify(window->windowHandle(), &event);
 }
 
 } // namespace
@@ -206,7 +206,7 @@ private Q_SLOTS:
     void theWheelElsewhereLeavesTheRowAlone()
     {
         const ScrolledRow fixture(400);
-        QWidget other;
+        QWidget other(fixture.row, Qt::Tool); // A window of its own, if below the row.
         other.setGeometry(600, 600, 100, 100);
         other.show();
         QVERIFY(QTest::qWaitForWindowExposed(&other));

@@ -1,0 +1,151 @@
+#include "tests/support/TestHost.h"
+
+namespace {
+
+/** A facade without a toolbar, of which the boundary itself is all that is left. */
+struct Bare
+{
+    QDomNode description;
+    MRToolBar facade{nullptr, description, {}, ToolBarLeft};
+};
+
+QVariantList fields(const SearchOption &option)
+{
+    return {option.content, option.direction, option.wholeWord, option.noCase, option.newSearch};
+}
+
+} // namespace
+
+/** The boundary between the host and the library. */
+class FacadeTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void shouldAnswerNeutrallyWithoutAToolBar_data()
+    {
+        QTest::addColumn<bool>("hadWindow");
+        QTest::newRow("there never was a window") << false;
+        QTest::newRow("the window has died") << true;
+    }
+
+    void shouldAnswerNeutrallyWithoutAToolBar()
+    {
+        QFETCH(bool, hadWindow);
+        TestHost host("<toolbar_tabbar><tabbutton name='t' checked='true'><button text='nameless'/>"
+                      "<button action='a' checkable='true' checked='true'/></tabbutton>"
+                      "</toolbar_tabbar>");
+        QVERIFY(host.facade().IsSupportByToolBar("a"));
+        QVERIFY(host.toolBar()->IsSupportByToolBar(""));
+        QVERIFY2(!host.facade().IsSupportByToolBar(""), "An empty name is nobody's");
+        host.deleteWindow();
+        Bare bare;
+        MRToolBar &facade = hadWindow ? host.facade() : bare.facade;
+
+        QString name = "a";
+        QVERIFY(!facade.GetCompositeVisible(name) && !facade.GetCompositeEnable(name));
+        QVERIFY(!facade.IsSupportByToolBar(name) && !facade.GetControlCheckedState(name));
+        QCOMPARE(facade.GetQuickAccessButtonList() + facade.GetToolBarStyleSheet(), QString());
+        QCOMPARE(facade.GetControlGeometry(name), QRect(QPoint(0, 0), QPoint(-1, -1)));
+
+        facade.DoSetControlUsableStateSlot(name, true);
+        facade.DoSetControlCheckedStateSlot(name, true);
+        facade.DoSetControlVisibleStateSlot(name, true);
+        facade.DoSetPageInfoSlot(1, 2);
+        facade.DoSetSkinStyleSlot({{"[MainColor]", "red"}});
+        facade.DoResetToolbarSlot();
+    }
+
+    void shouldSendTheTotalBeforeThePage_data()
+    {
+        QTest::addColumn<int>("page");
+        QTest::addColumn<int>("total");
+        QTest::addColumn<QStringList>("sent");
+        QTest::newRow("page and total") << 3 << 12 << QStringList{"/ 12", "3"};
+        QTest::newRow("no total") << 3 << 0 << QStringList{" ", " "};
+        QTest::newRow("no page") << 0 << 7 << QStringList{" ", " "};
+        QTest::newRow("negative numbers") << -1 << -2 << QStringList{"/ -2", "-1"};
+    }
+
+    void shouldSendTheTotalBeforeThePage()
+    {
+        QFETCH(int, page);
+        QFETCH(int, total);
+        QFETCH(QStringList, sent);
+        Bare from;
+        const QSignalSpy totals(&from.facade, SIGNAL(Inner_DoSetTotalPage(QString)));
+        // Two spies would not show the order; a second facade brings both into one signal.
+        Bare recorder;
+        const QSignalSpy order(&recorder.facade, &MRToolBar::DoActive);
+        for (const char *signal :
+             {SIGNAL(Inner_DoSetTotalPage(QString)), SIGNAL(Inner_DoSetPageNum(QString))})
+            QVERIFY(
+                connect(&from.facade, signal, &recorder.facade, SLOT(Inner_DoActiveSlot(QString))));
+
+        from.facade.DoSetPageInfoSlot(page, total);
+        QCOMPARE(TestHost::texts(order), sent);
+        QCOMPARE(TestHost::texts(totals), QStringList(sent.first()));
+    }
+
+    void shouldDeclareWhatHostsConnectToByText()
+    {
+        const QString expected =
+            "Inner_DoSetControlUsableState(QString&,bool) "
+            "Inner_DoSetControlCheckedState(QString&,bool) "
+            "Inner_DoSetControlVisibleState(QString&,bool) Inner_DoSetTotalPage(QString) "
+            "Inner_DoSetPageNum(QString) Inner_DoSetZoomMode(QString) "
+            "Inner_DoUpdateRecentFile(QStringList) Inner_DoSetBackgound(BackgroundStyle) "
+            "Inner_DoSetSkinStyle(ToolBarSkinStyle) DoGotoPage(int) DoActive(QString) "
+            "DoDoubleActive(QString) DoOpenFile(QString) DoSetZoomMode(QString) "
+            "DoSearchContent(SearchOption) DoSetBackground(BackgroundStyle) DoRequestAuthority() "
+            "Inner_DoGotoPageSlot(int) Inner_DoActiveSlot(QString) "
+            "Inner_DoDoubleActionSlot(QString) "
+            "Inner_DoOpenFileSlot(QString) Inner_DoSetZoomModeSlot(QString) "
+            "Inner_DoSearchContentSlot(SearchOption) Inner_DoSetBackgroundSlot(BackgroundStyle) "
+            "DoSetControlUsableStateSlot(QString&,bool) "
+            "DoSetControlCheckedStateSlot(QString&,bool) "
+            "DoSetZoomModeSlot(QString) DoSetPageInfoSlot(int,int) "
+            "DoUpdateRecentFileSlot(QStringList) "
+            "DoSetControlVisibleStateSlot(QString&,bool) DoSetBackgroundSlot(BackgroundStyle) "
+            "DoSetSkinStyleSlot(ToolBarSkinStyle) DoResetToolbarSlot()";
+        const QMetaObject &metaObject = MRToolBar::staticMetaObject;
+        QStringList declared;
+        for (int i = metaObject.methodOffset(); i < metaObject.methodCount(); ++i)
+            declared.append(metaObject.method(i).methodSignature());
+        QCOMPARE(declared, expected.split(' '));
+    }
+
+    void shouldCarryItsTypesThroughQueuedConnections()
+    {
+        Bare from;
+        Bare to;
+        const char *const pairs[][2]{
+            {SIGNAL(DoSearchContent(SearchOption)), SLOT(Inner_DoSearchContentSlot(SearchOption))},
+            {SIGNAL(DoSetBackground(BackgroundStyle)),
+             SLOT(Inner_DoSetBackgroundSlot(BackgroundStyle))},
+            {SIGNAL(Inner_DoSetSkinStyle(ToolBarSkinStyle)),
+             SLOT(DoSetSkinStyleSlot(ToolBarSkinStyle))}};
+        for (const auto &[signal, slot] : pairs)
+            QVERIFY(connect(&from.facade, signal, &to.facade, slot, Qt::QueuedConnection));
+        QSignalSpy searches(&to.facade, SIGNAL(DoSearchContent(SearchOption)));
+        QSignalSpy backgrounds(&to.facade, SIGNAL(DoSetBackground(BackgroundStyle)));
+        QSignalSpy skins(&to.facade, SIGNAL(Inner_DoSetSkinStyle(ToolBarSkinStyle)));
+
+        const ToolBarSkinStyle skin{{"[MainColor]", "#123456"}};
+        const SearchOption search{"ofd", 0, true, true, true};
+        from.facade.Inner_DoSearchContentSlot(search);
+        from.facade.Inner_DoSetBackgroundSlot(Background_Eyeguard);
+        from.facade.DoSetSkinStyleSlot(skin);
+        QCOMPARE(searches.count(), 0);
+
+        QTRY_COMPARE(skins.count(), 1);
+        QCOMPARE(skins.first().first().value<ToolBarSkinStyle>(), skin);
+        QCOMPARE(searches.count(), 1);
+        QCOMPARE(fields(searches.first().first().value<SearchOption>()), fields(search));
+        QCOMPARE(backgrounds.count(), 1);
+        QCOMPARE(backgrounds.first().first().value<BackgroundStyle>(), Background_Eyeguard);
+    }
+};
+
+QTEST_MAIN(FacadeTest)
+#include "tst_facade.moc"

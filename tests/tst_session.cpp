@@ -1,0 +1,242 @@
+#include "tests/support/TestHost.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QToolBar>
+
+namespace {
+
+/** A host that works through a shipped toolbar with mouse and keys and notes what it hears. */
+class Session
+{
+public:
+    Session(int skin, const QString &path, QStringList unusable)
+        : m_skin(skin)
+        , m_host(TestHost::withShipped(path))
+        , m_unusable(std::move(unusable))
+    {
+        MRToolBar *facade = &m_host->facade();
+        note("DoActive", &MRToolBar::DoActive);
+        note("DoDoubleActive", &MRToolBar::DoDoubleActive);
+        note("DoOpenFile", &MRToolBar::DoOpenFile);
+        note("DoSetZoomMode", &MRToolBar::DoSetZoomMode);
+        note("DoGotoPage", &MRToolBar::DoGotoPage);
+        QObject::connect(facade, &MRToolBar::DoSetBackground, facade,
+                         [this](BackgroundStyle style) {
+                             log.append(QStringLiteral("DoSetBackground %1").arg(style));
+                         });
+        QObject::connect(facade, &MRToolBar::DoSearchContent, facade, [this](SearchOption option) {
+            log.append(QStringLiteral("DoSearchContent %1 %2 %3%4%5")
+                           .arg(option.content)
+                           .arg(option.direction)
+                           .arg(option.wholeWord)
+                           .arg(option.noCase)
+                           .arg(option.newSearch));
+        });
+        QObject::connect(facade, &MRToolBar::DoRequestAuthority, facade, [this] {
+            log.append(QStringLiteral("DoRequestAuthority"));
+            reportStates();
+        });
+        reportStates();
+        m_host->show();
+    }
+
+    TestHost &host() { return *m_host; }
+
+    void click(const QString &button) { m_host->click(button); }
+
+    /** Clicks the command where it stands on a tool bar that is on the screen. */
+    void clickOnRow(const QString &command)
+    {
+        const QList<QToolBar *> rows = m_host->window().findChildren<QToolBar *>();
+        for (const QToolBar *row : rows) {
+            const QList<QAction *> actions = row->actions();
+            for (QAction *action : actions) {
+                QWidget *face = row->widgetForAction(action);
+                if (action->objectName() == command && face->isVisible()) {
+                    QTest::mouseClick(face, Qt::LeftButton, {}, QPoint(6, face->height() / 2));
+                    return;
+                }
+            }
+        }
+        QFAIL(qPrintable(command + " stands on no row"));
+    }
+
+    /** Opens a menu, by a click on a button or on the row, and clicks through these entries. */
+    void choose(const std::function<void()> &open, const QStringList &entries)
+    {
+        whenMenuPops([entries](QMenu *menu) {
+            for (const QString &name : entries) {
+                QAction *entry = nullptr;
+                const QList<QAction *> actions = menu->actions();
+                for (QAction *action : actions) {
+                    const QMenu *subMenu = action->menu();
+                    if ((subMenu ? subMenu->objectName() : action->objectName()) == name)
+                        entry = action;
+                }
+                QVERIFY2(entry, qPrintable(name));
+                QMenu *subMenu = entry->menu();
+                QTest::mouseMove(menu, menu->actionGeometry(entry).center());
+                QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(entry).center());
+                if (subMenu)
+                    QTRY_VERIFY(subMenu->isVisible());
+                menu = subMenu;
+            }
+        });
+        open();
+        QTRY_VERIFY(!QApplication::activePopupWidget());
+    }
+
+    void enter(QLineEdit *field, const QString &text)
+    {
+        QTest::mouseClick(field, Qt::LeftButton);
+        field->selectAll();
+        QTest::keyClicks(QApplication::focusWidget(), text);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    }
+
+    QStringList log;
+
+private:
+    template <typename Signal>
+    void note(const char *name, Signal signal)
+    {
+        QObject::connect(&m_host->facade(), signal, &m_host->facade(), [this, name](auto value) {
+            log.append(QStringLiteral("%1 %2").arg(QLatin1String(name)).arg(value));
+        });
+    }
+
+    void reportStates()
+    {
+        const QList<QAction *> actions = m_host->window().findChildren<QAction *>();
+        for (const QAction *action : actions) {
+            if (!action->objectName().isEmpty())
+                m_host->setUsable(action->objectName(), !m_unusable.contains(action->objectName()));
+        }
+    }
+
+    SkinChoice m_skin;
+    std::unique_ptr<TestHost> m_host;
+    QStringList m_unusable;
+};
+
+} // namespace
+
+class TestSession : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aDayWithTheFullToolbar()
+    {
+        Session session(marodi, "marodi/mr_toolbar.debug.xml", {"f_save", "qbar_f_save"});
+        TestHost &host = session.host();
+        const auto menu = [&session](const char *button, const QStringList &entries) {
+            session.choose([&] { session.click(button); }, entries);
+        };
+        const auto drop = [&session](const char *name, const QString &entry) {
+            session.choose([&] { session.clickOnRow(name); }, {entry});
+        };
+        host.facade().DoSetPageInfoSlot(1, 25);
+        menu("menu_file", {"f_open"});
+        menu("menu_file", {"menu_help", "h_productinfo"});
+        menu("menu_file", {"f_save"}); // Not usable.
+        session.clickOnRow("qbar_f_print");
+        session.clickOnRow("qbar_f_save"); // Not usable either.
+        session.clickOnRow("t_handtool");
+        menu("ab_set", {"menu_view", "menu_view_pagelayout", "vpmode_doublepage"});
+
+        auto *page = host.find<QLineEdit>("d_gotopageinput");
+        session.enter(page, "7");
+        session.enter(page, "99");
+        QCOMPARE(page->text(), QStringLiteral("7/25"));
+        auto *zoom = host.find<QComboBox>("v_zoomlist");
+        zoom->setFocus();
+        QTest::keyClick(zoom, Qt::Key_End);
+        session.enter(zoom->lineEdit(), "37");
+        session.enter(zoom->lineEdit(), "100"); // On the list already.
+        session.clickOnRow("vzmode_fitwidth");
+        host.facade().DoSetZoomModeSlot("vzmode_fitwidth");
+        drop("v_foreground", "background_nighttime");
+        host.facade().DoSetBackgroundSlot(Background_Eyeguard);
+
+        session.click("tb_annot");
+        session.clickOnRow("tt_highlight");
+        drop("tp_shape", "tp_arrow");
+        session.clickOnRow("tp_shape"); // Once more the same.
+        host.setChecked("t_handtool", true);
+        session.click("tb_security");
+        session.clickOnRow("t_sealsign");
+        session.click("tb_annot"); // Filled already.
+
+        session.enter(host.find<QLineEdit>("st_input"), "OFD");
+        session.click("st_prev");
+        session.choose([&] { session.click("st_set"); }, {"st_option_nocase"});
+        session.click("st_next");
+        for (const char *button : {"e_preference", "t_fold", "t_extend"})
+            session.click(button);
+        host.facade().DoResetToolbarSlot();
+        QCOMPARE(session.log, QStringList({"DoRequestAuthority",
+                                           "DoActive f_open",
+                                           "DoActive h_productinfo",
+                                           "DoActive f_print",
+                                           "DoActive t_handtool",
+                                           "DoActive vpmode_doublepage",
+                                           "DoGotoPage 7",
+                                           "DoSetZoomMode vzmode_6400p",
+                                           "DoSetZoomMode vzmode_37p",
+                                           "DoActive vzmode_fitwidth",
+                                           "DoSetZoomMode vzmode_fitwidth",
+                                           "DoSetBackground 2",
+                                           "DoRequestAuthority",
+                                           "DoActive tt_highlight",
+                                           "DoActive tp_arrow",
+                                           "DoActive tp_arrow",
+                                           "DoRequestAuthority",
+                                           "DoActive t_sealsign",
+                                           "DoSearchContent OFD 1 000",
+                                           "DoSearchContent OFD 0 000",
+                                           "DoSearchContent OFD 1 010",
+                                           "DoActive e_preference",
+                                           "DoSetZoomMode vzmode_original"}));
+    }
+
+    void aDayWithTheCompactToolbar()
+    {
+        Session session(lum, "lum/mr_toolbar.release.xml", {"f_save"});
+        TestHost &host = session.host();
+        const auto menu = [&session](const char *button, const QStringList &entries) {
+            session.choose([&] { session.click(button); }, entries);
+        };
+        menu("ab_set", {"lum_open"}); // The second face of the same menu.
+        host.facade().DoSetPageInfoSlot(2, 9);
+        QCOMPARE(host.find<QLabel>("d_totalpagelabel")->text(), QStringLiteral("/9"));
+        menu("menu_file", {"f_exit"});
+        session.clickOnRow("f_open");
+        session.enter(host.find<QLineEdit>("d_gotopage"), "9");
+        session.click("tb_start"); // Folds
+        session.click("tb_start"); // and unfolds.
+        auto *zoom = host.find<QComboBox>("v_zoom");
+        host.facade().DoSetZoomModeSlot("vzmode_12.5p");
+        session.enter(zoom->lineEdit(), "12.5%");
+        session.enter(zoom->lineEdit(), "9999");
+        session.enter(zoom->lineEdit(), "80");
+        session.choose([&] { session.clickOnRow("v_foreground"); }, {"background_parchment"});
+        session.clickOnRow("vpmode_doublepage");
+        session.enter(host.find<QLineEdit>("st_input"), "seal");
+        session.click("e_preference");
+        host.facade().DoResetToolbarSlot();
+        QCOMPARE(session.log,
+                 QStringList({"DoRequestAuthority", "DoActive lum_open", "DoActive f_exit",
+                              "DoActive f_open", "DoGotoPage 9", "DoSetZoomMode vzmode_12.5p",
+                              "DoSetZoomMode vzmode_80p", "DoSetBackground 4",
+                              "DoActive vpmode_doublepage", "DoSearchContent seal 1 000",
+                              "DoActive e_preference", "DoSetZoomMode vzmode_original"}));
+    }
+};
+
+QTEST_MAIN(TestSession)
+#include "tst_session.moc"

@@ -1,0 +1,275 @@
+#include "tests/support/TestHost.h"
+#include "toolbar/skin/Skin.h"
+#include "toolbar/skin/StyleSheet.h"
+
+#include <QRegularExpression>
+#include <QToolBar>
+
+using SkinMap = QMap<QString, QString>;
+
+namespace {
+
+const SkinMap marodiDefaults{
+    {"[MainColor]", "#008AD9"},          {"[LightColor]", "#FFFFFF"},
+    {"[MainColor.checked]", "#1460AB"},  {"[ToolBarBgColor]", "#F5F5F5"},
+    {"[MainToolHoverColor]", "#EAEAEA"}, {"[MainToolPressColor]", "#B7B7B7"},
+    {"[MainToolCheckColor]", "#D3D3D3"}};
+const SkinMap lumDefaults{{"[MainColor]", "#008AD9"},
+                          {"[LightColor]", "#FFFFFF"},
+                          {"[MainColor.checked]", "#1368AD"},
+                          {"[ToolBarBgColor]", "#F4F4F4"},
+                          {"[Color.checked]", "rgb(195,198,202)"},
+                          {"[MainColor.hover]", "rgb(219,222,227)"},
+                          {"[MainColor.pressed]", "rgb(183,185,190)"}};
+
+/** The map with other values for some of its keys; a null value takes the key away. */
+SkinMap with(SkinMap map, const SkinMap &changes)
+{
+    for (auto change = changes.cbegin(); change != changes.cend(); ++change) {
+        if (change.value().isNull())
+            map.remove(change.key());
+        else
+            map.insert(change.key(), change.value());
+    }
+    return map;
+}
+
+QString shippedTemplate(int skin)
+{
+    return LoadQss(
+        QString(":/mr_toolbar/Resources/%1/qssfile.qss").arg(skin == lum ? "lum" : "marodi"));
+}
+
+QStringList sheetWarnings;
+
+void noteSheetWarnings(QtMsgType, const QMessageLogContext &, const QString &message)
+{
+    static const QRegularExpression aboutSheets("style ?sheet|Unknown property|Could not parse",
+                                                QRegularExpression::CaseInsensitiveOption);
+    if (message.contains(aboutSheets))
+        sheetWarnings.append(message);
+}
+
+} // namespace
+
+/** From a skin's map of colours to the sheet that a toolbar wears. */
+class SkinTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void shouldShipTemplatesWithTheirPlaceholders()
+    {
+        const QMap<QString, int> inMarodi{
+            {"[MainColor]", 12},         {"[MainColor.checked]", 13}, {"[ToolBarBgColor]", 7},
+            {"[MainToolCheckColor]", 7}, {"[MainToolHoverColor]", 6}, {"[MainToolPressColor]", 3},
+            {"[MainColor.hover]", 1},    {"[MainColor.pressed]", 1},  {"[DefaultFontSize]", 1}};
+        const QMap<QString, int> inLum{{"[MainColor.hover]", 19},
+                                       {"[Color.checked]", 9},
+                                       {"[MainColor.pressed]", 9},
+                                       {"[ToolBarBgColor]", 5},
+                                       {"[MainColor.checked]", 3}};
+        const QRegularExpression placeholder("\\[[A-Z][A-Za-z.]*\\]");
+        for (const int skin : {marodi, lum}) {
+            const QString sheet = shippedTemplate(skin);
+            QVERIFY2(!sheet.startsWith(QChar(QChar::ByteOrderMark)), "The mark is read as text");
+            QMap<QString, int> counts;
+            for (auto match = placeholder.globalMatch(sheet); match.hasNext();)
+                ++counts[match.next().captured()];
+            QCOMPARE(counts, skin == lum ? inLum : inMarodi);
+        }
+    }
+
+    void shouldFillInTheOrderOfTheKeys_data()
+    {
+        QTest::addColumn<SkinMap>("map");
+        QTest::addColumn<bool>("isCompact");
+        QTest::addColumn<QString>("sheet");
+        QTest::addColumn<QString>("filled");
+        const QString sizes = "[DefaultFontSize] [MenuItemHeight] [MenuItemPaddingLeft]";
+        const QList<std::tuple<const char *, SkinMap, bool, QString, const char *>> rows{
+            {"every occurrence", SkinMap{{"[A]", "x"}}, false, "[A][A]", "xx"},
+            {"by a later key", SkinMap{{"[A]", "[B]"}, {"[B]", "x"}}, false, "[A]", "x"},
+            {"not by an earlier key", SkinMap{{"[A]", "x"}, {"[B]", "[A]"}}, false, "[B]", "[A]"},
+            {"by a size", SkinMap{{"[A]", "[DefaultFontSize]"}}, false, "[A]", "12"},
+            {"any text is a key", SkinMap{{"QMenu", "X"}}, false, "QMenu{}", "X{}"},
+            {"no pattern", SkinMap{{"[a].", "x"}}, false, "[A]. a", "[A]. a"},
+            {"no value", SkinMap{}, false, "[MainColor]", "[MainColor]"},
+            {"sizes", SkinMap{}, false, sizes, "12 4 4"},
+            {"sizes, compact", SkinMap{}, true, sizes, "12 3.5 4"}};
+        for (const auto &[name, map, isCompact, sheet, filled] : rows)
+            QTest::newRow(name) << map << isCompact << sheet << filled;
+    }
+
+    void shouldFillInTheOrderOfTheKeys()
+    {
+        QFETCH(SkinMap, map);
+        QFETCH(bool, isCompact);
+        QFETCH(QString, sheet);
+        QFETCH(QString, filled);
+        QCOMPARE(StyleSheet::filled(sheet, map, isCompact), filled);
+    }
+
+    void shouldCompleteTheMapOfTheHost_data()
+    {
+        QTest::addColumn<int>("skin");
+        QTest::addColumn<SkinMap>("given");
+        QTest::addColumn<SkinMap>(
+            "deviation"); // Of the map at the start from the one after a switch.
+        const SkinMap hoverIsPressed{{"[MainColor.hover]", "rgb(183,185,190)"},
+                                     {"[MainColor.pressed]", QString()}};
+        const SkinMap other{{"[MainColor]", "red"}, {"more", "text"}};
+        QTest::newRow("marodi, nothing") << marodi << SkinMap{} << SkinMap{};
+        QTest::newRow("lum, nothing") << lum << SkinMap{} << SkinMap{};
+        QTest::newRow("marodi, some") << marodi << other << SkinMap{};
+        QTest::newRow("lum, some") << lum << other << hoverIsPressed;
+        QTest::newRow("lum, hover")
+            << lum << SkinMap{{"[MainColor.hover]", "blue"}} << hoverIsPressed;
+        QTest::newRow("lum, pressed")
+            << lum << SkinMap{{"[MainColor.pressed]", "red"}} << SkinMap{};
+    }
+
+    void shouldCompleteTheMapOfTheHost()
+    {
+        QFETCH(int, skin);
+        QFETCH(SkinMap, given);
+        QFETCH(SkinMap, deviation);
+        const SkinChoice choice(skin);
+        const SkinMap completed = with(skin == lum ? lumDefaults : marodiDefaults, given);
+        QCOMPARE(Skin::switchedMap(given), completed);
+        QCOMPARE(Skin::initialMap(given), with(completed, deviation));
+    }
+
+    void shouldScaleEveryLengthInPixels_data()
+    {
+        QTest::addColumn<QString>("sheet");
+        QTest::addColumn<float>("factor");
+        QTest::addColumn<QString>("scaled");
+        const QList<std::tuple<const char *, const char *, float, const char *>> rows{
+            {"nothing to do", "width:7px 007px", 1.0F, "width:7px 007px"},
+            {"rounded down", "border:1px solid", 1.25F, "border:1px solid"},
+            {"half is rounded up", "height:38px", 1.25F, "height:48px"},
+            {"several", "size:33px 11px", 1.25F, "size:41px 14px"},
+            {"smaller", "10px 0px", 0.5F, "5px 0px"},
+            {"capitals, comments", "/* 3PX */4Px", 2.0F, "/* 6PX */8Px"},
+            {"signs and points stay", "-5px 1.5px", 2.0F, "-10px 1.10px"},
+            {"other units", "2em 50% #123456 12 px", 2.0F, "2em 50% #123456 12 px"},
+            {"no blank between", "1px2px", 2.0F, "2px4px"}};
+        for (const auto &[name, sheet, factor, scaled] : rows)
+            QTest::newRow(name) << sheet << factor << scaled;
+    }
+
+    void shouldScaleEveryLengthInPixels()
+    {
+        QFETCH(QString, sheet);
+        QFETCH(float, factor);
+        QFETCH(QString, scaled);
+        QCOMPARE(NewToolBar::ScaleSheet(sheet, factor), scaled);
+    }
+
+    void shouldWearTheSheetOfItsSkin_data()
+    {
+        QTest::addColumn<int>("skin");
+        QTest::addColumn<bool>("isExternal");
+        QTest::newRow("lum") << lum << false;
+        QTest::newRow("any other") << -1 << false;
+        QTest::newRow("left to the host") << marodi << true;
+    }
+
+    void shouldWearTheSheetOfItsSkin()
+    {
+        QFETCH(int, skin);
+        QFETCH(bool, isExternal);
+        const SkinChoice choice(skin);
+        const SkinMap external{{"externalqss", ""}};
+        TestHost host("", isExternal ? external : SkinMap{});
+        const auto expected = [&](const SkinMap &map) {
+            const QString rule =
+                "QToolBar[intoolbar=\"true\"]{border:none;padding:0px 0px 0px 0px;}";
+            const QString sheet = StyleSheet::filled(shippedTemplate(skin), map, skin == lum);
+            const float scale = static_cast<float>(host.toolBar()->physicalDpiX()) / 96.0F;
+            return isExternal ? sheet + rule : StyleSheet::scaled(sheet + ' ' + rule, scale);
+        };
+        const auto isWorn = [&](const QString &sheet) {
+            const QString worn = host.find<QToolBar>("mrtoolbar")->styleSheet();
+            const QString kept = host.facade().GetToolBarStyleSheet();
+            return isExternal ? kept == sheet && worn.isEmpty() : worn == sheet && kept.isEmpty();
+        };
+        const SkinMap &defaults = skin == lum ? lumDefaults : marodiDefaults;
+        QVERIFY(isWorn(expected(defaults)));
+
+        // Where the sheet goes is settled: the key is one like any other by now.
+        const SkinMap colours =
+            with({{"[ToolBarBgColor]", "#ABCDEF"}}, isExternal ? SkinMap{} : external);
+        host.facade().DoSetSkinStyleSlot(colours);
+        const QString switched = expected(with(defaults, colours));
+        QVERIFY(switched.contains("#ABCDEF") && isWorn(switched));
+        host.facade().DoSetSkinStyleSlot({});
+        QVERIFY(isWorn(switched));
+    }
+
+    void shouldFindTheIconsOfItsOwnSkinOnly_data()
+    {
+        QTest::addColumn<int>("skin");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("path"); // Below the resources.
+        const QList<std::tuple<const char *, int, const char *, const char *>> rows{
+            {"marodi", marodi, "icon16/Print.svg", "marodi/icons/icon16/Print.svg"},
+            {"lum", lum, "icon16/Print.svg", "lum/icons/icon16/Print.svg"},
+            {"slash", lum, "/icon16/Print.svg", "lum/icons//icon16/Print.svg"},
+            {"no size directory", marodi, "h_software.svg", "marodi/icons/h_software.svg"},
+            {"the other skin's", lum, "h_software.svg", ""},
+            {"in a size directory", marodi, "Print.svg", ""},
+            {"no name", marodi, "", ""}};
+        for (const auto &[title, skin, name, path] : rows)
+            QTest::newRow(title) << skin << name << path;
+    }
+
+    void shouldFindTheIconsOfItsOwnSkinOnly()
+    {
+        QFETCH(int, skin);
+        QFETCH(QString, name);
+        QFETCH(QString, path);
+        const SkinChoice choice(skin);
+        QCOMPARE(TestHost("").toolBar()->GetIconPath(name),
+                 path.isEmpty() ? path : ":/mr_toolbar/Resources/" + path);
+    }
+
+    void shouldGiveTheToolkitNoReasonToWarn_data()
+    {
+        QTest::addColumn<int>("skin");
+        QTest::addColumn<QString>("document");
+        QTest::addColumn<SkinMap>("map");
+        QTest::newRow("marodi") << marodi << "marodi/mr_toolbar.debug.xml" << SkinMap{};
+        QTest::newRow("lum") << lum << "lum/mr_toolbar.debug.xml" << SkinMap{};
+        QTest::newRow("lum, without a pressed colour")
+            << lum << "lum/mr_toolbar.release.xml" << SkinMap{{"[MainColor]", "red"}};
+    }
+
+    void shouldGiveTheToolkitNoReasonToWarn()
+    {
+        QFETCH(int, skin);
+        QFETCH(QString, document);
+        QFETCH(SkinMap, map);
+        const SkinChoice choice(skin);
+        sheetWarnings.clear();
+        const QtMessageHandler previous = qInstallMessageHandler(noteSheetWarnings);
+        {
+            const auto host = TestHost::withShipped(document, map);
+            host->show();
+            host->toolBar()->Inner_DoDelayLoadMenuSlot();
+            const QList<QPushButton *> buttons = host->window().findChildren<QPushButton *>();
+            for (QPushButton *button : buttons) {
+                if (button->property("module").toString() == "tabbutton")
+                    button->click();
+            }
+            QCoreApplication::processEvents();
+        }
+        qInstallMessageHandler(previous);
+        sheetWarnings.removeDuplicates();
+        QVERIFY2(sheetWarnings.isEmpty(), qPrintable(sheetWarnings.join('\n')));
+    }
+};
+
+QTEST_MAIN(SkinTest)
+#include "tst_skin.moc"
