@@ -314,15 +314,6 @@ private Q_SLOTS:
         QCOMPARE(host.box->currentText(), QStringLiteral("Page"));
     }
 
-    void aHostMayEndTheToolbarWhenItHearsOfAZoom()
-    {
-        ZoomHost host;
-        connect(&host.facade(), &MRToolBar::DoSetZoomMode, &host.facade(),
-                [&host] { delete host.toolBar(); });
-        host.facade().DoResetToolbarSlot();
-        QVERIFY(!host.toolBar());
-    }
-
     void wrongTextShowsAHint()
     {
         ZoomHost host;

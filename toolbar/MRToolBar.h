@@ -99,7 +99,9 @@ Q_SIGNALS:
     void DoDoubleActive(QString objName);
     /** The user chose a recent file; @p fileName is an absolute path. */
     void DoOpenFile(QString fileName);
-    /** The user chose a zoom mode such as "vzmode_fitpage" or "vzmode_125p" (10 to 6400 percent).
+    /**
+     * The user chose a zoom mode such as "vzmode_fitpage" or "vzmode_125p" (10 to 6400 percent). It
+     * comes out of the box itself: a host that ends the toolbar on it must use deleteLater().
      */
     void DoSetZoomMode(QString zmode);
     /** The user searches. */

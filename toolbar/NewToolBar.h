@@ -230,6 +230,7 @@ private:
     void dispatchDoubleClickAction(const QString &name);
 
     // Pages and zoom.
+    static void setTypable(QComboBox *box, bool isTypable);
     void showCustomZoom(const QString &text);
     void checkZoomButton(const QString &mode);
     void chooseZoomEntry(int index, const QString &text);

@@ -268,9 +268,9 @@ void NewToolBar::addComboBox(const Controller &record, QToolBar *row)
 
 void NewToolBar::makeZoomBox(QComboBox *box, const Controller &record)
 {
-    if (box->currentText().endsWith(QLatin1Char('%')))
-        box->setEditable(true);
+    setTypable(box, box->isEditable() || box->currentText().endsWith(QLatin1Char('%')));
     m_zoomBox = box;
+    m_zoomIndex = box->currentIndex();
     m_zoomModes.clear();
     for (const Controller *item : record.children)
         m_zoomModes.append(item->name);

@@ -74,6 +74,8 @@ void NewToolBar::setUpAppButton(MRMenuButton *button, const Controller &record)
     button->setProperty("loaded", "false");
     button->setStyleSheet(noIndicatorSheet);
     button->setText(record.text);
+    if (record.text.isEmpty())
+        button->setAccessibleName(toolTipTitle(record.tooltip));
     if (record.children.isEmpty())
         return;
 

@@ -18,13 +18,6 @@ const QString zoomGroupName = QStringLiteral("zmode");
 const QString actualSizeName = QStringLiteral("vzmode_original");
 const QString customZoomName = QStringLiteral("vzmode_custom");
 
-/** Lets the box be typed into without finishing the user's number for him. */
-void setTypable(QComboBox *box, bool isTypable)
-{
-    box->setEditable(isTypable);
-    box->setCompleter(nullptr);
-}
-
 QString backgroundName(BackgroundStyle style)
 {
     switch (style) {
@@ -102,6 +95,14 @@ void NewToolBar::DoSetZoomModeSlot(QString mode)
     }
     if (self)
         checkZoomButton(mode);
+}
+
+void NewToolBar::setTypable(QComboBox *box, bool isTypable)
+{
+    box->setEditable(isTypable);
+    // What is typed counts, not what the box would make of its beginning.
+    if (isTypable)
+        box->setCompleter(nullptr);
 }
 
 void NewToolBar::showCustomZoom(const QString &text)

@@ -167,6 +167,9 @@ bool NewToolBar::InitMainToolBar(QString index)
         return true;
     }
     showTabPage(page);
+    // Leaving a tab by name has hidden its row; opening the tab brings it back.
+    if (m_currentScrollWidget && m_toolRowsShown)
+        m_currentScrollWidget->show();
     SetExtraGroupVisible(currentTabName());
     if (!m_toolRowStack->isVisible())
         setRowsFolded(false);
