@@ -231,6 +231,7 @@ private:
 
     // Pages and zoom.
     static void setTypable(QComboBox *box, bool isTypable);
+    void showZoomEntry(int index);
     void showCustomZoom(const QString &text);
     void checkZoomButton(const QString &mode);
     void chooseZoomEntry(int index, const QString &text);

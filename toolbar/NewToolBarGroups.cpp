@@ -169,16 +169,18 @@ MRGroupButton *NewToolBar::createGroupMenuButton(const Controller &record)
     SetWidgetToolTip(button, record.tooltip);
 
     const auto *action = qobject_cast<MRDropButtonAction *>(GetActionInTotal(record.name));
-    QMenu *menu = action ? action->GetMenu() : nullptr;
+    if (!action)
+        return button;
+    if (!record.checkable)
+        button->setText(record.text + QStringLiteral("  "));
+    QMenu *menu = action->GetMenu();
     if (!menu)
         return button;
 
     menu->setProperty("toolbar", "true");
     button->setMenu(menu);
-    if (!record.checkable) {
-        button->setText(record.text + QStringLiteral("  "));
+    if (!record.checkable)
         return button;
-    }
     const double width = static_cast<double>(longestText(record.text, *menu)) * 24.0 + 12.0;
     button->setFixedWidth(static_cast<int>(width * static_cast<double>(m_scale)));
     if (record.index > 0)

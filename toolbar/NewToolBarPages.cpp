@@ -79,22 +79,32 @@ void NewToolBar::Inner_DoGotoPageSlot()
 
 void NewToolBar::DoSetZoomModeSlot(QString mode)
 {
-    // Chosen before the box moves: that reports the mode to the host, which may do anything.
     const QPointer<NewToolBar> self(this);
     const auto known = m_zoomModes.indexOf(mode);
     if (known >= 0) {
         m_zoomIndex = static_cast<int>(known);
-        if (m_zoomBox) {
-            m_zoomBox->setCurrentIndex(m_zoomIndex);
-            if (self)
-                m_zoomBox->clearFocus();
-        }
+        if (m_zoomBox)
+            showZoomEntry(m_zoomIndex);
     } else if (m_zoomBox) {
         setTypable(m_zoomBox, true);
         showCustomZoom(ZoomText::entry(ZoomText::numberOfMode(mode)));
     }
     if (self)
         checkZoomButton(mode);
+}
+
+void NewToolBar::showZoomEntry(int index)
+{
+    // The move is reported from here and not by the box, which does not survive a host that ends
+    // the toolbar when it hears of it.
+    const bool hasMoved = m_zoomBox->currentIndex() != index;
+    {
+        const QSignalBlocker blocker(m_zoomBox);
+        m_zoomBox->setCurrentIndex(index);
+    }
+    m_zoomBox->clearFocus();
+    if (hasMoved)
+        Inner_DoSetZoomModeSlot(m_zoomBox->currentText());
 }
 
 void NewToolBar::setTypable(QComboBox *box, bool isTypable)

@@ -238,7 +238,8 @@ void NewToolBar::replaceCurrentEntry(const QAction *hidden)
         // The button's own entry is not in the menu; the search then begins with the first.
         for (qsizetype step = 1; step <= entries.size(); ++step) {
             QAction *entry = entries.at((start + step) % entries.size());
-            if (entry != hidden && entry->isVisible()) {
+            const bool isCommand = !entry->isSeparator() && !entry->menu();
+            if (entry != hidden && isCommand && entry->isVisible()) {
                 button->SetAction(entry);
                 break;
             }

@@ -6,6 +6,8 @@
 #include <QFileInfo>
 #include <QLineF>
 
+#include <algorithm>
+
 namespace {
 
 /** Not qHash(), whose values differ from run to run and from version to version. */
@@ -18,10 +20,22 @@ quint32 seedOf(const QFileInfo &file)
     return seed ^ quint32(file.size());
 }
 
+/** How far a point is from the way between two others. */
+qreal distanceTo(const QLineF &way, QPointF point)
+{
+    const QPointF along = way.p2() - way.p1();
+    const qreal square = QPointF::dotProduct(along, along);
+    if (square == 0)
+        return QLineF(way.p1(), point).length();
+    const qreal share = QPointF::dotProduct(point - way.p1(), along) / square;
+    return QLineF(way.pointAt(std::clamp(share, 0.0, 1.0)), point).length();
+}
+
 bool passesNear(const Mark &ink, QPointF point, qreal radius)
 {
-    for (const QPointF &step : ink.points) {
-        if (QLineF(step, point).length() <= radius + ink.width / 2)
+    for (int i = 0; i < ink.points.size(); ++i) {
+        const QLineF way(ink.points.at(std::max(0, i - 1)), ink.points.at(i));
+        if (distanceTo(way, point) <= radius + ink.width / 2)
             return true;
     }
     return false;

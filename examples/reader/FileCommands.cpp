@@ -12,6 +12,7 @@
 #include <QInputDialog>
 #include <QMainWindow>
 #include <QMessageBox>
+#include <QPushButton>
 
 namespace {
 
@@ -67,11 +68,14 @@ bool FileCommands::mayDiscard() const
 {
     if (m_parts.document->undoStack().isClean())
         return true;
-    const QString question =
-        QStringLiteral("“%1”有未保存的修改，要放弃吗？").arg(m_parts.document->title());
-    return QMessageBox::question(m_parts.window, m_parts.window->windowTitle(), question,
-                                 QMessageBox::Discard | QMessageBox::Cancel) ==
-           QMessageBox::Discard;
+    QMessageBox box(QMessageBox::Question, m_parts.window->windowTitle(),
+                    QStringLiteral("“%1”有未保存的修改，要放弃吗？").arg(m_parts.document->title()),
+                    QMessageBox::NoButton, m_parts.window);
+    const QPushButton *discard =
+        box.addButton(QStringLiteral("放弃修改"), QMessageBox::DestructiveRole);
+    box.addButton(QStringLiteral("取消"), QMessageBox::RejectRole);
+    box.exec();
+    return box.clickedButton() == discard;
 }
 
 void FileCommands::askAndOpen()

@@ -63,8 +63,8 @@ void paintTextMark(QPainter &painter, const Mark &mark)
 
 bool isTextMark(MarkKind kind)
 {
-    return kind == MarkKind::Highlight || kind == MarkKind::Underline ||
-           kind == MarkKind::WavyLine || kind == MarkKind::DeleteLine || kind == MarkKind::Revision;
+    return kind == MarkKind::Highlight || kind == MarkKind::Underline || kind == MarkKind::WavyLine
+           || kind == MarkKind::DeleteLine || kind == MarkKind::Revision;
 }
 
 } // namespace

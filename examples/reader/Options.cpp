@@ -65,7 +65,9 @@ Options Options::of(const QStringList &arguments, QString *error)
                                  QStringLiteral("[file]"));
     parser.addOptions(
         {skinOption(), descriptionOption(), screenshotOption(), clearHistoryOption()});
-    const QCommandLineOption help = parser.addHelpOption();
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
+                                  QStringLiteral("Show this text and end."));
+    parser.addOption(help);
 
     Options options;
     if (!parser.parse(arguments)) {

@@ -77,6 +77,11 @@ void appendLine(Page &page, const QString &text, QRectF rect, int pixels, bool b
     page.lines.append(line);
 }
 
+bool isLatin(QChar character)
+{
+    return character.unicode() < 0x80 && character.isLetterOrNumber();
+}
+
 /** How many characters from @p from on fit into a line; a comma or full stop may hang over. */
 int fittingLength(const QString &text, int from, const QFontMetricsF &metrics, qreal width)
 {
@@ -90,7 +95,12 @@ int fittingLength(const QString &text, int from, const QFontMetricsF &metrics, q
             break;
         ++length;
     }
-    return length;
+    // A word of letters goes to the next line whole.
+    int whole = length;
+    while (whole > 0 && from + whole < text.size() && isLatin(text.at(from + whole))
+           && isLatin(text.at(from + whole - 1)))
+        --whole;
+    return whole > 0 ? whole : length;
 }
 
 QStringList linesOf(const QString &text, const QFontMetricsF &metrics, qreal width)

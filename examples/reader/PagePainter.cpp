@@ -107,7 +107,8 @@ void paintPage(QPainter &painter, const Document &document, int index, const Pag
         fillRange(painter, page, decoration.currentHit, currentHitColour);
 
     paintLines(painter, page, colours.ink);
-    paintTextOfHits(painter, page, hits);
+    if (colours.ink.lightness() > colours.paper.lightness())
+        paintTextOfHits(painter, page, hits);
     paintFooter(painter, index, colours.ink);
 
     for (const Mark &mark : document.marks()) {

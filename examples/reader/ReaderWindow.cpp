@@ -10,6 +10,7 @@
 #include <toolbar/MRToolBar.h>
 
 #include <QCloseEvent>
+#include <QComboBox>
 #include <QDomDocument>
 #include <QLabel>
 #include <QShortcut>
@@ -121,7 +122,7 @@ void ReaderWindow::createShortcuts()
     };
     for (auto key = keys.cbegin(); key != keys.cend(); ++key) {
         auto *shortcut = new QShortcut(QKeySequence(key.key()), this);
-        const QString name = key.value();
+        const QString &name = key.value();
         connect(shortcut, &QShortcut::activated, this, [this, name] {
             if (m_commands.isUsable(name, state()))
                 runCommand(name);
@@ -154,7 +155,8 @@ void ReaderWindow::connectToolBar()
         m_view->setBackground(style);
         stateChanged();
     });
-    connect(toolBar, &MRToolBar::DoRequestAuthority, this, [this] { m_report->tellAll(state()); });
+    connect(toolBar, &MRToolBar::DoRequestAuthority, this, &ReaderWindow::answerRequest);
+    followZoomBox();
 }
 
 void ReaderWindow::connectParts()
@@ -195,6 +197,34 @@ void ReaderWindow::runCommand(const QString &name)
     if (!m_commands.run(name))
         parts().say(QStringLiteral("没有实现的命令：%1").arg(name));
     stateChanged();
+}
+
+void ReaderWindow::answerRequest()
+{
+    m_report->tellAll(state());
+    followZoomBox();
+}
+
+void ReaderWindow::followZoomBox()
+{
+    // A typed percentage that is one of the box's entries is not reported by the toolbar: the box
+    // only moves to that entry. The reader looks at the box itself, an ordinary child of its
+    // window.
+    for (const QString &name : {QStringLiteral("v_zoom"), QStringLiteral("v_zoomlist")}) {
+        const auto *box = findChild<QComboBox *>(name);
+        if (!box)
+            continue;
+        connect(box, QOverload<int>::of(&QComboBox::activated), this, &ReaderWindow::readZoomBox,
+                Qt::UniqueConnection);
+    }
+}
+
+void ReaderWindow::readZoomBox(int index)
+{
+    const auto *box = qobject_cast<QComboBox *>(sender());
+    const ZoomMode mode = ZoomMode::fromName(box->itemData(index).toString());
+    if (m_document.isOpen() && mode.isValid())
+        m_view->setZoomMode(mode);
 }
 
 void ReaderWindow::open(const QString &fileName)

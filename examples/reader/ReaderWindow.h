@@ -50,6 +50,9 @@ private:
     void connectToolBar();
     void connectParts();
     void runCommand(const QString &name);
+    void answerRequest();
+    void followZoomBox();
+    void readZoomBox(int index);
     ReaderState state() const;
     void stateChanged();
     void updateToolBar();

@@ -39,8 +39,8 @@ QPainterPath polygonPath(const QRectF &rect)
     QPolygonF corners;
     for (int i = 0; i < polygonCorners; ++i) {
         const qreal angle = 2 * M_PI * i / polygonCorners;
-        corners << rect.center() +
-                       QPointF(rect.width() / 2 * qCos(angle), rect.height() / 2 * qSin(angle));
+        corners << rect.center()
+                       + QPointF(rect.width() / 2 * qCos(angle), rect.height() / 2 * qSin(angle));
     }
     QPainterPath path;
     path.addPolygon(corners);

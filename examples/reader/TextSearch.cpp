@@ -41,8 +41,8 @@ void TextSearch::clear()
 
 bool TextSearch::isSameQuestion(const SearchOption &option) const
 {
-    return option.content == m_option.content && option.wholeWord == m_option.wholeWord &&
-           option.noCase == m_option.noCase;
+    return option.content == m_option.content && option.wholeWord == m_option.wholeWord
+           && option.noCase == m_option.noCase;
 }
 
 void TextSearch::findHits(const Document &document)
