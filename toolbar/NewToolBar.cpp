@@ -73,10 +73,10 @@ NewToolBar::~NewToolBar()
     }
     qDeleteAll(m_menuStyles);
 
-    // When the window dies it takes its tool bar along, and the pointer is null by now. Otherwise
-    // the empty strip would stay.
-    if (m_hostToolBar)
-        m_hostToolBar->deleteLater();
+    // Alone, this widget takes its strip along. A strip that is dying itself, with its window or
+    // without, is no tool bar any more by the time it deletes its children.
+    if (auto *strip = qobject_cast<QToolBar *>(parentWidget()))
+        strip->deleteLater();
 }
 
 bool NewToolBar::Init(QDomNode &description)
