@@ -14,7 +14,7 @@
  */
 
 /** Where the controls of a tool row stand within the width of the window. */
-enum ToolBarAlignment
+enum ToolBarAlignment : int
 {
     ToolBarLeft = 0,
     ToolBarCenter = 1, ///< Centred in both directions; any value outside the enumeration, too.
@@ -22,7 +22,7 @@ enum ToolBarAlignment
 };
 
 /** How the host paints the ground of its pages. Values outside it stand for the default. */
-enum BackgroundStyle
+enum BackgroundStyle : int
 {
     Background_Default = 0,   ///< control "background_default"
     Background_Daytime = 1,   ///< control "background_daytime"
