@@ -4,6 +4,7 @@
 #include "toolbar/description/DescriptionParser.h"
 #include "toolbar/skin/Skin.h"
 #include "toolbar/widgets/CustomMenuStyle.h"
+#include "toolbar/widgets/DropMenuIndex.h"
 #include "toolbar/widgets/MRSearchBar.h"
 #include "toolbar/widgets/ToolTipCard.h"
 
@@ -48,6 +49,7 @@ NewToolBar::NewToolBar(QMainWindow *mainWindow, QDomNode &description, QMap<QStr
     , m_alignment(alignment)
 {
     m_scale = static_cast<float>(physicalDpiX()) / 96.0F;
+    m_dropMenus = new DropMenuIndex(this);
     connect(&m_delayTimer, &QTimer::timeout, this, &NewToolBar::Inner_DoDelayActionSlot);
     m_quickAccessButtons = skin.value(QStringLiteral("quickaccessbarbuttons"));
 

@@ -11,6 +11,7 @@
 #include <QWidget>
 
 class CustomMenuStyle;
+class DropMenuIndex;
 class MRDropButton;
 class MRDropButtonAction;
 class MRGroupButton;
@@ -273,6 +274,7 @@ private:
 
     QLineEdit *m_pageNumberEdit = nullptr;
     NamedList<MRDropButton> m_dropButtons;
+    DropMenuIndex *m_dropMenus = nullptr; ///< Of the drop buttons' menus.
     QMainWindow *m_mainWindow = nullptr;
     ToolBarAlignment m_alignment = ToolBarCenter;
     QWidget *m_foldButton = nullptr;   ///< Folds; on show while the rows are.

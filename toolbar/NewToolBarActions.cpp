@@ -5,6 +5,7 @@
 #include "toolbar/description/Controller.h"
 #include "toolbar/description/DescriptionParser.h"
 #include "toolbar/skin/Skin.h"
+#include "toolbar/widgets/DropMenuIndex.h"
 #include "toolbar/widgets/MRDropButton.h"
 #include "toolbar/widgets/MRGroupButton.h"
 
@@ -218,6 +219,7 @@ void NewToolBar::addMenu(const Controller &record, QToolBar *row, bool addToRow)
         button->setFixedWidth(addToRow ? menuWidth(record, menu, m_scale) : 0);
         button->SetName(record.name);
         m_dropButtons.append(button);
+        m_dropMenus->add(button);
     }
 }
 

@@ -3,6 +3,7 @@
 #include "toolbar/ActionData.h"
 #include "toolbar/ActionTrigger.h"
 #include "toolbar/ControlVisitor.h"
+#include "toolbar/widgets/DropMenuIndex.h"
 #include "toolbar/widgets/MRDropButton.h"
 #include "toolbar/widgets/MRScrollWidget.h"
 #include "toolbar/widgets/MRSearchBar.h"
@@ -230,7 +231,8 @@ void NewToolBar::showAction(QAction *action, bool visible)
 
 void NewToolBar::replaceCurrentEntry(const QAction *hidden)
 {
-    for (MRDropButton *button : m_dropButtons) {
+    const QList<MRDropButton *> buttons = m_dropMenus->buttonsOf(hidden);
+    for (MRDropButton *button : buttons) {
         if (button->GetCurrentAction() != hidden || !button->menu())
             continue;
         const QList<QAction *> entries = button->menu()->actions();
@@ -279,7 +281,9 @@ void NewToolBar::DoSetControlCheckedStateSlot(QString &objName, bool checked)
 
 void NewToolBar::matchDropButtonsToMenus()
 {
-    for (MRDropButton *button : m_dropButtons)
+    // Those that nothing has happened to since the last time still match.
+    const QSet<MRDropButton *> buttons = m_dropMenus->takeChanged();
+    for (MRDropButton *button : buttons)
         button->setChecked(hasCheckedAction(button->menu()));
 }
 
