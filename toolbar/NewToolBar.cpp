@@ -6,7 +6,9 @@
 #include "toolbar/widgets/CustomMenuStyle.h"
 #include "toolbar/widgets/DropMenuIndex.h"
 #include "toolbar/widgets/MRSearchBar.h"
+#include "toolbar/widgets/TabStrip.h"
 #include "toolbar/widgets/ToolTipCard.h"
+#include "toolbar/widgets/TopLineLayout.h"
 
 #include <QAction>
 #include <QButtonGroup>
@@ -118,11 +120,10 @@ bool NewToolBar::InitWidget()
 
     bool customiseVisible = false;
     QList<bool> visibleTabs;
-    auto *outer = new QHBoxLayout;
-    outer->setContentsMargins(0, 0, 0, 0);
-    outer->addLayout(createLeftLayout(customiseVisible));
-    outer->addLayout(createMiddleLayout(visibleTabs));
-    outer->addLayout(createRightLayout());
+    QHBoxLayout *left = createLeftLayout(customiseVisible);
+    auto *tabs = new TabStrip(createMiddleLayout(visibleTabs));
+    auto *outer = new TopLineLayout(left, tabs, createRightLayout());
+    outer->setSearchField(m_searchBar);
     m_topWidget->setLayout(outer);
 
     showTabButtons(visibleTabs);

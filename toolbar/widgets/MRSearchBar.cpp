@@ -6,6 +6,8 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int restingPixelsPerCharacter = 18;
@@ -76,6 +78,23 @@ void MRSearchBar::applyWidth(int pixelsPerCharacter)
 
     const int designWidth = static_cast<int>(placeholderText().size()) * pixelsPerCharacter;
     setFixedWidth(scaledLength(designWidth));
+}
+
+QSize MRSearchBar::sizeHint() const
+{
+    QSize size = QLineEdit::sizeHint();
+    if (maximumWidth() < QWIDGETSIZE_MAX)
+        size.setWidth(maximumWidth());
+    return size;
+}
+
+int MRSearchBar::widening() const
+{
+    if (!m_resizable || Skin::isLum() || placeholderText().isEmpty())
+        return 0;
+
+    const int designWidth = static_cast<int>(placeholderText().size()) * restingPixelsPerCharacter;
+    return std::max(0, minimumWidth() - scaledLength(designWidth));
 }
 
 void MRSearchBar::setPlaceholderText(const QString &text)

@@ -35,6 +35,12 @@ public:
     /** Whether DoActiveSetButton() reports the pointer; it does not unless set. */
     void SetRelational(bool relational);
 
+    /** As wide as the skin or the placeholder allows. */
+    QSize sizeHint() const override;
+
+    /** By how many pixels the field is wider at the moment than at rest. */
+    int widening() const;
+
     /** Sets a dynamic property on the buttons, for the style sheet to select by. */
     void SetButtonProperty(const char *name, QString value);
 

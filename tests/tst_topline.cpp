@@ -1,0 +1,149 @@
+#include "tests/support/TestHost.h"
+#include "toolbar/widgets/TabStrip.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QWheelEvent>
+#include <QtTest/qtestspontaneevent.h>
+
+namespace {
+
+constexpr double narrowWidth = 500;
+
+QList<QPushButton *> shownTabs(const TestHost &host)
+{
+    QList<QPushButton *> tabs;
+    const QList<QPushButton *> buttons = host.toolBar()->findChildren<QPushButton *>();
+    for (QPushButton *button : buttons) {
+        if (button->property("module") == "tabbutton" && !button->isHidden())
+            tabs.append(button);
+    }
+    return tabs;
+}
+
+/** Whether a click on the middle of the widget reaches it. */
+bool isReachable(const QWidget *widget)
+{
+    const QWidget *window = widget->window();
+    const QPoint middle = widget->mapTo(window, widget->rect().center());
+    return window->childAt(middle) == widget;
+}
+
+/** The arrow on that side of the strip, or null while it is hidden. */
+TabStripArrow *arrow(const TestHost &host, bool isLeft)
+{
+    const auto *strip = dynamic_cast<TabStrip *>(shownTabs(host).first()->parentWidget()
+                                                     ->parentWidget()->parentWidget());
+    const QList<QPushButton *> children =
+        strip->findChildren<QPushButton *>(QString(), Qt::FindDirectChildrenOnly);
+    for (QPushButton *child : children) {
+        if (child->isVisible() && (child->x() == 0) == isLeft)
+            return dynamic_cast<TabStripArrow *>(child);
+    }
+    return nullptr;
+}
+
+void turnWheel(QWidget *widget, int angle)
+{
+    const QPointF middle = widget->rect().center();
+    QWheelEvent event(middle, widget->mapToGlobal(middle.toPoint()), {}, {0, angle}, Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    // Only what comes from the window system is passed on to the parents.
+    QSpontaneKeyEvent::setSpontaneous(&event);
+    qApp->notify(widget, &event);
+}
+
+QString manyTabs(int count)
+{
+    QString tabs;
+    for (int i = 0; i < count; ++i)
+        tabs += QStringLiteral("<tabbutton name='tab%1' text='分页' checkable='true' %2/>")
+                    .arg(i)
+                    .arg(i == 0 ? "checked='true'" : "");
+    return QStringLiteral("<toolbar_tabbar>%1</toolbar_tabbar>").arg(tabs);
+}
+
+} // namespace
+
+class TestTopLine : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everythingStaysInReachInANarrowWindow_data()
+    {
+        QTest::addColumn<int>("skin");
+        QTest::addColumn<QString>("path");
+        QTest::newRow("marodi release") << marodi << "marodi/mr_toolbar.release.xml";
+        QTest::newRow("marodi debug") << marodi << "marodi/mr_toolbar.debug.xml";
+        QTest::newRow("lum release") << lum << "lum/mr_toolbar.release.xml";
+    }
+
+    void everythingStaysInReachInANarrowWindow()
+    {
+        QFETCH(int, skin);
+        QFETCH(QString, path);
+        const SkinChoice choice(skin);
+        const auto host = TestHost::withShipped(path);
+        host->window().resize(host->scaled(narrowWidth), host->scaled(300));
+        host->show();
+        QVERIFY(host->window().width() <= host->scaled(narrowWidth));
+
+        const QWidget *line = host->find<QWidget>(QStringLiteral("top_widget"));
+        const QList<QPushButton *> buttons =
+            line->findChildren<QPushButton *>(QString(), Qt::FindDirectChildrenOnly);
+        for (const QPushButton *button : buttons)
+            QVERIFY2(!button->isVisible() || isReachable(button), qPrintable(button->objectName()));
+
+        const QList<QPushButton *> tabs = shownTabs(*host);
+        for (int i = 0; i < tabs.size(); ++i) {
+            while (!isReachable(tabs.at(i)) && arrow(*host, false))
+                QTest::mouseClick(arrow(*host, false), Qt::LeftButton);
+            QVERIFY2(isReachable(tabs.at(i)), qPrintable(tabs.at(i)->objectName()));
+        }
+    }
+
+    void theStripFollowsArrowsWheelAndFocus()
+    {
+        constexpr int count = 20;
+        TestHost host(manyTabs(count));
+        host.window().resize(host.scaled(narrowWidth), host.scaled(300));
+        host.show();
+        const QList<QPushButton *> tabs = shownTabs(host);
+        QVERIFY(isReachable(tabs.first()) && !isReachable(tabs.last()));
+        QVERIFY(!arrow(host, true) && arrow(host, false));
+
+        for (int clicks = 0; arrow(host, false) && clicks < count; ++clicks)
+            QTest::mouseClick(arrow(host, false), Qt::LeftButton);
+        QVERIFY(isReachable(tabs.last()) && arrow(host, true) && !arrow(host, false));
+
+        tabs.first()->setFocus(Qt::TabFocusReason);
+        QVERIFY(isReachable(tabs.first()));
+
+        turnWheel(tabs.first(), -120);
+        QVERIFY(arrow(host, true));
+        turnWheel(tabs.at(1), 120);
+        QVERIFY(!arrow(host, true));
+
+        QTest::mouseClick(tabs.at(3), Qt::LeftButton);
+        tabs.last()->click();
+        QVERIFY2(isReachable(tabs.last()), "The tab on show is hidden");
+    }
+
+    void aSearchFieldThatWidensLeavesTheWindowAsItIs()
+    {
+        const auto host = TestHost::withShipped(QStringLiteral("marodi/mr_toolbar.debug.xml"));
+        host->window().resize(host->scaled(narrowWidth), host->scaled(300));
+        host->show();
+        auto *field = host->find<QLineEdit>(QStringLiteral("st_input"));
+        const int rest = field->width();
+        QTest::mouseClick(field, Qt::LeftButton);
+        QTRY_COMPARE(field->width(), 2 * rest);
+        QTest::qWait(50);
+        QVERIFY(host->window().width() <= host->scaled(narrowWidth));
+        QVERIFY(isReachable(field));
+    }
+};
+
+QTEST_MAIN(TestTopLine)
+#include "tst_topline.moc"
