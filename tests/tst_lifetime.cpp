@@ -119,7 +119,8 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("control");
         for (const char *control : {"t_two", "menu_file", "ab_set", "plain", "f_open",
-                                    "qbar_f_open", "st_next", "e_preference", "d_gotopage"})
+                                    "qbar_f_open", "st_next", "st_input", "e_preference",
+                                    "d_gotopage"})
             QTest::newRow(control) << control;
     }
 
