@@ -34,7 +34,12 @@ TestHost::TestHost(const QDomDocument &document, const SkinMap &skin, ToolBarAli
 
 std::unique_ptr<TestHost> TestHost::withShipped(const QString &path, const SkinMap &skin)
 {
-    QFile file(QStringLiteral(":/mr_toolbar/Resources/") + path);
+    return withFile(QStringLiteral(":/mr_toolbar/Resources/") + path, skin);
+}
+
+std::unique_ptr<TestHost> TestHost::withFile(const QString &path, const SkinMap &skin)
+{
+    QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         qFatal("No description %s", qPrintable(path));
     return std::unique_ptr<TestHost>(new TestHost(parsed(file.readAll()), skin, ToolBarLeft));

@@ -41,6 +41,9 @@ public:
     /** A host with a shipped description such as "marodi/mr_toolbar.release.xml". */
     static std::unique_ptr<TestHost> withShipped(const QString &path, const SkinMap &skin = {});
 
+    /** A host with the description in a file. */
+    static std::unique_ptr<TestHost> withFile(const QString &path, const SkinMap &skin = {});
+
     /** Shows the window and waits until it is on the screen and active. */
     void show();
 
