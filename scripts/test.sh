@@ -61,7 +61,7 @@ run_tests()
 }
 
 read_options "$@"
-needed+=(xvfb)
+needed+=(xvfb python3)
 for version in "${versions[@]}"; do
     need_toolkit "$version"
 done

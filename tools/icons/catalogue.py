@@ -1,74 +1,137 @@
 """Which file of which skin shows which glyph, on which grid and ground."""
 
+import re
 from collections import namedtuple
 
-import glyphs_annotate as annotate
-import glyphs_file as file
-import glyphs_find as find
-import glyphs_review as review
-import glyphs_view as view
+import menu_file
+import row_annotate
+import row_document
+import row_navigate
+import row_page
+import row_review
+import row_security
+import row_view
+import several
+import small_annotate
+import small_file
+import small_find
+import small_navigate
+import small_review
+import small_view
 from palettes import DARK, LIGHT, NEUTRAL
 
 #: `path` is relative to Resources/<skin>/. `shown` is the natural width where it is not the
 #: grid's, `height` the grid's height where it is no square.
 Icon = namedtuple("Icon", "path glyph grid palette height shown", defaults=(None, None))
 
-_APP_16 = {
-    "Fold": file.fold, "OpenFile": file.open_file, "Print": file.print_file,
-    "QuickAccess_Set": file.quick_access_set, "Redo": file.redo, "Save": file.save,
-    "Search_Set": find.search_options, "Set": file.settings, "Undo": file.undo,
-    "menu": file.menu,
+#: How many files stand in each icon directory. The generator refuses to write another number.
+COUNTS = {
+    "marodi/icons": 3, "marodi/icons/icon16": 135, "marodi/icons/icon20": 15,
+    "marodi/icons/icon24": 133, "marodi/icons/icon19-22": 1,
+    "lum/icons/icon16": 31, "lum/icons/icon20": 11, "lum/icons/icon24": 67,
+    "lum/icons/icon34": 1, "lum/icons/icon19-22": 1,
 }
-_SEARCH_16 = {
-    "CheckMark": file.check_mark, "Search": find.search, "Search_Next": find.search_next,
-    "Search_Prev": find.search_previous,
+
+#: The same drawing for two grounds on which it really stands.
+SAME_DRAWING = {("marodi/icons/more-black.svg", "marodi/icons/more-white.svg")}
+
+
+def function_name(file_name):
+    """The glyph's name: FitWidth is fit_width, and Print, a word of Python's, is print_."""
+    return re.sub(r"(?<=[a-z])(?=[A-Z])", "_", file_name).lower()
+
+
+def _glyphs(module, names):
+    """The glyphs of a module by the names of their files."""
+    found = {}
+    for name in names.split():
+        function = function_name(name)
+        found[name] = getattr(module, function, None) or getattr(module, function + "_")
+    return found
+
+
+# The coloured line of marodi: application button, quick access, search options, folding; tabs.
+_LINE_16 = {
+    **_glyphs(several, "OpenFile Print Redo Save Set Undo"),
+    **_glyphs(small_find, "Fold QuickAccess_Set Search_Set Unfold menu"),
 }
+_TAB_16 = _glyphs(small_navigate, "Tab_Annotate Tab_Read Tab_Security")
+
+# Menus, search bar and small buttons.
+_SEARCH_16 = _glyphs(small_find, "CheckMark Search Search_Next Search_Prev")
+_FIELD_16 = _glyphs(small_find, "Find MatchCase RadioMark Search_Clear SubMenu WholeWord")
+_ZOOM_16 = _glyphs(small_view, "FitHeight FitPage FitWidth OriginalSize ZoomIn ZoomOut")
+_STEP_16 = _glyphs(small_view, "FirstPage LastPage NextPage PrevPage")
 _MENU_16 = {
-    "AdvancedSearch": find.advanced_search, "Find": find.find,
-    "InsertBlankPage": file.insert_blank_page, "InsertPage": file.insert_page,
-    "PrintMask": file.print_mask, "SelectAll": find.select_all, "SelectPage": find.select_page,
-    "TrackInfo": find.trace_information, "Unselect": find.unselect,
+    **_glyphs(several, "PrintMask"),
+    **_glyphs(small_find, "AdvancedSearch SelectAll TrackInfo Unselect"),
+    **_glyphs(small_file, """
+        About Close Copy Delete DeletePage Exit Export ExtractPage Help InsertBlankPage InsertPage
+        OpenRecent Property ReplacePage SaveAs SaveEnvelope SelectPage Update"""),
+    **_glyphs(small_view, """
+        Background DoubleFlow DoublePage FullScreen GotoPage HandTool RotateAnticlockwise
+        RotateClockwise SingleFlow SinglePage TextSelect Zoom ZoomArea"""),
+    **_glyphs(small_navigate, """
+        Annotation Attachment AttachmentSave Background_Daytime Background_Default
+        Background_EyeGuard Background_Nighttime Background_Parchment Bookmark BookmarkAdd
+        BookmarkDelete CustomTag Navigator Outline OutlineCollapse OutlineExpand Thumbnail"""),
+    **_glyphs(small_annotate, """
+        AffixImage AnnotDelete AnnotHide Arrow Cloud DeleteLine DisplayMask Ellipse Eraser
+        Eraser_Large Eraser_Middle Eraser_Small FreeText Highlight NoteBox Pencil Polygon Polyline
+        Rectangle Shape SignPen_05mm SignPen_1mm SoftPen_1mm SoftPen_2mm SoftPen_3mm StraightLine
+        Tablet Underline Watermark WavyLine"""),
+    **_glyphs(small_review, """
+        Chapter Lock PageSeal SealDelete SealMark SealSign SealVerify Stamp revision_add
+        revision_delete revision_increasespace revision_insertline revision_moveback
+        revision_moveforward revision_moveout revision_reducespace revision_replace
+        revision_view"""),
 }
+
 _FILE_20 = {
-    "About": file.about, "Exit": file.exit_program, "Help": file.help_mark,
-    "OpenFile": file.open_file, "OpenRecent": file.open_recent, "Print": file.print_file,
-    "Property": file.property_sheet, "Save": file.save, "SaveAs": file.save_as,
-    "Set": file.settings, "Update": file.update,
+    **_glyphs(several, "OpenFile Print Save Set"),
+    **_glyphs(menu_file, "About Exit Help OpenRecent Property SaveAs Update"),
 }
-_CLOSE_20 = {"Close": file.close_document}
-_VIEW_24 = {
-    "DoublePage": view.double_page, "FirstPage": view.first_page, "FitHeight": view.fit_height,
-    "FitPage": view.fit_page, "FitWidth": view.fit_width, "FullScreen": view.full_screen,
-    "HandTool": view.hand_tool, "LastPage": view.last_page, "NextPage": view.next_page,
-    "OriginalSize": view.original_size, "PrevPage": view.previous_page,
-    "RotateAnticlockwise": view.rotate_anticlockwise, "RotateClockwise": view.rotate_clockwise,
-    "SingleFlow": view.single_flow, "SinglePage": view.single_page,
-    "TextSelect": view.text_select, "ZoomIn": view.zoom_in, "ZoomOut": view.zoom_out,
+_MORE_20 = _glyphs(menu_file, "ClearRecent Close Export SaveEnvelope")
+
+# Tool rows. The first groups are those of both skins.
+_START_24 = {
+    **_glyphs(several, "OpenFile Print Redo Save Set Undo"),
+    **_glyphs(row_document, "Find Property SaveAs SaveEnvelope"),
+    **_glyphs(row_view, """
+        DoubleFlow DoublePage FirstPage FitHeight FitPage FitWidth FullScreen GotoPage HandTool
+        LastPage NextPage OriginalSize PrevPage RotateAnticlockwise RotateClockwise SingleFlow
+        SinglePage TextSelect ZoomIn ZoomOut"""),
+    **_glyphs(row_navigate, """
+        Annotation Attachment Background_Daytime Background_Default Background_EyeGuard
+        Background_Nighttime Background_Parchment Bookmark CustomTag Navigator Outline
+        Thumbnail"""),
 }
-_EDIT_24 = {
-    "AffixImage": annotate.affix_image, "Arrow": annotate.arrow_shape,
-    "Background": view.background, "Chapter": review.square_seal, "Cloud": annotate.cloud,
-    "DeleteLine": annotate.delete_line, "DisplayMask": annotate.display_mask,
-    "DoubleFlow": view.double_flow, "Ellipse": annotate.ellipse, "Eraser": annotate.eraser,
-    "Eraser_Large": annotate.eraser_large, "Eraser_Middle": annotate.eraser_middle,
-    "Eraser_Small": annotate.eraser_small, "FreeText": annotate.free_text,
-    "Highlight": annotate.highlight, "NoteBox": annotate.note_box, "PageSeal": review.page_seal,
-    "Pencil": annotate.pencil, "Polygon": annotate.polygon, "Polyline": annotate.polyline,
-    "Rectangle": annotate.rectangle, "Redo": file.redo, "SaveEnvelope": review.save_envelope,
-    "SealMark": review.seal_mark, "SealSign": review.seal_sign, "Shape": annotate.shape,
-    "SignPen_05mm": annotate.sign_pen_05, "SignPen_1mm": annotate.sign_pen_1,
-    "SoftPen_1mm": annotate.soft_pen_1, "SoftPen_2mm": annotate.soft_pen_2,
-    "SoftPen_3mm": annotate.soft_pen_3, "Stamp": review.stamp,
-    "StraightLine": annotate.straight_line, "Tablet": annotate.tablet,
-    "Underline": annotate.underline, "Undo": file.undo, "Watermark": annotate.watermark,
-    "WavyLine": annotate.wavy_line,
-    "revision_add": review.proof_add, "revision_delete": review.proof_delete,
-    "revision_increasespace": review.proof_increase_space,
-    "revision_insertline": review.proof_insert_line,
-    "revision_moveback": review.proof_move_back,
-    "revision_moveforward": review.proof_move_forward,
-    "revision_reducespace": review.proof_reduce_space,
-    "revision_replace": review.proof_replace, "revision_view": review.proof_view,
+_MARK_24 = {
+    **_glyphs(row_annotate, """
+        AffixImage Arrow Cloud DeleteLine DisplayMask Ellipse Eraser FreeText Highlight NoteBox
+        Pencil Polygon Polyline Rectangle Shape StraightLine Tablet Underline Watermark
+        WavyLine"""),
+    **_glyphs(row_review, "Chapter PageSeal SealMark SealSign Stamp"),
+}
+_MORE_24 = {
+    **_glyphs(several, "PrintMask"),
+    **_glyphs(row_document, """
+        About AdvancedSearch Close Copy Delete Export Help OpenRecent PrintPreview SelectAll
+        SelectPage SendMail Snapshot TrackInfo Unselect Update"""),
+    **_glyphs(row_page, """
+        CropPage DeletePage ExtractPage InsertBlankPage InsertPage MovePage ReplacePage"""),
+    **_glyphs(row_view, """
+        Background ExitFullScreen NextView Present PrevView ReadAloud SplitView Zoom ZoomArea"""),
+    **_glyphs(row_navigate, "AttachmentAdd BookmarkAdd"),
+    **_glyphs(row_annotate, """
+        AnnotDelete AnnotHide Callout Colour Eraser_Large Eraser_Middle Eraser_Small FillColour
+        LineWidth SignPen_05mm SignPen_1mm SoftPen_1mm SoftPen_2mm SoftPen_3mm
+        WatermarkDelete"""),
+    **_glyphs(row_security, "Certificate Lock SealDelete SealVerify"),
+    **_glyphs(row_review, """
+        revision_accept revision_add revision_delete revision_increasespace revision_insertline
+        revision_moveback revision_moveforward revision_reducespace revision_reject
+        revision_replace revision_view"""),
 }
 
 
@@ -80,30 +143,30 @@ def _family(grid, palette, *groups):
 def _bare(palette):
     """The arrows that the sheets and the scroll buttons name, without a size directory."""
     return [
-        Icon("icons/icon19-22/arrowDown.svg", file.arrow_down, 8, palette),
-        Icon("extendLeft.svg", file.extend_left, 12, palette),
-        Icon("extendRight.svg", file.extend_right, 12, palette),
+        Icon("icons/icon19-22/arrowDown.svg", several.arrow_down, 8, palette),
+        Icon("extendLeft.svg", several.extend_left, 12, palette),
+        Icon("extendRight.svg", several.extend_right, 12, palette),
     ]
 
 
 SKINS = {
     "marodi": [
-        *_family(16, LIGHT, _APP_16),
-        *_family(16, DARK, _SEARCH_16, _MENU_16),
-        *_family(20, DARK, _FILE_20, _CLOSE_20),
-        *_family(24, DARK, _VIEW_24, _EDIT_24),
-        Icon("icons/icon24/revision_moveout.png", review.proof_move_out, 24, DARK, shown=48),
-        Icon("icons/more-white.svg", file.more, 16, LIGHT),
-        Icon("icons/more-black.svg", file.more, 16, DARK),
-        Icon("icons/h_software.svg", file.software_mark, 33, LIGHT, height=11),
+        *_family(16, LIGHT, _LINE_16, _TAB_16),
+        *_family(16, DARK, _SEARCH_16, _FIELD_16, _ZOOM_16, _STEP_16, _MENU_16),
+        *_family(20, DARK, _FILE_20, _MORE_20),
+        *_family(24, DARK, _START_24, _MARK_24, _MORE_24),
+        Icon("icons/icon24/revision_moveout.png", row_review.revision_moveout, 24, DARK, shown=48),
+        Icon("icons/more-white.svg", small_find.more, 16, LIGHT),
+        Icon("icons/more-black.svg", small_find.more, 16, DARK),
+        Icon("icons/h_software.svg", several.software_mark, 33, LIGHT, height=11),
         *_bare(DARK),
     ],
     "lum": [
-        *_family(16, NEUTRAL, _APP_16, _SEARCH_16),
+        *_family(16, NEUTRAL, _LINE_16, _SEARCH_16, _FIELD_16, _ZOOM_16, _STEP_16),
         *_family(20, NEUTRAL, _FILE_20),
-        *_family(24, NEUTRAL, _VIEW_24, {"OpenFile": file.open_file}),
+        *_family(24, NEUTRAL, _START_24, _MARK_24),
         # Named as a 34 pixel icon but shown at 24, so it is drawn on the grid it is seen on.
-        Icon("icons/icon34/Background.svg", view.background, 24, NEUTRAL, shown=34),
+        Icon("icons/icon34/Background.svg", row_view.background, 24, NEUTRAL, shown=34),
         *_bare(NEUTRAL),
     ],
 }

@@ -1,16 +1,22 @@
 #!/usr/bin/env python3
 """Writes the icons of both skins and their resource list below Resources/.
 
-With --check it writes nothing and fails if a file differs or a described icon is missing.
+With --check it writes nothing and fails if a file differs, is missing or strays in an icon
+directory, if a described icon is not drawn, if a directory's count is off, or if two icons of a
+directory are drawn alike, or if a colour is too faint for its ground.
 """
 
 import argparse
 import re
 import sys
+from collections import Counter
 from pathlib import Path
 
-from catalogue import SKINS
+sys.dont_write_bytecode = True  # The sources stay clean when a build runs the check.
+
+from catalogue import COUNTS, SAME_DRAWING, SKINS
 from drawing import Drawing
+from palettes import faint_colours
 from raster import png
 
 RESOURCES = Path(__file__).resolve().parents[2] / "Resources"
@@ -21,13 +27,25 @@ ICON_ATTRIBUTE = re.compile(r'\b(?:icon|dropicon)="([^"]+)"')
 DELIBERATELY_MISSING = {("marodi", "FitWidth.svg")}
 
 
-def content(icon):
-    """The bytes of one icon file."""
+def drawn(icon):
     drawing = Drawing(icon.grid, icon.palette, icon.height)
     icon.glyph(drawing)
+    return drawing
+
+
+def content(icon):
+    """The bytes of one icon file."""
+    drawing = drawn(icon)
     if icon.path.endswith(".png"):
         return png(drawing, icon.shown)
     return drawing.svg(icon.shown).encode()
+
+
+def catalogued():
+    """Every icon with its path below Resources/."""
+    for skin, icons in SKINS.items():
+        for icon in icons:
+            yield f"{skin}/{icon.path}", icon
 
 
 def resource_list(paths):
@@ -37,8 +55,7 @@ def resource_list(paths):
 
 def generated():
     """Every file to write: its path below Resources/ and its bytes."""
-    files = {f"{skin}/{icon.path}": content(icon)
-             for skin, icons in SKINS.items() for icon in icons}
+    files = {path: content(icon) for path, icon in catalogued()}
     files[RESOURCE_LIST] = resource_list(files).encode()
     return files
 
@@ -52,7 +69,34 @@ def described():
                 yield description.relative_to(RESOURCES), f"{skin}/icons/{name.lstrip('/')}"
 
 
-def problems(files):
+def catalogue_problems():
+    """What is wrong before a file is looked at: names, counts, colours, twins."""
+    paths = [path for path, _ in catalogued()]
+    for path, times in Counter(paths).items():
+        if times > 1:
+            yield f"{path} is entered {times} times"
+    counts = Counter(str(Path(path).parent) for path in paths if "/icons/" in path)
+    for directory in sorted(COUNTS.keys() | counts.keys()):
+        have, want = counts[directory], COUNTS.get(directory, 0)
+        if have != want:
+            yield f"{directory} has {have} icons, not {want}"
+    for colour, ground in faint_colours():
+        yield f"{colour} is too faint on {ground}"
+    yield from twins()
+
+
+def twins():
+    """Icons of one directory that show the same shapes, in whichever colours."""
+    seen = {}
+    for path, icon in catalogued():
+        shapes = tuple((shape.kind, repr(shape.geometry), shape.pen, bool(shape.fill))
+                       for shape in drawn(icon).shapes)
+        first = seen.setdefault((str(Path(path).parent), shapes), path)
+        if first != path and tuple(sorted((first, path))) not in SAME_DRAWING:
+            yield f"{path} looks like {first}"
+
+
+def file_problems(files):
     for path, data in files.items():
         target = RESOURCES / path
         if not target.is_file():
@@ -62,6 +106,10 @@ def problems(files):
     for description, path in described():
         if path not in files:
             yield f"{description} names {path}, which no glyph is drawn for"
+    for found in sorted(RESOURCES.glob("*/icons/**/*")):
+        path = str(found.relative_to(RESOURCES))
+        if found.is_file() and path not in files:
+            yield f"{path} is no icon of the catalogue"
 
 
 def write(files):
@@ -75,14 +123,17 @@ def write(files):
 def main():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("--check", action="store_true",
-                        help="write nothing; fail if a file differs or an icon is missing")
+                        help="write nothing; fail if the files and the catalogue disagree")
     arguments = parser.parse_args()
-    files = generated()
-    if arguments.check:
-        first = next(problems(files), None)
-        if first:
-            sys.exit(f"generate.py: {first}")
-    else:
+    problems = list(catalogue_problems())
+    files = {} if problems else generated()
+    if arguments.check and not problems:
+        problems = list(file_problems(files))
+    for problem in problems:
+        print(f"generate.py: {problem}", file=sys.stderr)
+    if problems:
+        sys.exit(1)
+    if not arguments.check:
         write(files)
 
 

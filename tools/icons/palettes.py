@@ -33,3 +33,34 @@ NEUTRAL = dict(
     accent=Colour("#1368ad"),
     tint=Colour("#d6e5f3"),
 )
+
+#: The grounds of each palette: menu, tool row and a hovered or checked control on it. DARK and
+#: NEUTRAL stand on the rows of marodi and lum, LIGHT on marodi's line.
+GROUNDS = [
+    (DARK, ("#ffffff", "#f5f5f5", "#eaeaea", "#d3d3d3")),
+    (LIGHT, ("#008ad9", "#1460ab")),
+    (NEUTRAL, ("#ffffff", "#f4f4f4", "#c3c6ca")),
+]
+
+#: The roles that carry a meaning, and the least contrast they need with each ground.
+TELLING_ROLES, LEAST_CONTRAST = ("ink", "accent", "red"), 3
+
+
+def _luminance(value):
+    channels = [int(value[i:i + 2], 16) / 255 for i in (1, 3, 5)]
+    red, green, blue = (c / 12.92 if c <= 0.04045 else ((c + 0.055) / 1.055) ** 2.4
+                        for c in channels)
+    return 0.2126 * red + 0.7152 * green + 0.0722 * blue
+
+
+def contrast(one, other):
+    """How much two colours stand out from each other, from 1 to 21."""
+    darker, lighter = sorted((_luminance(one), _luminance(other)))
+    return (lighter + 0.05) / (darker + 0.05)
+
+
+def faint_colours():
+    """The roles that stand out too little, as (role's colour, ground)."""
+    return [(palette[role].value, ground) for palette, grounds in GROUNDS
+            for role in TELLING_ROLES for ground in grounds
+            if contrast(palette[role].value, ground) < LEAST_CONTRAST]

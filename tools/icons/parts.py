@@ -56,6 +56,14 @@ def _sign(value):
     return (value > 0) - (value < 0)
 
 
+def solid_head(d, x, y, size, towards, stroke="accent"):
+    """A solid arrow head with its tip at (x, y), for arrows with no room for barbs."""
+    dx, dy = towards
+    base_x, base_y = x - dx * size, y - dy * size
+    d.polygon([(x, y), (base_x + dy * size, base_y + dx * size),
+               (base_x - dy * size, base_y - dx * size)], stroke=None, fill=stroke)
+
+
 def plus(d, x, y, arm, stroke="accent", pen=BOLD):
     d.line(x - arm, y, x + arm, y, stroke=stroke, pen=pen)
     d.line(x, y - arm, x, y + arm, stroke=stroke, pen=pen)
@@ -64,6 +72,69 @@ def plus(d, x, y, arm, stroke="accent", pen=BOLD):
 def cross(d, x, y, arm, stroke="red", pen=MARK):
     d.line(x - arm, y - arm, x + arm, y + arm, stroke=stroke, pen=pen)
     d.line(x - arm, y + arm, x + arm, y - arm, stroke=stroke, pen=pen)
+
+
+def check(d, x, y, arm, stroke="accent", pen=MARK):
+    """A check mark around (x, y); `arm` is the height of its short side."""
+    d.polyline([(x - 1.3 * arm, y), (x - 0.3 * arm, y + arm), (x + 1.3 * arm, y - 0.9 * arm)],
+               stroke=stroke, pen=pen)
+
+
+def cut_page(d, fill="paper"):
+    """A folded page whose lower right corner makes room for a badge around `badge(d)`."""
+    left, top, right, bottom, fold, gap = d.by_grid(
+        g16=(2.5, 1.5, 12.5, 14.5, 3, 7.5), g24=(4.5, 2.5, 19.5, 21.5, 5, 9))
+    cut_x, cut_y = right - d.by_grid(g16=4.5, g24=6.5), bottom - gap + d.by_grid(g16=1, g24=1)
+    d.polygon([(left, top), (right - fold, top), (right, top + fold), (right, cut_y),
+               (cut_x, cut_y), (cut_x, bottom), (left, bottom)], stroke=None, fill=fill)
+    d.path(path_data("M", cut_x - 1, bottom, "H", left + 1, "a1 1 0 0 1-1-1V", top + 1,
+                     "a1 1 0 0 1 1-1H", right - fold, "L", right, top + fold, "V", cut_y - 1))
+    d.polyline([(right - fold, top), (right - fold, top + fold), (right, top + fold)])
+
+
+def badge(d):
+    """The middle of the mark that says what is done with the thing drawn."""
+    return d.by_grid(g16=(12, 12), g24=(18, 18))
+
+
+def padlock(d, x, y, width, height, reach=1.5):
+    """A closed padlock whose body starts at (x, y); `reach` is half the shackle's width."""
+    middle = x + width / 2
+    d.path(path_data("M", middle - reach, y, "V", y - 1,
+                     f"a{number(reach)} {number(reach)} 0 0 1", 2 * reach, 0, "v1"),
+           stroke="accent", pen=SLANT)
+    d.rect(x, y, width, height, 0.5 if d.grid == 16 else 1, stroke="accent", fill="tint")
+
+
+def shield(d):
+    """A shield across the grid."""
+    d.path(d.by_grid(
+        g16="M8 1.5c2 1.2 4 1.7 5.5 1.8V8c0 3.2-2.2 5.3-5.5 6.5c-3.3-1.2-5.5-3.3-5.5-6.5V3.3"
+            "C4 3.2 6 2.7 8 1.5z",
+        g24="M12 2.5c3 1.9 5.7 2.6 8.5 2.8V12c0 4.7-3.3 7.8-8.5 9.5c-5.2-1.7-8.5-4.8-8.5-9.5V5.3"
+            "C6.3 5.1 9 4.4 12 2.5z"), fill="tint", pen=SLANT)
+
+
+def binoculars(d):
+    top, eye, knee, bottom, outer, inner = d.by_grid(
+        g16=(2.5, 5.5, 10, 13.5, 1.5, 6.5), g24=(3.5, 7.5, 14.5, 20.5, 2.5, 9.5))
+    bridge = d.by_grid(g16=(6.5, 7.5, 3, 3), g24=(9.5, 10.5, 5, 5))
+    d.rect(*bridge, stroke="accent", fill="tint")
+    for mirror in (False, True):
+        sides = [(outer + 2, top), (inner, top), (inner, eye), (inner, bottom), (outer, bottom),
+                 (outer, knee), (outer + 2, eye)]
+        points = mirrored(sides, d.grid / 2, mirror)
+        d.polygon(points, fill="tint")
+        d.line(*points[2], *points[6])
+
+
+def bubble(d, x, y, width, height, tail, **style):
+    """A speech bubble; `tail` is how far its tip hangs below."""
+    right, bottom, foot = x + width, y + height, x + width * 0.25
+    d.path(path_data("M", x + 1, y, "H", right - 1, "a1 1 0 0 1 1 1V", bottom - 1,
+                     "a1 1 0 0 1-1 1H", foot + tail, "L", foot, bottom + tail, "V", bottom, "H",
+                     x + 1, "a1 1 0 0 1-1-1V", y + 1, "a1 1 0 0 1 1-1z"),
+           **dict({"fill": "paper"}, **style))
 
 
 def magnifier(d, centre, radius, end, fill="tint", handle=BOLD):
@@ -87,9 +158,26 @@ def star(x, y, radius):
             for i, r in enumerate([radius, inner] * 5)]
 
 
+def twinkle(d, x, y, radius):
+    """A solid star with four points."""
+    waist = radius * 0.28
+    d.polygon([(x, y - radius), (x + waist, y - waist), (x + radius, y), (x + waist, y + waist),
+               (x, y + radius), (x - waist, y + waist), (x - radius, y), (x - waist, y - waist)],
+              stroke=None, fill="accent")
+
+
 def round_seal(d, x, y, radius, star_radius):
     d.circle(x, y, radius, stroke="red", fill="rose", pen=BOLD)
     d.polygon(star(x, y + 0.3, star_radius), stroke=None, fill="red")
+
+
+def sun(d, centre, radius, inner, outer):
+    """A sun with eight rays from `inner` to `outer`."""
+    for step in range(8):
+        x, y = sin(step * pi / 4), cos(step * pi / 4)
+        d.line(centre + inner * x, centre + inner * y, centre + outer * x, centre + outer * y,
+               pen=SLANT if x * y else HAIR)
+    d.circle(centre, centre, radius, stroke="accent", fill="yellow", pen=SLANT)
 
 
 def gear(d, centre, outer, root, hole):

@@ -1,0 +1,129 @@
+"""Glyphs of seals and of the proof marks: the 24 pixel grid."""
+
+from drawing import BOLD, MARK, SLANT
+from parts import (arrow, check, cross, dashed_frame, mirrored, plus, round_seal, sheet,
+                   text_lines)
+
+
+def seal_sign(d):
+    round_seal(d, 12, 12, 9, 5.5)
+
+
+def chapter(d):
+    d.rect(4, 4, 16, 16, 2, stroke="red", fill="rose", pen=BOLD)
+    for points in ([(11, 7), (8, 8.5), (8, 16), (11, 16)], [(8, 12), (11, 12)],
+                   [(14, 17), (14, 8), (17, 8), (17, 14)]):
+        d.polyline(points, stroke="red", pen=BOLD)
+
+
+def page_seal(d):
+    for x in (2.5, 13.5):
+        sheet(d, x, 3.5, 8, 17)
+    round_seal(d, 12, 12, 6, 4)
+
+
+def seal_mark(d):
+    round_seal(d, 9, 15, 6, 3.5)
+    d.polygon([(17.5, 3.5), (21.5, 6.5), (17.5, 9.5)], stroke="accent", fill="accent")
+    d.line(17.5, 2.5, 17.5, 21.5)
+
+
+def stamp(d):
+    d.path("M9 13.5c1.5-2 1-3.5.5-5a3 3 0 1 1 5 0c-.5 1.5-1 3 .5 5", fill="paper", pen=SLANT)
+    d.rect(4.5, 13.5, 15, 4, 1, fill="tint")
+    d.line(5, 21, 19, 21, stroke="red", pen=BOLD)
+
+
+def _cell(d, x, y, size=6, stroke="ink"):
+    """One character of the text, as a box."""
+    d.rect(x, y, size, size, 1, stroke=stroke, fill="tint")
+
+
+def revision_add(d):
+    _cell(d, 2.5, 14.5)
+    _cell(d, 15.5, 14.5)
+    d.polyline([(8.5, 12), (12, 16.5), (15.5, 12)], stroke="red", pen=MARK)
+    plus(d, 12, 6, 3, stroke="red")
+
+
+def revision_delete(d):
+    _cell(d, 3.5, 11.5, 7)
+    d.path("M3 15H16a4 4 0 1 0-4-4V20", stroke="red", pen=BOLD)
+
+
+def revision_insertline(d):
+    _cell(d, 2.5, 8.5)
+    _cell(d, 15.5, 8.5)
+    d.line(12, 4, 12, 19, stroke="red", pen=BOLD)
+    for edge, point in ((2.5, 6), (20.5, 17)):
+        d.polygon([(8.5, edge), (15.5, edge), (12, point)], stroke="red", fill="red")
+
+
+def revision_replace(d):
+    _cell(d, 3.5, 3.5, 7)
+    d.line(2.5, 11.5, 11.5, 2.5, stroke="red", pen=MARK)
+    d.polyline([(14, 6), (18, 6), (18, 11)], stroke="red", pen=BOLD)
+    d.polyline([(15, 9), (18, 12), (21, 9)], stroke="red", pen=BOLD)
+    _cell(d, 14.5, 14.5, 7, stroke="accent")
+
+
+def revision_moveout(d):
+    dashed_frame(d, 2.5, 12.5, 9, corner=2, bridge=1)
+    arrow(d, (7, 17), (12, 12), 4, stroke="red", pen=BOLD)
+    _cell(d, 14.5, 2.5, 7)
+
+
+def _spacing(d, cells, tails, tips):
+    for x in cells:
+        _cell(d, x, 13.5)
+    for tail, tip in zip(tails, tips):
+        arrow(d, (tail, 7), (tip, 7), 3, stroke="red", pen=BOLD)
+
+
+def revision_increasespace(d):
+    _spacing(d, (2.5, 15.5), (10, 14), (3, 21))
+
+
+def revision_reducespace(d):
+    _spacing(d, (4.5, 13.5), (3, 21), (10, 14))
+
+
+def _shift(d, forward):
+    """A character pushed against a line: towards the start of the text when forward."""
+    _cell(d, 14.5 if forward else 2.5, 8.5, 7)
+    tail, tip = mirrored([(12, 12), (18, 12)], 12, forward)
+    arrow(d, tail, tip, 3, stroke="red", pen=BOLD)
+    d.polyline(mirrored([(21, 6), (21, 18)], 12, forward), stroke="red", pen=BOLD)
+
+
+def revision_moveback(d):
+    _shift(d, forward=False)
+
+
+def revision_moveforward(d):
+    _shift(d, forward=True)
+
+
+def revision_view(d):
+    d.path("M2.5 9c2.5-4 6-5.5 9.5-5.5s7 1.5 9.5 5.5c-2.5 4-6 5.5-9.5 5.5s-7-1.5-9.5-5.5z",
+           fill="paper", pen=SLANT)
+    d.circle(12, 9, 2.5, stroke="accent", fill="tint", pen=MARK)
+    d.line(4.5, 18.5, 19.5, 18.5)
+    d.line(5, 21, 14, 21, stroke="red", pen=BOLD)
+
+
+def _settled(d):
+    """A changed line of the text."""
+    text_lines(d, 2.5, 21.5, (4.5,))
+    d.line(3, 9, 18, 9, stroke="red", pen=BOLD)
+    text_lines(d, 2.5, 10.5, (14.5, 19.5))
+
+
+def revision_accept(d):
+    _settled(d)
+    check(d, 17, 17.5, 3, pen=BOLD)
+
+
+def revision_reject(d):
+    _settled(d)
+    cross(d, 17.5, 17.5, 3, pen=BOLD)

@@ -1,0 +1,134 @@
+"""Glyphs of seals and of the proof marks on the 16 pixel grid."""
+
+from drawing import BOLD, MARK, SLANT
+from parts import (arrow, check, cross, dashed_frame, mirrored, plus, round_seal, sheet,
+                   solid_head)
+
+
+def seal_sign(d):
+    round_seal(d, 8, 8, 6, 3.6)
+
+
+def page_seal(d):
+    for x in (1.5, 9.5):
+        sheet(d, x, 1.5, 5, 13)
+    d.circle(8, 8, 4, stroke="red", fill="rose", pen=BOLD)
+    d.rect(7, 7, 2, 2, stroke=None, fill="red")
+
+
+def chapter(d):
+    d.rect(2, 2, 12, 12, 1, stroke="red", fill="rose", pen=BOLD)
+    for points in ([(7.5, 5), (5.5, 6), (5.5, 10.5), (7.5, 10.5)], [(5.5, 8.5), (7.5, 8.5)],
+                   [(9.5, 11), (9.5, 5.5), (11, 5.5), (11, 9)]):
+        d.polyline(points, stroke="red")
+
+
+def seal_mark(d):
+    d.circle(5.5, 10.5, 3.5, stroke="red", fill="rose", pen=BOLD)
+    d.circle(5.5, 10.5, 1, stroke=None, fill="red")
+    d.polygon([(11.5, 2.5), (14.5, 4.5), (11.5, 6.5)], stroke="accent", fill="accent")
+    d.line(11.5, 1.5, 11.5, 14.5)
+
+
+def stamp(d):
+    d.path("M6 9.5c1-1.5.8-2.5.4-3.6a2.1 2.1 0 1 1 3.2 0c-.4 1.1-.6 2.1.4 3.6", fill="paper",
+           pen=SLANT)
+    d.rect(2.5, 8.5, 11, 3, 1, fill="tint")
+    d.line(3, 14, 13, 14, stroke="red", pen=BOLD)
+
+
+def _small_seal(d):
+    d.circle(6, 6, 4, stroke="red", fill="rose", pen=BOLD)
+    d.circle(6, 6, 1.25, stroke=None, fill="red")
+
+
+def seal_verify(d):
+    _small_seal(d)
+    check(d, 12, 12.5, 1.75, pen=BOLD)
+
+
+def seal_delete(d):
+    _small_seal(d)
+    cross(d, 12.5, 12.5, 1.75, stroke="ink")
+
+
+def lock(d):
+    d.path("M4.5 7V5a3.5 3.5 0 0 1 7 0V7", pen=MARK)
+    d.rect(2.5, 7.5, 11, 7, 1, fill="tint")
+    d.rect(7, 9, 2, 4, stroke=None, fill="accent")
+
+
+def _cell(d, x, y, size=4, stroke="ink"):
+    """One character of the text, as a box."""
+    d.rect(x, y, size, size, 0.5, stroke=stroke, fill="tint")
+
+
+def revision_add(d):
+    _cell(d, 1.5, 10.5)
+    _cell(d, 10.5, 10.5)
+    d.polyline([(5.5, 9), (8, 12), (10.5, 9)], stroke="red", pen=MARK)
+    plus(d, 8, 4, 2, stroke="red")
+
+
+def revision_delete(d):
+    _cell(d, 2.5, 7.5, 5)
+    d.path("M2 10H11a3 3 0 1 0-3-3V14", stroke="red", pen=BOLD)
+
+
+def revision_insertline(d):
+    _cell(d, 1.5, 5.5)
+    _cell(d, 10.5, 5.5)
+    d.line(8, 3, 8, 13, stroke="red", pen=BOLD)
+    for edge, point in ((1.5, 4), (14.5, 12)):
+        d.polygon([(5.5, edge), (10.5, edge), (8, point)], stroke="red", fill="red")
+
+
+def revision_replace(d):
+    _cell(d, 1.5, 1.5, 5)
+    d.line(1.6, 7, 7, 1.6, stroke="red", pen=SLANT)
+    d.polyline([(9.5, 3), (12, 3), (12, 5)], stroke="red", pen=BOLD)
+    solid_head(d, 12, 8, 2.5, (0, 1), stroke="red")
+    _cell(d, 9.5, 9.5, 5, stroke="accent")
+
+
+def revision_moveout(d):
+    dashed_frame(d, 1.5, 8.5, 6, corner=1, bridge=1)
+    d.polyline([(4, 7), (4, 4), (5, 4)], stroke="red", pen=BOLD)
+    solid_head(d, 8, 4, 2.5, (1, 0), stroke="red")
+    _cell(d, 9.5, 1.5, 5)
+
+
+def _spacing(d, cells, tails, tips):
+    for x in cells:
+        _cell(d, x, 9.5)
+    for tail, tip in zip(tails, tips):
+        arrow(d, (tail, 5), (tip, 5), 2, stroke="red", pen=BOLD)
+
+
+def revision_increasespace(d):
+    _spacing(d, (1.5, 10.5), (6.5, 9.5), (2, 14))
+
+
+def revision_reducespace(d):
+    _spacing(d, (2.5, 9.5), (2, 14), (6, 10))
+
+
+def _shift(d, forward):
+    _cell(d, 10.5 if forward else 1.5, 6, 4)
+    tail, tip = mirrored([(8, 8), (11.5, 8)], 8, forward)
+    arrow(d, tail, tip, 2.5, stroke="red", pen=BOLD)
+    d.polyline(mirrored([(14, 3), (14, 13)], 8, forward), stroke="red", pen=BOLD)
+
+
+def revision_moveback(d):
+    _shift(d, forward=False)
+
+
+def revision_moveforward(d):
+    _shift(d, forward=True)
+
+
+def revision_view(d):
+    d.path("M1.5 6C4.5 1 11.5 1 14.5 6C11.5 11 4.5 11 1.5 6z", fill="paper", pen=SLANT)
+    d.circle(8, 6, 1.75, stroke="accent", fill="tint", pen=SLANT)
+    d.line(2, 13, 14, 13, stroke="red", pen=BOLD)

@@ -1,0 +1,165 @@
+"""Glyphs of the view row on the 16 pixel grid."""
+
+from drawing import BOLD, MARK, SLANT, path_data
+from parts import arrow, magnifier, mirrored, page, plus, sheet, solid_head, text_lines
+
+
+def hand_tool(d):
+    d.path("M5.5 9V4a1 1 0 0 1 2 0V2.5a1 1 0 0 1 2 0V3.5a1 1 0 0 1 2 0V5.5a1 1 0 0 1 2 0V10"
+           "c0 3-1.8 4.5-4.3 4.5-2 0-3.2-.9-4.2-2.5L2.7 9c-.4-.7-.2-1.3.3-1.6s1.1 0 1.4.5L5.5 9.5",
+           fill="tint")
+    for x, top in ((7.5, 4), (9.5, 3.5), (11.5, 5.5)):
+        d.line(x, top, x, 7.5)
+
+
+def text_select(d):
+    d.rect(1, 3, 10, 10, stroke=None, fill="tint")
+    d.line(2, 5, 10, 5, pen=BOLD, cap="butt")
+    d.line(6, 5, 6, 12, pen=BOLD, cap="butt")
+    for y in (2.5, 13.5):
+        d.line(12.5, y, 14.5, y, stroke="accent")
+    d.line(13.5, 2.5, 13.5, 13.5, stroke="accent")
+
+
+def _rotate(d, mirror):
+    sheet(d, 6.5, 6.5, 3, 4, fill="tint")
+    at, sweep = (lambda x: 16 - x, 0) if mirror else (lambda x: x, 1)
+    d.path(path_data("M", at(13.5), 8.5, f"A5.5 5.5 0 1 {sweep}", at(12.2), 4.9),
+           stroke="accent", pen=MARK)
+    d.polyline([(at(12.5), 1.5), (at(12.5), 5), (at(9), 5)], stroke="accent", pen=MARK)
+
+
+def rotate_clockwise(d):
+    _rotate(d, mirror=False)
+
+
+def rotate_anticlockwise(d):
+    _rotate(d, mirror=True)
+
+
+def original_size(d):
+    sheet(d, 1.5, 2.5, 13, 11)
+    for x in (5, 12):
+        d.polyline([(x - 1.5, 6), (x, 5), (x, 11)], stroke="accent", pen=BOLD, cap="butt")
+    for y in (6, 9):
+        d.rect(7, y, 2, 2, stroke=None, fill="accent")
+
+
+def fit_width(d):
+    sheet(d, 2.5, 1.5, 11, 13)
+    d.line(6, 8, 10, 8, stroke="accent", pen=BOLD, cap="butt")
+    solid_head(d, 4, 8, 3, (-1, 0))
+    solid_head(d, 12, 8, 3, (1, 0))
+
+
+def fit_height(d):
+    sheet(d, 2.5, 1.5, 11, 13)
+    d.line(8, 6, 8, 10, stroke="accent", pen=BOLD, cap="butt")
+    solid_head(d, 8, 3, 3, (0, -1))
+    solid_head(d, 8, 13, 3, (0, 1))
+
+
+def fit_page(d):
+    sheet(d, 2.5, 1.5, 11, 13)
+    for x, y, sx, sy in ((4.5, 3.5, 1, 1), (11.5, 3.5, -1, 1), (4.5, 12.5, 1, -1),
+                         (11.5, 12.5, -1, -1)):
+        arrow(d, (x + sx * 2, y + sy * 2), (x, y), 2)
+
+
+def zoom_in(d):
+    magnifier(d, 7, 5, 14)
+    plus(d, 7, 7, 2)
+
+
+def zoom_out(d):
+    magnifier(d, 7, 5, 14)
+    d.line(5, 7, 9, 7, stroke="accent", pen=BOLD)
+
+
+def zoom(d):
+    magnifier(d, 7, 5.4, 14)
+    d.line(8.7, 4.6, 5.3, 9.4, stroke="accent", pen=SLANT)
+    for x, y in ((5, 5.5), (9, 8.5)):
+        d.circle(x, y, 1, stroke=None, fill="accent")
+
+
+def zoom_area(d):
+    for x, y, sx, sy in ((1.5, 1.5, 1, 1), (13.5, 1.5, -1, 1), (1.5, 13.5, 1, -1)):
+        d.polyline([(x + sx * 3, y), (x, y), (x, y + sy * 3)])
+    d.line(6.5, 1.5, 8.5, 1.5)
+    d.line(1.5, 6.5, 1.5, 8.5)
+    d.circle(9, 9, 3.5, stroke="accent", fill="tint", pen=SLANT)
+    d.line(12, 12, 14, 14, stroke="accent", pen=BOLD)
+
+
+def goto_page(d):
+    page(d, 2.5, 1.5, 11, 13, 3)
+    for at in (6.5, 9.5):
+        d.line(at, 5.5, at, 12.5, stroke="accent")
+    for at in (7.5, 10.5):
+        d.line(4.5, at, 11.5, at, stroke="accent")
+
+
+def _step(d, forward, to_end):
+    shift = 1.5 if to_end else 0
+    triangle = [(10.5 + shift, 2.5), (10.5 + shift, 13.5), (4.5 + shift, 8)]
+    d.polygon(mirrored(triangle, 8, forward), stroke="accent", fill="tint", pen=SLANT)
+    if to_end:
+        d.polyline(mirrored([(3, 3), (3, 13)], 8, forward), pen=BOLD)
+
+
+def first_page(d):
+    _step(d, forward=False, to_end=True)
+
+
+def prev_page(d):
+    _step(d, forward=False, to_end=False)
+
+
+def next_page(d):
+    _step(d, forward=True, to_end=False)
+
+
+def last_page(d):
+    _step(d, forward=True, to_end=True)
+
+
+def single_page(d):
+    sheet(d, 3.5, 1.5, 9, 13)
+    text_lines(d, 5.5, 10.5, (4.5, 7.5, 10.5), stroke="accent")
+
+
+def double_page(d):
+    for x in (1.5, 9.5):
+        sheet(d, x, 2.5, 5, 10)
+        text_lines(d, x + 2, x + 3, (5.5, 7.5, 9.5), stroke="accent")
+
+
+def _flow(d, x, width, rows):
+    """The foot of one page above the head of the next."""
+    right = x + width
+    for edge, near, turn, sweep in ((1, 5.5, 1, 0), (15, 10.5, -1, 1)):
+        d.path(path_data("M", x, edge, "V", near, f"a1 1 0 0 {sweep} 1", turn, "H", right - 1,
+                         f"a1 1 0 0 {sweep} 1", -turn, "V", edge), fill="paper", cap="butt")
+    text_lines(d, x + 2, right - 2, rows, stroke="accent")
+
+
+def single_flow(d):
+    _flow(d, 3.5, 9, (3.5, 12.5))
+
+
+def double_flow(d):
+    _flow(d, 1.5, 5, (3.5, 12.5))
+    _flow(d, 9.5, 5, (3.5, 12.5))
+
+
+def full_screen(d):
+    for x, y, sx, sy in ((2, 3, 1, 1), (14, 3, -1, 1), (2, 13, 1, -1), (14, 13, -1, -1)):
+        d.polyline([(x + sx * 3, y), (x, y), (x, y + sy * 3)], pen=BOLD)
+    d.rect(5.5, 6.5, 5, 3, stroke="accent", fill="tint")
+
+
+def background(d):
+    page(d, 3.5, 1.5, 9, 13, 3)
+    d.circle(8, 9.5, 2.5, stroke="accent", fill="paper", pen=SLANT)
+    d.path("M8 7a2.5 2.5 0 0 0 0 5z", stroke=None, fill="accent")
