@@ -61,7 +61,7 @@ run_tests()
 }
 
 read_options "$@"
-needed+=(xvfb python3)
+needed+=(xvfb python3 libxml2-utils)
 for version in "${versions[@]}"; do
     need_toolkit "$version"
 done

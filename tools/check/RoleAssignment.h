@@ -1,0 +1,6 @@
+#pragma once
+
+struct SourceDocument;
+
+/** Tells every element of the document, the root apart, what the library makes of it. */
+void assignRoles(SourceDocument &document);

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "tools/check/DescriptionCheck.h"
+#include "tools/check/SourceDocument.h"
+
+/** Gathers the findings of one document. */
+class Findings
+{
+public:
+    void note(const char *id, SourcePosition position, const QString &message)
+    {
+        add(Severity::Note, id, position, message);
+    }
+    void warn(const char *id, SourcePosition position, const QString &message)
+    {
+        add(Severity::Warning, id, position, message);
+    }
+    void fail(const char *id, SourcePosition position, const QString &message)
+    {
+        add(Severity::Error, id, position, message);
+    }
+    void add(Severity severity, const char *id, SourcePosition position, const QString &message)
+    {
+        m_all.append({severity, QLatin1String(id), position.line, position.column, message});
+    }
+
+    QVector<Finding> &all() { return m_all; }
+
+private:
+    QVector<Finding> m_all;
+};
+
+/** The rules, by what they look at. Each takes a document whose roles are assigned. */
+namespace Rules {
+
+/** Sections, and elements that stand where nothing or something else is built from them. */
+void checkStructure(const SourceDocument &document, Findings &findings);
+/** Every attribute for itself, and those that exclude or need each other. */
+void checkAttributes(const SourceDocument &document, Findings &findings);
+/** The numbers of entries that menus and combo boxes start with. */
+void checkIndexes(const SourceDocument &document, Findings &findings);
+/** Names that stand more than once. */
+void checkNames(const SourceDocument &document, Findings &findings);
+/** Exclusive groups and their checked members. */
+void checkGroups(const SourceDocument &document, Findings &findings);
+void checkIcons(const SourceDocument &document, const CheckOptions &options, Findings &findings);
+void checkShortcuts(const SourceDocument &document, Findings &findings);
+/** Controls that the library knows one of, or expects certain children in. */
+void checkSpecialControls(const SourceDocument &document, Findings &findings);
+
+} // namespace Rules

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "toolbar/description/Controller.h"
+#include "tools/check/Role.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QVector>
+
+#include <optional>
+#include <vector>
+
+/** A place in the text, both counted from 1. */
+struct SourcePosition
+{
+    int line = 1;
+    int column = 1;
+};
+
+struct SourceAttribute
+{
+    QString name;
+    QString value;
+    SourcePosition position;
+};
+
+/** One element of a description, where it stands and what the library reads from it. */
+struct SourceElement
+{
+    QString tag;
+    SourcePosition position;
+    QVector<SourceAttribute> attributes;
+    std::optional<SourcePosition> strayText; ///< Where text stands directly inside the element.
+    int parent = -1;                         ///< Positions in the document's list of elements.
+    QVector<int> children;
+    Controller record; ///< As the library's parser fills it, without section and children.
+    Role role = Role::Nothing;
+
+    bool has(const char *attribute) const { return find(attribute) != nullptr; }
+    /** The attribute of that name; null if the element has none. */
+    const SourceAttribute *find(const char *attribute) const;
+    /** Where the attribute stands; where the element begins if it has no such attribute. */
+    SourcePosition positionOf(const char *attribute) const;
+};
+
+struct SourceFault
+{
+    QString message;
+    SourcePosition position;
+    bool isEncoding = false;
+};
+
+/** A description with the positions of its elements, in the order of the text; the root is first.
+ */
+struct SourceDocument
+{
+    std::vector<SourceElement> elements;
+    std::optional<SourceFault> fault; ///< Why there are no elements.
+
+    const SourceElement &at(int index) const { return elements[static_cast<std::size_t>(index)]; }
+    const SourceElement &parentOf(const SourceElement &element) const { return at(element.parent); }
+};
+
+SourceDocument readDocument(const QByteArray &description);

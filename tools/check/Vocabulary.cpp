@@ -1,0 +1,264 @@
+#include "tools/check/Vocabulary.h"
+
+#include "toolbar/description/Controller.h"
+#include "toolbar/description/DescriptionParser.h"
+
+#include <QDomDocument>
+#include <QHash>
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+namespace {
+
+struct RoleTraits
+{
+    const char *noun;
+    const char *attributes; ///< What the toolbar looks at, separated by blanks.
+};
+
+const RoleTraits &traits(Role role)
+{
+    static const QHash<int, RoleTraits> table{
+        {int(Role::Root), {"the root", "prefix"}},
+        {int(Role::AppButton), {"an application button", "name action text icon tooltip"}},
+        {int(Role::QuickButton),
+         {"a quick access button", "name action text icon tooltip available checkable visible"}},
+        {int(Role::QuickSet), {"the customise button", "name action text icon tooltip visible"}},
+        {int(Role::Tab), {"a tab", "name action text checkable checked visible scalable"}},
+        {int(Role::RowButton),
+         {"a button of a tool row", "name action text icon tooltip group checkable checked visible "
+                                    "usable available doubleclick"}},
+        {int(Role::RowMenu),
+         {"a menu of a tool row", "name action text icon tooltip index checkable switchable "
+                                  "withaction visible usable available"}},
+        {int(Role::ButtonGroup), {"a button group", "visible"}},
+        {int(Role::GroupButton),
+         {"a button of a group", "name action text icon tooltip group checkable checked visible "
+                                 "usable available doubleclick"}},
+        {int(Role::GroupMenu),
+         {"a menu of a group", "name action text icon tooltip index checkable switchable "
+                               "withaction visible usable available"}},
+        {int(Role::ComboBox), {"a combo box", "name action text index editable visible"}},
+        {int(Role::Item), {"an entry of a combo box", "name action text"}},
+        {int(Role::RowLabel), {"a label of a tool row", "name action text visible"}},
+        {int(Role::RowField), {"a field of a tool row", "name action text visible"}},
+        {int(Role::Separator), {"a separator", ""}},
+        {int(Role::Extra), {"an extra group", "usable"}},
+        {int(Role::ExtraLabel), {"a label of an extra group", "name action text"}},
+        {int(Role::ExtraField), {"a field of an extra group", "name action tooltip"}},
+        {int(Role::ExtraButton), {"a button of an extra group", "name action text icon tooltip"}},
+        {int(Role::SubMenu), {"a sub-menu", "name action text icon visible"}},
+        {int(Role::MenuEntry),
+         {"a menu entry", "name action text icon tooltip group shortcut checkable checked visible "
+                          "usable available doubleclick"}},
+        {int(Role::SearchLabel), {"the label of the search bar", "name action text icon"}},
+        {int(Role::SearchField), {"the search field", "name action tooltip"}},
+        {int(Role::SearchButton), {"a search button", "name action text icon tooltip usable"}},
+        {int(Role::SearchSet),
+         {"the button of the search options", "name action text icon tooltip checkable"}},
+        {int(Role::AdditionalButton),
+         {"an additional button", "name action text icon tooltip checkable checked"}},
+    };
+    static const RoleTraits section{"a section", ""};
+    const auto found = table.find(int(role));
+    return found == table.end() ? section : *found;
+}
+
+using Kinds = std::vector<std::pair<const char *, Role>>;
+
+/** Which elements belong below a role, and what the library takes any other element for. */
+struct Place
+{
+    Kinds kinds;
+    Role otherwise = Role::Nothing;
+};
+
+const Place &placeBelow(Role parent)
+{
+    static const Place menu{
+        {{"menuitem", Role::MenuEntry}, {"menu", Role::SubMenu}, {separatorTag, Role::Separator}},
+        Role::MenuEntry};
+    static const QHash<int, Place> table{
+        {int(Role::AppSection), {{{"menu", Role::AppButton}}, Role::AppButton}},
+        {int(Role::QuickSection), {{{"button", Role::QuickButton}}, Role::QuickButton}},
+        {int(Role::TabSection), {{{"tabbutton", Role::Tab}}, Role::Tab}},
+        {int(Role::SearchSection),
+         {{{"label", Role::SearchLabel},
+           {"lineedit", Role::SearchField},
+           {"button", Role::SearchButton}}}},
+        {int(Role::AdditionalSection), {{{"button", Role::AdditionalButton}}}},
+        {int(Role::Tab),
+         {{{"button", Role::RowButton},
+           {"menu", Role::RowMenu},
+           {"buttongroup", Role::ButtonGroup},
+           {"combobox", Role::ComboBox},
+           {"label", Role::RowLabel},
+           {"lineedit", Role::RowField},
+           {separatorTag, Role::Separator},
+           {"extra", Role::Extra}}}},
+        {int(Role::ButtonGroup), {{{"button", Role::GroupButton}, {"menu", Role::GroupMenu}}}},
+        {int(Role::ComboBox), {{{"item", Role::Item}}, Role::Item}},
+        {int(Role::Extra), {{{"label", Role::ExtraLabel}, {"lineedit", Role::ExtraField}}}},
+        {int(Role::ExtraField), {{{"button", Role::ExtraButton}}}},
+    };
+    static const Place nothing;
+
+    if (Vocabulary::holdsEntries(parent))
+        return menu;
+    const auto found = table.find(int(parent));
+    return found == table.end() ? nothing : *found;
+}
+
+bool anySet(const Controller &record, std::initializer_list<QString Controller::*> fields)
+{
+    return std::any_of(fields.begin(), fields.end(), [&record](QString Controller::*field) {
+        return !(record.*field).isEmpty();
+    });
+}
+
+/** Whether the parser has moved any switch of the record away from its default. */
+bool anySwitched(const Controller &record)
+{
+    return !record.usable || !record.available || !record.visible || record.checkable
+           || record.checked || record.check || record.editable || record.switchable
+           || record.withaction || record.scalable || record.doubleclick;
+}
+
+Controller parsed(const QString &attribute, const QString &value)
+{
+    QDomDocument factory;
+    QDomElement element = factory.createElement(QStringLiteral("button"));
+    element.setAttribute(attribute, value);
+    Controller record;
+    GetElementAttributes(&element, &record);
+    return record;
+}
+
+Vocabulary::AttributeKind kindByParsing(const QString &name)
+{
+    using Kind = Vocabulary::AttributeKind;
+    const Controller numbered = parsed(name, QStringLiteral("7"));
+    if (numbered.index != 0)
+        return Kind::Number;
+    if (anySet(numbered, {&Controller::text, &Controller::name, &Controller::icon,
+                          &Controller::arrow, &Controller::layout, &Controller::output,
+                          &Controller::tooltip, &Controller::disabletip, &Controller::group,
+                          &Controller::shortcut, &Controller::dropicon}))
+        return Kind::Text;
+    if (anySwitched(parsed(name, QStringLiteral("true"))))
+        return Kind::TrueOnly;
+    if (anySwitched(parsed(name, QStringLiteral("false"))))
+        return Kind::FalseOnly;
+    return Kind::Unknown;
+}
+
+} // namespace
+
+Vocabulary::AttributeKind Vocabulary::attributeKind(const QString &name)
+{
+    static const QHash<QString, AttributeKind> known = [] {
+        QHash<QString, AttributeKind> kinds;
+        for (const QString &attribute : attributes())
+            kinds.insert(attribute, kindByParsing(attribute));
+        return kinds;
+    }();
+    const auto found = known.constFind(name);
+    return found != known.cend() ? *found : kindByParsing(name);
+}
+
+const QStringList &Vocabulary::attributes()
+{
+    static const QStringList names =
+        QStringLiteral(
+            "name action text icon tooltip disabletip group shortcut index checkable checked check "
+            "visible usable available editable switchable withaction scalable doubleclick dropicon "
+            "arrow layout output")
+            .split(QLatin1Char(' '));
+    return names;
+}
+
+QStringList Vocabulary::usedAttributes(Role role)
+{
+    return QString::fromLatin1(traits(role).attributes).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+}
+
+bool Vocabulary::usesAttribute(Role role, const QString &name)
+{
+    return usedAttributes(role).contains(name);
+}
+
+bool Vocabulary::isForeignAttribute(Role role, const QString &name)
+{
+    if (role == Role::Root && name.startsWith(QLatin1String("xmlns")))
+        return true;
+    return name.startsWith(QLatin1String("xml:")) || name.startsWith(QLatin1String("xsi:"));
+}
+
+bool Vocabulary::isFormerAttribute(const QString &name)
+{
+    return name == QLatin1String("min_width") || name == QLatin1String("max_width");
+}
+
+QStringList Vocabulary::elements()
+{
+    QStringList names;
+    for (const Role parent :
+         {Role::AppSection, Role::SubMenu, Role::Tab, Role::TabSection, Role::ComboBox}) {
+        for (const QString &name : elementsBelow(parent)) {
+            if (!names.contains(name))
+                names.append(name);
+        }
+    }
+    return names;
+}
+
+QStringList Vocabulary::elementsBelow(Role parent)
+{
+    QStringList names;
+    for (const auto &[tag, role] : placeBelow(parent).kinds)
+        names.append(QLatin1String(tag));
+    return names;
+}
+
+Role Vocabulary::roleBelow(Role parent, const QString &tag)
+{
+    const Place &place = placeBelow(parent);
+    const auto found =
+        std::find_if(place.kinds.begin(), place.kinds.end(),
+                     [&tag](const auto &kind) { return tag == QLatin1String(kind.first); });
+    return found == place.kinds.end() ? place.otherwise : found->second;
+}
+
+QStringList Vocabulary::sections()
+{
+    return {QLatin1String(Section::appButton), QLatin1String(Section::quickAccessBar),
+            QLatin1String(Section::tabBar), QLatin1String(Section::searchBar),
+            QLatin1String(Section::additional)};
+}
+
+Role Vocabulary::sectionRole(const QString &tag)
+{
+    static constexpr Role roles[]{Role::AppSection, Role::QuickSection, Role::TabSection,
+                                  Role::SearchSection, Role::AdditionalSection};
+    const auto position = sections().indexOf(tag);
+    return position < 0 ? Role::Nothing : roles[position];
+}
+
+bool Vocabulary::holdsEntries(Role role)
+{
+    return role == Role::AppButton || role == Role::RowMenu || role == Role::GroupMenu
+           || role == Role::SubMenu || role == Role::SearchSet;
+}
+
+bool Vocabulary::isLeftOut(Role role)
+{
+    return role == Role::Nothing || role == Role::SurplusAppButton || role == Role::IdleExtra
+           || role == Role::NamelessSearchButton;
+}
+
+QString Vocabulary::noun(Role role)
+{
+    return QString::fromLatin1(traits(role).noun);
+}

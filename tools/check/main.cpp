@@ -1,0 +1,151 @@
+// Tells the author of a toolbar's description what the library passes over in silence.
+
+#include "tools/check/DescriptionCheck.h"
+#include "tools/check/Report.h"
+#include "tools/check/SkinIcons.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QFile>
+#include <QResource>
+
+#include <algorithm>
+#include <cstdio>
+
+namespace {
+
+enum ExitCode
+{
+    Clean = 0,
+    Found = 1,
+    Failed = 2
+};
+
+int fail(const QString &message)
+{
+    std::fprintf(stderr, "mrtoolbar-check: %s\n", qPrintable(message));
+    return Failed;
+}
+
+QString explanation()
+{
+    return QStringLiteral(
+        "Tells the author of a toolbar description what the library would do with it. The library "
+        "builds what it can and passes over the rest in silence; this tool names every such "
+        "place, says what becomes of it, and how to mend it.\n\n"
+        "Each finding is a line \"file:line:column: severity: sentence [id]\".\n"
+        "  error    something that is described will not be in the toolbar\n"
+        "  warning  the control is there, but hardly as it was meant\n"
+        "  note     harmless, such as an attribute without use (only with --notes)\n\n"
+        "Exit status: 0 if nothing was reported, 1 if something was, 2 if a file cannot be read "
+        "or the command line is wrong.\n\n"
+        "Example: mrtoolbar-check --skin lum my_toolbar.xml");
+}
+
+void addOptions(QCommandLineParser &parser)
+{
+    parser.setApplicationDescription(explanation());
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.addOptions({
+        {QStringLiteral("skin"),
+         QStringLiteral("Look up icons in this skin, marodi or lum; without it an icon of either "
+                        "skin will do."),
+         QStringLiteral("skin")},
+        {QStringLiteral("resources"),
+         QStringLiteral(
+             "Load the resources of a host first, for icons of its own below the skin's; "
+             "a file made with rcc --binary."),
+         QStringLiteral("rcc file")},
+        {QStringLiteral("notes"), QStringLiteral("Report notes, too; they count like the rest.")},
+        {QStringLiteral("werror"), QStringLiteral("Report warnings as errors.")},
+        {QStringLiteral("json"), QStringLiteral("Write the findings as a JSON array.")},
+    });
+    parser.addPositionalArgument(QStringLiteral("file"),
+                                 QStringLiteral("Descriptions to check; - is standard input."),
+                                 QStringLiteral("file..."));
+}
+
+bool read(const QString &path, QByteArray *content, QString *error)
+{
+    QFile file(path);
+    const bool isOpen = path == QLatin1String("-") ? file.open(stdin, QIODevice::ReadOnly)
+                                                   : file.open(QIODevice::ReadOnly);
+    if (isOpen)
+        *content = file.readAll();
+    if (isOpen && file.error() == QFileDevice::NoError)
+        return true;
+    *error = QStringLiteral("cannot read '%1': %2").arg(path, file.errorString());
+    return false;
+}
+
+/** What the options leave of the findings, at the severity that they give them. */
+QVector<Finding> reported(QVector<Finding> findings, const QCommandLineParser &parser)
+{
+    if (!parser.isSet(QStringLiteral("notes")))
+        findings.erase(std::remove_if(findings.begin(), findings.end(),
+                                      [](const Finding &finding) {
+                                          return finding.severity == Severity::Note;
+                                      }),
+                       findings.end());
+    if (parser.isSet(QStringLiteral("werror"))) {
+        for (Finding &finding : findings) {
+            if (finding.severity == Severity::Warning)
+                finding.severity = Severity::Error;
+        }
+    }
+    return findings;
+}
+
+int checkFiles(const QCommandLineParser &parser, const CheckOptions &options)
+{
+    ExitCode code = Clean;
+    QVector<FileReport> reports;
+    const QStringList paths = parser.positionalArguments();
+    for (const QString &path : paths) {
+        QByteArray content;
+        QString error;
+        if (!read(path, &content, &error)) {
+            code = static_cast<ExitCode>(fail(error));
+            continue;
+        }
+        reports.append({path, reported(checkDescription(content, options), parser)});
+        if (code == Clean && !reports.last().findings.isEmpty())
+            code = Found;
+    }
+    const QByteArray output = parser.isSet(QStringLiteral("json")) ? Report::json(reports)
+                                                                   : Report::text(reports).toUtf8();
+    std::fwrite(output.constData(), 1, static_cast<std::size_t>(output.size()), stdout);
+    return code;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("mrtoolbar-check"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(MRTOOLBAR_VERSION));
+
+    QCommandLineParser parser;
+    addOptions(parser);
+    if (!parser.parse(QCoreApplication::arguments()))
+        return fail(parser.errorText());
+    if (parser.isSet(QStringLiteral("help")) || parser.isSet(QStringLiteral("help-all")))
+        parser.showHelp(Clean);
+    if (parser.isSet(QStringLiteral("version")))
+        parser.showVersion();
+
+    CheckOptions options;
+    options.skin = parser.value(QStringLiteral("skin"));
+    if (parser.isSet(QStringLiteral("skin")) && !SkinIcons::skins().contains(options.skin))
+        return fail(QStringLiteral("there is no skin '%1', only marodi and lum").arg(options.skin));
+    const QStringList resources = parser.values(QStringLiteral("resources"));
+    for (const QString &file : resources) {
+        if (!QResource::registerResource(file))
+            return fail(QStringLiteral("there are no resources in '%1'").arg(file));
+    }
+    if (parser.positionalArguments().isEmpty())
+        return fail(QStringLiteral("no file to check; --help tells more"));
+    return checkFiles(parser, options);
+}
