@@ -61,7 +61,7 @@ run_tests()
 }
 
 read_options "$@"
-needed+=(xvfb python3 libxml2-utils)
+needed+=(xvfb python3 libxml2-utils pkg-config)
 for version in "${versions[@]}"; do
     need_toolkit "$version"
 done

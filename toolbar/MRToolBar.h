@@ -21,7 +21,8 @@ class QMainWindow;
  * A name that no control bears is ignored; a query about it answers false, an empty string or a
  * null rectangle.
  *
- * All calls belong to the GUI thread. Set NewToolBar::uiStyle before constructing the first one.
+ * All calls belong to the GUI thread. Set NewToolBar::uiStyle before constructing the first one. In
+ * the answer to a signal, end the window, the toolbar or this object by deleteLater().
  */
 class MRTOOLBAR_EXPORT MRToolBar : public QObject
 {
@@ -51,7 +52,10 @@ public:
     static MRToolBar *InitToolBar(QMainWindow *mainWindow, QDomNode &description,
                                   QMap<QString, QString> skin, ToolBarAlignment alignment);
 
-    /** Whether the control, or the area of that reserved name, is visible on the screen. */
+    /**
+     * Whether the control, or the area of that reserved name, is visible. The buttons of quick
+     * access, of button groups and of the additional controls are not asked: false.
+     */
     bool GetCompositeVisible(QString objName);
 
     /** Whether an action of exactly that name has been built; rows and menus are built lazily. */
@@ -75,11 +79,16 @@ public:
     /** The sheet for the host to apply; empty unless the skin held the key "externalqss". */
     QString GetToolBarStyleSheet();
 
-    /** Whether the control, or the area of that reserved name, is enabled. */
+    /**
+     * Whether the control, or the area of that reserved name, is enabled. The same buttons are not
+     * asked as by GetCompositeVisible().
+     */
     bool GetCompositeEnable(QString objName);
 
 protected:
-    // The way from the facade's slots to the toolbar's; of no use to a host.
+    /** @name The way to the toolbar
+     *  @{ */
+    /** Passes a call of the slot of the same meaning on to the toolbar; of no use to a host. */
     Q_SIGNAL void Inner_DoSetControlUsableState(QString &objName, bool usable);
     Q_SIGNAL void Inner_DoSetControlCheckedState(QString &objName, bool checked);
     Q_SIGNAL void Inner_DoSetControlVisibleState(QString &objName, bool visible);
@@ -89,6 +98,7 @@ protected:
     Q_SIGNAL void Inner_DoUpdateRecentFile(QStringList list);
     Q_SIGNAL void Inner_DoSetBackgound(BackgroundStyle style); // Spelled so for existing callers.
     Q_SIGNAL void Inner_DoSetSkinStyle(ToolBarSkinStyle style);
+    /** @} */
 
 Q_SIGNALS:
     /** The user asks for a page; @p pageNum is 1-based and not above the reported total. */
@@ -112,7 +122,9 @@ Q_SIGNALS:
     void DoRequestAuthority();
 
 public Q_SLOTS:
-    // Spare entry points that emit the signal of the same meaning; the relay does not need them.
+    /** @name Spare entry points
+     *  @{ */
+    /** Emits the signal of the same meaning, as if the user had done it; the relay needs none. */
     void Inner_DoGotoPageSlot(int pageNum);
     void Inner_DoActiveSlot(QString objName);
     void Inner_DoDoubleActionSlot(QString objName);
@@ -120,6 +132,7 @@ public Q_SLOTS:
     void Inner_DoSetZoomModeSlot(QString zmode);
     void Inner_DoSearchContentSlot(SearchOption opt);
     void Inner_DoSetBackgroundSlot(BackgroundStyle style);
+    /** @} */
 
     /** Enables or disables the control, or the area of that reserved name. */
     void DoSetControlUsableStateSlot(QString &objName, bool usable);
@@ -132,7 +145,11 @@ public Q_SLOTS:
     void DoSetZoomModeSlot(QString zmode);
     /** Shows the page and the number of pages, both counted from 1; a 0 clears both displays. */
     void DoSetPageInfoSlot(int pageNum, int totalPage);
-    /** Fills the menu of recent files with these paths, in this order; an empty list clears it. */
+    /**
+     * Fills the menu of recent files with these paths, in this order; an empty list clears it.
+     * Before the application menus are made there is nothing to fill: call it in the answer to
+     * DoRequestAuthority(), too.
+     */
     void DoUpdateRecentFileSlot(QStringList list);
     /** Shows or hides the control, or the area of that reserved name. */
     void DoSetControlVisibleStateSlot(QString &objName, bool visible);

@@ -14,6 +14,7 @@ template <typename Object>
 class NamedList
 {
 public:
+    /** Adds an object at the end, under the name that it has now. */
     void append(Object *object)
     {
         m_positions[object->objectName()].append(m_objects.size());
@@ -30,10 +31,14 @@ public:
     /** The positions, in rising order, of the objects of exactly that name. */
     QList<qsizetype> positions(const QString &name) const { return m_positions.value(name); }
 
+    /** The object at a position that there is. */
     Object *at(qsizetype position) const { return m_objects.at(position); }
+    /** All objects in the order of their arrival. */
     const QList<Object *> &objects() const { return m_objects; }
 
+    /** For loops over all objects. */
     auto begin() const { return m_objects.cbegin(); }
+    /** For loops over all objects. */
     auto end() const { return m_objects.cend(); }
 
 private:

@@ -57,6 +57,7 @@ public:
      */
     static int uiStyle;
 
+    /** Builds the toolbar and docks it; MRToolBar's constructor tells what the arguments are. */
     NewToolBar(QMainWindow *mainWindow, QDomNode &description, QMap<QString, QString> skin,
                ToolBarAlignment alignment);
     ~NewToolBar() override;
@@ -70,7 +71,9 @@ public:
     /** The sheet with every length in pixels multiplied by @p factor and rounded. */
     static QString ScaleSheet(QString const &sheet, float factor);
 
-    // What the facade asks; documented there.
+    /** @name What the facade asks
+     *  @{ */
+    /** Answers MRToolBar's query of the same meaning, which is documented there. */
     bool GetCompositeVisible(QString name);
     bool GetCompositeEnable(QString name);
     bool GetControlCheckState(QString name);
@@ -79,6 +82,7 @@ public:
     QString GetQuickAccessButtonList();
     QString GetToolBarStyleSheet();
     void ResetToolbarState();
+    /** @} */
 
     /** The skin's directory of resources, with its trailing slash. */
     QString GetResourceDir();
@@ -91,15 +95,23 @@ public:
     /** Shows the row of a tab, by its position; folds or unfolds the rows if it is on show. */
     bool InitMainToolBar(QString index);
 
+    /** Watches the zoom box. */
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 Q_SIGNALS:
+    /** @name Signals without an emitter
+     *  @{ */
+    /** Never emitted; kept for hosts that connect to it. */
     void Inner_DoSetPageNum(QString pageNum);
     void Inner_DoSetTotalPage(QString totalPage);
     void Inner_DoSetZoomMode(int index);
     void Inner_DoSetZoomInput(QString text);
-    void Inner_DoFoldToolbar(bool folded); // Never emitted; kept for hosts that connect to it.
+    void Inner_DoFoldToolbar(bool folded);
+    /** @} */
 
+    /** @name What the facade relays
+     *  @{ */
+    /** Comes out of MRToolBar as the signal of the same name, which is documented there. */
     void DoGotoPage(int pageNum);
     void DoActive(QString objName);
     void DoDoubleActive(QString objName);
@@ -108,8 +120,12 @@ Q_SIGNALS:
     void DoSearchContent(SearchOption opt);
     void DoSetBackground(BackgroundStyle style);
     void DoRequestAuthority();
+    /** @} */
 
 public Q_SLOTS:
+    /** @name What the library's own controls are connected to
+     *  @{ */
+    /** Reacts to one kind of control, most often the sender of the signal; not to be called. */
     void Inner_DoQuickAccessBarActionSlot();
     void Inner_DoAddtionalControlActionSlot();
     void Inner_DoSearchBarActionSlot();
@@ -125,6 +141,11 @@ public Q_SLOTS:
     void Inner_SetUncheckedAppSetButtonSlot();
     void Inner_DoDelayActionSlot();
     void Inner_DoDelayLoadMenuSlot();
+    /** @} */
+
+    /** @name What the facade is connected to
+     *  @{ */
+    /** Does what MRToolBar's slot of the same meaning says, which is documented there. */
     void DoSetControlUsableStateSlot(QString &objName, bool usable);
     void DoSetControlCheckedStateSlot(QString &objName, bool checked);
     void DoSetTotalPageSlot(QString totalPage);
@@ -134,6 +155,7 @@ public Q_SLOTS:
     void DoSetControlVisibleStateSlot(QString &objName, bool visible);
     void DoSetBackgoundSlot(BackgroundStyle style); // Spelled so for existing callers.
     void DoSetSkinStyleSlot(ToolBarSkinStyle skin);
+    /** @} */
 
 public:
     /** Makes this widget lay out its items again: it ends at the size that it has. */

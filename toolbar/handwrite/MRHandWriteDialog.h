@@ -73,6 +73,7 @@ public:
 
     /** Keeps the default size of a handwriting region for the host; 0 until it is set. */
     void SetRegionSize(int size);
+    /** The default size of a handwriting region as it was last set. */
     int GetRegionSize();
 
 Q_SIGNALS:
@@ -82,9 +83,13 @@ Q_SIGNALS:
     void DoUpdateCommonTrackInfo(QList<HandTrack *> &tracks);
 
 protected:
+    /** Begins to move the dialog. */
     void mousePressEvent(QMouseEvent *event) override;
+    /** Moves the dialog. */
     void mouseMoveEvent(QMouseEvent *event) override;
+    /** Leaves the dialog where it is. */
     void mouseReleaseEvent(QMouseEvent *event) override;
+    /** Keeps the preview in step with its size. */
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:

@@ -28,11 +28,13 @@ public:
     };
     Q_ENUM(Derection)
 
+    /** Starts the two seconds. */
     explicit CCR_ToolTipWidget(QWidget *parent);
 
     /** Sets the text and fits the label to the bubble, which must have its final size by now. */
     void setLabelText(QString text);
 
+    /** Chooses the shape of the pointer. */
     void setDerection(Derection derection);
     /** Where along the bubble's upper edge the pointer begins, in pixels. */
     void setStartPos(int startPos);
@@ -40,9 +42,11 @@ public:
     void setTriangleInfo(int width, int height);
 
 public Q_SLOTS:
+    /** Closes the bubble. */
     void TimeOutCloseWidget();
 
 protected:
+    /** Draws the bubble. */
     void paintEvent(QPaintEvent *event) override;
 
 private:

@@ -1,0 +1,33 @@
+# Makes Doxygen see a guide as the host of the repository shows it: headings get the anchors that
+# links between the guides name, apart from each other by the name of their file, and blocks of code
+# keep only the language of the words behind their fence.
+
+FNR == 1 {
+    guide = FILENAME
+    sub(/.*\//, "", guide)
+    sub(/\.md$/, "", guide)
+}
+
+/^```/ {
+    inCode = !inCode
+    sub(/ .*/, "")
+    sub(/^```cmake/, "```")
+}
+
+!inCode && /^#+ / {
+    anchor = $0
+    sub(/^#+ /, "", anchor)
+    anchor = tolower(anchor)
+    gsub(/[^a-z0-9_ -]/, "", anchor)
+    gsub(/ /, "-", anchor)
+    $0 = $0 " {#" guide "-" anchor "}"
+}
+
+!inCode {
+    gsub(/\]\(#/, "](#" guide "-")
+    gsub(/\]\(host-guide\.md#/, "](#host-guide-")
+    gsub(/\]\(description-format\.md#/, "](#description-format-")
+    gsub(/\]\(skins\.md#/, "](#skins-")
+}
+
+{ print }

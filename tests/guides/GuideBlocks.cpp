@@ -1,0 +1,66 @@
+#include "GuideBlocks.h"
+
+#include <QDirIterator>
+#include <QFile>
+
+namespace {
+
+/** Tags of what is no command, or no widget or action of its own. */
+const QStringList frames{QStringLiteral("tabbutton"), QStringLiteral("buttongroup"),
+                         QStringLiteral("extra"), QStringLiteral("item")};
+
+QByteArray wholeDocument(const QByteArray &code, const QString &kind)
+{
+    if (kind == QLatin1String("row")) {
+        return "<uiconfig prefix=''><toolbar_tabbar><tabbutton name='tb_row' text='Tools' "
+               "checkable='true' checked='true'>"
+               + code + "</tabbutton></toolbar_tabbar></uiconfig>";
+    }
+    return code.contains("<uiconfig") ? code : "<uiconfig prefix=''>" + code + "</uiconfig>";
+}
+
+GuideBlock readBlock(const QString &path)
+{
+    // <name>.<kind>.<picture>.xml
+    const QStringList parts = path.section(QLatin1Char('/'), -1).split(QLatin1Char('.'));
+    GuideBlock block;
+    block.name = parts.at(0);
+    block.picture = parts.at(2);
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        block.error = file.errorString();
+    else
+        block.description.setContent(wholeDocument(file.readAll(), parts.at(1)), &block.error);
+    return block;
+}
+
+} // namespace
+
+QList<GuideBlock> guideBlocks(const QString &folder)
+{
+    QStringList paths;
+    QDirIterator files(folder, {QStringLiteral("*.xml")}, QDir::Files,
+                       QDirIterator::Subdirectories);
+    while (files.hasNext())
+        paths.append(files.next());
+    paths.sort();
+
+    QList<GuideBlock> blocks;
+    for (const QString &path : std::as_const(paths))
+        blocks.append(readBlock(path));
+    return blocks;
+}
+
+QStringList controlNames(const QDomElement &parent)
+{
+    QStringList names;
+    for (QDomElement element = parent.firstChildElement(); !element.isNull();
+         element = element.nextSiblingElement()) {
+        const QString name =
+            element.attribute(QStringLiteral("action"), element.attribute(QStringLiteral("name")));
+        if (!name.isEmpty() && !frames.contains(element.tagName()))
+            names.append(name);
+        names += controlNames(element);
+    }
+    return names;
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+// What the pieces of host code in the guides may use without saying so.
+
+#include <toolbar/MRToolBar.h>
+#include <toolbar/NewToolBar.h>
+#include <toolbar/handwrite/MRHandWriteDialog.h>
+
+#include <QApplication>
+#include <QDebug>
+#include <QDomDocument>
+#include <QFile>
+#include <QFileInfo>
+#include <QLabel>
+#include <QMainWindow>
+#include <QSet>
+#include <QSettings>
+#include <QSlider>
+#include <QThread>
+#include <QToolBar>
