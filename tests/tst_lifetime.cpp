@@ -5,6 +5,7 @@
 #include <QMenu>
 #include <QStackedWidget>
 #include <QToolBar>
+#include <QToolButton>
 
 enum class Death
 {
@@ -26,7 +27,8 @@ const QString everything =
     "<button action='qt_set' tooltip='Customise'/></toolbar_quickaccessbar>"
     "<toolbar_tabbar><tabbutton name='t_one' text='One' checkable='true' checked='true'>"
     "<button action='plain' text='Plain'/><button action='slow' text='Slow' doubleclick='true'/>"
-    "<menu name='drop' text='Drop' checkable='true'><menuitem action='d_one' text='One'/></menu>"
+    "<menu name='drop' text='Drop' checkable='true'><menuitem action='d_one' text='One'/>"
+    "<menu name='d_more' text='More'><menuitem action='d_two' text='Two'/></menu></menu>"
     "<lineedit name='d_gotopage' text='/'/></tabbutton>"
     "<tabbutton name='t_two' text='Two' checkable='true'><button action='other' text='Other'/>"
     "</tabbutton></toolbar_tabbar>"
@@ -46,6 +48,17 @@ void die(TestHost &host, Death death)
         delete host.toolBar();
     else
         delete host.find<QToolBar>("mrtoolbar");
+}
+
+/** The entry of that name, or the one that opens the menu of that name. */
+QAction *entryOf(const QMenu *menu, const QString &name)
+{
+    const QList<QAction *> entries = menu->actions();
+    for (QAction *entry : entries) {
+        if ((entry->menu() ? entry->menu()->objectName() : entry->objectName()) == name)
+            return entry;
+    }
+    return nullptr;
 }
 
 void runEventLoop()
@@ -154,6 +167,60 @@ private Q_SLOTS:
         QVERIFY2(!toolBar, "The handler was not called");
         runEventLoop();
         QVERIFY(!host.find<QToolBar>("mrtoolbar"));
+    }
+
+    void shouldLetTheHostDeleteTheWindowOnAChoiceFromAMenu_data()
+    {
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<QStringList>("entries");
+        QTest::newRow("row") << "drop" << QStringList{"d_one"};
+        QTest::newRow("sub-menu of a row") << "drop" << QStringList{"d_more", "d_two"};
+        QTest::newRow("application") << "menu_file" << QStringList{"f_open"};
+        QTest::newRow("sub-menu of the application") << "menu_file"
+                                                     << QStringList{"menu_help", "h_info"};
+        QTest::newRow("set button") << "ab_set" << QStringList{"s_one"};
+    }
+
+    void shouldLetTheHostDeleteTheWindowOnAChoiceFromAMenu()
+    {
+        QFETCH(QString, button);
+        QFETCH(QStringList, entries);
+        TestHost host(everything);
+        host.show();
+        host.setUsable("any", true);
+        connect(&host.facade(), &MRToolBar::DoRequestAuthority, this, [&host] {
+            for (const char *name : {"f_open", "h_info", "s_one"})
+                host.setUsable(name, true);
+        });
+        bool isHeard = false;
+        connect(&host.facade(), &MRToolBar::DoActive, this, [&] {
+            isHeard = true;
+            host.deleteWindow();
+        });
+
+        whenMenuPops([&](QMenu *menu) {
+            for (const QString &name : std::as_const(entries)) {
+                QAction *entry = entryOf(menu, name);
+                QVERIFY(entry);
+                if (name == entries.last()) {
+                    const QPoint place = menu->actionGeometry(entry).center();
+                    QTest::mouseClick(menu, Qt::LeftButton, {}, place);
+                    return;
+                }
+                menu->setActiveAction(entry);
+                QTest::keyClick(menu, Qt::Key_Right);
+                menu = entry->menu();
+                QTRY_VERIFY(menu->isVisible());
+            }
+        });
+        QPointer<QAbstractButton> opener = host.find<QAbstractButton>(button);
+        if (auto *dropButton = qobject_cast<QToolButton *>(opener))
+            dropButton->showMenu();
+        else
+            QTest::mouseClick(opener, Qt::LeftButton);
+        QVERIFY(isHeard);
+        runEventLoop();
+        QVERIFY(!opener);
     }
 
     void shouldWorkWithoutAUsableDescription_data()

@@ -69,18 +69,29 @@ NewToolBar::~NewToolBar()
     DeleteUnitControl(&m_controllers);
     m_controllers.clear();
 
-    // The menus outlive their styles by a moment; let go of the styles before they are gone.
-    const QList<QMenu *> menus = findChildren<QMenu *>();
-    for (QMenu *menu : menus) {
-        if (menu->testAttribute(Qt::WA_SetStyle))
-            menu->setStyle(nullptr);
-    }
+    releaseMenus();
     qDeleteAll(m_menuStyles);
 
     // Alone, this widget takes its strip along. A strip that is dying itself, with its window or
     // without, is no tool bar any more by the time it deletes its children.
     if (auto *strip = qobject_cast<QToolBar *>(parentWidget()))
         strip->deleteLater();
+}
+
+void NewToolBar::releaseMenus()
+{
+    const QList<QMenu *> menus = findChildren<QMenu *>();
+    for (QMenu *menu : menus) {
+        // The menus outlive their styles by a moment.
+        if (menu->testAttribute(Qt::WA_SetStyle))
+            menu->setStyle(nullptr);
+        // The toolkit goes on to use a menu after the choice that made the host end this toolbar.
+        const bool wasOpened = menu->testAttribute(Qt::WA_WState_Created);
+        if (wasOpened && !qobject_cast<QMenu *>(menu->parentWidget())) {
+            menu->setParent(nullptr, menu->windowFlags());
+            menu->deleteLater();
+        }
+    }
 }
 
 bool NewToolBar::Init(QDomNode &description)

@@ -171,6 +171,7 @@ private:
     QHBoxLayout *createRightLayout();
     void showTabButtons(const QList<bool> &visibleTabs);
     void dockIntoMainWindow();
+    void releaseMenus();
     QList<Controller *> sectionRecords(const char *section) const;
     QSize scaledIconSize(double side) const;
     QIcon icon(const QString &name);
