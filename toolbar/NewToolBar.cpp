@@ -5,6 +5,7 @@
 #include "toolbar/skin/Skin.h"
 #include "toolbar/widgets/CustomMenuStyle.h"
 #include "toolbar/widgets/DropMenuIndex.h"
+#include "toolbar/widgets/FocusRing.h"
 #include "toolbar/widgets/MRSearchBar.h"
 #include "toolbar/widgets/TabStrip.h"
 #include "toolbar/widgets/ToolTipCard.h"
@@ -20,6 +21,7 @@
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QToolBar>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 int NewToolBar::uiStyle = 0;
@@ -58,6 +60,7 @@ NewToolBar::NewToolBar(QMainWindow *mainWindow, QDomNode &description, QMap<QStr
     // A document that can't be used leaves an empty toolbar that works.
     Init(description);
     InitWidget();
+    new FocusRing(this);
     InitSkinStyle(skin);
     setLayout(m_mainLayout);
     dockIntoMainWindow();
@@ -140,6 +143,8 @@ bool NewToolBar::InitWidget()
     showTabButtons(visibleTabs);
     if (m_quickAccessSetButton)
         m_quickAccessSetButton->setVisible(customiseVisible);
+    focusByKeysOnly(this);
+    orderFocus();
     return true;
 }
 
@@ -226,6 +231,38 @@ void NewToolBar::showTabButtons(const QList<bool> &visibleTabs)
         if (auto *button = qobject_cast<QPushButton *>(buttons.at(i)))
             button->setVisible(visibleTabs.value(i));
     }
+}
+
+void NewToolBar::focusByKeysOnly(const QWidget *area)
+{
+    const QList<QAbstractButton *> buttons = area->findChildren<QAbstractButton *>();
+    for (QAbstractButton *button : buttons) {
+        // A row leaves its tool buttons without any focus; the arrows are for the pointer alone.
+        if (button->focusPolicy() != Qt::NoFocus || qobject_cast<QToolButton *>(button))
+            button->setFocusPolicy(Qt::TabFocus);
+    }
+}
+
+void NewToolBar::orderFocus()
+{
+    QWidgetList controls = m_appButtonWidgets;
+    if (m_quickAccessBar) {
+        for (auto *button : m_quickAccessBar->findChildren<QToolButton *>())
+            controls.append(button);
+    }
+    controls.append(m_quickAccessSetButton);
+    for (QPushButton *tab : m_tabButtons)
+        controls.append(tab);
+    controls.append(m_searchBar);
+    if (m_searchBar) {
+        for (auto *button : m_searchBar->findChildren<QPushButton *>())
+            controls.append(button);
+    }
+    controls.append(m_searchSetButton);
+    controls += m_additionalWidgets.objects();
+    controls.removeAll(nullptr);
+    for (qsizetype i = 1; i < controls.size(); ++i)
+        setTabOrder(controls.at(i - 1), controls.at(i));
 }
 
 void NewToolBar::dockIntoMainWindow()

@@ -170,6 +170,10 @@ private:
     QHBoxLayout *createMiddleLayout(QList<bool> &visibleTabs);
     QHBoxLayout *createRightLayout();
     void showTabButtons(const QList<bool> &visibleTabs);
+    /** A click on a command leaves the focus in the document. */
+    static void focusByKeysOnly(const QWidget *area);
+    /** The Tab key goes along the top line, then down to the row. */
+    void orderFocus();
     void dockIntoMainWindow();
     void releaseMenus();
     QList<Controller *> sectionRecords(const char *section) const;

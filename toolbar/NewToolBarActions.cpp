@@ -8,7 +8,7 @@
 #include "toolbar/widgets/DropMenuIndex.h"
 #include "toolbar/widgets/MRDropButton.h"
 #include "toolbar/widgets/MRGroupButton.h"
-#include "toolbar/widgets/ReturnKeyFilter.h"
+#include "toolbar/widgets/FieldKeyFilter.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -302,7 +302,7 @@ void NewToolBar::addLineEdit(const Controller &record, QToolBar *row)
     QWidget *container = createCaptionedContainer(field);
     if (record.name.contains(QLatin1String("gotopage"), Qt::CaseInsensitive)) {
         setDigitsOnly(field, "^[0-9]*[1-9][0-9]*$");
-        new ReturnKeyFilter(field);
+        new FieldKeyFilter(field);
         connect(field, &QLineEdit::returnPressed, this, &NewToolBar::Inner_DoGotoPageSlot);
         m_pageNumberEdit = field;
         m_pagePromptLabel = addCaption(container, record.text);

@@ -154,6 +154,7 @@ void NewToolBar::fillToolRow(MRMainToolBar *row, const QString &tabName)
             AddToolBarAction(tab->children, row, false, true);
     }
     row->setFilled(true);
+    focusByKeysOnly(row);
 }
 
 bool NewToolBar::InitMainToolBar(QString index)

@@ -47,6 +47,7 @@ MRExtendButton::MRExtendButton(QWidget *parent)
 {
     setFlat(true);
     setFocusPolicy(Qt::NoFocus);
+    m_arrow->setFocusPolicy(Qt::NoFocus);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
 
     auto *layout = new QHBoxLayout(this);
@@ -84,6 +85,7 @@ MRScrollArea::MRScrollArea(QWidget *parent)
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setWidgetResizable(true);
+    setFocusPolicy(Qt::NoFocus);
 
     m_animation->setDuration(scrollDuration);
     m_animation->setEasingCurve(QEasingCurve::InQuad);

@@ -1,7 +1,7 @@
 #include "toolbar/widgets/MRSearchBar.h"
 
 #include "toolbar/skin/Skin.h"
-#include "toolbar/widgets/ReturnKeyFilter.h"
+#include "toolbar/widgets/FieldKeyFilter.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -36,7 +36,7 @@ MRSearchBar::MRSearchBar(QWidget *parent, QLabel *label, QPushButton *previous, 
     for (QPushButton *button : buttons())
         button->setCursor(Qt::ArrowCursor);
     setLayout(m_layout);
-    new ReturnKeyFilter(this);
+    new FieldKeyFilter(this);
 }
 
 QList<QPushButton *> MRSearchBar::buttons() const

@@ -1,0 +1,97 @@
+#include "toolbar/widgets/FocusRing.h"
+
+#include "toolbar/widgets/MRScrollWidget.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QEvent>
+#include <QPainter>
+
+namespace {
+
+constexpr double lineWidth = 1.5;
+constexpr double cornerRadius = 3.0;
+
+/** A sibling of the button: it scrolls, and is cut off, with it. */
+class Ring : public QWidget
+{
+public:
+    explicit Ring(QWidget *button)
+        : QWidget(button->parentWidget())
+        , m_button(button)
+    {
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+        setGeometry(button->geometry());
+        button->installEventFilter(this);
+        setVisible(button->isVisible());
+        raise();
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        switch (event->type()) {
+        case QEvent::Move:
+        case QEvent::Resize:
+            setGeometry(m_button->geometry());
+            break;
+        case QEvent::Show:
+        case QEvent::Hide:
+            setVisible(event->type() == QEvent::Show);
+            break;
+        default:
+            break;
+        }
+        return QWidget::eventFilter(watched, event);
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        const double scale = physicalDpiX() / 96.0;
+        const double inset = lineWidth * scale / 2;
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        // The colour of the button's text is seen on the button's ground, whatever the skin.
+        painter.setPen(QPen(m_button->palette().color(QPalette::ButtonText), lineWidth * scale));
+        painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset),
+                                cornerRadius * scale, cornerRadius * scale);
+    }
+
+private:
+    QWidget *m_button;
+};
+
+/** A row that has scrolled the button away scrolls it back. */
+void bringIntoView(QWidget *button)
+{
+    for (QWidget *parent = button->parentWidget(); parent; parent = parent->parentWidget()) {
+        if (auto *area = qobject_cast<MRScrollArea *>(parent)) {
+            area->ensureWidgetVisible(button, 0, 0);
+            area->UpdateExtendButton();
+        }
+    }
+}
+
+} // namespace
+
+FocusRing::FocusRing(QWidget *scope)
+    : QObject(scope)
+    , m_scope(scope)
+{
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](QWidget *, QWidget *now) { follow(now); });
+}
+
+void FocusRing::follow(QWidget *focused)
+{
+    if (m_ring) {
+        m_ring->hide();
+        m_ring->deleteLater();
+    }
+    m_ring = nullptr;
+    if (!qobject_cast<QAbstractButton *>(focused) || !m_scope->isAncestorOf(focused))
+        return;
+
+    bringIntoView(focused);
+    m_ring = new Ring(focused);
+}
