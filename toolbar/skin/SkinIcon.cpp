@@ -8,7 +8,7 @@
 namespace {
 
 /** The toolkit's own disabled look leaves light glyphs as they are; this one fades all alike. */
-constexpr qreal disabledOpacity = 0.4;
+constexpr qreal disabledOpacity = 0.45;
 
 class SkinIconEngine : public QIconEngine
 {
