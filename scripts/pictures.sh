@@ -1,39 +1,76 @@
 #!/usr/bin/env bash
-# Takes the pictures in docs/pictures/ anew: both skins, every tab, state and menu.
+# Takes the pictures in docs/pictures/ anew; --help tells the options.
 set -euo pipefail
 # shellcheck source-path=SCRIPTDIR source=common.sh
 source "$(dirname -- "${BASH_SOURCE[0]}")/common.sh"
 
-build=$root/build/qt5
+version=5
 folder=$root/docs/pictures
 showcase=$root/examples/reader/showcase.xml
+skin_maps=$root/docs/skins
 
-# picture_set SKIN DESCRIPTION DPI WIDTH PREFIX
-picture_set()
+show_help()
 {
-    "$build/bin/mrtoolbar-pictures" --skin "$1" --description "$2" --width "$(($4 * $3 / 96))" \
-        --out "$folder" --prefix "$5"
+    cat <<'END'
+Usage: scripts/pictures.sh [OPTION]...
+Takes every tab, menu and state of the described toolbars in both skins at 96, 120, 144 and 192
+dpi, one sheet each, and the sheet of the icons, after installing what that needs (Debian 12).
+
+  --qt 5|6       version of Qt (default 5)
+  --out FOLDER   where to (default docs/pictures)
+  --help         show this text
+END
 }
 
-(($# == 0)) || usage_error "takes no options"
-need_toolkit 5
+read_options()
+{
+    while (($#)); do
+        case $1 in
+            --qt) require_one_of "$1" "${2-}" 5 6 && version=$2 && shift ;;
+            --out) [[ -n ${2-} ]] || usage_error "--out needs a folder"; folder=$2; shift ;;
+            --help) show_help && exit ;;
+            *) usage_error "unknown option '$1'" ;;
+        esac
+        shift
+    done
+}
+
+# take_sheet NAME SKIN DESCRIPTION WIDTH [OPTION]...
+take_sheet()
+{
+    local name=$1-${dpi}dpi.png skin=$2 description=$3 width=$4
+    shift 4
+    "$build/bin/mrtoolbar-pictures" --skin "$skin" --description "$description" \
+        --width "$((width * dpi / 96))" --out "$folder/$name" "$@" 2> >(grep -v 'parse stylesheet' >&2)
+}
+
+take_all()
+{
+    local skin map
+    for skin in marodi lum; do
+        take_sheet "$skin-release" "$skin" release 1280
+        take_sheet "$skin-showcase" "$skin" "$showcase" 1000
+        take_sheet "$skin-showcase-narrow" "$skin" "$showcase" 500
+    done
+    take_sheet marodi-debug marodi debug 1280
+    take_sheet marodi-debug-narrow marodi debug 500
+}
+
+read_options "$@"
+need_toolkit "$version"
 needed+=(xvfb x11-xserver-utils)
 install_needed
-configure "$build" MRTOOLBAR_QT_MAJOR=5
-cmake --build "$build" --target mrtoolbar-pictures
+build=$root/build/qt$version
+configure "$build" "MRTOOLBAR_QT_MAJOR=$version"
+cmake --build "$build" --target mrtoolbar-pictures mrtoolbar-contactsheet
 
 mkdir -p "$folder"
 rm -f "$folder"/*.png
-for dpi in 96 144; do
+for dpi in 96 120 144 192; do
     start_xvfb "$dpi"
-    for skin in marodi lum; do
-        picture_set "$skin" release "$dpi" 1280 "$skin-release-${dpi}dpi"
-        picture_set "$skin" "$showcase" "$dpi" 1000 "$skin-showcase-${dpi}dpi"
-        picture_set "$skin" "$showcase" "$dpi" 500 "$skin-showcase-narrow-${dpi}dpi"
-    done
-    picture_set marodi debug "$dpi" 1280 "marodi-debug-${dpi}dpi"
-    picture_set marodi debug "$dpi" 500 "marodi-debug-narrow-${dpi}dpi"
+    take_all
     stop_xvfb
     xvfb_pid=
 done
+QT_QPA_PLATFORM=offscreen "$build/bin/mrtoolbar-contactsheet" --out "$folder/icons.png"
 say "pictures: $folder"

@@ -43,6 +43,8 @@ sanitize()
     suffix=-sanitize
     export LSAN_OPTIONS="suppressions='$suppressions':print_suppressions=0"
     export UBSAN_OPTIONS=print_stacktrace=1
+    # The suppressions name libraries that the fast way of walking the stack stops short of.
+    export ASAN_OPTIONS=fast_unwind_on_malloc=0
 }
 
 # build VERSION

@@ -1,11 +1,12 @@
 #include "PictureHost.h"
 
+#include "Screen.h"
+
 #include <QAction>
 #include <QApplication>
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
-#include <QScreen>
 #include <QSet>
 #include <QTest>
 #include <QTimer>
@@ -13,11 +14,10 @@
 #include <QToolButton>
 
 #include <algorithm>
-#include <cstdio>
 
 namespace {
 
-constexpr int settleTime = 120;
+constexpr int pageHeight = 200;
 
 void collectNames(const QDomElement &parent, QStringList &names)
 {
@@ -31,51 +31,40 @@ void collectNames(const QDomElement &parent, QStringList &names)
     }
 }
 
-/** The first button on show that a test of its own lets through. */
-template <typename Button, typename Test>
-Button *firstButton(QWidget *parent, const Test &test)
-{
-    const QList<Button *> buttons = parent->findChildren<Button *>();
-    for (Button *button : buttons) {
-        if (button->isVisible() && test(button))
-            return button;
-    }
-    return nullptr;
-}
-
 } // namespace
 
-PictureHost::PictureHost(const QDomDocument &description, const QDir &folder, const QString &prefix,
+PictureHost::PictureHost(const QDomDocument &description, const QMap<QString, QString> &skinMap,
                          int width)
     : m_description(description)
-    , m_folder(folder)
-    , m_prefix(prefix)
+    , m_sheet(m_window.physicalDpiX() / 96.0)
+    , m_states(m_window, m_sheet)
 {
     m_window.setWindowTitle(QStringLiteral("OFD阅读器"));
-    m_window.resize(width, 240 * m_window.physicalDpiY() / 96);
+    m_window.resize(width, pageHeight * m_window.physicalDpiY() / 96);
     auto *page = new QLabel;
     page->setStyleSheet(QStringLiteral("background:#FFFFFF"));
     m_window.setCentralWidget(page);
 
     QDomElement root = m_description.documentElement();
-    m_toolBar = new MRToolBar(&m_window, root, {}, ToolBarLeft);
+    m_toolBar = new MRToolBar(&m_window, root, skinMap, ToolBarLeft);
     m_toolBar->setParent(&m_window);
     QObject::connect(m_toolBar, &MRToolBar::DoRequestAuthority, m_toolBar,
                      [this] { answerAuthority(); });
 }
 
-bool PictureHost::takeAll()
+bool PictureHost::takeAll(const QString &path)
 {
     m_window.show();
     m_window.activateWindow();
     if (!QTest::qWaitForWindowActive(&m_window))
         return false;
-    take(QStringLiteral("disabled"));
+    Screen::restPointer(m_window);
+    takeWindow(QStringLiteral("disabled"));
     answerAuthority();
     takeTabs();
-    takeStates();
+    m_sheet.breakRow();
     takeMenus();
-    return m_isComplete;
+    return m_sheet.save(path);
 }
 
 void PictureHost::answerAuthority()
@@ -106,36 +95,13 @@ void PictureHost::takeTabs()
     QPushButton *const onShow = first == tabs.cend() ? nullptr : *first;
     for (QPushButton *tab : std::as_const(tabs)) {
         open(tab);
-        restPointer();
-        take(QStringLiteral("tab-") + tab->objectName());
+        Screen::restPointer(m_window);
+        takeWindow(tab->objectName());
+        m_states.takeNewKinds();
+        m_sheet.breakRow();
     }
     if (onShow)
         open(onShow);
-}
-
-void PictureHost::restPointer()
-{
-    QTest::mouseMove(&m_window, QPoint(m_window.width() / 2, m_window.height() - 20));
-}
-
-void PictureHost::takeStates()
-{
-    const auto plain = [](QToolButton *button) { return !button->menu() && button->isEnabled(); };
-    QToolButton *button = firstButton<QToolButton>(&m_window, plain);
-    if (button) {
-        QTest::mouseMove(button);
-        take(QStringLiteral("hover"));
-        QTest::mousePress(button, Qt::LeftButton);
-        take(QStringLiteral("pressed"));
-        QTest::mouseRelease(button, Qt::LeftButton, {}, QPoint(-50, -50));
-    }
-    const QList<QAction *> actions = m_window.findChildren<QAction *>();
-    for (QAction *action : actions) {
-        if (action->isCheckable() && action->objectName() == QLatin1String("t_handtool"))
-            action->setChecked(true);
-    }
-    restPointer();
-    take(QStringLiteral("checked"));
 }
 
 void PictureHost::takeMenus()
@@ -147,11 +113,12 @@ void PictureHost::takeMenus()
             button->isVisible() && button->isEnabled() && !button->objectName().isEmpty()
             && button->property("module").toString() != QLatin1String("tabbutton")
             && (!button->findChildren<QMenu *>().isEmpty() || button->property("position").isValid()
+                || button->objectName() == QLatin1String("qt_toolbar_ext_button")
                 || (qobject_cast<QPushButton *>(button)
                     && static_cast<QPushButton *>(button)->menu()));
         if (isOfInterest && !taken.contains(button->objectName())) {
             taken.insert(button->objectName());
-            takeMenuOf(button, QStringLiteral("menu-") + button->objectName());
+            takeMenuOf(button, button->objectName());
         }
     }
 }
@@ -191,30 +158,28 @@ void PictureHost::takeSubMenus(QMenu *menu, const QString &name)
         if (!action->menu())
             continue;
         menu->setActiveAction(action);
-        take(name + QLatin1Char('-') + action->menu()->objectName());
+        takePopups(name + QLatin1Char('-') + action->menu()->objectName());
         action->menu()->hide();
     }
     if (lastEnabled)
         menu->setActiveAction(actions.first()->isEnabled() ? actions.first() : lastEnabled);
-    take(name);
+    takePopups(name);
 }
 
-void PictureHost::take(const QString &name)
+void PictureHost::takeWindow(const QString &caption)
 {
-    QTest::qWait(settleTime);
-    // The screen, not the window: menus are windows of their own.
-    QRect area = m_window.frameGeometry();
+    m_sheet.add(caption, Screen::picture(m_window, m_window.frameGeometry()));
+}
+
+void PictureHost::takePopups(const QString &caption)
+{
+    QRect area;
     const QList<QWidget *> windows = QApplication::topLevelWidgets();
     for (const QWidget *window : windows) {
-        if (window->isVisible())
+        if (window->isVisible() && window != &m_window)
             area |= window->frameGeometry();
     }
-    const QPixmap picture =
-        m_window.screen()->grabWindow(0, area.x(), area.y(), area.width(), area.height());
-    const QString path =
-        m_folder.filePath(m_prefix + QLatin1Char('-') + name + QStringLiteral(".png"));
-    if (picture.isNull() || !picture.save(path)) {
-        std::fprintf(stderr, "mrtoolbar-pictures: cannot write %s\n", qPrintable(path));
-        m_isComplete = false;
-    }
+    // With a little of what they have come out of.
+    const int margin = 40 * m_window.physicalDpiY() / 96;
+    m_sheet.add(caption, Screen::picture(m_window, area.adjusted(-8, -margin, 8, 8)));
 }

@@ -1,12 +1,13 @@
 #pragma once
 
+#include "ControlStates.h"
+#include "PictureSheet.h"
+
 #include <toolbar/MRToolBar.h>
 
-#include <QDir>
 #include <QDomDocument>
 #include <QMainWindow>
-
-#include <functional>
+#include <QMap>
 
 class QAbstractButton;
 class QMenu;
@@ -18,27 +19,23 @@ class QMenu;
 class PictureHost
 {
 public:
-    /** @param prefix begins the name of every picture's file */
-    PictureHost(const QDomDocument &description, const QDir &folder, const QString &prefix,
-                int width);
+    PictureHost(const QDomDocument &description, const QMap<QString, QString> &skinMap, int width);
 
-    /** Takes all pictures; false if one could not be written. */
-    bool takeAll();
+    /** Takes all pictures and writes them on one sheet; false if that failed. */
+    bool takeAll(const QString &path);
 
 private:
     void answerAuthority();
     void takeTabs();
-    void restPointer();
-    void takeStates();
     void takeMenus();
     void takeMenuOf(QAbstractButton *button, const QString &name);
     void takeSubMenus(QMenu *menu, const QString &name);
-    void take(const QString &name);
+    void takeWindow(const QString &caption);
+    void takePopups(const QString &caption);
 
     QDomDocument m_description;
-    QDir m_folder;
-    QString m_prefix;
     QMainWindow m_window;
+    PictureSheet m_sheet;
+    ControlStates m_states;
     MRToolBar *m_toolBar;
-    bool m_isComplete = true;
 };

@@ -1,4 +1,5 @@
-// Takes a picture of everything that a toolbar shows: every tab, state and menu of a description.
+// Takes a picture of everything that a toolbar shows: every tab, state and menu of a description,
+// on one sheet.
 
 #include "PictureHost.h"
 
@@ -18,6 +19,22 @@ int fail(const QString &message)
     return 1;
 }
 
+bool readSkinMap(const QString &path, QMap<QString, QString> *map)
+{
+    if (path.isEmpty())
+        return true;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    const QStringList lines = QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'));
+    for (const QString &line : lines) {
+        const auto sign = line.indexOf(QLatin1Char('='));
+        if (sign > 0)
+            map->insert(line.left(sign).trimmed(), line.mid(sign + 1).trimmed());
+    }
+    return true;
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -34,10 +51,10 @@ int main(int argc, char *argv[])
          QStringLiteral("description"), QStringLiteral("release")},
         {QStringLiteral("width"), QStringLiteral("width of the window"), QStringLiteral("pixels"),
          QStringLiteral("1280")},
-        {QStringLiteral("prefix"), QStringLiteral("how the files' names begin"),
-         QStringLiteral("text"), QStringLiteral("toolbar")},
-        {QStringLiteral("out"), QStringLiteral("folder of the pictures"), QStringLiteral("folder"),
-         QStringLiteral(".")},
+        {QStringLiteral("skin-map"), QStringLiteral("file with lines key=value"),
+         QStringLiteral("file")},
+        {QStringLiteral("out"), QStringLiteral("file of the picture"), QStringLiteral("file"),
+         QStringLiteral("toolbar.png")},
     });
     parser.process(application);
 
@@ -56,11 +73,11 @@ int main(int argc, char *argv[])
     QDomDocument document;
     if (!file.open(QIODevice::ReadOnly) || !document.setContent(file.readAll()))
         return fail(QStringLiteral("cannot read '%1'").arg(description));
-    const QDir folder(parser.value(QStringLiteral("out")));
-    if (!folder.mkpath(QStringLiteral(".")))
-        return fail(QStringLiteral("cannot make the folder '%1'").arg(folder.path()));
+    QMap<QString, QString> skinMap;
+    if (!readSkinMap(parser.value(QStringLiteral("skin-map")), &skinMap))
+        return fail(QStringLiteral("cannot read the skin map"));
 
-    PictureHost host(document, folder, parser.value(QStringLiteral("prefix")),
-                     parser.value(QStringLiteral("width")).toInt());
-    return host.takeAll() ? 0 : 1;
+    PictureHost host(document, skinMap, parser.value(QStringLiteral("width")).toInt());
+    const QString path = parser.value(QStringLiteral("out"));
+    return host.takeAll(path) ? 0 : fail(QStringLiteral("cannot write '%1'").arg(path));
 }

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QList>
+#include <QPixmap>
+#include <QString>
+
+class QPainter;
+
+/** Pictures with captions, side by side on one large picture, each pixel as it was taken. */
+class PictureSheet
+{
+public:
+    /** @param scale dots per inch by 96; of the captions and the distances */
+    explicit PictureSheet(double scale);
+
+    void add(const QString &caption, const QPixmap &picture);
+    /** Begins a new row. */
+    void breakRow();
+
+    bool save(const QString &path) const;
+
+private:
+    struct Entry
+    {
+        QString caption;
+        QPixmap picture;
+        bool beginsRow;
+    };
+
+    int length(int designPixels) const;
+    QSize cellSize(const Entry &entry) const;
+    QList<QPoint> places(QSize *total) const;
+
+    double m_scale;
+    bool m_beginsRow = true;
+    QList<Entry> m_entries;
+};
