@@ -1,0 +1,193 @@
+#include "tests/support/TestHost.h"
+#include "toolbar/widgets/MRMainToolBar.h"
+
+#include <QIcon>
+#include <QLabel>
+#include <QStyleOptionToolButton>
+#include <QToolButton>
+
+namespace {
+
+QString shownText(QString text)
+{
+    text.replace(QLatin1String("&&"), QLatin1String("\1"));
+    text.remove(QLatin1Char('&'));
+    return text.trimmed();
+}
+
+int textWidth(const QWidget *widget, const QString &text)
+{
+    return widget->fontMetrics().horizontalAdvance(shownText(text));
+}
+
+/** What is wrong with how the text and the icon of the button stand in it; empty if nothing is. */
+QString faultOf(const QToolButton *button)
+{
+    const int width = textWidth(button, button->text());
+    const int lineHeight = button->fontMetrics().tightBoundingRect(button->text()).height();
+    if (button->toolButtonStyle() == Qt::ToolButtonTextUnderIcon) {
+        if (width > button->width())
+            return QStringLiteral("text of %1 in %2").arg(width).arg(button->width());
+        if (button->iconSize().height() + lineHeight > button->height())
+            return QStringLiteral("icon and text are higher than %1").arg(button->height());
+    } else if (button->toolButtonStyle() == Qt::ToolButtonTextBesideIcon) {
+        const int needed = button->iconSize().width() + width;
+        if (needed > button->width())
+            return QStringLiteral("icon and text of %1 in %2").arg(needed).arg(button->width());
+        if (button->iconSize().height() > button->height())
+            return QStringLiteral("icon is higher than %1").arg(button->height());
+    }
+    return QString();
+}
+
+QString faultOf(const QPushButton *button)
+{
+    QStyleOptionButton option;
+    option.initFrom(button);
+    const QRect room =
+        button->style()->subElementRect(QStyle::SE_PushButtonContents, &option, button);
+    const int icon = button->icon().isNull() ? 0 : button->iconSize().width();
+    const int needed = icon + textWidth(button, button->text());
+    if (!button->text().isEmpty() && needed > room.width())
+        return QStringLiteral("content of %1 in %2").arg(needed).arg(room.width());
+    if (icon > button->width() || (icon > 0 && button->iconSize().height() > button->height()))
+        return QStringLiteral("icon of %1 in %2").arg(icon).arg(button->width());
+    return QString();
+}
+
+QString faultOf(const QLabel *label)
+{
+    const bool isShort = textWidth(label, label->text()) > label->width();
+    return isShort ? QStringLiteral("label of %1").arg(label->width()) : QString();
+}
+
+template <typename Widget>
+void collectFaults(const QWidget *parent, QStringList &faults)
+{
+    const QList<Widget *> widgets = parent->findChildren<Widget *>();
+    for (const Widget *widget : widgets) {
+        const QString fault = widget->isVisible() ? faultOf(widget) : QString();
+        if (!fault.isEmpty())
+            faults.append(widget->objectName() + QLatin1Char(' ') + widget->text() + ": " + fault);
+    }
+}
+
+/** Controls that are higher than the row on show, and rows that are higher than their place. */
+void collectProtruding(const QWidget *row, QStringList &faults)
+{
+    if (!row)
+        return;
+    const QRect place(0, 0, row->width(), row->height());
+    if (row->height() > row->parentWidget()->height())
+        faults.append(row->objectName() + " is higher than its place");
+    const QList<QWidget *> controls = row->findChildren<QWidget *>();
+    for (const QWidget *control : controls) {
+        const QRect shown(control->mapTo(row, QPoint()), control->size());
+        if (control->isVisibleTo(row) && !place.contains(shown))
+            faults.append(control->objectName() + " stands out of its row");
+    }
+}
+
+void collectIcons(const QDomElement &parent, QStringList &names)
+{
+    for (QDomElement element = parent.firstChildElement(); !element.isNull();
+         element = element.nextSiblingElement()) {
+        const QString name = element.attribute(QStringLiteral("icon"));
+        if (!name.isEmpty() && !names.contains(name))
+            names.append(name);
+        collectIcons(element, names);
+    }
+}
+
+bool isBlank(const QImage &image)
+{
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (qAlpha(image.pixel(x, y)) > 0)
+                return false;
+        }
+    }
+    return true;
+}
+
+} // namespace
+
+/** What can be said of the looks without an eye, at the density of the screen that there is. */
+class TestLooks : public QObject
+{
+    Q_OBJECT
+
+private:
+    static void addDocuments()
+    {
+        QTest::addColumn<int>("skin");
+        QTest::addColumn<QString>("path");
+        for (const char *document : {"release", "debug"}) {
+            const QString path = QStringLiteral(":/mr_toolbar/Resources/%1/mr_toolbar.%2.xml");
+            QTest::addRow("marodi %s", document) << marodi << path.arg("marodi", document);
+            QTest::addRow("lum %s", document) << lum << path.arg("lum", document);
+        }
+        const QString showcase = QFINDTESTDATA("../examples/reader/showcase.xml");
+        QTest::newRow("marodi showcase") << marodi << showcase;
+        QTest::newRow("lum showcase") << lum << showcase;
+    }
+
+private Q_SLOTS:
+    void everyTextAndIconFitsItsControl_data() { addDocuments(); }
+
+    void everyTextAndIconFitsItsControl()
+    {
+        QFETCH(int, skin);
+        QFETCH(QString, path);
+        const SkinChoice choice(skin);
+        const auto host = TestHost::withFile(path);
+        host->window().resize(host->scaled(1280), host->scaled(300));
+        host->show();
+
+        QStringList faults;
+        const QList<QPushButton *> buttons = host->toolBar()->findChildren<QPushButton *>();
+        for (QPushButton *tab : buttons) {
+            if (tab->property("module") != "tabbutton" || !tab->isVisible())
+                continue;
+            if (!tab->isChecked())
+                QTest::mouseClick(tab, Qt::LeftButton);
+            QTest::qWait(20);
+            collectFaults<QToolButton>(host->toolBar(), faults);
+            collectFaults<QPushButton>(host->toolBar(), faults);
+            collectFaults<QLabel>(host->toolBar(), faults);
+            collectProtruding(host->find<MRMainToolBar>(tab->objectName()), faults);
+        }
+        QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
+    }
+
+    void everyDescribedIconIsSeenAndToldApart_data() { addDocuments(); }
+
+    void everyDescribedIconIsSeenAndToldApart()
+    {
+        QFETCH(int, skin);
+        QFETCH(QString, path);
+        const SkinChoice choice(skin);
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QDomDocument document;
+        QVERIFY(document.setContent(file.readAll()));
+        QStringList names;
+        collectIcons(document.documentElement(), names);
+        const auto host = TestHost::withFile(path);
+
+        QList<QImage> seen;
+        for (const QString &name : std::as_const(names)) {
+            const QString icon = host->toolBar()->GetIconPath(name);
+            if (icon.isEmpty() && !name.contains(QLatin1Char('/')))
+                continue; // Named without its folder on purpose.
+            QVERIFY2(!icon.isEmpty(), qPrintable(name + " does not resolve"));
+            const QImage image = QIcon(icon).pixmap(24).toImage();
+            QVERIFY2(!isBlank(image), qPrintable(name + " is blank"));
+            QVERIFY2(!seen.contains(image), qPrintable(name + " looks like another one"));
+            seen.append(image);
+        }
+    }
+};
+
+QTEST_MAIN(TestLooks)
+#include "tst_looks.moc"
