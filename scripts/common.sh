@@ -38,12 +38,13 @@ require_one_of()
     usage_error "$option takes one of: $*, not '$value'"
 }
 
-# need_toolkit VERSION: the headers and the plug-in that draws the SVG icons.
+# need_toolkit VERSION: the headers, the plug-in that draws the SVG icons, and what the example
+# reader opens files with.
 need_toolkit()
 {
     case $1 in
-        5) needed+=(qtbase5-dev libqt5svg5) ;;
-        6) needed+=(qt6-base-dev libqt6svg6) ;;
+        5) needed+=(qtbase5-dev libqt5svg5 libquazip1-qt5-dev) ;;
+        6) needed+=(qt6-base-dev libqt6svg6 libquazip1-qt6-dev) ;;
     esac
 }
 

@@ -7,17 +7,18 @@
 #include <QLineF>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
 /** Not qHash(), whose values differ from run to run and from version to version. */
-quint32 seedOf(const QFileInfo &file)
+quint32 seedOf(const QString &name)
 {
     quint32 seed = 2166136261U;
-    const QByteArray name = file.fileName().toUtf8();
-    for (const char byte : name)
+    const QByteArray bytes = name.toUtf8();
+    for (const char byte : bytes)
         seed = (seed ^ quint8(byte)) * 16777619U;
-    return seed ^ quint32(file.size());
+    return seed;
 }
 
 /** How far a point is from the way between two others. */
@@ -48,28 +49,84 @@ Document::Document(QObject *parent)
 {
 }
 
-void Document::open(const QString &fileName)
+bool Document::open(const QString &fileName, QString *error)
 {
-    const QFileInfo file(fileName);
-    const quint32 seed = seedOf(file);
-    m_fileName = fileName;
-    m_undoStack.clear();
-    m_marks.clear();
-    m_pages.clear();
+    OfdFile file;
+    QList<Page> pages;
+    if (!file.read(fileName, &pages, error))
+        return false;
+    replace(fileName, pages, file);
+    return true;
+}
+
+void Document::openGenerated(const QString &name)
+{
+    const quint32 seed = seedOf(name);
+    QList<Page> pages;
     for (int number = 1; number <= PageGenerator::pageCount(seed); ++number)
-        m_pages.append(PageGenerator::page(seed, number));
-    Q_EMIT pagesChanged();
-    Q_EMIT marksChanged();
+        pages.append(PageGenerator::page(seed, number));
+    replace(name, pages, OfdFile());
 }
 
 void Document::close()
 {
-    m_fileName.clear();
+    replace(QString(), {}, OfdFile());
+}
+
+void Document::replace(const QString &fileName, const QList<Page> &pages, const OfdFile &file)
+{
+    m_fileName = fileName;
+    m_file = file;
     m_undoStack.clear();
     m_marks.clear();
-    m_pages.clear();
-    Q_EMIT pagesChanged();
+    m_quarters = 0;
+    m_pages = pages;
+    pagesReplaced();
     Q_EMIT marksChanged();
+}
+
+void Document::pagesReplaced()
+{
+    m_largestSize = QSizeF();
+    for (const Page &page : std::as_const(m_pages))
+        m_largestSize = m_largestSize.expandedTo(page.size);
+    Q_EMIT pagesChanged();
+}
+
+const Page &Document::page(int index) const
+{
+    Page &page = m_pages[index];
+    if (!page.isTextRead) {
+        page.isTextRead = true;
+        page.content->readText(page);
+    }
+    return page;
+}
+
+bool Document::isModified() const
+{
+    if (m_undoStack.isClean())
+        return false;
+    if (m_undoStack.cleanIndex() < 0)
+        return true;
+    const int first = std::min(m_undoStack.index(), m_undoStack.cleanIndex());
+    const int last = std::max(m_undoStack.index(), m_undoStack.cleanIndex());
+    for (int i = first; i < last; ++i) {
+        if (m_undoStack.command(i)->id() != TurnEdit::kind)
+            return true;
+    }
+    return false;
+}
+
+void Document::turn(int quarters, const QString &what)
+{
+    m_undoStack.push(new TurnEdit(*this, quarters, what));
+}
+
+void Document::turnBy(int quarters)
+{
+    m_quarters = (m_quarters + quarters + 4) % 4;
+    Q_EMIT turned();
 }
 
 QString Document::title() const
@@ -85,8 +142,8 @@ bool Document::hasPageOf(const Mark &mark) const
 int Document::characterCount() const
 {
     int count = 0;
-    for (const Page &page : m_pages) {
-        for (const TextLine &line : page.lines)
+    for (int i = 0; i < pageCount(); ++i) {
+        for (const TextLine &line : page(i).lines)
             count += line.length;
     }
     return count;
@@ -136,7 +193,7 @@ void Document::placePage(int index, const Page &page)
         if (mark.page >= index)
             ++mark.page;
     }
-    Q_EMIT pagesChanged();
+    pagesReplaced();
 }
 
 void Document::removePage(int index)
@@ -146,5 +203,5 @@ void Document::removePage(int index)
         if (mark.page > index)
             --mark.page;
     }
-    Q_EMIT pagesChanged();
+    pagesReplaced();
 }

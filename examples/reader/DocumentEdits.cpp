@@ -52,3 +52,20 @@ void InsertPageEdit::undo()
 {
     m_document.removePage(m_index);
 }
+
+TurnEdit::TurnEdit(Document &document, int quarters, const QString &what)
+    : QUndoCommand(what)
+    , m_document(document)
+    , m_quarters(quarters)
+{
+}
+
+void TurnEdit::redo()
+{
+    m_document.turnBy(m_quarters);
+}
+
+void TurnEdit::undo()
+{
+    m_document.turnBy(-m_quarters);
+}

@@ -31,6 +31,22 @@ private:
     Mark m_mark;
 };
 
+/** The pages turned. It changes what is seen but nothing that would be saved. */
+class TurnEdit : public QUndoCommand
+{
+public:
+    static constexpr int kind = 1;
+
+    TurnEdit(Document &document, int quarters, const QString &what);
+    void redo() override;
+    void undo() override;
+    int id() const override { return kind; }
+
+private:
+    Document &m_document;
+    int m_quarters;
+};
+
 /** A page inserted before the one at an index. */
 class InsertPageEdit : public QUndoCommand
 {

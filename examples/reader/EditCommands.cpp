@@ -10,6 +10,8 @@
 #include <QMainWindow>
 #include <QMap>
 
+#include <algorithm>
+
 namespace {
 
 const QColor sealColour(0xC8, 0x1E, 0x1E);
@@ -37,6 +39,14 @@ QPolygonF cornersOf(const QRectF &rect)
     QPolygonF corners;
     corners << rect.topLeft() << rect.bottomRight();
     return corners;
+}
+
+/** The places of stamps are chosen for a generated page; others may be smaller. */
+QRectF movedInto(QRectF rect, QSizeF page)
+{
+    rect.moveRight(std::min(rect.right(), page.width()));
+    rect.moveBottom(std::min(rect.bottom(), page.height()));
+    return rect;
 }
 
 } // namespace
@@ -103,7 +113,8 @@ void EditCommands::addStamps(CommandTable &table)
         place(MarkKind::RoundSeal, QRectF(520, 830, 170, 170), QStringLiteral("示例单位专用章"));
     });
     table.add(name("t_pageseal"), Needs::Document, [this](const QString &) {
-        const QRectF overEdge(pageSize.width() - 60, 480, 120, 120);
+        const QSizeF size = m_parts.document->sizeOf(m_parts.view->currentPage());
+        const QRectF overEdge(size.width() - 60, 480, 120, 120);
         placeOnEveryPage(MarkKind::EdgeSeal, overEdge, QStringLiteral("骑缝专用章"));
     });
     table.add(name("ti_chapter"), Needs::Document, [this](const QString &) {
@@ -166,7 +177,7 @@ void EditCommands::place(MarkKind kind, const QRectF &rect, const QString &text)
     Mark mark;
     mark.kind = kind;
     mark.page = m_parts.view->currentPage();
-    mark.points = cornersOf(rect);
+    mark.points = cornersOf(movedInto(rect, m_parts.document->sizeOf(mark.page)));
     mark.text = text;
     mark.colour = sealColour;
     m_parts.document->addMark(mark, markName(kind));
@@ -191,8 +202,9 @@ void EditCommands::addWatermark()
     const QString text = QInputDialog::getText(m_parts.window, markName(MarkKind::Watermark),
                                                QStringLiteral("水印的文字"), QLineEdit::Normal,
                                                QStringLiteral("内部资料"), &isGiven);
+    const QSizeF size = m_parts.document->sizeOf(m_parts.view->currentPage());
     if (isGiven && !text.isEmpty())
-        placeOnEveryPage(MarkKind::Watermark, QRectF(QPointF(0, 0), pageSize), text);
+        placeOnEveryPage(MarkKind::Watermark, QRectF(QPointF(0, 0), size), text);
 }
 
 void EditCommands::selectPages(int first, int last)

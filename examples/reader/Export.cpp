@@ -11,24 +11,27 @@ namespace {
 
 constexpr qreal pointsPerPageUnit = 72.0 / 96.0;
 
-bool writePdf(const Document &document, QSaveFile &file, bool forPrint)
+bool hasSuffix(const QString &fileName, const char *suffix)
+{
+    return fileName.endsWith(QLatin1String(suffix), Qt::CaseInsensitive);
+}
+
+bool writePdf(const Document &document, QSaveFile &file)
 {
     QPdfWriter writer(&file);
     writer.setTitle(document.title());
-    writer.setPageSize(QPageSize(pageSize * pointsPerPageUnit, QPageSize::Point));
     writer.setPageMargins(QMarginsF());
     QPainter painter;
-    if (!painter.begin(&writer))
-        return false;
-    PageDecoration decoration;
-    decoration.forPrint = forPrint;
     const PageColours colours = PageColours::of(Background_Default);
     for (int page = 0; page < document.pageCount(); ++page) {
-        if (page > 0)
-            writer.newPage();
+        const QSizeF size = document.sizeOf(page);
+        writer.setPageSize(QPageSize(size * pointsPerPageUnit, QPageSize::Point, QString(),
+                                     QPageSize::ExactMatch));
+        if (page > 0 ? !writer.newPage() : !painter.begin(&writer))
+            return false;
         painter.save();
-        painter.scale(writer.width() / pageSize.width(), writer.width() / pageSize.width());
-        paintPage(painter, document, page, colours, decoration);
+        painter.scale(writer.width() / size.width(), writer.width() / size.width());
+        paintPage(painter, document, page, colours, PageDecoration());
         painter.restore();
     }
     return painter.end();
@@ -50,13 +53,19 @@ bool Export::write(const Document &document, const QString &fileName)
     QSaveFile file(fileName);
     if (!file.open(QIODevice::WriteOnly))
         return false;
-    const bool asText = fileName.endsWith(QLatin1String(".txt"), Qt::CaseInsensitive);
-    const bool written = asText ? writeText(document, file) : writePdf(document, file, false);
-    return written && file.commit();
+    bool isWritten = false;
+    if (hasSuffix(fileName, ".ofd")) {
+        const QByteArray &archive = document.file().archive;
+        isWritten = !archive.isEmpty() && file.write(archive) == archive.size();
+    } else if (hasSuffix(fileName, ".txt")) {
+        isWritten = writeText(document, file);
+    } else {
+        isWritten = writePdf(document, file);
+    }
+    return isWritten && file.commit();
 }
 
-bool Export::print(const Document &document, const QString &fileName)
+bool Export::keepsMarks(const QString &fileName)
 {
-    QSaveFile file(fileName);
-    return file.open(QIODevice::WriteOnly) && writePdf(document, file, true) && file.commit();
+    return !hasSuffix(fileName, ".ofd") && !hasSuffix(fileName, ".txt");
 }

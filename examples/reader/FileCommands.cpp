@@ -4,6 +4,8 @@
 #include "Document.h"
 #include "Export.h"
 #include "PageView.h"
+#include "Printing.h"
+#include "PropertiesDialog.h"
 #include "ReaderSettings.h"
 
 #include <QDir>
@@ -11,11 +13,13 @@
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QMainWindow>
+#include <QMap>
 #include <QMessageBox>
 #include <QPushButton>
 
 namespace {
 
+const QString ofdFilter = QStringLiteral("OFD 文件 (*.ofd)");
 const QString pdfFilter = QStringLiteral("PDF 文件 (*.pdf)");
 const QString textFilter = QStringLiteral("文本文件 (*.txt)");
 constexpr int mostRecentFiles = 30;
@@ -55,18 +59,36 @@ void FileCommands::open(const QString &fileName)
 {
     if (!mayDiscard())
         return;
+    QString error;
+    if (!m_parts.document->open(fileName, &error)) {
+        refuse(fileName, error);
+        return;
+    }
     m_savedFile.clear();
     m_parts.settings->addRecentFile(fileName);
-    m_parts.document->open(fileName);
     m_parts.view->setCurrentPage(0);
-    const QString what = QFileInfo::exists(fileName) ? QStringLiteral("已打开")
-                                                     : QStringLiteral("文件不存在，按名称生成");
-    m_parts.say(QStringLiteral("%1：%2").arg(what, QDir::toNativeSeparators(fileName)));
+    const QString leftOut = m_parts.document->file().leftOut;
+    m_parts.say(leftOut.isEmpty()
+                    ? QStringLiteral("已打开：%1").arg(QDir::toNativeSeparators(fileName))
+                    : leftOut);
+}
+
+void FileCommands::refuse(const QString &fileName, const QString &reason) const
+{
+    // Not exec(): a file named on the command line is opened before the window is up.
+    auto *box = new QMessageBox(
+        QMessageBox::Warning, QStringLiteral("无法打开"),
+        QStringLiteral("无法打开“%1”：%2").arg(QFileInfo(fileName).fileName(), reason),
+        QMessageBox::Ok, m_parts.window);
+    box->setTextFormat(Qt::PlainText);
+    box->button(QMessageBox::Ok)->setText(QStringLiteral("确定"));
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->open();
 }
 
 bool FileCommands::mayDiscard() const
 {
-    if (m_parts.document->undoStack().isClean())
+    if (!m_parts.document->isModified())
         return true;
     QMessageBox box(QMessageBox::Question, m_parts.window->windowTitle(),
                     QStringLiteral("“%1”有未保存的修改，要放弃吗？").arg(m_parts.document->title()),
@@ -80,8 +102,9 @@ bool FileCommands::mayDiscard() const
 
 void FileCommands::askAndOpen()
 {
-    const QString fileName = QFileDialog::getOpenFileName(
-        m_parts.window, QStringLiteral("打开任意文件"), QString(), QStringLiteral("所有文件 (*)"));
+    const QString fileName =
+        QFileDialog::getOpenFileName(m_parts.window, QStringLiteral("打开"), QString(),
+                                     ofdFilter + QStringLiteral(";;所有文件 (*)"));
     if (!fileName.isEmpty())
         open(fileName);
 }
@@ -102,8 +125,7 @@ void FileCommands::save()
 
 void FileCommands::saveAs()
 {
-    const QString fileName =
-        askFileToWrite(QStringLiteral("另存为"), pdfFilter + QStringLiteral(";;") + textFilter);
+    const QString fileName = askFileToWrite();
     if (!fileName.isEmpty())
         saveTo(fileName);
 }
@@ -114,6 +136,10 @@ void FileCommands::saveTo(const QString &fileName)
         m_parts.say(QStringLiteral("无法写入：%1").arg(fileName));
         return;
     }
+    if (m_parts.document->isModified() && !Export::keepsMarks(fileName)) {
+        m_parts.say(QStringLiteral("已保存，但不含批注；另存为 PDF 可保留批注：%1").arg(fileName));
+        return;
+    }
     m_savedFile = fileName;
     m_parts.document->undoStack().setClean();
     m_parts.say(QStringLiteral("已保存：%1").arg(fileName));
@@ -121,35 +147,34 @@ void FileCommands::saveTo(const QString &fileName)
 
 void FileCommands::print()
 {
-    const QString fileName = askFileToWrite(QStringLiteral("打印到 PDF 文件"), pdfFilter);
-    if (fileName.isEmpty())
-        return;
-    const bool isPrinted = Export::print(*m_parts.document, fileName);
-    m_parts.say((isPrinted ? QStringLiteral("已打印到：%1") : QStringLiteral("无法写入：%1"))
-                    .arg(fileName));
+    if (Printing::ask(*m_parts.document, m_parts.view->currentPage(), m_parts.window))
+        m_parts.say(QStringLiteral("已打印"));
+    else
+        m_parts.say(QStringLiteral("没有打印"));
 }
 
-QString FileCommands::askFileToWrite(const QString &title, const QString &filter) const
+QString FileCommands::askFileToWrite() const
 {
+    const QMap<QString, QString> suffixes = {{ofdFilter, QStringLiteral(".ofd")},
+                                             {pdfFilter, QStringLiteral(".pdf")},
+                                             {textFilter, QStringLiteral(".txt")}};
+    QStringList filters = {pdfFilter, textFilter};
+    // The package is copied as it is, so it comes first as long as nothing would be lost.
+    if (!m_parts.document->isGenerated())
+        filters.insert(m_parts.document->isModified() ? 1 : 0, ofdFilter);
     const QFileInfo file(m_parts.document->fileName());
-    QString chosen;
+    QString chosen = filters.first();
     QString fileName = QFileDialog::getSaveFileName(
-        m_parts.window, title, file.completeBaseName() + QStringLiteral(".pdf"), filter, &chosen);
+        m_parts.window, QStringLiteral("另存为"), file.completeBaseName() + suffixes.value(chosen),
+        filters.join(QStringLiteral(";;")), &chosen);
     if (!fileName.isEmpty() && QFileInfo(fileName).suffix().isEmpty())
-        fileName += chosen == textFilter ? QStringLiteral(".txt") : QStringLiteral(".pdf");
+        fileName += suffixes.value(chosen);
     return fileName;
 }
 
 void FileCommands::showProperties() const
 {
-    const Document &document = *m_parts.document;
-    const QString text = QStringLiteral("文件：%1\n页数：%2\n字数：%3\n批注：%4\n\n"
-                                        "页面由文件名和大小生成。")
-                             .arg(QDir::toNativeSeparators(document.fileName()))
-                             .arg(document.pageCount())
-                             .arg(document.characterCount())
-                             .arg(document.marks().size());
-    QMessageBox::information(m_parts.window, QStringLiteral("属性"), text);
+    PropertiesDialog(*m_parts.document, m_parts.view->currentPage(), m_parts.window).exec();
 }
 
 void FileCommands::showPreferences()
@@ -165,7 +190,6 @@ void FileCommands::showPreferences()
 void FileCommands::showAbout() const
 {
     QMessageBox::about(m_parts.window, QStringLiteral("关于OFD阅读器"),
-                       QStringLiteral("工具栏的示例阅读器\n\n页面由程序生成，不读取文件内容。\n"
-                                      "Qt %1")
+                       QStringLiteral("工具栏的示例阅读器，可打开 OFD 文件。\n\nQt %1")
                            .arg(QLatin1String(qVersion())));
 }

@@ -14,7 +14,10 @@ public:
 
     void addTo(CommandTable &table);
 
-    /** Opens any file and remembers it, unless the user keeps unsaved marks. */
+    /**
+     * Opens a file and remembers it, unless the user keeps unsaved marks. A file that cannot be
+     * opened leaves the open document alone; one message tells why.
+     */
     void open(const QString &fileName);
     /** Whether the open document may go: it is unchanged, or the user gives its marks up. */
     bool mayDiscard() const;
@@ -25,10 +28,11 @@ private:
     void save();
     void saveAs();
     void print();
+    void refuse(const QString &fileName, const QString &reason) const;
     void showProperties() const;
     void showPreferences();
     void showAbout() const;
-    QString askFileToWrite(const QString &title, const QString &filter) const;
+    QString askFileToWrite() const;
     void saveTo(const QString &fileName);
 
     ReaderParts m_parts;

@@ -5,7 +5,9 @@
 #include <QListWidget>
 #include <QPainter>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QStackedWidget>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -21,6 +23,7 @@ const QString attachments = QStringLiteral("vn_attachment");
 
 constexpr int pageRole = Qt::UserRole;
 constexpr int wordRole = Qt::UserRole + 1;
+constexpr int paintedRole = Qt::UserRole + 2;
 constexpr int leastWidth = 200;
 constexpr QSize thumbnailSize(106, 150);
 
@@ -56,14 +59,23 @@ QIcon thumbnailOf(const Document &document, int page, qreal ratio)
 {
     QPixmap pixmap(thumbnailSize * ratio);
     pixmap.setDevicePixelRatio(ratio);
+    pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
-    painter.scale(thumbnailSize.width() / pageSize.width(),
-                  thumbnailSize.height() / pageSize.height());
+    const QSizeF size = document.sizeOf(page);
+    const QSizeF fitting = size.scaled(thumbnailSize, Qt::KeepAspectRatio);
+    const QRectF sheet(
+        QPointF(thumbnailSize.width() - fitting.width(), thumbnailSize.height() - fitting.height())
+            / 2,
+        fitting);
+    painter.save();
+    painter.setClipRect(sheet);
+    painter.translate(sheet.topLeft());
+    painter.scale(fitting.width() / size.width(), fitting.height() / size.height());
     paintPage(painter, document, page, PageColours::of(Background_Default), PageDecoration());
-    painter.resetTransform();
+    painter.restore();
     painter.setPen(Qt::gray);
-    painter.drawRect(QRect(QPoint(0, 0), thumbnailSize).adjusted(0, 0, -1, -1));
+    painter.drawRect(sheet.toRect().adjusted(0, 0, -1, -1));
     return QIcon(pixmap);
 }
 
@@ -86,6 +98,10 @@ NavigationPanel::NavigationPanel(const Document &document, QWidget *parent)
     for (const QString &name : names())
         addPanel(name);
     m_lists.value(thumbnails)->setIconSize(thumbnailSize);
+    connect(m_lists.value(thumbnails)->verticalScrollBar(), &QScrollBar::valueChanged, this,
+            &NavigationPanel::paintThumbnails);
+    connect(m_lists.value(thumbnails)->verticalScrollBar(), &QScrollBar::rangeChanged, this,
+            &NavigationPanel::paintThumbnails);
     addBookmarkButton();
     hide();
     connect(&document, &Document::pagesChanged, this, &NavigationPanel::documentOpened);
@@ -175,6 +191,12 @@ void NavigationPanel::refill()
 
 void NavigationPanel::fillOutline()
 {
+    addPlaces(outline, m_document.file().outline);
+    if (!m_document.isGenerated()) {
+        if (m_document.file().outline.isEmpty())
+            addNotice(m_lists.value(outline), QStringLiteral("本文档没有大纲"));
+        return;
+    }
     for (int page = 0; page < m_document.pageCount(); ++page) {
         const QString heading = m_document.page(page).heading;
         addItem(m_lists.value(outline), QStringLiteral("%1　%2").arg(page + 1).arg(heading), page);
@@ -184,9 +206,37 @@ void NavigationPanel::fillOutline()
 void NavigationPanel::fillThumbnails()
 {
     QListWidget *list = m_lists.value(thumbnails);
+    QPixmap blank(thumbnailSize);
+    blank.fill(Qt::white);
     for (int page = 0; page < m_document.pageCount(); ++page) {
         addItem(list, QString::number(page + 1), page);
-        list->item(page)->setIcon(thumbnailOf(m_document, page, devicePixelRatioF()));
+        list->item(page)->setIcon(blank);
+    }
+    // Where the items are is known only once the list has laid them out.
+    QTimer::singleShot(0, this, &NavigationPanel::paintThumbnails);
+}
+
+void NavigationPanel::paintThumbnails()
+{
+    QListWidget *list = m_lists.value(thumbnails);
+    const QRect visible = list->viewport()->rect();
+    for (int page = 0; page < std::min(list->count(), m_document.pageCount()); ++page) {
+        QListWidgetItem *item = list->item(page);
+        if (item->data(paintedRole).toBool() || !list->visualItemRect(item).intersects(visible))
+            continue;
+        item->setData(paintedRole, true);
+        item->setIcon(thumbnailOf(m_document, page, devicePixelRatioF()));
+    }
+}
+
+void NavigationPanel::addPlaces(const QString &panel, const QList<NamedPlace> &places)
+{
+    for (const NamedPlace &place : places) {
+        const QString text = QString(2 * place.depth, QChar(u'　')) + place.name;
+        if (place.page >= 0)
+            addItem(m_lists.value(panel), text, place.page);
+        else
+            addNotice(m_lists.value(panel), text);
     }
 }
 
@@ -205,6 +255,7 @@ void NavigationPanel::fillWords()
 void NavigationPanel::fillBookmarks()
 {
     QListWidget *list = m_lists.value(bookmarks);
+    addPlaces(bookmarks, m_document.file().bookmarks);
     for (const int page : std::as_const(m_bookmarks)) {
         if (page < m_document.pageCount())
             addItem(list, QStringLiteral("第 %1 页").arg(page + 1), page);
@@ -230,7 +281,11 @@ void NavigationPanel::fillMarks()
 
 void NavigationPanel::fillAttachments()
 {
-    addNotice(m_lists.value(attachments), QStringLiteral("本文档没有附件"));
+    const QStringList names = m_document.file().attachments;
+    for (const QString &name : names)
+        addNotice(m_lists.value(attachments), name);
+    if (names.isEmpty())
+        addNotice(m_lists.value(attachments), QStringLiteral("本文档没有附件"));
 }
 
 void NavigationPanel::itemChosen(const QListWidgetItem *item)

@@ -41,10 +41,12 @@ private:
     void refill();
     void fillOutline();
     void fillThumbnails();
+    void paintThumbnails();
     void fillWords();
     void fillBookmarks();
     void fillMarks();
     void fillAttachments();
+    void addPlaces(const QString &panel, const QList<NamedPlace> &places);
     void itemChosen(const QListWidgetItem *item);
 
     const Document &m_document;

@@ -59,10 +59,10 @@ QString faultOf(const QCommandLineParser &parser)
 Options Options::of(const QStringList &arguments, QString *error)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("A small reader on generated pages."));
-    parser.addPositionalArgument(QStringLiteral("file"),
-                                 QStringLiteral("Any file; its pages are made from its name."),
-                                 QStringLiteral("[file]"));
+    parser.setApplicationDescription(QStringLiteral("A small OFD reader."));
+    parser.addPositionalArgument(
+        QStringLiteral("file"), QStringLiteral("An OFD file; without one the pages are generated."),
+        QStringLiteral("[file]"));
     parser.addOptions(
         {skinOption(), descriptionOption(), screenshotOption(), clearHistoryOption()});
     const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},

@@ -24,10 +24,16 @@ QList<QRectF> Page::rectsOf(int start, int length) const
         const int to = std::min(start + length, line.start + line.length);
         if (from >= to)
             continue;
-        const QFontMetricsF metrics(line.font());
-        const qreal left = metrics.horizontalAdvance(text.mid(line.start, from - line.start));
-        const qreal width = metrics.horizontalAdvance(text.mid(from, to - from));
-        rects.append(QRectF(line.rect.left() + left, line.rect.top(), width, line.rect.height()));
+        if (!boxes.isEmpty()) {
+            QRectF rect;
+            for (int i = from; i < to; ++i)
+                rect |= boxes.at(i);
+            rects.append(rect);
+            continue;
+        }
+        const qreal left = leftOf(line, from - line.start);
+        const qreal right = leftOf(line, to - line.start);
+        rects.append(QRectF(left, line.rect.top(), right - left, line.rect.height()));
     }
     return rects;
 }
@@ -37,7 +43,7 @@ int Page::positionAt(QPointF point) const
     const TextLine *nearest = nullptr;
     qreal smallest = std::numeric_limits<qreal>::max();
     for (const TextLine &line : lines) {
-        const qreal distance = std::abs(line.rect.center().y() - point.y());
+        const qreal distance = distanceTo(line, point);
         if (distance < smallest) {
             smallest = distance;
             nearest = &line;
@@ -46,13 +52,28 @@ int Page::positionAt(QPointF point) const
     if (!nearest)
         return -1;
 
-    const QFontMetricsF metrics(nearest->font());
-    qreal right = nearest->rect.left();
     for (int i = 0; i < nearest->length; ++i) {
-        const qreal width = metrics.horizontalAdvance(text.at(nearest->start + i));
-        if (point.x() < right + width / 2)
+        const QRectF box = boxes.value(nearest->start + i);
+        const qreal middle = boxes.isEmpty() ? (leftOf(*nearest, i) + leftOf(*nearest, i + 1)) / 2
+                                             : box.center().x();
+        if (point.x() < middle)
             return nearest->start + i;
-        right += width;
     }
     return nearest->start + nearest->length;
+}
+
+qreal Page::leftOf(const TextLine &line, int length) const
+{
+    return line.rect.left()
+           + QFontMetricsF(line.font()).horizontalAdvance(text.mid(line.start, length));
+}
+
+qreal Page::distanceTo(const TextLine &line, QPointF point) const
+{
+    const qreal down = std::abs(line.rect.center().y() - point.y());
+    if (boxes.isEmpty())
+        return down;
+    // Lines from a file may stand side by side.
+    const qreal aside = std::abs(line.rect.center().x() - point.x()) - line.rect.width() / 2;
+    return std::max(0.0, down - line.rect.height() / 2) + std::max(0.0, aside);
 }

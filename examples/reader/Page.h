@@ -4,9 +4,29 @@
 #include <QList>
 #include <QRectF>
 #include <QString>
+#include <QVector>
 
-/** Size of every page, in page units: pixels of an A4 sheet at 96 dpi. */
+#include <memory>
+
+class QPainter;
+struct Page;
+
+/** Size of a generated page, in page units: pixels of an A4 sheet at 96 dpi. */
 constexpr QSizeF pageSize(794, 1123);
+
+/** What stands on a page that was read from a file. */
+class PageContent
+{
+public:
+    PageContent() = default;
+    virtual ~PageContent() = default;
+    Q_DISABLE_COPY(PageContent)
+
+    /** Paints it in page units, from the page's top left corner, without paper. */
+    virtual void paint(QPainter &painter) const = 0;
+    /** Gives the page its text, lines and boxes. */
+    virtual void readText(Page &page) const = 0;
+};
 
 /** One laid-out line; `start` and `length` point into the text of its page. */
 struct TextLine
@@ -20,16 +40,30 @@ struct TextLine
     QFont font() const;
 };
 
-/** A page as a text with its lines in page units. A line break ends a paragraph, not a line. */
+/**
+ * A page as a text with its lines in page units.
+ *
+ * A generated page is made of its lines, and a line break in its text ends a paragraph. A page from
+ * a file has a content that paints it; there a line break ends a line.
+ */
 struct Page
 {
+    QSizeF size = pageSize;
     QString heading;
     QString text;
     QList<TextLine> lines;
+    /** Where each character of the text stands; empty on a page that its lines can tell it of. */
+    QVector<QRectF> boxes;
+    std::shared_ptr<const PageContent> content;
+    bool isTextRead = true; ///< Of a page from a file the text is read when somebody asks for it.
 
     /** Where a range of the text stands, one rectangle a line. */
     QList<QRectF> rectsOf(int start, int length) const;
 
     /** The position in the text that is nearest to a point; -1 on a page without text. */
     int positionAt(QPointF point) const;
+
+private:
+    qreal leftOf(const TextLine &line, int length) const;
+    qreal distanceTo(const TextLine &line, QPointF point) const;
 };

@@ -36,8 +36,8 @@ struct PageLayout
     QList<Place> places;
     QSizeF desk; ///< At least as large as the view that it was made for.
 
-    /** The pages from that one on, of that size each, centred in the view. */
-    static PageLayout of(LayoutMode mode, int pageCount, int currentPage, QSizeF size, QSizeF view);
+    /** Pages of these sizes, or those of them that the mode shows at once, centred in the view. */
+    static PageLayout of(LayoutMode mode, const QList<QSizeF> &sizes, int currentPage, QSizeF view);
 
     /** Null if the page has no place in this layout. */
     QRectF rectOf(int page) const;

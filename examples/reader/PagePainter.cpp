@@ -5,12 +5,15 @@
 #include <QFontMetricsF>
 #include <QPainter>
 
+#include <utility>
+
 namespace {
 
 constexpr qreal footerTop = 1060;
 const QColor hitColour(0xFF, 0xE0, 0x66);
 const QColor currentHitColour(0xFF, 0x9F, 0x40);
 const QColor selectionColour(0x33, 0x99, 0xFF, 0x60);
+constexpr qreal opacityOnDark = 0.45;
 const QColor textOnHitColour(0x1A, 0x1A, 0x1A);
 
 void fillRange(QPainter &painter, const Page &page, const TextRange &range, const QColor &colour)
@@ -61,6 +64,43 @@ void paintFooter(QPainter &painter, int index, const QColor &ink)
                      QStringLiteral("— %1 —").arg(index + 1));
 }
 
+bool isDark(const PageColours &colours)
+{
+    return colours.ink.lightness() > colours.paper.lightness();
+}
+
+QList<TextRange> hitsOn(int index, const PageDecoration &decoration)
+{
+    QList<TextRange> hits;
+    for (const TextRange &hit : decoration.hits) {
+        if (hit.page == index)
+            hits.append(hit);
+    }
+    return hits;
+}
+
+/** Colours what was found on a page that is painted already. */
+void paintHitsOver(QPainter &painter, const Document &document, int index,
+                   const PageColours &colours, const PageDecoration &decoration)
+{
+    QList<TextRange> hits = hitsOn(index, decoration);
+    if (hits.isEmpty())
+        return;
+    const TextRange current = decoration.currentHit;
+    const auto isCurrent = [&current](const TextRange &hit) {
+        return hit.page == current.page && hit.start == current.start;
+    };
+    painter.save();
+    // Dark ink stays dark under a multiplied colour, light ink under a lightening one.
+    painter.setCompositionMode(isDark(colours) ? QPainter::CompositionMode_SourceOver
+                                               : QPainter::CompositionMode_Multiply);
+    painter.setOpacity(isDark(colours) ? opacityOnDark : 1);
+    const Page &page = document.page(index);
+    for (const TextRange &hit : std::as_const(hits))
+        fillRange(painter, page, hit, isCurrent(hit) ? currentHitColour : hitColour);
+    painter.restore();
+}
+
 bool isShown(const Mark &mark, int index, const PageDecoration &decoration)
 {
     if (mark.page != index && mark.page != everyPage)
@@ -93,30 +133,42 @@ PageColours PageColours::of(BackgroundStyle style)
 void paintPage(QPainter &painter, const Document &document, int index, const PageColours &colours,
                const PageDecoration &decoration)
 {
-    const Page &page = document.page(index);
-    painter.fillRect(QRectF(QPointF(0, 0), pageSize), colours.paper);
+    paintSheet(painter, document, index, colours, decoration);
+    paintOver(painter, document, index, colours, decoration);
+}
 
-    QList<TextRange> hits;
-    for (const TextRange &hit : decoration.hits) {
-        if (hit.page == index)
-            hits.append(hit);
+void paintSheet(QPainter &painter, const Document &document, int index, const PageColours &colours,
+                const PageDecoration &decoration)
+{
+    painter.fillRect(QRectF(QPointF(0, 0), document.sizeOf(index)), colours.paper);
+    if (const PageContent *content = document.contentOf(index)) {
+        content->paint(painter);
+        return;
     }
+    const Page &page = document.page(index);
+    const QList<TextRange> hits = hitsOn(index, decoration);
     for (const TextRange &hit : hits)
         fillRange(painter, page, hit, hitColour);
     if (decoration.currentHit.page == index)
         fillRange(painter, page, decoration.currentHit, currentHitColour);
 
     paintLines(painter, page, colours.ink);
-    if (colours.ink.lightness() > colours.paper.lightness())
+    if (isDark(colours))
         paintTextOfHits(painter, page, hits);
     paintFooter(painter, index, colours.ink);
+}
 
+void paintOver(QPainter &painter, const Document &document, int index, const PageColours &colours,
+               const PageDecoration &decoration)
+{
+    if (document.contentOf(index))
+        paintHitsOver(painter, document, index, colours, decoration);
     for (const Mark &mark : document.marks()) {
         if (isShown(mark, index, decoration))
             paintMark(painter, mark);
     }
     for (const TextRange &range : decoration.selection) {
         if (range.page == index)
-            fillRange(painter, page, range, selectionColour);
+            fillRange(painter, document.page(index), range, selectionColour);
     }
 }

@@ -39,3 +39,10 @@ struct PageDecoration
 /** Draws a page in page units; the painter is already at its top left corner. */
 void paintPage(QPainter &painter, const Document &document, int index, const PageColours &colours,
                const PageDecoration &decoration);
+
+/** The lower half of that: paper, text and what lies behind the text. */
+void paintSheet(QPainter &painter, const Document &document, int index, const PageColours &colours,
+                const PageDecoration &decoration);
+/** The upper half: the marks and the selection; on a page from a file also what was found. */
+void paintOver(QPainter &painter, const Document &document, int index, const PageColours &colours,
+               const PageDecoration &decoration);

@@ -27,6 +27,7 @@ PageView::PageView(const Document &document, QWidget *parent)
     horizontalScrollBar()->setSingleStep(arrowStep);
     setTool(PageTool::of(QString()));
     connect(&document, &Document::pagesChanged, this, &PageView::documentChanged);
+    connect(&document, &Document::turned, this, &PageView::documentTurned);
     connect(&document, &Document::marksChanged, viewport(), QOverload<>::of(&QWidget::update));
 }
 
@@ -69,10 +70,10 @@ qreal PageView::percent() const
     if (m_zoomMode.kind() == ZoomMode::Percent)
         return m_zoomMode.percent();
     const QSizeF area = fittingArea();
-    const QSizeF page = m_quarters % 2 ? pageSize.transposed() : pageSize;
+    const QSizeF pages = fittedSize();
     const int perRow = pagesPerRow(m_layoutMode);
-    const qreal byWidth = (area.width() - (perRow + 1) * PageLayout::gap) / perRow / page.width();
-    const qreal byHeight = (area.height() - 2 * PageLayout::gap) / page.height();
+    const qreal byWidth = (area.width() - (perRow + 1) * PageLayout::gap) / pages.width();
+    const qreal byHeight = (area.height() - 2 * PageLayout::gap) / pages.height();
     qreal fitting = std::min(byWidth, byHeight);
     if (m_zoomMode.kind() == ZoomMode::FitWidth)
         fitting = byWidth;
@@ -81,9 +82,8 @@ qreal PageView::percent() const
     return std::max(1.0, fitting * 100 / screenFactor());
 }
 
-void PageView::rotate(int quarters)
+void PageView::documentTurned()
 {
-    m_quarters = (m_quarters + quarters + 4) % 4;
     layOut();
     showTopOf(m_currentPage);
     Q_EMIT zoomChanged();
@@ -166,10 +166,39 @@ qreal PageView::screenFactor() const
     return logicalDpiX() / referenceDpi;
 }
 
-QSizeF PageView::turnedPageSize() const
+QSizeF PageView::turned(QSizeF size) const
 {
-    const QSizeF size = m_quarters % 2 ? pageSize.transposed() : pageSize;
-    return size * scale();
+    return m_document.quarters() % 2 ? size.transposed() : size;
+}
+
+QList<QSizeF> PageView::turnedSizes() const
+{
+    const qreal factor = scale();
+    QList<QSizeF> sizes;
+    for (int page = 0; page < m_document.pageCount(); ++page)
+        sizes.append(turned(m_document.sizeOf(page)) * factor);
+    return sizes;
+}
+
+/** The room of one row of pages that a fitting mode fits, in page units, without gaps. */
+QSizeF PageView::fittedSize() const
+{
+    const int perRow = pagesPerRow(m_layoutMode);
+    if (!m_document.isOpen())
+        return QSizeF(pageSize.width() * perRow, pageSize.height());
+    if (isFlow(m_layoutMode)) {
+        // One zoom for all rows, or it would change while one scrolls.
+        const QSizeF largest = turned(m_document.largestSize());
+        return QSizeF(largest.width() * perRow, largest.height());
+    }
+    const int first = m_currentPage - m_currentPage % perRow;
+    QSizeF size(0, 0);
+    for (int i = 0; i < perRow; ++i) {
+        const int page = std::min(first + i, m_document.pageCount() - 1);
+        const QSizeF next = turned(m_document.sizeOf(page));
+        size = QSizeF(size.width() + next.width(), std::max(size.height(), next.height()));
+    }
+    return size;
 }
 
 QSizeF PageView::fittingArea() const
@@ -185,9 +214,10 @@ QTransform PageView::pageTransform(const PageLayout::Place &place) const
     const QPointF centre = place.rect.center() - scrollOffset();
     QTransform transform;
     transform.translate(centre.x(), centre.y());
-    transform.rotate(90.0 * m_quarters);
+    transform.rotate(90.0 * m_document.quarters());
     transform.scale(scale(), scale());
-    transform.translate(-pageSize.width() / 2, -pageSize.height() / 2);
+    const QSizeF size = m_document.sizeOf(place.page);
+    transform.translate(-size.width() / 2, -size.height() / 2);
     return transform;
 }
 
@@ -218,9 +248,9 @@ QPoint PageView::scrollOffset() const
 void PageView::layOut()
 {
     const QScopedValueRollback<bool> guard(m_scrollsItself, true);
-    const auto layOutIn = [this](QSizeF view) {
-        m_layout = PageLayout::of(m_layoutMode, m_document.pageCount(), m_currentPage,
-                                  turnedPageSize(), view);
+    const QList<QSizeF> sizes = turnedSizes();
+    const auto layOutIn = [&](QSizeF view) {
+        m_layout = PageLayout::of(m_layoutMode, sizes, m_currentPage, view);
     };
     const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
     QSizeF view = maximumViewportSize();
@@ -272,6 +302,7 @@ void PageView::documentChanged()
     m_decoration.hits.clear();
     m_decoration.currentHit = TextRange();
     m_drag = Drag();
+    m_cache.clear();
     setSelection({});
     m_currentPage = std::clamp(m_currentPage, 0, std::max(0, m_document.pageCount() - 1));
     layOut();
@@ -280,11 +311,14 @@ void PageView::documentChanged()
 
 void PageView::resizeEvent(QResizeEvent *)
 {
-    const qreal before = m_layout.places.isEmpty() ? 0 : m_layout.places.first().rect.width();
+    const auto firstWidth = [this] {
+        return m_layout.places.isEmpty() ? 0 : m_layout.places.first().rect.width();
+    };
+    const qreal before = firstWidth();
     const QPoint middle = viewport()->rect().center();
     const PagePoint anchor = pagePointAt(middle);
     layOutAround(anchor, middle);
-    if (m_zoomMode.kind() != ZoomMode::Percent && !qFuzzyCompare(before, turnedPageSize().width()))
+    if (m_zoomMode.kind() != ZoomMode::Percent && !qFuzzyCompare(before, firstWidth()))
         Q_EMIT zoomChanged();
 }
 
@@ -323,8 +357,16 @@ void PageView::paintPlace(QPainter &painter, const PageLayout::Place &place)
     const QRectF sheet = place.rect.translated(-QPointF(scrollOffset()));
     painter.fillRect(sheet.translated(2, 2), QColor(0, 0, 0, 50));
     painter.setClipRect(sheet);
+    const PageColours colours = PageColours::of(m_background);
+    const PageContent *content = m_document.contentOf(place.page);
+    if (content)
+        m_cache.paint(painter,
+                      {content, m_document.sizeOf(place.page), scale(), m_document.quarters()},
+                      sheet, colours);
     painter.setTransform(pageTransform(place), true);
-    paintPage(painter, m_document, place.page, PageColours::of(m_background), m_decoration);
+    if (!content)
+        paintSheet(painter, m_document, place.page, colours, m_decoration);
+    paintOver(painter, m_document, place.page, colours, m_decoration);
     if (m_drag.isActive && m_drag.start.page == place.page && !m_drag.mark.points.isEmpty())
         paintMark(painter, m_drag.mark);
     painter.restore();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "PageCache.h"
 #include "PageLayout.h"
 #include "PagePainter.h"
 #include "PageTool.h"
@@ -31,9 +32,6 @@ public:
     void setZoomMode(const ZoomMode &mode);
     /** The percentage that the zoom mode comes to in this window. */
     qreal percent() const;
-
-    /** Turns the view by quarters, clockwise. */
-    void rotate(int quarters);
 
     BackgroundStyle background() const { return m_background; }
     void setBackground(BackgroundStyle style);
@@ -94,7 +92,9 @@ private:
     // Where things are.
     qreal screenFactor() const;
     qreal scale() const { return percent() / 100 * screenFactor(); }
-    QSizeF turnedPageSize() const;
+    QSizeF turned(QSizeF size) const;
+    QSizeF fittedSize() const;
+    QList<QSizeF> turnedSizes() const;
     QSizeF fittingArea() const;
     QTransform pageTransform(const PageLayout::Place &place) const;
     PagePoint pagePointAt(QPoint position) const;
@@ -104,6 +104,7 @@ private:
     void scrollTo(QPointF deskPoint);
     void showTopOf(int page);
     void documentChanged();
+    void documentTurned();
     void paintPlace(QPainter &painter, const PageLayout::Place &place);
     void paintHint(QPainter &painter);
 
@@ -119,10 +120,10 @@ private:
     LayoutMode m_layoutMode = LayoutMode::SinglePage;
     ZoomMode m_zoomMode;
     int m_currentPage = 0;
-    int m_quarters = 0;
     BackgroundStyle m_background = Background_Default;
     PageTool m_tool;
     PageDecoration m_decoration;
+    PageCache m_cache;
     Drag m_drag;
     bool m_scrollsItself = false;
 };

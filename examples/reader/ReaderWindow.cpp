@@ -12,9 +12,12 @@
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QDomDocument>
+#include <QDropEvent>
 #include <QLabel>
+#include <QMimeData>
 #include <QShortcut>
 #include <QStatusBar>
+#include <QUrl>
 #include <QVBoxLayout>
 
 namespace {
@@ -25,6 +28,13 @@ constexpr int messageTime = 6000;
 constexpr int logWidth = 300;
 constexpr QSize windowSize(1280, 800);
 constexpr int referenceDpi = 96;
+
+/** The one local file that is being dragged; empty for anything else. */
+QString droppedFile(const QMimeData &data)
+{
+    const QList<QUrl> urls = data.urls();
+    return urls.size() == 1 ? urls.first().toLocalFile() : QString();
+}
 
 } // namespace
 
@@ -56,6 +66,7 @@ ReaderWindow::ReaderWindow(const QDomDocument &description, const QString &skin)
     connectParts();
     updateTitle();
     m_report->tellAll(state());
+    setAcceptDrops(true);
     resize(windowSize * logicalDpiX() / referenceDpi);
     m_view->setFocus();
 }
@@ -235,7 +246,7 @@ void ReaderWindow::open(const QString &fileName)
 
 void ReaderWindow::openSample()
 {
-    m_document.open(sampleName);
+    m_document.openGenerated(sampleName);
     m_view->setCurrentPage(0);
 }
 
@@ -243,7 +254,7 @@ ReaderState ReaderWindow::state() const
 {
     ReaderState state;
     state.isOpen = m_document.isOpen();
-    state.isModified = !m_document.undoStack().isClean();
+    state.isModified = m_document.isModified();
     state.canUndo = m_document.undoStack().canUndo();
     state.canRedo = m_document.undoStack().canRedo();
     state.hasSelection = !m_view->selection().isEmpty();
@@ -273,13 +284,15 @@ void ReaderWindow::updateToolBar()
 void ReaderWindow::updateTitle()
 {
     const QString application = QStringLiteral("OFD阅读器");
-    setWindowModified(!m_document.undoStack().isClean());
+    setWindowModified(m_document.isModified());
     if (!m_document.isOpen()) {
         setWindowTitle(application);
         m_place->clear();
         return;
     }
-    setWindowTitle(QStringLiteral("%1[*]（生成的页面）- %2").arg(m_document.title(), application));
+    const QString origin =
+        m_document.isGenerated() ? QStringLiteral("（生成的页面）") : QStringLiteral(" ");
+    setWindowTitle(QStringLiteral("%1[*]%2- %3").arg(m_document.title(), origin, application));
     m_place->setText(QStringLiteral("第 %1 / %2 页　%3%")
                          .arg(m_view->currentPage() + 1)
                          .arg(m_document.pageCount())
@@ -294,6 +307,21 @@ void ReaderWindow::closeEvent(QCloseEvent *event)
     }
     m_settings.setQuickAccessButtons(m_skin, m_toolBar->GetQuickAccessButtonList());
     QMainWindow::closeEvent(event);
+}
+
+void ReaderWindow::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (!droppedFile(*event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+void ReaderWindow::dropEvent(QDropEvent *event)
+{
+    const QString fileName = droppedFile(*event->mimeData());
+    if (fileName.isEmpty())
+        return;
+    event->acceptProposedAction();
+    open(fileName);
 }
 
 void ReaderWindow::changeEvent(QEvent *event)

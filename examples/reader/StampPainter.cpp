@@ -109,7 +109,7 @@ void paintWatermark(QPainter &painter, const Mark &mark)
     colour.setAlpha(60);
     painter.setPen(colour);
     painter.setFont(fontOf(watermarkPixels, true));
-    painter.translate(pageSize.width() / 2, pageSize.height() / 2);
+    painter.translate(mark.rect().center());
     painter.rotate(watermarkAngle);
     painter.drawText(QRectF(-500, -100, 1000, 200), Qt::AlignCenter, mark.text);
 }

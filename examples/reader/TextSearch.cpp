@@ -6,7 +6,17 @@ namespace {
 
 QRegularExpression expressionFor(const SearchOption &option)
 {
-    QString pattern = QRegularExpression::escape(option.content);
+    // A word may be broken at the end of a line, and a blank may be one.
+    const QString lineBreak = QStringLiteral("\\n?");
+    QStringList characters;
+    for (int i = 0; i < option.content.size(); ++i) {
+        const bool isPair = option.content.at(i).isHighSurrogate();
+        const QString character = option.content.mid(i, isPair ? 2 : 1);
+        i += isPair ? 1 : 0;
+        characters.append(character == QLatin1String(" ") ? QStringLiteral("\\s+")
+                                                          : QRegularExpression::escape(character));
+    }
+    QString pattern = characters.join(lineBreak);
     // A Chinese character is a word of its own; only runs of letters and digits can be cut.
     if (option.wholeWord)
         pattern = QStringLiteral("(?<![A-Za-z0-9_])%1(?![A-Za-z0-9_])").arg(pattern);

@@ -76,8 +76,11 @@ void ViewCommands::addZoom(CommandTable &table)
     table.add(name("v_zoomin"), Needs::Document, [this](const QString &) { stepZoom(true); });
     table.add(name("v_zoomout"), Needs::Document, [this](const QString &) { stepZoom(false); });
     table.addControl({QStringLiteral("v_zoom"), QStringLiteral("v_zoomlist")}, Needs::Document);
-    table.add(name("v_rotateclock"), Needs::Document, [view](const QString &) { view->rotate(1); });
-    table.add(name("v_rotateanti"), Needs::Document, [view](const QString &) { view->rotate(-1); });
+    Document *document = m_parts.document;
+    table.add(name("v_rotateclock"), Needs::Document,
+              [document](const QString &) { document->turn(1, QStringLiteral("顺时针旋转")); });
+    table.add(name("v_rotateanti"), Needs::Document,
+              [document](const QString &) { document->turn(-1, QStringLiteral("逆时针旋转")); });
 }
 
 void ViewCommands::addLayouts(CommandTable &table)

@@ -1,4 +1,4 @@
-// A small reader on generated pages, whose commands all come from the toolbar.
+// A small OFD reader, whose commands all come from the toolbar.
 
 #include "Description.h"
 #include "Options.h"

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "Objects.h"
+#include "Package.h"
+
+#include <QMap>
+#include <QPair>
+#include <QStringList>
+
+namespace Ofd {
+
+struct Font
+{
+    QString name;
+    QString family;
+    bool isBold = false;
+    bool isItalic = false;
+    bool hasSerifs = false;
+    QString file; ///< Its entry in the package; empty for a font that is not embedded.
+};
+
+struct Media
+{
+    QString file; ///< Its entry in the package.
+};
+
+struct CompositeGraphic
+{
+    std::shared_ptr<const Objects> objects;
+};
+
+/** What pages refer to by identifier; one space of names for the whole document. */
+struct Resources
+{
+    QHash<QString, Font> fonts;
+    QHash<QString, Media> media;
+    QHash<QString, CompositeGraphic> composites;
+};
+
+struct Page
+{
+    QRectF area; ///< What of the page's space is the sheet.
+    /** From the back to the front; a template is one object that its pages share. */
+    QVector<std::shared_ptr<const Objects>> layers;
+};
+
+/** A place to go to, from the outline or the bookmarks. */
+struct Target
+{
+    QString title;
+    int depth = 0;
+    int page = -1; ///< Counted from 0; -1 if it leads nowhere.
+};
+
+struct Document
+{
+    std::shared_ptr<Package> package;
+    QVector<QPair<QString, QString>> information; ///< What is said of the document, with its name.
+    QString title;
+    Resources resources;
+    QVector<Page> pages;
+    QVector<Target> outline;
+    QVector<Target> bookmarks;
+    QStringList attachments;
+    QMap<QString, int> unsupported; ///< How many of each kind are left out.
+};
+
+/** Reads a document; on a fault returns nothing and tells in one sentence what is wrong. */
+std::shared_ptr<const Document> read(const QString &fileName, QString *error);
+
+} // namespace Ofd

@@ -1,0 +1,158 @@
+#include "Extras.h"
+
+#include "Values.h"
+
+namespace Ofd {
+
+namespace {
+
+void add(Document &document, const QString &name, const QString &value)
+{
+    if (!value.isEmpty())
+        document.information.append({name, value});
+}
+
+/** The file that a child of the element names, as a tree; nothing if there is none. */
+std::optional<XmlElement> fileOf(const Document &document, const XmlElement &parent,
+                                 const char *name, const QString &from, QString *path)
+{
+    *path = document.package->find(from, parent.childText(name));
+    if (path->isEmpty())
+        return std::nullopt;
+    return XmlElement::parse(document.package->read(*path), *path);
+}
+
+/** The first destination somewhere inside; nullptr if there is none. */
+const XmlElement *destinationOf(const XmlElement &element)
+{
+    for (const XmlElement &child : element.children) {
+        if (child.is("Dest"))
+            return &child;
+        // What lies deeper in an outline belongs to its entries.
+        const XmlElement *found = child.is("OutlineElem") ? nullptr : destinationOf(child);
+        if (found)
+            return found;
+    }
+    return nullptr;
+}
+
+int pageOf(const XmlElement &element, const QHash<QString, int> &pages)
+{
+    const XmlElement *destination = destinationOf(element);
+    return destination ? pages.value(destination->attribute("PageID"), -1) : -1;
+}
+
+void readOutline(const XmlElement &parent, int depth, const QHash<QString, int> &pages,
+                 QVector<Target> &outline)
+{
+    for (const XmlElement &element : parent.children) {
+        if (!element.is("OutlineElem"))
+            continue;
+        outline.append({element.attribute("Title"), depth, pageOf(element, pages)});
+        readOutline(element, depth + 1, pages, outline);
+    }
+}
+
+Objects appearancesOf(const XmlElement &list, ObjectReader &objects)
+{
+    Objects groups;
+    for (const XmlElement &annotation : list.children) {
+        const XmlElement *appearance = annotation.child("Appearance");
+        if (!appearance || !annotation.flag("Visible", true))
+            continue;
+        Object group;
+        group.boundary = Values::box(appearance->attribute("Boundary"));
+        const Objects inside = objects.readAll(*appearance, Style());
+        group.content = Group{std::make_shared<const Objects>(inside)};
+        groups.append(group);
+    }
+    return groups;
+}
+
+} // namespace
+
+void Extras::readInformation(const XmlElement &information, Document &document)
+{
+    static const QVector<QPair<const char *, QString>> names = {
+        {"Title", QStringLiteral("标题")},
+        {"Author", QStringLiteral("作者")},
+        {"Subject", QStringLiteral("主题")},
+        {"Abstract", QStringLiteral("摘要")},
+        {"DocUsage", QStringLiteral("用途")},
+        {"CreationDate", QStringLiteral("创建日期")},
+        {"ModDate", QStringLiteral("修改日期")},
+        {"Creator", QStringLiteral("创建程序")},
+        {"CreatorVersion", QStringLiteral("程序版本")},
+        {"DocID", QStringLiteral("文档标识")},
+    };
+    document.title = information.childText("Title");
+    for (const auto &name : names)
+        add(document, name.second, information.childText(name.first));
+    if (const XmlElement *keywords = information.child("Keywords")) {
+        QStringList words;
+        for (const XmlElement &word : keywords->children)
+            words.append(word.text.trimmed());
+        add(document, QStringLiteral("关键词"), words.join(QStringLiteral("、")));
+    }
+    if (const XmlElement *custom = information.child("CustomDatas")) {
+        for (const XmlElement &item : custom->children)
+            add(document, item.attribute("Name"), item.text.trimmed());
+    }
+}
+
+void Extras::readTargets(const XmlElement &root, const QHash<QString, int> &pages,
+                         Document &document)
+{
+    if (const XmlElement *outline = root.child("Outlines"))
+        readOutline(*outline, 0, pages, document.outline);
+    const XmlElement *bookmarks = root.child("Bookmarks");
+    if (!bookmarks)
+        return;
+    for (const XmlElement &bookmark : bookmarks->children)
+        document.bookmarks.append({bookmark.attribute("Name"), 0, pageOf(bookmark, pages)});
+}
+
+void Extras::readAnnotations(const XmlElement &root, const QString &from,
+                             const QHash<QString, int> &pages, Document &document,
+                             ObjectReader &objects)
+{
+    QString path;
+    const std::optional<XmlElement> index = fileOf(document, root, "Annotations", from, &path);
+    if (!index)
+        return;
+    for (const XmlElement &entry : index->children) {
+        const int page = pages.value(entry.attribute("PageID"), -1);
+        QString listPath;
+        const std::optional<XmlElement> list = fileOf(document, entry, "FileLoc", path, &listPath);
+        if (page < 0 || !list)
+            continue;
+        document.pages[page].layers.append(
+            std::make_shared<const Objects>(appearancesOf(*list, objects)));
+    }
+}
+
+void Extras::readAttachments(const XmlElement &root, const QString &from, Document &document)
+{
+    QString path;
+    const std::optional<XmlElement> list = fileOf(document, root, "Attachments", from, &path);
+    if (!list)
+        return;
+    for (const XmlElement &attachment : list->children) {
+        if (attachment.flag("Visible", true))
+            document.attachments.append(attachment.attribute("Name"));
+    }
+}
+
+void Extras::countSeals(const XmlElement &body, const QString &from, Document &document)
+{
+    QString path;
+    const std::optional<XmlElement> list = fileOf(document, body, "Signatures", from, &path);
+    if (!list)
+        return;
+    for (const XmlElement &signature : list->children) {
+        if (signature.is("Signature"))
+            ++document.unsupported[QStringLiteral("电子签章")];
+    }
+}
+
+} // namespace Ofd

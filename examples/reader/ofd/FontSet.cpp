@@ -1,0 +1,161 @@
+#include "FontSet.h"
+
+#include "Fault.h"
+
+#include <QFont>
+#include <QFontDatabase>
+#include <QStringList>
+
+namespace Ofd {
+
+namespace {
+
+constexpr int rawSize = 256; // Pixels an em; outlines do not care.
+constexpr int leastBold = 600;
+constexpr qreal slant = 0.21;
+constexpr std::size_t mostGlyphs = 20000;
+
+bool containsAny(const QString &name, const QStringList &parts)
+{
+    for (const QString &part : parts) {
+        if (name.contains(part, Qt::CaseInsensitive))
+            return true;
+    }
+    return false;
+}
+
+/** What may stand for a font that the machine does not have, the best first. */
+QStringList substitutesFor(const Font &font)
+{
+    static const QStringList serifMarks = {QStringLiteral("宋"),    QStringLiteral("仿"),
+                                           QStringLiteral("楷"),    QStringLiteral("明"),
+                                           QStringLiteral("Song"),  QStringLiteral("SimSun"),
+                                           QStringLiteral("Kai"),   QStringLiteral("Fang"),
+                                           QStringLiteral("Times"), QStringLiteral("Serif")};
+    static const QStringList chineseSerif = {
+        QStringLiteral("Noto Serif CJK SC"), QStringLiteral("Source Han Serif SC"),
+        QStringLiteral("SimSun"), QStringLiteral("AR PL UMing CN")};
+    static const QStringList chineseSans = {
+        QStringLiteral("Noto Sans CJK SC"), QStringLiteral("Source Han Sans SC"),
+        QStringLiteral("SimHei"), QStringLiteral("WenQuanYi Micro Hei")};
+    const QString name = font.name + font.family;
+    if (containsAny(name, {QStringLiteral("Courier"), QStringLiteral("Mono")}))
+        return QStringList{QStringLiteral("Liberation Mono"), QStringLiteral("DejaVu Sans Mono")}
+               + chineseSans;
+    if (containsAny(name, {QStringLiteral("Times")}))
+        return QStringList{QStringLiteral("Liberation Serif"), QStringLiteral("DejaVu Serif")}
+               + chineseSerif;
+    if (containsAny(name, {QStringLiteral("Arial"), QStringLiteral("Helvetica")}))
+        return QStringList{QStringLiteral("Liberation Sans"), QStringLiteral("DejaVu Sans")}
+               + chineseSans;
+    const bool hasSerifs =
+        font.hasSerifs
+        || (containsAny(name, serifMarks) && !containsAny(name, {QStringLiteral("Sans")}));
+    return hasSerifs ? chineseSerif + chineseSans : chineseSans + chineseSerif;
+}
+
+} // namespace
+
+Face::Face(const Font &font, const QByteArray &bytes, bool isBold, bool isItalic)
+{
+    const QRawFont embedded =
+        bytes.isEmpty() ? QRawFont() : QRawFont(bytes, rawSize, QFont::PreferNoHinting);
+    m_isEmbedded = embedded.isValid();
+    if (m_isEmbedded)
+        m_fonts.append(embedded);
+    addSystemFonts(font, isBold, isItalic);
+    m_lacksBold = isBold && m_fonts.first().weight() < QFont::DemiBold;
+    m_slants = isItalic && m_fonts.first().style() == QFont::StyleNormal;
+}
+
+void Face::addSystemFonts(const Font &font, bool isBold, bool isItalic)
+{
+    QStringList families = {font.family, font.name};
+    families += substitutesFor(font);
+    for (const QString &family : std::as_const(families)) {
+        QFont wanted(family);
+        wanted.setPixelSize(rawSize);
+        wanted.setHintingPreference(QFont::PreferNoHinting);
+        wanted.setBold(isBold);
+        wanted.setItalic(isItalic);
+        const QRawFont found = QRawFont::fromFont(wanted);
+        // For an unknown family the system gives what it likes.
+        if (found.isValid() && !found.familyName().compare(family, Qt::CaseInsensitive))
+            m_fonts.append(found);
+    }
+    QFont last;
+    last.setPixelSize(rawSize);
+    last.setBold(isBold);
+    m_fonts.append(QRawFont::fromFont(last));
+    m_fonts.append(QRawFont::fromFont(last, QFontDatabase::SimplifiedChinese));
+}
+
+const Glyph &Face::glyphOf(uint character)
+{
+    const auto known = m_indexes.constFind(character);
+    if (known != m_indexes.cend())
+        return glyph(known->first, known->second);
+    const QString text = QString::fromUcs4(reinterpret_cast<const char32_t *>(&character), 1);
+    for (int i = 0; i < m_fonts.size(); ++i) {
+        const QVector<quint32> indexes = m_fonts.at(i).glyphIndexesForString(text);
+        if (indexes.isEmpty() || indexes.first() == 0)
+            continue;
+        m_indexes.insert(character, {i, indexes.first()});
+        return glyph(i, indexes.first());
+    }
+    // No font has it: the first one shows its sign for that.
+    m_indexes.insert(character, {0, 0});
+    return glyph(0, 0);
+}
+
+const Glyph &Face::glyph(int font, quint32 index)
+{
+    const quint64 key = quint64(font) << 32 | index;
+    const auto known = m_glyphs.find(key);
+    if (known != m_glyphs.end())
+        return known->second;
+    const QRawFont &raw = m_fonts.at(font);
+    QTransform toEm = QTransform::fromScale(1.0 / rawSize, 1.0 / rawSize);
+    if (m_slants)
+        toEm.shear(-slant, 0);
+    Glyph glyph;
+    glyph.path = toEm.map(raw.pathForGlyph(index));
+    glyph.path.setFillRule(Qt::WindingFill);
+    const QVector<QPointF> advances = raw.advancesForGlyphIndexes({index});
+    glyph.advance = advances.isEmpty() ? 0 : advances.first().x() / rawSize;
+    return m_glyphs.emplace(key, std::move(glyph)).first->second;
+}
+
+void Face::trim()
+{
+    if (m_glyphs.size() > mostGlyphs)
+        m_glyphs.clear();
+}
+
+bool Face::isReadable(const QByteArray &bytes)
+{
+    return QRawFont(bytes, rawSize, QFont::PreferNoHinting).isValid();
+}
+
+Face &FontSet::faceOf(const Text &text)
+{
+    const Font font = m_document.resources.fonts.value(text.font);
+    const bool isBold = text.weight >= leastBold || font.isBold;
+    const bool isItalic = text.isItalic || font.isItalic;
+    const QString key = QStringLiteral("%1/%2/%3").arg(text.font).arg(isBold).arg(isItalic);
+    const auto known = m_faces.find(key);
+    if (known != m_faces.end()) {
+        known->second.trim();
+        return known->second;
+    }
+    QByteArray bytes;
+    try {
+        if (!font.file.isEmpty())
+            bytes = m_document.package->read(font.file);
+    } catch (const Fault &) {
+        // A damaged file of a font was told of on opening; the nearest font stands in.
+    }
+    return m_faces.emplace(key, Face(font, bytes, isBold, isItalic)).first->second;
+}
+
+} // namespace Ofd

@@ -1,0 +1,166 @@
+#include "ObjectReader.h"
+
+#include "Fault.h"
+#include "Limits.h"
+#include "PathData.h"
+#include "Values.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace Ofd {
+
+namespace {
+
+constexpr int usualWeight = 400;
+
+int quarterTurns(const XmlElement &element, const char *name)
+{
+    return int(std::lround(Values::number(element.attribute(name), 0) / 90)) % 4 * 90;
+}
+
+GlyphRange glyphRangeOf(const XmlElement &element)
+{
+    GlyphRange range;
+    range.firstCode = int(Values::number(element.attribute("CodePosition"), 0));
+    range.codeCount = int(Values::number(element.attribute("CodeCount"), 1));
+    const QVector<qreal> glyphs = Values::numbers(element.childText("Glyphs"));
+    for (const qreal glyph : glyphs)
+        range.glyphs.append(quint32(std::max(0.0, glyph)));
+    return range;
+}
+
+TextRun runOf(const XmlElement &element, QPointF before)
+{
+    TextRun run;
+    run.text = element.text;
+    run.start = QPointF(Values::number(element.attribute("X"), before.x()),
+                        Values::number(element.attribute("Y"), before.y()));
+    // One distance more than between the characters would be of no use.
+    const int most = std::max(0, int(run.text.size()) - 1);
+    run.deltaX = Values::deltas(element.attribute("DeltaX"), most);
+    run.deltaY = Values::deltas(element.attribute("DeltaY"), most);
+    return run;
+}
+
+} // namespace
+
+Objects ObjectReader::readAll(const XmlElement &parent, const Style &wider)
+{
+    Objects objects;
+    readInto(objects, parent, wider);
+    return objects;
+}
+
+void ObjectReader::readInto(Objects &objects, const XmlElement &parent, const Style &wider)
+{
+    for (const XmlElement &element : parent.children) {
+        if (element.is("Layer") || element.is("PageBlock"))
+            readInto(objects, element, m_styles.read(element, wider));
+        else
+            readOne(objects, element, wider);
+    }
+}
+
+void ObjectReader::readOne(Objects &objects, const XmlElement &element, const Style &wider)
+{
+    if (!element.name.endsWith(QLatin1String("Object")) || !element.flag("Visible", true))
+        return;
+    if (++m_count > Limits::objects)
+        throw Fault{QStringLiteral("文档中的图元过多，超过 %1 个。").arg(Limits::objects)};
+    Object object = common(element, wider);
+    if (element.is("TextObject"))
+        object.content = textOf(element);
+    else if (element.is("PathObject"))
+        object.content = pathOf(element);
+    else if (element.is("ImageObject"))
+        object.content = Image{element.attribute("ResourceID")};
+    else if (element.is("CompositeObject"))
+        object.content = Composite{element.attribute("ResourceID")};
+    else
+        ++m_unsupported[element.name];
+    if (element.is("ImageObject") && !element.attribute("ImageMask").isEmpty())
+        ++m_unsupported[QStringLiteral("图像蒙版")];
+    objects.append(object);
+}
+
+Object ObjectReader::common(const XmlElement &element, const Style &wider)
+{
+    Object object;
+    object.boundary = Values::box(element.attribute("Boundary"));
+    object.matrix = Values::matrix(element.attribute("CTM"));
+    object.style = m_styles.read(element, wider);
+    object.alpha = std::clamp(Values::number(element.attribute("Alpha"), 255) / 255, 0.0, 1.0);
+    object.clips = clipsOf(element);
+    return object;
+}
+
+Text ObjectReader::textOf(const XmlElement &element)
+{
+    Text text;
+    text.font = element.attribute("Font");
+    text.size = Values::number(element.attribute("Size"), 0);
+    if (text.size < 0 || text.size > Limits::fontSize)
+        throw Fault{QStringLiteral("字号 %1 超出范围。").arg(text.size)};
+    text.horizontalScale = Values::number(element.attribute("HScale"), 1);
+    text.readDirection = quarterTurns(element, "ReadDirection");
+    text.charDirection = quarterTurns(element, "CharDirection");
+    text.weight = int(Values::number(element.attribute("Weight"), usualWeight));
+    text.isItalic = element.flag("Italic", false);
+    text.isFilled = element.flag("Fill", true);
+    text.isStroked = element.flag("Stroke", false);
+    QVector<GlyphRange> glyphs;
+    for (const XmlElement &part : element.children) {
+        if (part.is("CGTransform"))
+            glyphs.append(glyphRangeOf(part));
+        if (!part.is("TextCode"))
+            continue;
+        // A run without a place of its own begins where the one before began.
+        text.runs.append(runOf(part, text.runs.isEmpty() ? QPointF() : text.runs.last().start));
+        text.runs.last().glyphs = glyphs;
+        glyphs.clear();
+    }
+    return text;
+}
+
+Path ObjectReader::pathOf(const XmlElement &element) const
+{
+    Path path;
+    path.path = pathFromData(element.childText("AbbreviatedData"));
+    const bool isEvenOdd = element.attribute("Rule") == QLatin1String("Even-Odd");
+    path.path.setFillRule(isEvenOdd ? Qt::OddEvenFill : Qt::WindingFill);
+    path.isFilled = element.flag("Fill", false);
+    path.isStroked = element.flag("Stroke", true);
+    return path;
+}
+
+QVector<QPainterPath> ObjectReader::clipsOf(const XmlElement &element)
+{
+    QVector<QPainterPath> clips;
+    const XmlElement *all = element.child("Clips");
+    if (!all)
+        return clips;
+    for (const XmlElement &clip : all->children) {
+        QPainterPath joined;
+        joined.setFillRule(Qt::WindingFill);
+        bool isKnown = false;
+        for (const XmlElement &area : clip.children) {
+            const XmlElement *shape = area.child("Path");
+            if (!shape) {
+                ++m_unsupported[QStringLiteral("文字裁剪")];
+                continue;
+            }
+            const QRectF boundary = Values::box(shape->attribute("Boundary"));
+            const QTransform place = Values::matrix(shape->attribute("CTM"))
+                                     * QTransform::fromTranslate(boundary.x(), boundary.y())
+                                     * Values::matrix(area.attribute("CTM"));
+            joined.addPath(place.map(pathOf(*shape).path));
+            isKnown = true;
+        }
+        if (isKnown)
+            clips.append(joined);
+    }
+    return clips;
+}
+
+} // namespace Ofd

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "StyleReader.h"
+
+namespace Ofd {
+
+/** Turns the elements of layers, page blocks, composites and appearances into objects. */
+class ObjectReader
+{
+public:
+    ObjectReader(const StyleReader &styles, QMap<QString, int> &unsupported)
+        : m_styles(styles)
+        , m_unsupported(unsupported)
+    {
+    }
+
+    /** All objects inside, also in nested blocks. Throws a Fault for absurd values and amounts. */
+    Objects readAll(const XmlElement &parent, const Style &wider);
+
+private:
+    void readInto(Objects &objects, const XmlElement &parent, const Style &wider);
+    void readOne(Objects &objects, const XmlElement &element, const Style &wider);
+    Object common(const XmlElement &element, const Style &wider);
+    Text textOf(const XmlElement &element);
+    Path pathOf(const XmlElement &element) const;
+    QVector<QPainterPath> clipsOf(const XmlElement &element);
+
+    const StyleReader &m_styles;
+    QMap<QString, int> &m_unsupported;
+    qint64 m_count = 0;
+};
+
+} // namespace Ofd

@@ -1,0 +1,110 @@
+#pragma once
+
+#include <QBrush>
+#include <QPainterPath>
+#include <QPen>
+#include <QRectF>
+#include <QString>
+#include <QTransform>
+#include <QVector>
+
+#include <memory>
+#include <optional>
+#include <variant>
+
+/** What stands on pages, as it was read. Lengths are millimetres unless a matrix says otherwise. */
+namespace Ofd {
+
+/** Drawing parameters; what is not given is taken from the next wider ones. */
+struct Style
+{
+    std::optional<qreal> lineWidth;
+    std::optional<Qt::PenCapStyle> cap;
+    std::optional<Qt::PenJoinStyle> join;
+    std::optional<qreal> miterLimit;
+    std::optional<qreal> dashOffset;
+    std::optional<QVector<qreal>> dashes;
+    std::optional<QBrush> fill;
+    std::optional<QBrush> stroke;
+
+    /** These parameters where given, else the other ones. */
+    Style over(const Style &wider) const;
+    QBrush fillBrush() const { return fill.value_or(QBrush(Qt::black)); }
+    QPen pen() const;
+};
+
+/** Glyphs of an embedded font for some of the characters of one run. */
+struct GlyphRange
+{
+    int firstCode = 0;
+    int codeCount = 1;
+    QVector<quint32> glyphs;
+};
+
+/** Characters placed one by one from a point of the baseline on. */
+struct TextRun
+{
+    QString text;
+    QPointF start;
+    QVector<qreal> deltaX;
+    QVector<qreal> deltaY;
+    QVector<GlyphRange> glyphs;
+};
+
+struct Text
+{
+    QString font; ///< The identifier of the resource.
+    qreal size = 0;
+    qreal horizontalScale = 1;
+    int readDirection = 0; ///< Degrees, clockwise: the way from a character to the next one.
+    int charDirection = 0; ///< Degrees, clockwise: by which each character is turned.
+    int weight = 400;
+    bool isItalic = false;
+    bool isFilled = true;
+    bool isStroked = false;
+    QVector<TextRun> runs;
+};
+
+struct Path
+{
+    QPainterPath path;
+    bool isFilled = false;
+    bool isStroked = true;
+};
+
+struct Image
+{
+    QString resource;
+};
+
+struct Composite
+{
+    QString resource;
+};
+
+struct Object;
+using Objects = QVector<Object>;
+
+/** Objects that move together, such as the appearance of an annotation. */
+struct Group
+{
+    std::shared_ptr<const Objects> objects;
+};
+
+struct Object
+{
+    QRectF boundary;
+    QTransform matrix; ///< From the object's own space to that of its boundary's corner.
+    Style style;
+    qreal alpha = 1;
+    QVector<QPainterPath> clips; ///< In the object's own space; only what is in all of them shows.
+    std::variant<Path, Text, Image, Composite, Group> content;
+
+    /** From the object's own space to that of the page or group that it stands on. */
+    QTransform placement() const
+    {
+        return matrix * QTransform::fromTranslate(boundary.x(), boundary.y());
+    }
+};
+
+} // namespace Ofd

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "ResourceReader.h"
+
+#include <QSet>
+
+namespace Ofd {
+
+/** Reads pages with the templates below and above them. */
+class PageReader
+{
+public:
+    PageReader(const Package &package, ResourceReader &resources, QMap<QString, int> &unsupported)
+        : m_package(package)
+        , m_resources(resources)
+        , m_unsupported(unsupported)
+    {
+    }
+
+    /** What the document's common data, in the file @p from, say of all pages. */
+    void readCommon(const XmlElement &data, const QString &from);
+    /** The page that an element of the list of pages in the file @p from stands for. */
+    Page read(const XmlElement &element, const QString &from);
+
+private:
+    using Layers = QVector<std::shared_ptr<const Objects>>;
+
+    struct Template
+    {
+        QString path;
+        QString order;
+        Layers layers;
+        bool isRead = false;
+    };
+
+    Layers layersOf(const XmlElement &page);
+    Layers ownLayersOf(const XmlElement &page);
+    Layers templatesOf(const XmlElement &page, const char *order);
+    const Layers &layersOfTemplate(const QString &id);
+
+    const Package &m_package;
+    ResourceReader &m_resources;
+    QMap<QString, int> &m_unsupported;
+    QRectF m_commonArea;
+    QHash<QString, Template> m_templates;
+    QSet<QString> m_openTemplates;
+    QHash<QString, Page> m_read; ///< By path: a file that many pages name is read once.
+};
+
+} // namespace Ofd

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "FontSet.h"
+
+namespace Ofd {
+
+/** One run of characters on a line; `start` and `length` point into the text of the page. */
+struct TextSpan
+{
+    int start = 0;
+    int length = 0;
+    QRectF rect;
+};
+
+/** The text of a page in the order in which it was written, with the place of each character. */
+struct PageText
+{
+    QString text;
+    QVector<QRectF> boxes; ///< One a UTF-16 unit, in millimetres; null for a break between lines.
+    QVector<TextSpan> lines;
+};
+
+PageText textOf(const Document &document, int page, FontSet &fonts);
+
+} // namespace Ofd

@@ -1,0 +1,204 @@
+#include "Painter.h"
+
+#include "Fault.h"
+#include "Limits.h"
+#include "TextLayout.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace Ofd {
+
+namespace {
+
+/** In device pixels; thinner lines would come and go with the zoom. */
+constexpr qreal leastLineWidth = 0.7;
+/** Of an em, on both sides of an outline that has to look bold. */
+constexpr qreal boldStroke = 0.03;
+
+qreal scaleOf(const QPainter &painter)
+{
+    return std::sqrt(std::abs(painter.deviceTransform().determinant()));
+}
+
+bool isOnDevice(const QPainter &painter, const QRectF &rect)
+{
+    const QRectF device(0, 0, painter.device()->width() * painter.device()->devicePixelRatioF(),
+                        painter.device()->height() * painter.device()->devicePixelRatioF());
+    // A straight line has a rectangle without area, which intersects nothing.
+    const QRectF mapped = painter.deviceTransform().mapRect(rect).adjusted(-1, -1, 1, 1);
+    return mapped.intersects(device);
+}
+
+QPen visiblePen(const QPainter &painter, const Style &style, const QPainterPath &path)
+{
+    QPen pen = style.pen();
+    const qreal scale = scaleOf(painter);
+    qreal period = 0;
+    for (const qreal length : style.dashes.value_or(QVector<qreal>()))
+        period += length;
+    if (period > 0 && path.length() / period > Limits::dashesPerPath)
+        pen.setStyle(Qt::SolidLine);
+    else if (scale > 0 && pen.widthF() * scale < leastLineWidth && period <= 0)
+        pen.setWidthF(leastLineWidth / scale);
+    return pen;
+}
+
+/** Lengths of the sides of the unit square on the device. */
+QSizeF deviceSize(const QTransform &transform)
+{
+    return QSizeF(std::hypot(transform.m11(), transform.m12()),
+                  std::hypot(transform.m21(), transform.m22()));
+}
+
+/**
+ * Fills each glyph by itself and in the space of the device, which takes a tenth of the time that
+ * the toolkit needs for all in one and under a transform.
+ */
+void fillGlyphs(QPainter &painter, const QVector<PlacedGlyph> &glyphs, const QBrush &brush)
+{
+    const QTransform toWorld = painter.worldTransform();
+    painter.setWorldTransform(QTransform());
+    for (const PlacedGlyph &placed : glyphs) {
+        if (!placed.glyph)
+            continue;
+        const QPainterPath path = (placed.place * toWorld).map(placed.glyph->path);
+        if (isOnDevice(painter, path.controlPointRect()))
+            painter.fillPath(path, brush);
+    }
+    painter.setWorldTransform(toWorld);
+}
+
+QPainterPath outlinesOf(const QVector<PlacedGlyph> &glyphs)
+{
+    QPainterPath outlines;
+    outlines.setFillRule(Qt::WindingFill);
+    for (const PlacedGlyph &placed : glyphs) {
+        if (placed.glyph)
+            outlines.addPath(placed.place.map(placed.glyph->path));
+    }
+    return outlines;
+}
+
+} // namespace
+
+Painter::Painter(std::shared_ptr<const Document> document)
+    : m_document(std::move(document))
+    , m_fonts(*m_document)
+    , m_images(*m_document)
+{
+}
+
+QMap<QString, int> Painter::unpaintable() const
+{
+    QMap<QString, int> counts;
+    const auto test = [&](const QString &file, const QString &kind, auto isReadable) {
+        try {
+            if (!file.isEmpty() && !isReadable(m_document->package->read(file)))
+                ++counts[kind];
+        } catch (const Fault &) {
+            ++counts[kind];
+        }
+    };
+    for (const Font &font : m_document->resources.fonts)
+        test(font.file, QStringLiteral("嵌入字体"), Face::isReadable);
+    for (const Media &media : m_document->resources.media)
+        test(media.file, QStringLiteral("图像"), ImageStore::isReadable);
+    return counts;
+}
+
+void Painter::paint(QPainter &painter, int page)
+{
+    painter.save();
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    painter.translate(-m_document->pages.at(page).area.topLeft());
+    for (const auto &layer : m_document->pages.at(page).layers)
+        paintAll(painter, *layer);
+    painter.restore();
+}
+
+void Painter::paintAll(QPainter &painter, const Objects &objects)
+{
+    for (const Object &object : objects) {
+        if (object.alpha > 0)
+            paintOne(painter, object);
+    }
+}
+
+void Painter::paintOne(QPainter &painter, const Object &object)
+{
+    painter.save();
+    painter.setOpacity(painter.opacity() * object.alpha);
+    painter.setTransform(object.placement(), true);
+    for (const QPainterPath &clip : object.clips)
+        painter.setClipPath(clip, Qt::IntersectClip);
+    std::visit([&](const auto &content) { paintContent(painter, object, content); },
+               object.content);
+    painter.restore();
+}
+
+void Painter::paintContent(QPainter &painter, const Object &object, const Path &path)
+{
+    const QPen pen = visiblePen(painter, object.style, path.path);
+    const qreal margin = pen.widthF() * std::max(1.0, pen.miterLimit());
+    const QRectF bounds = path.path.controlPointRect();
+    if (!isOnDevice(painter, bounds.adjusted(-margin, -margin, margin, margin)))
+        return;
+    if (path.isFilled)
+        painter.fillPath(path.path, object.style.fillBrush());
+    if (path.isStroked)
+        painter.strokePath(path.path, pen);
+}
+
+void Painter::paintContent(QPainter &painter, const Object &object, const Text &text)
+{
+    Face &face = m_fonts.faceOf(text);
+    const QBrush fill = object.style.fillBrush();
+    const bool mustThicken = text.isFilled && face.lacksBold();
+    const bool isPlain = text.isFilled && fill.style() == Qt::SolidPattern;
+    for (const TextRun &run : text.runs) {
+        const QVector<PlacedGlyph> glyphs = layOut(text, run, face);
+        if (isPlain)
+            fillGlyphs(painter, glyphs, fill);
+        if (isPlain && !mustThicken && !text.isStroked)
+            continue;
+        const QPainterPath outlines = outlinesOf(glyphs);
+        if (!isOnDevice(painter, outlines.controlPointRect()))
+            continue;
+        if (text.isFilled && !isPlain)
+            painter.fillPath(outlines, fill);
+        if (mustThicken)
+            painter.strokePath(outlines, QPen(fill, text.size * boldStroke));
+        if (text.isStroked)
+            painter.strokePath(outlines, visiblePen(painter, object.style, outlines));
+    }
+}
+
+void Painter::paintContent(QPainter &painter, const Object &object, const Image &image)
+{
+    // Without a matrix the picture has a square millimetre; what is meant is all of its boundary.
+    if (object.matrix.isIdentity())
+        painter.scale(object.boundary.width(), object.boundary.height());
+    const QRectF square(0, 0, 1, 1);
+    if (!isOnDevice(painter, square))
+        return;
+    const QImage picture = m_images.image(image.resource, deviceSize(painter.deviceTransform()));
+    if (!picture.isNull())
+        painter.drawImage(square, picture);
+}
+
+void Painter::paintContent(QPainter &painter, const Object &, const Composite &composite)
+{
+    const auto graphic = m_document->resources.composites.constFind(composite.resource);
+    if (graphic != m_document->resources.composites.cend())
+        paintAll(painter, *graphic->objects);
+}
+
+void Painter::paintContent(QPainter &painter, const Object &, const Group &group)
+{
+    paintAll(painter, *group.objects);
+}
+
+} // namespace Ofd

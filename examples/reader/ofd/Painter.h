@@ -1,0 +1,39 @@
+#pragma once
+
+#include "FontSet.h"
+#include "ImageStore.h"
+
+class QPainter;
+
+namespace Ofd {
+
+/** Paints the pages of one document. */
+class Painter
+{
+public:
+    explicit Painter(std::shared_ptr<const Document> document);
+
+    const Document &document() const { return *m_document; }
+    FontSet &fonts() { return m_fonts; }
+
+    /** Paints what stands on a page, without paper, in millimetres from its top left corner. */
+    void paint(QPainter &painter, int page);
+
+    /** How many embedded files of each kind cannot be painted. */
+    QMap<QString, int> unpaintable() const;
+
+private:
+    void paintAll(QPainter &painter, const Objects &objects);
+    void paintOne(QPainter &painter, const Object &object);
+    void paintContent(QPainter &painter, const Object &object, const Path &path);
+    void paintContent(QPainter &painter, const Object &object, const Text &text);
+    void paintContent(QPainter &painter, const Object &object, const Image &image);
+    void paintContent(QPainter &painter, const Object &object, const Composite &composite);
+    void paintContent(QPainter &painter, const Object &object, const Group &group);
+
+    std::shared_ptr<const Document> m_document;
+    FontSet m_fonts;
+    ImageStore m_images;
+};
+
+} // namespace Ofd

@@ -1,0 +1,146 @@
+#include "PathData.h"
+
+#include "Values.h"
+
+#include <QTransform>
+#include <QVector>
+#include <QtMath>
+
+#include <cmath>
+
+namespace Ofd {
+
+namespace {
+
+/** How many numbers a command takes; -1 for a letter that is none. */
+int countOfNumbers(QChar command)
+{
+    switch (command.unicode()) {
+    case u'M':
+    case u'S':
+    case u'L':
+        return 2;
+    case u'Q':
+        return 4;
+    case u'B':
+        return 6;
+    case u'A':
+        return 7;
+    case u'C':
+        return 0;
+    default:
+        return -1;
+    }
+}
+
+struct Arc
+{
+    qreal rx = 0;
+    qreal ry = 0;
+    qreal degrees = 0;
+    bool isLarge = false;
+    bool isClockwise = false;
+    QPointF end;
+};
+
+/** The centre of the unit circle's arc between two points, on the side that the flags ask for. */
+QPointF centreBetween(QPointF from, QPointF to, bool isLarge, bool isClockwise)
+{
+    const QPointF half = (to - from) / 2;
+    const qreal square = QPointF::dotProduct(half, half);
+    const qreal height = std::sqrt(std::max(0.0, 1 - square)) / std::sqrt(square);
+    const QPointF across(-half.y() * height, half.x() * height);
+    const QPointF middle = (from + to) / 2;
+    return isLarge == isClockwise ? middle - across : middle + across;
+}
+
+void appendArc(QPainterPath &path, const Arc &arc)
+{
+    const QPointF start = path.currentPosition();
+    if (start == arc.end)
+        return;
+    if (arc.rx <= 0 || arc.ry <= 0) {
+        path.lineTo(arc.end);
+        return;
+    }
+    // Where the ellipse is the unit circle, the arc is found by its chord.
+    QTransform toPath;
+    toPath.rotate(arc.degrees);
+    toPath.scale(arc.rx, arc.ry);
+    const QTransform toCircle = toPath.inverted();
+    QPointF from = toCircle.map(start);
+    QPointF to = toCircle.map(arc.end);
+    const qreal tooLong = std::max(1.0, std::hypot(to.x() - from.x(), to.y() - from.y()) / 2);
+    from /= tooLong;
+    to /= tooLong;
+    toPath = QTransform::fromScale(tooLong, tooLong) * toPath;
+
+    const QPointF centre = centreBetween(from, to, arc.isLarge, arc.isClockwise);
+    const qreal first = std::atan2(from.y() - centre.y(), from.x() - centre.x());
+    qreal sweep = std::atan2(to.y() - centre.y(), to.x() - centre.x()) - first;
+    if (arc.isClockwise && sweep < 0)
+        sweep += 2 * M_PI;
+    else if (!arc.isClockwise && sweep > 0)
+        sweep -= 2 * M_PI;
+    QPainterPath piece(from);
+    // The toolkit counts angles against the clock.
+    piece.arcTo(QRectF(centre - QPointF(1, 1), QSizeF(2, 2)), -qRadiansToDegrees(first),
+                -qRadiansToDegrees(sweep));
+    path.connectPath(toPath.map(piece));
+}
+
+void append(QPainterPath &path, QChar command, const QVector<qreal> &v)
+{
+    switch (command.unicode()) {
+    case u'M':
+    case u'S':
+        path.moveTo(v.at(0), v.at(1));
+        break;
+    case u'L':
+        path.lineTo(v.at(0), v.at(1));
+        break;
+    case u'Q':
+        path.quadTo(v.at(0), v.at(1), v.at(2), v.at(3));
+        break;
+    case u'B':
+        path.cubicTo(v.at(0), v.at(1), v.at(2), v.at(3), v.at(4), v.at(5));
+        break;
+    case u'A':
+        appendArc(path,
+                  {v.at(0), v.at(1), v.at(2), v.at(3) != 0, v.at(4) != 0, {v.at(5), v.at(6)}});
+        break;
+    case u'C':
+        path.closeSubpath();
+        break;
+    }
+}
+
+} // namespace
+
+QPainterPath pathFromData(const QString &data)
+{
+    QPainterPath path;
+    qsizetype at = 0;
+    const auto skipTo = [&](auto stops) {
+        while (at < data.size() && !stops(data.at(at)))
+            ++at;
+    };
+    // An "e" belongs to a number; commands are capitals.
+    const auto isCommand = [](QChar c) {
+        return c.isLetter() && c != QChar(u'e') && c != QChar(u'E');
+    };
+    const auto isSomething = [](QChar c) { return !c.isSpace() && c != QChar(u','); };
+    for (skipTo(isSomething); at < data.size(); skipTo(isSomething)) {
+        const QChar command = data.at(at++);
+        const qsizetype from = at;
+        skipTo(isCommand);
+        const QVector<qreal> values = Values::numbers(data.mid(from, at - from));
+        const int wanted = countOfNumbers(command);
+        if (wanted < 0 || values.size() < wanted)
+            break;
+        append(path, command, values);
+    }
+    return path;
+}
+
+} // namespace Ofd

@@ -1,0 +1,96 @@
+#include "ResourceReader.h"
+
+namespace Ofd {
+
+namespace {
+
+const QString missing = QStringLiteral("缺失的文件");
+
+} // namespace
+
+void ResourceReader::addLists(const XmlElement &parent, const char *name, const QString &from)
+{
+    for (const XmlElement &element : parent.children) {
+        if (!element.is(name))
+            continue;
+        const QString path = m_package.find(from, element.text);
+        if (path.isEmpty())
+            ++m_unsupported[missing];
+        else
+            addList(path);
+    }
+}
+
+void ResourceReader::addList(const QString &path)
+{
+    XmlElement list = XmlElement::parse(m_package.read(path), path);
+    const QString base = list.attribute("BaseLoc").trimmed();
+    // Locations in the list count from its base; a name that no entry has stands for the folder.
+    const QString ownFolder = path.left(path.lastIndexOf(QChar(u'/')) + 1);
+    const QString folder = base.startsWith(QChar(u'/')) ? base : ownFolder + base;
+    for (XmlElement &group : list.children) {
+        for (XmlElement &element : group.children) {
+            if (element.is("CompositeGraphicUnit"))
+                m_composites.push_back(std::move(element));
+            else
+                addAny(element, Package::normalised(folder) + QStringLiteral("/"));
+        }
+    }
+}
+
+void ResourceReader::addAny(const XmlElement &element, const QString &folder)
+{
+    if (element.is("Font"))
+        addFont(element, folder);
+    else if (element.is("MultiMedia"))
+        addMedia(element, folder);
+    else if (element.is("ColorSpace"))
+        m_colours.addSpace(element);
+    else if (element.is("DrawParam"))
+        m_styles.addParameters(element);
+}
+
+void ResourceReader::addFont(const XmlElement &element, const QString &folder)
+{
+    Font font;
+    font.name = element.attribute("FontName");
+    font.family = element.attribute("FamilyName");
+    font.isBold = element.flag("Bold", false);
+    font.isItalic = element.flag("Italic", false);
+    font.hasSerifs = element.flag("Serif", false);
+    const QString location = element.childText("FontFile");
+    font.file = m_package.find(folder, location);
+    if (font.file.isEmpty() && !location.isEmpty())
+        ++m_unsupported[missing];
+    m_resources.fonts.insert(element.attribute("ID"), font);
+}
+
+void ResourceReader::addMedia(const XmlElement &element, const QString &folder)
+{
+    const QString type = element.attribute("Type");
+    if (!type.isEmpty() && type != QLatin1String("Image")) {
+        ++m_unsupported[QStringLiteral("音频和视频")];
+        return;
+    }
+    Media media;
+    media.file = m_package.find(folder, element.childText("MediaFile"));
+    if (media.file.isEmpty())
+        ++m_unsupported[missing];
+    m_resources.media.insert(element.attribute("ID"), media);
+}
+
+void ResourceReader::finish()
+{
+    m_styles.resolve();
+    for (const XmlElement &element : m_composites) {
+        CompositeGraphic graphic;
+        Objects objects;
+        if (const XmlElement *content = element.child("Content"))
+            objects = m_objects.readAll(*content, Style());
+        graphic.objects = std::make_shared<const Objects>(objects);
+        m_resources.composites.insert(element.attribute("ID"), graphic);
+    }
+    m_composites.clear();
+}
+
+} // namespace Ofd

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "Document.h"
+#include "ObjectReader.h"
+
+namespace Ofd {
+
+/** Collects the resources of a document from the files that list them. */
+class ResourceReader
+{
+public:
+    ResourceReader(const Package &package, Resources &resources, QMap<QString, int> &unsupported)
+        : m_package(package)
+        , m_resources(resources)
+        , m_unsupported(unsupported)
+    {
+    }
+
+    /** Reads the lists that @p parent, an element of the file @p from, names in such children. */
+    void addLists(const XmlElement &parent, const char *name, const QString &from);
+    /** Settles what refers to other resources, once all lists are read that may hold them. */
+    void finish();
+
+    ColourReader &colours() { return m_colours; }
+    const StyleReader &styles() const { return m_styles; }
+    ObjectReader &objects() { return m_objects; }
+
+private:
+    void addList(const QString &path);
+    void addFont(const XmlElement &element, const QString &folder);
+    void addMedia(const XmlElement &element, const QString &folder);
+    void addAny(const XmlElement &element, const QString &folder);
+
+    const Package &m_package;
+    Resources &m_resources;
+    QMap<QString, int> &m_unsupported;
+    ColourReader m_colours{m_unsupported};
+    StyleReader m_styles{m_colours};
+    ObjectReader m_objects{m_styles, m_unsupported};
+    std::vector<XmlElement> m_composites; ///< Still to be read.
+};
+
+} // namespace Ofd

@@ -1,0 +1,101 @@
+#include "StyleReader.h"
+
+#include "Fault.h"
+#include "Limits.h"
+#include "Values.h"
+
+#include <QSet>
+
+#include <algorithm>
+
+namespace Ofd {
+
+namespace {
+
+std::optional<qreal> length(const XmlElement &element, const char *name)
+{
+    const QVector<qreal> values = Values::numbers(element.attribute(name));
+    if (values.isEmpty())
+        return std::nullopt;
+    return std::max(0.0, values.first());
+}
+
+std::optional<Qt::PenCapStyle> cap(const QString &name)
+{
+    if (name.isEmpty())
+        return std::nullopt;
+    if (name == QLatin1String("Round"))
+        return Qt::RoundCap;
+    return name == QLatin1String("Square") ? Qt::SquareCap : Qt::FlatCap;
+}
+
+std::optional<Qt::PenJoinStyle> join(const QString &name)
+{
+    if (name.isEmpty())
+        return std::nullopt;
+    if (name == QLatin1String("Round"))
+        return Qt::RoundJoin;
+    return name == QLatin1String("Bevel") ? Qt::BevelJoin : Qt::SvgMiterJoin;
+}
+
+std::optional<QVector<qreal>> dashes(const QString &text)
+{
+    if (text.trimmed().isEmpty())
+        return std::nullopt;
+    const QVector<qreal> values = Values::numbers(text);
+    qreal period = 0;
+    bool isNegative = false;
+    for (const qreal value : values) {
+        period += value;
+        isNegative = isNegative || value < 0;
+    }
+    if (values.size() > Limits::dashes || isNegative || (period > 0 && period < Limits::dashPeriod))
+        throw Fault{QStringLiteral("虚线样式“%1”超出范围。").arg(text.left(24))};
+    // Dashes without any length are a solid line.
+    return period > 0 ? values : QVector<qreal>();
+}
+
+} // namespace
+
+void StyleReader::addParameters(const XmlElement &parameters)
+{
+    m_parameters.insert(parameters.attribute("ID"),
+                        {own(parameters), parameters.attribute("Relative")});
+}
+
+void StyleReader::resolve()
+{
+    for (auto parameters = m_parameters.begin(); parameters != m_parameters.end(); ++parameters) {
+        QSet<QString> visited = {parameters.key()};
+        for (QString &next = parameters->relative; m_parameters.contains(next);) {
+            if (visited.contains(next))
+                throw Fault{QStringLiteral("绘制参数“%1”循环引用。").arg(next)};
+            visited.insert(next);
+            const Parameters wider = m_parameters.value(next);
+            parameters->style = parameters->style.over(wider.style);
+            next = wider.relative;
+        }
+    }
+}
+
+Style StyleReader::read(const XmlElement &element, const Style &wider) const
+{
+    const Style referred = m_parameters.value(element.attribute("DrawParam")).style;
+    return own(element).over(referred).over(wider);
+}
+
+Style StyleReader::own(const XmlElement &element) const
+{
+    Style style;
+    style.lineWidth = length(element, "LineWidth");
+    style.cap = cap(element.attribute("Cap"));
+    style.join = join(element.attribute("Join"));
+    style.miterLimit = length(element, "MiterLimit");
+    style.dashOffset = length(element, "DashOffset");
+    style.dashes = dashes(element.attribute("DashPattern"));
+    style.fill = m_colours.read(element, "FillColor");
+    style.stroke = m_colours.read(element, "StrokeColor");
+    return style;
+}
+
+} // namespace Ofd

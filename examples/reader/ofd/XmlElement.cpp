@@ -1,0 +1,122 @@
+#include "XmlElement.h"
+
+#include "Fault.h"
+#include "Limits.h"
+
+#include <QXmlStreamReader>
+
+namespace Ofd {
+
+namespace {
+
+XmlElement startOf(const QXmlStreamReader &reader)
+{
+    XmlElement element;
+    element.name = reader.name().toString();
+    const QXmlStreamAttributes attributes = reader.attributes();
+    for (const QXmlStreamAttribute &attribute : attributes)
+        element.attributes.append({attribute.name().toString(), attribute.value().toString()});
+    return element;
+}
+
+/** Builds the tree from the stream of tokens; a stack instead of recursion keeps depth harmless. */
+class TreeBuilder
+{
+public:
+    TreeBuilder(const QByteArray &bytes, const QString &path)
+        : m_reader(bytes)
+        , m_path(path)
+    {
+    }
+
+    XmlElement build()
+    {
+        while (!m_reader.atEnd())
+            take(m_reader.readNext());
+        if (m_reader.hasError() || m_root.name.isEmpty())
+            throw Fault{QStringLiteral("包内文件“%1”第 %2 行不是正确的 XML。")
+                            .arg(m_path)
+                            .arg(m_reader.lineNumber())};
+        return std::move(m_root);
+    }
+
+private:
+    void take(QXmlStreamReader::TokenType token)
+    {
+        if (token == QXmlStreamReader::DTD)
+            throw Fault{QStringLiteral("包内文件“%1”含有不允许的 DTD。").arg(m_path)};
+        if (token == QXmlStreamReader::StartElement)
+            begin();
+        else if (token == QXmlStreamReader::EndElement)
+            end();
+        else if (token == QXmlStreamReader::Characters && !m_open.empty())
+            m_open.back().text += m_reader.text();
+    }
+
+    void begin()
+    {
+        if (m_open.size() >= Limits::xmlDepth)
+            throw Fault{QStringLiteral("包内文件“%1”嵌套过深。").arg(m_path)};
+        if (++m_count > Limits::xmlElements)
+            throw Fault{QStringLiteral("包内文件“%1”的元素过多。").arg(m_path)};
+        m_open.push_back(startOf(m_reader));
+    }
+
+    void end()
+    {
+        XmlElement done = std::move(m_open.back());
+        m_open.pop_back();
+        if (m_open.empty())
+            m_root = std::move(done);
+        else
+            m_open.back().children.push_back(std::move(done));
+    }
+
+    QXmlStreamReader m_reader;
+    QString m_path;
+    std::vector<XmlElement> m_open;
+    XmlElement m_root;
+    int m_count = 0;
+};
+
+} // namespace
+
+XmlElement XmlElement::parse(const QByteArray &bytes, const QString &path)
+{
+    return TreeBuilder(bytes, path).build();
+}
+
+QString XmlElement::attribute(const char *wanted) const
+{
+    for (const auto &attribute : attributes) {
+        if (attribute.first == QLatin1String(wanted))
+            return attribute.second;
+    }
+    return QString();
+}
+
+bool XmlElement::flag(const char *wanted, bool otherwise) const
+{
+    const QString value = attribute(wanted).trimmed();
+    if (value.isEmpty())
+        return otherwise;
+    return value == QLatin1String("1")
+           || !value.compare(QLatin1String("true"), Qt::CaseInsensitive);
+}
+
+const XmlElement *XmlElement::child(const char *wanted) const
+{
+    for (const XmlElement &candidate : children) {
+        if (candidate.is(wanted))
+            return &candidate;
+    }
+    return nullptr;
+}
+
+QString XmlElement::childText(const char *wanted) const
+{
+    const XmlElement *found = child(wanted);
+    return found ? found->text.trimmed() : QString();
+}
+
+} // namespace Ofd

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QPair>
+#include <QString>
+#include <QVector>
+
+#include <vector>
+
+namespace Ofd {
+
+/** One element of an XML file with all that is in it. Names stand without their prefix. */
+struct XmlElement
+{
+    QString name;
+    QString text; ///< All characters directly inside, with their blanks.
+    QVector<QPair<QString, QString>> attributes;
+    std::vector<XmlElement> children;
+
+    /** Throws a Fault for text that is not well formed, nested too deeply, or has a DTD. */
+    static XmlElement parse(const QByteArray &bytes, const QString &path);
+
+    bool is(const char *wanted) const { return name == QLatin1String(wanted); }
+    /** Null if there is no such attribute. */
+    QString attribute(const char *wanted) const;
+    bool flag(const char *wanted, bool otherwise) const;
+    /** The first child of that name; nullptr if there is none. */
+    const XmlElement *child(const char *wanted) const;
+    /** The trimmed text of that child; empty if there is none. */
+    QString childText(const char *wanted) const;
+};
+
+} // namespace Ofd
