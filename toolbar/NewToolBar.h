@@ -198,6 +198,7 @@ private:
     // Quick access bar.
     QToolBar *CreateQuickAccessBar();
     QPushButton *CreateQuickAccessSet(bool &visible);
+    static void markExtensionMenu(const QObject *extension);
     QAction *createQuickAction(QToolBar *bar, const Controller &record);
     void appendCustomiseEntry(QMenu *menu, const Controller &record);
     QPushButton *createCustomiseButton(QMenu *menu, const Controller &record);

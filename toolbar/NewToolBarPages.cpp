@@ -223,6 +223,8 @@ bool NewToolBar::eventFilter(QObject *watched, QEvent *event)
         else if (event->type() == QEvent::InputMethod)
             QMetaObject::invokeMethod(this, &NewToolBar::showZoomHint, Qt::QueuedConnection);
     }
+    if (event->type() == QEvent::ActionAdded)
+        markExtensionMenu(watched);
     return QWidget::eventFilter(watched, event);
 }
 

@@ -4,11 +4,13 @@
 #include "toolbar/QuickAccessSetting.h"
 #include "toolbar/description/Controller.h"
 #include "toolbar/description/DescriptionParser.h"
+#include "toolbar/skin/Skin.h"
 
 #include <QAction>
 #include <QMenu>
 #include <QPushButton>
 #include <QToolBar>
+#include <QToolButton>
 
 #include <algorithm>
 
@@ -38,7 +40,19 @@ QToolBar *NewToolBar::CreateQuickAccessBar()
         bar->addAction(action);
         m_quickAccessNames.append(record->name);
     }
+    // The button for what there is no room for has its menu from the toolkit, now or later.
+    if (auto *extension = bar->findChild<QToolButton *>(QStringLiteral("qt_toolbar_ext_button"))) {
+        markExtensionMenu(extension);
+        extension->installEventFilter(this);
+    }
     return bar;
+}
+
+void NewToolBar::markExtensionMenu(const QObject *extension)
+{
+    const auto *button = qobject_cast<const QToolButton *>(extension);
+    if (button && button->menu())
+        button->menu()->setProperty("intoolbar", "true");
 }
 
 QAction *NewToolBar::createQuickAction(QToolBar *bar, const Controller &record)
@@ -50,6 +64,8 @@ QAction *NewToolBar::createQuickAction(QToolBar *bar, const Controller &record)
         action->setEnabled(false);
         ActionData::set(action, record.available);
         action->setIcon(icon(record.icon));
+        // The icons for the coloured line are white, and the menu of what has no room is not.
+        action->setIconVisibleInMenu(Skin::isLum());
         action->setObjectName(record.name);
     }
     action->setChecked(record.checked);

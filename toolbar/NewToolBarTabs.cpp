@@ -51,7 +51,7 @@ QButtonGroup *NewToolBar::CreateTabBar(QList<bool> &visibleTabs)
         QPushButton *button = createTabButton(tab, index);
         group->addButton(button);
         m_tabButtons.append(button);
-        m_toolRowStack->insertWidget(index, createTabPage(tab));
+        createTabPage(tab);
         visibleTabs.append(tab.visible);
         if (tab.checked)
             checkedTab = index;
@@ -87,6 +87,9 @@ QWidget *NewToolBar::createTabPage(const Controller &tab)
 {
     auto *page = new QWidget(nullptr, Qt::FramelessWindowHint);
     page->setObjectName(QStringLiteral("tabWidget")); // The stack is "tabwidget".
+    // The stack and the area measure what they take in, and so they take it in while it is empty:
+    // the measures would not last, as the skin's fonts and margins are still to come.
+    m_toolRowStack->addWidget(page);
     if (tab.children.isEmpty())
         return page;
 
@@ -98,6 +101,8 @@ QWidget *NewToolBar::createTabPage(const Controller &tab)
     auto *holder = new MRScrollWidget;
     holder->SetWidget(row, rowAlignment(m_alignment));
     layout->addWidget(holder);
+    if (tab.checked)
+        AddToolBarAction(tab.children, row, false, true);
     m_toolBars.insert(tab.name, row);
 
     if (tab.scalable) {
@@ -121,8 +126,6 @@ MRMainToolBar *NewToolBar::createToolRow(const Controller &tab)
     row->setAcceptDrops(false);
     row->setProperty("module", "maintoolbar");
     row->setFilled(tab.checked);
-    if (tab.checked)
-        AddToolBarAction(tab.children, row, false, true);
     return row;
 }
 

@@ -91,6 +91,9 @@ void FocusRing::follow(QWidget *focused)
     m_ring = nullptr;
     if (!qobject_cast<QAbstractButton *>(focused) || !m_scope->isAncestorOf(focused))
         return;
+    // A window that has just come up gives its focus to whatever is first.
+    if (!focused->window()->testAttribute(Qt::WA_KeyboardFocusChange))
+        return;
 
     bringIntoView(focused);
     m_ring = new Ring(focused);

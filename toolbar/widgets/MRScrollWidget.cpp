@@ -39,6 +39,39 @@ bool keepsWheel(const QObject *object, const QObject *area)
     return false;
 }
 
+/**
+ * Sees every event of the application and tells the areas of those that come to something below
+ * them. One serves all areas: a filter per tab would make every event dearer with every tab.
+ */
+class WheelWatch : public QObject
+{
+public:
+    WheelWatch() { QCoreApplication::instance()->installEventFilter(this); }
+
+    /** The one that there is, for as long as somebody holds it. */
+    static std::shared_ptr<QObject> shared()
+    {
+        static std::weak_ptr<QObject> current;
+        std::shared_ptr<QObject> watch = current.lock();
+        if (!watch) {
+            watch = std::make_shared<WheelWatch>();
+            current = watch;
+        }
+        return watch;
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() != QEvent::Wheel)
+            return false;
+        for (QObject *object = watched->parent(); object; object = object->parent()) {
+            if (auto *area = qobject_cast<MRScrollArea *>(object))
+                area->eventFilter(watched, event);
+        }
+        return false;
+    }
+};
+
 } // namespace
 
 MRExtendButton::MRExtendButton(QWidget *parent)
@@ -79,6 +112,7 @@ void MRExtendButton::SetExtendButtonVisible(bool visible)
 MRScrollArea::MRScrollArea(QWidget *parent)
     : QScrollArea(parent)
     , m_animation(new QPropertyAnimation(horizontalScrollBar(), "value", this))
+    , m_wheelWatch(WheelWatch::shared())
 {
     setObjectName(QStringLiteral("scrollarea"));
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -99,15 +133,6 @@ MRScrollArea::MRScrollArea(QWidget *parent)
         if (!isScrolling())
             UpdateExtendButton();
     });
-
-    QCoreApplication::instance()->installEventFilter(this);
-}
-
-MRScrollArea::~MRScrollArea()
-{
-    // Children still to be deleted must not find a filter that is half gone.
-    if (QCoreApplication *application = QCoreApplication::instance())
-        application->removeEventFilter(this);
 }
 
 bool MRScrollArea::isScrolling() const
@@ -164,7 +189,6 @@ void MRScrollArea::wheelEvent(QWheelEvent *event)
 
 bool MRScrollArea::eventFilter(QObject *watched, QEvent *event)
 {
-    // First of all, as every event of the application passes here.
     if (event->type() != QEvent::Wheel)
         return QScrollArea::eventFilter(watched, event);
 

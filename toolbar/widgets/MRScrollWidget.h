@@ -3,6 +3,8 @@
 #include <QPushButton>
 #include <QScrollArea>
 
+#include <memory>
+
 class QPropertyAnimation;
 
 /**
@@ -43,7 +45,6 @@ class MRScrollArea : public QScrollArea
 
 public:
     explicit MRScrollArea(QWidget *parent = nullptr);
-    ~MRScrollArea() override;
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -72,6 +73,7 @@ private:
     void animate(int from, int to);
 
     QPropertyAnimation *m_animation;
+    std::shared_ptr<QObject> m_wheelWatch; ///< Calls eventFilter(); shared by all areas.
 };
 
 /** A tool row in its scrolling area, between the two arrows. */

@@ -36,9 +36,14 @@ QSize TopLineLayout::minimumSize() const
 
 void TopLineLayout::setGeometry(const QRect &rect)
 {
-    QHBoxLayout::setGeometry(rect);
-    if (rect.width() < sizeHint().width())
-        squeeze(rect);
+    if (rect.width() >= sizeHint().width()) {
+        QHBoxLayout::setGeometry(rect);
+        return;
+    }
+    // Nothing is placed twice: buttons that a bar hides in the one place and shows in the other
+    // have the line laid out anew each time, without end.
+    QLayout::setGeometry(rect);
+    squeeze(rect);
 }
 
 void TopLineLayout::squeeze(const QRect &rect)

@@ -148,8 +148,10 @@ void ControlStates::takeStates(const QString &kind, QWidget *control)
     Screen::restPointer(m_window);
     const Qt::FocusPolicy policy = control->focusPolicy();
     if (policy != Qt::NoFocus) {
+        m_window.setAttribute(Qt::WA_KeyboardFocusChange);
         control->setFocus(Qt::TabFocusReason);
         take(QStringLiteral("focus"), control);
+        m_window.setAttribute(Qt::WA_KeyboardFocusChange, false);
         m_window.setFocus();
         control->clearFocus();
     }
