@@ -62,13 +62,23 @@ needed+=(xvfb x11-xserver-utils)
 install_needed
 build=$root/build/qt$version
 configure "$build" "MRTOOLBAR_QT_MAJOR=$version"
-cmake --build "$build" --target mrtoolbar-pictures mrtoolbar-contactsheet
+cmake --build "$build" --target mrtoolbar-pictures mrtoolbar-contactsheet mrtoolbar-reader
+
+take_reader()
+{
+    local skin
+    for skin in marodi lum; do
+        "$build/bin/mrtoolbar-reader" --skin "$skin" --screenshot "$folder/reader-$skin.png" \
+            "$root/examples/reader/samples/text.ofd"
+    done
+}
 
 mkdir -p "$folder"
 rm -f "$folder"/*.png
 for dpi in 96 120 144 192; do
     start_xvfb "$dpi"
     take_all
+    ((dpi != 96)) || take_reader
     stop_xvfb
     xvfb_pid=
 done

@@ -1,6 +1,7 @@
 #include "tests/support/TestHost.h"
 #include "toolbar/widgets/MRMainToolBar.h"
 
+#include <QApplication>
 #include <QIcon>
 #include <QLabel>
 #include <QStyleOptionToolButton>
@@ -158,6 +159,47 @@ private Q_SLOTS:
             collectProtruding(host->find<MRMainToolBar>(tab->objectName()), faults);
         }
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
+    }
+
+    void aSheetOfTheHostStopsAtTheToolBar_data()
+    {
+        QTest::addColumn<int>("skin");
+        QTest::newRow("marodi") << marodi;
+        QTest::newRow("lum") << lum;
+    }
+
+    void aSheetOfTheHostStopsAtTheToolBar()
+    {
+        QFETCH(int, skin);
+        const SkinChoice choice(skin);
+        const QString path = QFINDTESTDATA("../examples/reader/showcase.xml");
+        const auto picture = [&] {
+            const auto host = TestHost::withFile(path);
+            host->window().resize(host->scaled(1000), host->scaled(300));
+            auto *own = new QPushButton(QStringLiteral("own"));
+            host->window().setCentralWidget(own);
+            host->show();
+            own->setFocus();
+            QTest::qWait(50);
+            return host->toolBar()->grab().toImage();
+        };
+        const QImage plain = picture();
+        qApp->setStyleSheet(QStringLiteral(
+            "QWidget{color:purple;font-size:18px;font-weight:bold;}"
+            "QPushButton{background:#a00;padding:8px 20px;min-width:90px;min-height:40px;"
+            "border:3px solid green;border-radius:9px;margin:3px;}"
+            "QToolButton{background:orange;padding:9px;margin:2px;border:2px solid blue;}"
+            "QLabel{background:cyan;padding:4px;border:1px solid black;}"
+            "QToolBar{background:red;spacing:20px;padding:9px;border:4px solid blue;}"
+            "QFrame{border:2px solid red;}QStackedWidget{background:green;}"));
+        const QImage underSheet = picture();
+        qApp->setStyleSheet(QString());
+        QCOMPARE(underSheet.size(), plain.size());
+        if (underSheet != plain) {
+            plain.save(QStringLiteral("plain.png"));
+            underSheet.save(QStringLiteral("under_sheet.png"));
+            QFAIL("see plain.png and under_sheet.png");
+        }
     }
 
     void everyDescribedIconIsSeenAndToldApart_data() { addDocuments(); }

@@ -4,6 +4,7 @@
 #include "toolbar/skin/SkinIcon.h"
 #include "toolbar/skin/StyleSheet.h"
 
+#include <QApplication>
 #include <QFile>
 #include <QToolBar>
 
@@ -12,6 +13,21 @@ namespace {
 /** Takes away what the platform's style would draw around the library's own tool bars. */
 const QString plainToolBarRule =
     QStringLiteral("QToolBar[intoolbar=\"true\"]{border:none;padding:0px 0px 0px 0px;}");
+
+/**
+ * Under a sheet of the application, a tool bar keeps the margins of that sheet for good unless it
+ * has been polished before it gets ours.
+ */
+void leaveApplicationSheet(QToolBar *hostToolBar)
+{
+    if (qApp->styleSheet().isEmpty())
+        return;
+
+    hostToolBar->ensurePolished();
+    const QList<QToolBar *> bars = hostToolBar->findChildren<QToolBar *>();
+    for (const QToolBar *bar : bars)
+        bar->ensurePolished();
+}
 
 } // namespace
 
@@ -70,9 +86,11 @@ bool NewToolBar::ResetSkinStyle()
         m_toolBarStyleSheet = sheet + plainToolBarRule;
         return true;
     }
-    if (m_hostToolBar)
+    if (m_hostToolBar) {
+        leaveApplicationSheet(m_hostToolBar);
         m_hostToolBar->setStyleSheet(
             ScaleSheet(sheet + QLatin1Char(' ') + plainToolBarRule, m_scale));
+    }
     return true;
 }
 
