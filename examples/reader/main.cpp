@@ -24,6 +24,10 @@ int fail(const QString &reason)
 
 int main(int argc, char *argv[])
 {
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    // Icons as fine as the screen; the newer toolkit does so by itself.
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+#endif
     QApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("mrtoolbar-reader"));
 

@@ -5,6 +5,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -30,7 +31,10 @@ PictureSheet::PictureSheet(double scale)
 
 void PictureSheet::add(const QString &caption, const QPixmap &picture)
 {
-    m_entries.append({caption, picture, std::exchange(m_beginsRow, false)});
+    // Each pixel of the screen is to be seen, also where the toolkit scales.
+    QPixmap pixels = picture;
+    pixels.setDevicePixelRatio(1.0);
+    m_entries.append({caption, pixels, std::exchange(m_beginsRow, false)});
 }
 
 void PictureSheet::breakRow()

@@ -39,6 +39,9 @@ bool readSkinMap(const QString &path, QMap<QString, QString> *map)
 
 int main(int argc, char *argv[])
 {
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+#endif
     QApplication application(argc, argv);
     QCommandLineParser parser;
     parser.setApplicationDescription(
