@@ -6,7 +6,9 @@
 #include "toolbar/widgets/CustomMenuStyle.h"
 #include "toolbar/widgets/DropMenuIndex.h"
 #include "toolbar/widgets/FocusRing.h"
+#include "toolbar/widgets/MRMenuButton.h"
 #include "toolbar/widgets/MRSearchBar.h"
+#include "toolbar/widgets/ScreenDensity.h"
 #include "toolbar/widgets/TabStrip.h"
 #include "toolbar/widgets/ToolTipCard.h"
 #include "toolbar/widgets/TopLineLayout.h"
@@ -52,7 +54,7 @@ NewToolBar::NewToolBar(QMainWindow *mainWindow, QDomNode &description, QMap<QStr
     , m_mainWindow(mainWindow)
     , m_alignment(alignment)
 {
-    m_scale = static_cast<float>(physicalDpiX()) / 96.0F;
+    m_scale = static_cast<float>(ScreenDensity::dpiX(this)) / 96.0F;
     m_dropMenus = new DropMenuIndex(this);
     connect(&m_delayTimer, &QTimer::timeout, this, &NewToolBar::Inner_DoDelayActionSlot);
     m_quickAccessButtons = skin.value(QStringLiteral("quickaccessbarbuttons"));
@@ -73,7 +75,7 @@ NewToolBar::~NewToolBar()
     m_controllers.clear();
 
     releaseMenus();
-    qDeleteAll(m_menuStyles);
+    giveStylesToMenus();
 
     // Alone, this widget takes its strip along. A strip that is dying itself, with its window or
     // without, is no tool bar any more by the time it deletes its children.
@@ -85,16 +87,27 @@ void NewToolBar::releaseMenus()
 {
     const QList<QMenu *> menus = findChildren<QMenu *>();
     for (QMenu *menu : menus) {
-        // The menus outlive their styles by a moment.
-        if (menu->testAttribute(Qt::WA_SetStyle))
-            menu->setStyle(nullptr);
         // The toolkit goes on to use a menu after the choice that made the host end this toolbar.
-        const bool wasOpened = menu->testAttribute(Qt::WA_WState_Created);
+        const bool wasOpened = menu->testAttribute(Qt::WA_WState_ExplicitShowHide);
         if (wasOpened && !qobject_cast<QMenu *>(menu->parentWidget())) {
             menu->setParent(nullptr, menu->windowFlags());
             menu->deleteLater();
         }
     }
+}
+
+void NewToolBar::giveStylesToMenus()
+{
+    // A style must not go before the menus that wear it, and as the last child of the outermost it
+    // goes after them. To take it off them instead costs the square of their depth.
+    for (int i = 0; i < m_menuStyles.size(); ++i) {
+        const MRMenuButton *button = appButtonAt(i);
+        if (QMenu *menu = button ? button->GetMenu() : nullptr)
+            m_menuStyles.at(i)->setParent(menu);
+        else
+            delete m_menuStyles.at(i);
+    }
+    m_menuStyles.clear();
 }
 
 bool NewToolBar::Init(QDomNode &description)

@@ -176,6 +176,7 @@ private:
     void orderFocus();
     void dockIntoMainWindow();
     void releaseMenus();
+    void giveStylesToMenus();
     QList<Controller *> sectionRecords(const char *section) const;
     QSize scaledIconSize(double side) const;
     QIcon icon(const QString &name);
@@ -254,6 +255,8 @@ private:
     void showFoldButtons(bool folded);
 
     // Dispatch.
+    void connectCommand(QAction *action);
+    void dispatchAction(QAction *action);
     void releaseOtherDropButtons(QAction *action);
     void dispatchPlainAction(QString name);
     void dispatchDoubleClickAction(const QString &name);
@@ -329,7 +332,7 @@ private:
     int m_totalPages = 0;
     int m_currentPage = 0;
     QMap<QString, QString> m_skinMap;
-    QList<CustomMenuStyle *> m_menuStyles; ///< Owned.
+    QList<CustomMenuStyle *> m_menuStyles; ///< Owned, by application button.
     QString m_resourceDir;
     QWidget *m_topWidget = nullptr;
     QButtonGroup *m_tabButtonGroup = nullptr;

@@ -9,6 +9,7 @@
 #include "toolbar/widgets/MRDropButton.h"
 #include "toolbar/widgets/MRGroupButton.h"
 #include "toolbar/widgets/FieldKeyFilter.h"
+#include "toolbar/widgets/ToolTipCard.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -68,6 +69,12 @@ void setDigitsOnly(QLineEdit *field, const char *pattern)
 {
     field->setValidator(
         new QRegularExpressionValidator(QRegularExpression(QLatin1String(pattern)), field));
+}
+
+/** What a field is called for those who cannot see where it stands. */
+QString spokenName(const Controller &record)
+{
+    return record.tooltip.isEmpty() ? record.text : toolTipTitle(record.tooltip);
 }
 
 QString zoomBoxHint()
@@ -171,6 +178,7 @@ void NewToolBar::addButton(const Controller &record, QToolBar *row, bool addToRo
         ActionData::addDoubleClick(action);
 
     if (QWidget *widget = row->widgetForAction(action)) {
+        widget->setAccessibleName(record.text);
         if (!addToRow)
             widget->setFixedWidth(0);
         else if (!Skin::isLum())
@@ -178,7 +186,7 @@ void NewToolBar::addButton(const Controller &record, QToolBar *row, bool addToRo
     }
     m_actions.append(action);
     if (isNew)
-        connect(action, &QAction::triggered, this, &NewToolBar::Inner_DoBarActionSlot);
+        connectCommand(action);
 }
 
 QAction *NewToolBar::createButtonAction(const Controller &record)
@@ -249,6 +257,7 @@ void NewToolBar::addComboBox(const Controller &record, QToolBar *row)
     auto *box = new QComboBox;
     box->setEditable(record.editable);
     box->setObjectName(record.name);
+    box->setAccessibleName(spokenName(record));
     box->setFocusPolicy(Qt::ClickFocus);
     for (const Controller *item : record.children) {
         box->addItem(QIcon(), item->text, item->name);
@@ -299,6 +308,7 @@ void NewToolBar::addLineEdit(const Controller &record, QToolBar *row)
     setDigitsOnly(field, "^[0-9]*$");
     field->setProperty("module", "toolbarinput");
     field->setObjectName(record.name);
+    field->setAccessibleName(spokenName(record));
     QWidget *container = createCaptionedContainer(field);
     if (record.name.contains(QLatin1String("gotopage"), Qt::CaseInsensitive)) {
         setDigitsOnly(field, "^[0-9]*[1-9][0-9]*$");

@@ -193,7 +193,7 @@ void NewToolBar::appendMenuItem(QMenu *menu, const Controller &record)
 
     // Both the menu and the item would report a cleared history; the menu's slot does it.
     if (menu == m_recentFilesMenu && isCommand(record.name, clearHistoryName))
-        disconnect(action, &QAction::triggered, this, &NewToolBar::Inner_DoBarActionSlot);
+        disconnect(action, &QAction::triggered, this, nullptr);
 }
 
 QAction *NewToolBar::createMenuAction(QMenu *menu, const Controller &record)
@@ -221,7 +221,7 @@ void NewToolBar::connectMenuAction(QAction *action, const Controller &record, bo
                                   || record.section == QLatin1String(Section::appButton)
                                   || record.section == QLatin1String(Section::additional);
     if (isNew && isCommandSection)
-        connect(action, &QAction::triggered, this, &NewToolBar::Inner_DoBarActionSlot);
+        connectCommand(action);
 }
 
 void NewToolBar::DoUpdateRecentFileSlot(QStringList paths)

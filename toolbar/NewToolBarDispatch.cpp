@@ -48,11 +48,20 @@ QActionGroup *NewToolBar::GetActionGroup(QString name)
     return m_actionGroups.first(name);
 }
 
+void NewToolBar::connectCommand(QAction *action)
+{
+    // Not by the slot: to find its sender takes longer with every command that is connected.
+    connect(action, &QAction::triggered, this, [this, action] { dispatchAction(action); });
+}
+
 void NewToolBar::Inner_DoBarActionSlot()
 {
-    auto *action = qobject_cast<QAction *>(sender());
-    if (!action)
-        return;
+    if (auto *action = qobject_cast<QAction *>(sender()))
+        dispatchAction(action);
+}
+
+void NewToolBar::dispatchAction(QAction *action)
+{
     if (ActionData::isSilent(action)) {
         // The first trigger of an action without data stays unreported, and the double-click bit
         // is lost with it, deliberately: `available` and the check by name are made of this.
@@ -90,7 +99,7 @@ void NewToolBar::dispatchPlainAction(QString name)
         name.remove(0, menuPrefix.size());
         target = GetActionInTotal(name);
     }
-    // The target comes back through Inner_DoBarActionSlot() and reports itself.
+    // The target comes back through dispatchAction() and reports itself.
     if (target)
         triggerAction(target);
     else

@@ -82,8 +82,11 @@ QList<QObject *> NewToolBar::fieldContainers(const QString &name) const
 QList<QObject *> NewToolBar::namedActions(const QString &name) const
 {
     QList<qsizetype> positions = m_actions.positions(name);
-    positions += m_actions.positions(QLatin1String("menu_") + name);
-    std::sort(positions.begin(), positions.end());
+    const QList<qsizetype> openers = m_actions.positions(QLatin1String("menu_") + name);
+    if (!openers.isEmpty()) {
+        positions += openers;
+        std::sort(positions.begin(), positions.end());
+    }
 
     QList<QObject *> actions;
     for (const qsizetype position : std::as_const(positions))

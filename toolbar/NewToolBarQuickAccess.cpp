@@ -5,6 +5,7 @@
 #include "toolbar/description/Controller.h"
 #include "toolbar/description/DescriptionParser.h"
 #include "toolbar/skin/Skin.h"
+#include "toolbar/widgets/ToolTipCard.h"
 
 #include <QAction>
 #include <QMenu>
@@ -38,6 +39,8 @@ QToolBar *NewToolBar::CreateQuickAccessBar()
         QAction *action = createQuickAction(bar, *record);
         action->setVisible(setting.isShown(record->name, record->visible));
         bar->addAction(action);
+        if (record->text.isEmpty())
+            bar->widgetForAction(action)->setAccessibleName(toolTipTitle(record->tooltip));
         m_quickAccessNames.append(record->name);
     }
     // The button for what there is no room for has its menu from the toolkit, now or later.

@@ -47,7 +47,8 @@ private:
 
 QHash<QString, QIcon> &iconCache()
 {
-    static QHash<QString, QIcon> cache;
+    // Never destroyed: an application that is a static object itself clears it later than that.
+    static auto &cache = *new QHash<QString, QIcon>;
     return cache;
 }
 

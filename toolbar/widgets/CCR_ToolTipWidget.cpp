@@ -1,5 +1,7 @@
 #include "toolbar/widgets/CCR_ToolTipWidget.h"
 
+#include "toolbar/widgets/ScreenDensity.h"
+
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
@@ -43,7 +45,8 @@ CCR_ToolTipWidget::CCR_ToolTipWidget(QWidget *parent)
     layout->addWidget(m_label);
     // The bubble's own margins reach 5 pixels beyond its upper and right edge. A widget takes no
     // negative margins, so they are added to those that the style gives the layout.
-    const QMargins bubbleMargins(logicalDpiX() * 20 / 96 + 5, -5, -5, 5);
+    const int dpi = ScreenDensity::credible(logicalDpiX());
+    const QMargins bubbleMargins(dpi * 20 / 96 + 5, -5, -5, 5);
     layout->setContentsMargins(layout->contentsMargins() + bubbleMargins);
 
     // Deliberately not single-shot: a bubble that is shown again closes again.
@@ -53,7 +56,7 @@ CCR_ToolTipWidget::CCR_ToolTipWidget(QWidget *parent)
 
 void CCR_ToolTipWidget::setLabelText(QString text)
 {
-    const int room = logicalDpiX() * 10 / 96;
+    const int room = ScreenDensity::credible(logicalDpiX()) * 10 / 96;
     m_label->setFixedSize(qMax(0, width() - room), qMax(0, height() - room));
     m_label->setText(text);
 }

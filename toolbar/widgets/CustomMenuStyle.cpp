@@ -1,5 +1,7 @@
 #include "toolbar/widgets/CustomMenuStyle.h"
 
+#include "toolbar/widgets/ScreenDensity.h"
+
 #include <QPainter>
 #include <QStyleOptionMenuItem>
 #include <QWidget>
@@ -51,7 +53,7 @@ int CustomMenuStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
 
     // Not the menu's own dpi: menus of one toolbar agree before they have met a screen.
     const QWidget screenProbe;
-    return static_cast<int>(static_cast<float>(m_smallIconSize * screenProbe.physicalDpiX())
+    return static_cast<int>(static_cast<float>(m_smallIconSize * ScreenDensity::dpiX(&screenProbe))
                             / 96.0F);
 }
 

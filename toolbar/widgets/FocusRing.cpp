@@ -1,6 +1,7 @@
 #include "toolbar/widgets/FocusRing.h"
 
 #include "toolbar/widgets/MRScrollWidget.h"
+#include "toolbar/widgets/ScreenDensity.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -47,7 +48,7 @@ public:
 protected:
     void paintEvent(QPaintEvent *) override
     {
-        const double scale = physicalDpiX() / 96.0;
+        const double scale = ScreenDensity::dpiX(this) / 96.0;
         const double inset = lineWidth * scale / 2;
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);

@@ -3,6 +3,7 @@
 #include "toolbar/NewToolBar.h"
 #include "toolbar/skin/Skin.h"
 #include "toolbar/widgets/HoverSheets.h"
+#include "toolbar/widgets/ScreenDensity.h"
 
 #include <QFontMetricsF>
 #include <QKeyEvent>
@@ -35,7 +36,7 @@ constexpr char positionProperty[] = "position";
 
 double dpiScale(const QWidget *widget)
 {
-    return widget->physicalDpiX() / 96.0;
+    return ScreenDensity::dpiX(widget) / 96.0;
 }
 
 QString extendMenuSheet(double scale)

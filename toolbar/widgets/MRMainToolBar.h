@@ -13,10 +13,6 @@ public:
     bool isFilled() const { return m_filled; }
     void setFilled(bool filled) { m_filled = filled; }
 
-    /** Nothing for a row that is not filled yet: its parts are styled when it is opened. */
-    QSize sizeHint() const override;
-    QSize minimumSizeHint() const override;
-
 private:
     bool m_filled = false;
 };

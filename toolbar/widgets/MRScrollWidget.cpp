@@ -3,6 +3,7 @@
 #include "toolbar/skin/Skin.h"
 #include "toolbar/skin/SkinIcon.h"
 #include "toolbar/widgets/ObjectTree.h"
+#include "toolbar/widgets/ScreenDensity.h"
 
 #include <QComboBox>
 #include <QCoreApplication>
@@ -22,7 +23,7 @@ constexpr int scrollDuration = 300;
 /** Side of an arrow's square, in pixels. */
 int arrowSide(const QWidget *widget)
 {
-    return static_cast<int>(widget->physicalDpiY() / 96.0 * 12.0);
+    return static_cast<int>(ScreenDensity::credible(widget->physicalDpiY()) / 96.0 * 12.0);
 }
 
 /**
@@ -99,9 +100,23 @@ void MRExtendButton::SetObjectName(QString name)
     const bool isLeft = name.contains(leftSide);
     m_arrow->setObjectName(isLeft ? leftSide : rightSide);
     m_arrow->setAccessibleName(isLeft ? QStringLiteral("向左滚动") : QStringLiteral("向右滚动"));
+    updateArrow();
+}
+
+void MRExtendButton::updateArrow()
+{
+    // Where everything is mirrored, the button named "left" stands on the right.
+    const bool pointsLeft = objectName().contains(leftSide) != isRightToLeft();
     const QString file =
-        isLeft ? QStringLiteral("extendLeft.svg") : QStringLiteral("extendRight.svg");
+        pointsLeft ? QStringLiteral("extendLeft.svg") : QStringLiteral("extendRight.svg");
     m_arrow->setIcon(skinIcon(Skin::resourceDirectory() + file));
+}
+
+void MRExtendButton::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LayoutDirectionChange)
+        updateArrow();
+    QPushButton::changeEvent(event);
 }
 
 void MRExtendButton::SetExtendButtonVisible(bool visible)
@@ -120,6 +135,9 @@ MRScrollArea::MRScrollArea(QWidget *parent)
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setWidgetResizable(true);
     setFocusPolicy(Qt::NoFocus);
+    // The row moves by the wheel and by the arrows. To wait for a gesture as well would make the
+    // toolkit search every event of every control on it, and allocate for that.
+    viewport()->ungrabGesture(Qt::PanGesture);
 
     m_animation->setDuration(scrollDuration);
     m_animation->setEasingCurve(QEasingCurve::InQuad);

@@ -31,7 +31,12 @@ Q_SIGNALS:
     /** The arrow was clicked. */
     void Clicked();
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
+    void updateArrow();
+
     QPushButton *m_arrow;
 };
 

@@ -2,6 +2,7 @@
 
 #include "toolbar/skin/Skin.h"
 #include "toolbar/widgets/FieldKeyFilter.h"
+#include "toolbar/widgets/ScreenDensity.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -22,7 +23,7 @@ MRSearchBar::MRSearchBar(QWidget *parent, QLabel *label, QPushButton *previous, 
     , m_layout(new QHBoxLayout)
     , m_next(next)
     , m_previous(previous)
-    , m_scale(static_cast<float>(physicalDpiX()) / 96.0F)
+    , m_scale(static_cast<float>(ScreenDensity::dpiX(this)) / 96.0F)
     , m_mainBar(mainBar)
 {
     setProperty("intoolbar", "true");
@@ -102,6 +103,7 @@ int MRSearchBar::widening() const
 void MRSearchBar::setPlaceholderText(const QString &text)
 {
     QLineEdit::setPlaceholderText(text);
+    setAccessibleName(text);
     if (!text.isEmpty())
         applyWidth(restingPixelsPerCharacter);
 }
@@ -137,7 +139,9 @@ void MRSearchBar::focusInEvent(QFocusEvent *event)
     setButtonsVisible(true);
     const QList<QPushButton *> present = buttons();
     const int buttonWidth = present.isEmpty() ? 0 : present.first()->width();
-    setTextMargins(0, 0, static_cast<int>(present.size()) * buttonWidth, 0);
+    const int room = static_cast<int>(present.size()) * buttonWidth;
+    const bool isMirrored = isRightToLeft();
+    setTextMargins(isMirrored ? room : 0, 0, isMirrored ? 0 : room, 0);
     QLineEdit::focusInEvent(event);
 }
 

@@ -1,5 +1,7 @@
 #include "toolbar/widgets/TabStrip.h"
 
+#include "toolbar/widgets/ScreenDensity.h"
+
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QPainter>
@@ -16,7 +18,7 @@ constexpr double chevronHeight = 8.0;
 
 double dpiScale(const QWidget *widget)
 {
-    return widget->physicalDpiX() / 96.0;
+    return ScreenDensity::dpiX(widget) / 96.0;
 }
 
 int arrowWidth(const QWidget *widget)

@@ -1,0 +1,4 @@
+#pragma once
+
+/** How often this process has asked the heap for memory so far; every library in it counts. */
+long allocationCount();

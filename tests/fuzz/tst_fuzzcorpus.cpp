@@ -1,0 +1,40 @@
+#include "tests/fuzz/DescribedUse.h"
+
+#include <QDir>
+#include <QTest>
+
+/** Descriptions that have brought the toolbar down once, and the shipped ones. */
+class FuzzCorpusTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void shouldSurviveEveryUse_data()
+    {
+        QTest::addColumn<QString>("path");
+        QStringList paths = QStringLiteral(SEEDS).split(QLatin1Char(':'));
+        const QDir corpus(QStringLiteral(CORPUS));
+        const QStringList files = corpus.entryList({QStringLiteral("*.xml")}, QDir::Files);
+        QVERIFY(!files.isEmpty());
+        for (const QString &file : files)
+            paths.append(corpus.filePath(file));
+        for (const QString &path : std::as_const(paths))
+            QTest::newRow(qPrintable(path.section(QLatin1Char('/'), -2))) << path;
+    }
+
+    void shouldSurviveEveryUse()
+    {
+        QFETCH(QString, path);
+        QFile file(path);
+        QVERIFY2(file.open(QIODevice::ReadOnly), qPrintable(path));
+        const auto widgetsBefore = QApplication::allWidgets().size();
+        useDescription(file.readAll());
+        QVERIFY(!QApplication::activePopupWidget());
+        const auto widgetsKept = QApplication::allWidgets().size() - widgetsBefore;
+        // The toolkit makes a few once, for its first window and its first tooltip.
+        QVERIFY2(widgetsKept <= 4, qPrintable(QString::number(widgetsKept)));
+    }
+};
+
+QTEST_MAIN(FuzzCorpusTest)
+#include "tst_fuzzcorpus.moc"

@@ -1,0 +1,50 @@
+#include "tests/monkey/DescribedNames.h"
+
+#include <QDomDocument>
+
+#include <utility>
+
+namespace {
+
+QString nameOf(const QDomElement &element)
+{
+    return element.attribute(QStringLiteral("action"), element.attribute(QStringLiteral("name")));
+}
+
+QString without(const QString &name, const char *prefix)
+{
+    const QLatin1String start(prefix);
+    return name.startsWith(start) ? name.mid(start.size()) : name;
+}
+
+void appendElements(const QDomElement &parent, QList<QDomElement> &elements)
+{
+    for (QDomElement child = parent.firstChildElement(); !child.isNull();
+         child = child.nextSiblingElement()) {
+        elements.append(child);
+        appendElements(child, elements);
+    }
+}
+
+} // namespace
+
+DescribedNames::DescribedNames(const QDomDocument &document)
+{
+    QList<QDomElement> elements;
+    appendElements(document.documentElement(), elements);
+    for (const QDomElement &element : std::as_const(elements)) {
+        const QString name = nameOf(element);
+        if (name.isEmpty())
+            continue;
+        all.append(name);
+        // A menu's way to a command and a quick button report the command's own name.
+        commands.insert(without(without(name, "menu_"), "qbar_"));
+        // Clearing the history is reported by the menu, which keeps the name as it is.
+        if (name.contains(QLatin1String("f_clearhistory")))
+            commands.insert(name);
+        if (element.attribute(QStringLiteral("doubleclick")) == QLatin1String("true"))
+            doubleClick.insert(name);
+        if (element.tagName() == QLatin1String("item"))
+            zoomModes.insert(name);
+    }
+}

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+
+#include <random>
+
+/** Everything that is random in a run comes from here, so that the seed tells the whole run. */
+class RandomSource
+{
+public:
+    explicit RandomSource(unsigned int seed)
+        : m_engine(seed)
+    {
+    }
+
+    /** From 0 to @p bound - 1. Not the library's distribution, which differs between systems. */
+    int below(int bound) { return static_cast<int>(m_engine() % static_cast<unsigned int>(bound)); }
+
+    int between(int least, int most) { return least + below(most - least + 1); }
+
+    bool oneIn(int times) { return below(times) == 0; }
+
+    template <typename Value>
+    Value oneOf(const QList<Value> &values)
+    {
+        return values.at(below(static_cast<int>(values.size())));
+    }
+
+private:
+    std::mt19937 m_engine;
+};

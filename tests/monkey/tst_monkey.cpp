@@ -1,0 +1,203 @@
+#include "tests/monkey/RandomHost.h"
+#include "tests/monkey/RandomUser.h"
+#include "tests/monkey/Witness.h"
+#include "tests/support/TestHost.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QTimer>
+
+namespace {
+
+constexpr int stepsOfShortRun = 1500;
+constexpr int stepsBetweenReports = 5000;
+constexpr int movesTold = 12;
+
+QDomDocument described(const QString &path)
+{
+    QFile file(path);
+    QDomDocument document;
+    if (!file.open(QIODevice::ReadOnly) || !document.setContent(file.readAll()))
+        qFatal("No description %s", qPrintable(path));
+    return document;
+}
+
+/** Toolbars, one after the other, between a random host and a random user. */
+class Monkey
+{
+public:
+    Monkey(unsigned int seed, const QDomDocument &document)
+        : m_random(seed)
+        , m_document(document)
+        , m_names(document)
+        , m_witness(m_names, [this] { react(); })
+        , m_host(m_random, m_names.all, m_witness)
+        , m_user(m_random)
+    {
+        // Menus and lists wait for the user in an event loop of their own.
+        QObject::connect(&m_popupTimer, &QTimer::timeout, &m_witness, [this] { usePopup(); });
+        m_popupTimer.start(0);
+    }
+
+    ~Monkey() { end(); }
+    Q_DISABLE_COPY_MOVE(Monkey)
+
+    void step()
+    {
+        constexpr int stepsOfALife = 150;
+        if (!isAlive() || m_random.oneIn(stepsOfALife)) {
+            end();
+            begin();
+        }
+        tell(m_random.oneIn(3) ? m_host.step(*m_facade, *m_window) : m_user.step(*m_window));
+        letTimePass();
+        if (isAlive())
+            m_witness.checkTree(*m_window);
+    }
+
+    QString fault() const { return m_witness.fault(); }
+    QString heard() const { return m_witness.heard(); }
+    QString lastMoves() const { return m_moves.join(QStringLiteral("\n    ")); }
+
+private:
+    bool isAlive() const { return m_window && m_facade && m_toolBar; }
+
+    void tell(const QString &move)
+    {
+        m_moves.append(move);
+        if (m_moves.size() > movesTold)
+            m_moves.removeFirst();
+    }
+
+    void begin()
+    {
+        m_window = new QMainWindow;
+        m_window->resize(m_random.between(300, 1500), 400);
+        QDomElement root = m_document.documentElement();
+        const auto alignment = static_cast<ToolBarAlignment>(m_random.below(3));
+        m_facade = new MRToolBar(m_window, root, {}, alignment);
+        m_toolBar = m_window->findChild<NewToolBar *>();
+        m_witness.watch(*m_facade, *m_window);
+        m_window->show();
+        m_window->activateWindow();
+        if (!m_random.oneIn(5))
+            m_host.enableEverything(*m_facade);
+        tell(QStringLiteral("begin"));
+    }
+
+    void end()
+    {
+        if (m_random.oneIn(3))
+            delete m_toolBar;
+        if (m_random.oneIn(2))
+            delete m_facade;
+        delete m_window;
+        delete m_facade;
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        m_witness.checkNothingIsLeft();
+    }
+
+    void letTimePass()
+    {
+        constexpr int longerThanAnyWait = 310;
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        if (m_random.oneIn(250))
+            QTest::qWait(longerThanAnyWait);
+    }
+
+    /** What the host does on a signal, now and then on a signal that its own call has caused. */
+    void react()
+    {
+        constexpr int mostDepth = 3;
+        if (!isAlive() || m_depth >= mostDepth)
+            return;
+        ++m_depth;
+        if (m_random.oneIn(3))
+            m_host.enableEverything(*m_facade);
+        if (m_random.oneIn(3))
+            tell("  answer: " + m_host.step(*m_facade, *m_window));
+        if (m_random.oneIn(200)) {
+            tell(QStringLiteral("  answer: end of the window"));
+            m_window->deleteLater();
+        }
+        --m_depth;
+    }
+
+    void usePopup()
+    {
+        QWidget *popup = QApplication::activePopupWidget();
+        if (!popup)
+            return;
+        if (isAlive() && m_random.oneIn(8))
+            tell("  with a menu open: " + m_host.step(*m_facade, *m_window));
+        else if (isAlive() && m_random.oneIn(200))
+            delete m_window;
+        else
+            tell("  " + m_user.stepInPopup(*popup));
+    }
+
+    RandomSource m_random;
+    QDomDocument m_document;
+    DescribedNames m_names;
+    Witness m_witness;
+    RandomHost m_host;
+    RandomUser m_user;
+    QPointer<QMainWindow> m_window;
+    QPointer<MRToolBar> m_facade;
+    QPointer<NewToolBar> m_toolBar;
+    QTimer m_popupTimer;
+    QStringList m_moves;
+    int m_depth = 0;
+};
+
+} // namespace
+
+/** What no one thought of. */
+class MonkeyTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void shouldKeepItsPromises_data()
+    {
+        QTest::addColumn<int>("skin");
+        QTest::addColumn<QString>("path");
+        const QString resources = QStringLiteral(":/mr_toolbar/Resources/");
+        const QString showcase = QFINDTESTDATA("../../examples/reader/showcase.xml");
+        QTest::newRow("marodi") << marodi << resources + "marodi/mr_toolbar.debug.xml";
+        QTest::newRow("lum") << lum << resources + "lum/mr_toolbar.release.xml";
+        QTest::newRow("marodi showcase") << marodi << showcase;
+        QTest::newRow("lum showcase") << lum << showcase;
+    }
+
+    void shouldKeepItsPromises()
+    {
+        QFETCH(int, skin);
+        QFETCH(QString, path);
+        const SkinChoice choice(skin);
+        const int steps = qEnvironmentVariable("MONKEY_STEPS").isEmpty()
+                              ? stepsOfShortRun
+                              : qEnvironmentVariableIntValue("MONKEY_STEPS");
+        const auto seed = static_cast<unsigned int>(qEnvironmentVariableIntValue("MONKEY_SEED"));
+
+        Monkey monkey(seed, described(path));
+        for (int i = 0; i < steps; ++i) {
+            monkey.step();
+            if (i > 0 && i % stepsBetweenReports == 0)
+                qInfo("%d steps", i);
+            QVERIFY2(monkey.fault().isEmpty(),
+                     qPrintable(QStringLiteral("seed %1, step %2: %3, after\n    %4")
+                                    .arg(seed)
+                                    .arg(i)
+                                    .arg(monkey.fault(), monkey.lastMoves())));
+        }
+        qInfo("%d steps from seed %u: %s", steps, seed, qPrintable(monkey.heard()));
+        // A run in which the host has heard of nothing proves nothing.
+        if (steps >= stepsOfShortRun)
+            QVERIFY(monkey.heard().contains(QLatin1String("DoActive")));
+    }
+};
+
+QTEST_MAIN(MonkeyTest)
+#include "tst_monkey.moc"

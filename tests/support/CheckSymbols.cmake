@@ -1,0 +1,32 @@
+# Compares the classes that LIBRARY exports, as NM tells them, with those listed in LIST.
+file(STRINGS ${LIST} listed REGEX "^[^#]")
+
+execute_process(COMMAND ${NM} --dynamic --demangle --defined-only ${LIBRARY}
+    OUTPUT_VARIABLE output COMMAND_ERROR_IS_FATAL ANY)
+string(REPLACE ";" "," output "${output}")
+string(REPLACE "\n" ";" lines "${output}")
+
+set(exported "")
+foreach(line IN LISTS lines)
+    # An address, a letter for the kind, the name. The linker's own marks are no C++ names.
+    if(NOT line MATCHES "^[0-9a-f]+ [A-Za-z] (.+)$")
+        continue()
+    endif()
+    set(name "${CMAKE_MATCH_1}")
+    if(name MATCHES "^(__bss_start|_edata|_end|_init|_fini)$")
+        continue()
+    endif()
+    string(REGEX REPLACE
+        "^(typeinfo name for|typeinfo for|vtable for|(non-)?virtual thunk to|guard variable for) "
+        "" name "${name}")
+    string(REGEX REPLACE "(::|\\().*$" "" name "${name}")
+    list(APPEND exported "${name}")
+endforeach()
+list(REMOVE_DUPLICATES exported)
+list(SORT exported)
+list(SORT listed)
+if(NOT exported STREQUAL listed)
+    list(JOIN exported "\n  " exported)
+    list(JOIN listed "\n  " listed)
+    message(FATAL_ERROR "The library exports\n  ${exported}\nand not\n  ${listed}")
+endif()

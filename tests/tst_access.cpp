@@ -1,0 +1,139 @@
+#include "tests/support/TestHost.h"
+
+#include <QAccessible>
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QStackedWidget>
+#include <QToolButton>
+
+namespace {
+
+/** Everything on show that a person works with. */
+QWidgetList shownControls(const QWidget *area)
+{
+    QWidgetList controls;
+    const QWidgetList widgets = area->findChildren<QWidget *>();
+    for (QWidget *widget : widgets) {
+        const bool isControl = qobject_cast<QAbstractButton *>(widget)
+                               || qobject_cast<QLineEdit *>(widget)
+                               || qobject_cast<QComboBox *>(widget);
+        if (isControl && widget->isVisible() && !widget->visibleRegion().isEmpty())
+            controls.append(widget);
+    }
+    return controls;
+}
+
+/** The container of an arrow of a scrolling row, and a button that the description leaves bare. */
+bool isWithoutMeaning(const QWidget *control)
+{
+    const auto *button = qobject_cast<const QAbstractButton *>(control);
+    return control->objectName().endsWith(QLatin1String("extend"))
+           || (button && button->text().isEmpty() && button->icon().isNull());
+}
+
+void enableEverything(TestHost &host)
+{
+    const QList<QAction *> actions = host.window().findChildren<QAction *>();
+    for (const QAction *action : actions) {
+        if (!action->objectName().isEmpty())
+            host.setUsable(action->objectName(), true);
+    }
+}
+
+} // namespace
+
+/** For those who cannot see the toolbar, and for those who use no mouse. */
+class TestAccess : public QObject
+{
+    Q_OBJECT
+
+private:
+    static void addDocuments()
+    {
+        QTest::addColumn<int>("skin");
+        QTest::addColumn<QString>("path");
+        QTest::newRow("marodi") << marodi << "marodi/mr_toolbar.debug.xml";
+        QTest::newRow("lum") << lum << "lum/mr_toolbar.release.xml";
+    }
+
+private Q_SLOTS:
+    void everyControlHasANameAndARole_data() { addDocuments(); }
+
+    void everyControlHasANameAndARole()
+    {
+        QFETCH(int, skin);
+        QFETCH(QString, path);
+        const SkinChoice choice(skin);
+        const auto host = TestHost::withShipped(path);
+        host->show();
+        const QWidgetList controls = shownControls(host->toolBar());
+        QVERIFY(controls.size() > 20);
+        for (QWidget *control : controls) {
+            QAccessibleInterface *face = QAccessible::queryAccessibleInterface(control);
+            QVERIFY(face);
+            const QString who = QLatin1String(control->metaObject()->className()) + QLatin1Char(' ')
+                                + control->objectName() + " in "
+                                + control->parentWidget()->objectName();
+            QVERIFY2(face->role() != QAccessible::NoRole, qPrintable(who));
+            if (!isWithoutMeaning(control))
+                QVERIFY2(!face->text(QAccessible::Name).isEmpty(), qPrintable(who));
+        }
+    }
+
+    void theTabKeyGoesAlongTheTopLineAndDownToTheRow_data() { addDocuments(); }
+
+    void theTabKeyGoesAlongTheTopLineAndDownToTheRow()
+    {
+        QFETCH(int, skin);
+        QFETCH(QString, path);
+        const SkinChoice choice(skin);
+        const auto host = TestHost::withShipped(path);
+        host->show();
+        enableEverything(*host);
+        const QWidget *stack = host->find<QStackedWidget>(QStringLiteral("tabwidget"));
+        host->find<QPushButton>(QStringLiteral("menu_file"))->setFocus(Qt::TabFocusReason);
+
+        QWidgetList visited;
+        for (int step = 0; step < 60; ++step) {
+            QWidget *focused = QApplication::focusWidget();
+            if (!focused || visited.contains(focused))
+                break;
+            visited.append(focused);
+            QTest::keyClick(focused, Qt::Key_Tab);
+        }
+        QVERIFY2(visited.size() > 20, "The row is not reached");
+        for (int i = 1; i < visited.size(); ++i) {
+            const QWidget *before = visited.at(i - 1);
+            const QWidget *after = visited.at(i);
+            const bool isSameLine = stack->isAncestorOf(before) == stack->isAncestorOf(after);
+            if (!isSameLine || before->isAncestorOf(after))
+                continue;
+            QVERIFY2(before->mapToGlobal(QPoint()).x() < after->mapToGlobal(QPoint()).x(),
+                     qPrintable(before->objectName() + " > " + after->objectName()));
+        }
+    }
+
+    void escapeGivesTheFocusBackToTheDocument()
+    {
+        const auto host = TestHost::withShipped(QStringLiteral("marodi/mr_toolbar.release.xml"));
+        auto *document = new QLineEdit;
+        host->window().setCentralWidget(document);
+        host->show();
+        enableEverything(*host);
+        for (const char *name : {"st_input", "d_gotopage"}) {
+            auto *field = host->find<QLineEdit>(QLatin1String(name));
+            QTest::mouseClick(field, Qt::LeftButton);
+            QCOMPARE(QApplication::focusWidget(), field);
+            QTest::keyClick(field, Qt::Key_Escape);
+            QCOMPARE(QApplication::focusWidget(), document);
+        }
+        // A click on a command leaves the document its focus.
+        host->click(QStringLiteral("e_preference"));
+        QCOMPARE(QApplication::focusWidget(), document);
+    }
+};
+
+QTEST_MAIN(TestAccess)
+#include "tst_access.moc"

@@ -1,0 +1,379 @@
+#include "tests/support/TestHost.h"
+#include "toolbar/widgets/CCR_ToolTipWidget.h"
+#include "toolbar/widgets/MRDropButton.h"
+#include "toolbar/widgets/MRMainToolBar.h"
+#include "toolbar/widgets/MRScrollWidget.h"
+#include "toolbar/widgets/ScreenDensity.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QMenu>
+#include <QScrollBar>
+#include <QToolBar>
+#include <QToolTip>
+
+#include <functional>
+#include <limits>
+
+/** What the host does when it hears of a command. */
+using Answer = std::function<void(TestHost &)>;
+Q_DECLARE_METATYPE(Answer)
+
+namespace {
+
+const QString plainRow =
+    QStringLiteral("<toolbar_tabbar><tabbutton name='t' text='T' checkable='true' checked='true'>"
+                   "<button action='plain' text='Plain'/></tabbutton></toolbar_tabbar>");
+
+const QString longRow =
+    QStringLiteral("<toolbar_tabbar><tabbutton name='t' text='T' checkable='true' checked='true'>%1"
+                   "<button action='last' text='Last'/></tabbutton></toolbar_tabbar>");
+
+QString buttons(int count)
+{
+    QString row;
+    for (int i = 0; i < count; ++i)
+        row += QStringLiteral("<button action='b%1' text='Button'/>").arg(i);
+    return row;
+}
+
+QStringList warnings;
+
+void noteWarning(QtMsgType, const QMessageLogContext &, const QString &message)
+{
+    if (!message.contains(QLatin1String("This plugin does not support")))
+        warnings.append(message);
+}
+
+/** Keeps what the toolkit complains of while it lives. */
+class WarningTrap
+{
+public:
+    WarningTrap()
+    {
+        warnings.clear();
+        qInstallMessageHandler(noteWarning);
+    }
+    ~WarningTrap() { qInstallMessageHandler(nullptr); }
+    Q_DISABLE_COPY_MOVE(WarningTrap)
+};
+
+/** A description whose only application menu holds one menu inside the other. */
+QDomDocument nestedMenus(int depth)
+{
+    QDomDocument document;
+    QDomElement parent = document.createElement(QStringLiteral("uiconfig"));
+    parent.setAttribute(QStringLiteral("prefix"), QString());
+    document.appendChild(parent);
+    parent =
+        parent.appendChild(document.createElement(QStringLiteral("toolbar_appbutton"))).toElement();
+    for (int i = 0; i < depth; ++i) {
+        QDomElement menu = document.createElement(QStringLiteral("menu"));
+        menu.setAttribute(QStringLiteral("name"), QStringLiteral("m%1").arg(i));
+        parent = parent.appendChild(menu).toElement();
+    }
+    return document;
+}
+
+void runDeferredDeletes()
+{
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCoreApplication::processEvents();
+}
+
+} // namespace
+
+/** What a careless author or host, or one of ill will, hands to the toolbar. */
+class HostileTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void shouldHoldFiftyThousandControls()
+    {
+        constexpr int tabs = 50;
+        constexpr int controlsOfATab = 1000;
+        QString sections;
+        for (int tab = 0; tab < tabs; ++tab) {
+            sections += QStringLiteral("<tabbutton name='t%1' text='T' checkable='true'>").arg(tab);
+            for (int i = 0; i < controlsOfATab; ++i)
+                sections += QStringLiteral("<button action='b%1_%2' text='B'/>").arg(tab).arg(i);
+            sections += QLatin1String("</tabbutton>");
+        }
+        TestHost host("<toolbar_tabbar>" + sections + "</toolbar_tabbar>");
+        for (int tab = 0; tab < tabs; ++tab)
+            host.find<QAbstractButton>(QStringLiteral("t%1").arg(tab))->click();
+        QString last = QStringLiteral("b%1_%2").arg(tabs - 1).arg(controlsOfATab - 1);
+        QVERIFY(host.facade().IsSupportByToolBar(last));
+        host.setUsable(last, false);
+        QVERIFY(!host.facade().GetCompositeEnable(last));
+        QCOMPARE(host.toolBar()->findChildren<QAction *>(QRegularExpression("^b")).size(),
+                 tabs * controlsOfATab);
+    }
+
+    void shouldHoldMenusInOneAnother_data()
+    {
+        QTest::addColumn<int>("depth");
+        QTest::addColumn<TestHost::SkinMap>("skin");
+        // With a sheet, the toolkit goes up all parents of every menu for its rules.
+        QTest::newRow("with its sheet") << 1000 << TestHost::SkinMap();
+        QTest::newRow("without") << 10000 << TestHost::SkinMap{{"externalqss", ""}};
+    }
+
+    void shouldHoldMenusInOneAnother()
+    {
+        QFETCH(int, depth);
+        QFETCH(TestHost::SkinMap, skin);
+        const QDomDocument document = nestedMenus(depth);
+        QDomElement root = document.documentElement();
+        auto window = std::make_unique<QMainWindow>();
+        MRToolBar facade(window.get(), root, skin, ToolBarLeft);
+        window->findChild<NewToolBar *>()->Inner_DoDelayLoadMenuSlot();
+        // The innermost has no children, so it is an item.
+        QVERIFY(facade.IsSupportByToolBar(QStringLiteral("m%1").arg(depth - 1)));
+        window.reset();
+        runDeferredDeletes();
+        QVERIFY(!facade.IsSupportByToolBar(QStringLiteral("m%1").arg(depth - 1)));
+    }
+
+    void shouldTakeTextsOfAMegabyte_data()
+    {
+        QTest::addColumn<QString>("attribute");
+        QTest::addColumn<QString>("start");
+        for (const char *attribute : {"text", "tooltip", "icon", "shortcut", "group"})
+            QTest::newRow(attribute) << attribute << "";
+        QTest::newRow("tooltip card") << "tooltip"
+                                      << "title;";
+    }
+
+    void shouldTakeTextsOfAMegabyte()
+    {
+        QFETCH(QString, attribute);
+        QFETCH(QString, start);
+        const QString value = start + QString(1 << 20, QLatin1Char('w'));
+        const QString huge = QStringLiteral("<%1 name='%2' %3='%4'/>");
+        const QString controls = huge.arg("button", "big", attribute, value)
+                                 + huge.arg("label", "bigger", attribute, value)
+                                 + huge.arg("menu", "biggest", attribute, value);
+        TestHost host(longRow.arg(controls));
+        host.show();
+        host.setUsable("last", true);
+        QVERIFY(host.facade().GetCompositeEnable("last"));
+        QCOMPARE(host.window().width(), 1300);
+        const QSignalSpy active(&host.facade(), &MRToolBar::DoActive);
+        host.toolBar()->GetActionInTotal("last")->trigger();
+        QCOMPARE(active.size(), 1);
+    }
+
+    void shouldLetNoNameBreakOut_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("quotes") << "a\"b'c";
+        QTest::newRow("end of a rule") << "a;}QWidget{background:red;min-height:400px}";
+        QTest::newRow("slashes") << "../a\\b//c/";
+        QTest::newRow("selector") << "#a[b=\"c\"]::d,*";
+        QTest::newRow("placeholders") << "%1%2%L3 [MainColor]";
+        QTest::newRow("markup") << "<b>a</b>&lt;";
+        QTest::newRow("control characters") << QString("a\nb\tc\rd");
+        QTest::newRow("ampersands") << "&a&&b";
+    }
+
+    void shouldLetNoNameBreakOut()
+    {
+        QFETCH(QString, name);
+        const QString pattern =
+            "<toolbar_quickaccessbar><button action='%1' text='q'/></toolbar_quickaccessbar>"
+            "<toolbar_tabbar><tabbutton name='%1' text='T' checkable='true' checked='true'>"
+            "<menu name='%1' text='M' tooltip='%1' checkable='true' switchable='true'>"
+            "<menuitem action='%1' text='e'/></menu>"
+            "<buttongroup name='%1'><menu name='%1' text='g' checkable='true'>"
+            "<menuitem action='i' text='i'/></menu></buttongroup>"
+            "<button action='plain' text='Plain' tooltip='Plain'/></tabbutton></toolbar_tabbar>";
+        const WarningTrap trap;
+        TestHost harmless(pattern.arg(QStringLiteral("harmless")));
+        TestHost host(pattern.arg(name.toHtmlEscaped()
+                                      .replace('\'', "&#39;")
+                                      .replace('\n', "&#10;")
+                                      .replace('\t', "&#9;")
+                                      .replace('\r', "&#13;")));
+        harmless.show();
+        host.show();
+
+        QVERIFY(host.facade().IsSupportByToolBar(name));
+        auto *drop = host.toolBar()->findChild<MRDropButton *>();
+        if (!name.contains(QLatin1Char(';')))
+            QCOMPARE(drop->toolTip(), name);
+        const QList<QWidget *> widgets = host.window().findChildren<QWidget *>();
+        for (QWidget *widget : widgets) {
+            QTest::mouseMove(widget, widget->rect().center());
+            QVERIFY2(!widget->styleSheet().contains(name), qPrintable(widget->styleSheet()));
+        }
+        QCOMPARE(host.find<QToolBar>("mrtoolbar")->styleSheet(),
+                 harmless.find<QToolBar>("mrtoolbar")->styleSheet());
+        QCOMPARE(host.toolBar()->size(), harmless.toolBar()->size());
+        QCOMPARE(warnings, QStringList());
+    }
+
+    void shouldFindNoIconOutsideTheSkin_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("root") << QString("../../../../../../../../etc/passwd");
+        QTest::newRow("absolute") << "/etc/passwd";
+        QTest::newRow("url") << "file:///etc/passwd";
+        QTest::newRow("resource") << ":/mr_toolbar/Resources/lum/qssfile.qss";
+        QTest::newRow("nothing but dots") << "../../..";
+    }
+
+    void shouldFindNoIconOutsideTheSkin()
+    {
+        QFETCH(QString, name);
+        TestHost host(
+            longRow.arg(QStringLiteral("<button action='odd' text='Odd' icon='%1'/>")).arg(name));
+        host.show();
+        const QIcon icon = host.toolBar()->GetActionInTotal("odd")->icon();
+        QVERIFY(icon.pixmap(24, 24).toImage() == QImage()
+                || icon.pixmap(24, 24).toImage().allGray());
+        const QString path = host.toolBar()->GetIconPath(name);
+        QVERIFY2(path.isEmpty() || path.startsWith(host.toolBar()->GetResourceDir()),
+                 qPrintable(path));
+    }
+
+    void shouldTakeAnySkin_data()
+    {
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QString>("value");
+        QTest::newRow("megabyte") << "[MainColor]" << QString(1 << 20, QLatin1Char('f'));
+        QTest::newRow("letter") << "e"
+                                << "xyz";
+        QTest::newRow("brace") << "{"
+                               << "}";
+        QTest::newRow("whole rule") << "[MainColor]"
+                                    << "red;} QWidget{background:blue";
+    }
+
+    void shouldTakeAnySkin()
+    {
+        QFETCH(QString, key);
+        QFETCH(QString, value);
+        const WarningTrap trap; // The toolkit may complain; that is all that may happen.
+        TestHost host(plainRow, {{key, value}});
+        host.show();
+        host.facade().DoSetSkinStyleSlot({{key, value}});
+        host.setUsable("plain", true);
+        const QSignalSpy active(&host.facade(), &MRToolBar::DoActive);
+        host.toolBar()->GetActionInTotal("plain")->trigger();
+        QCOMPARE(active.size(), 1);
+
+        // A sound skin heals it.
+        TestHost sound(plainRow);
+        host.facade().DoSetSkinStyleSlot({{"[MainColor]", "#008AD9"}});
+        QCOMPARE(host.find<QToolBar>("mrtoolbar")->styleSheet(),
+                 sound.find<QToolBar>("mrtoolbar")->styleSheet());
+    }
+
+    void shouldBelieveNoScreenThatTellsNonsense_data()
+    {
+        QTest::addColumn<int>("told");
+        QTest::addColumn<int>("taken");
+        const int none = std::numeric_limits<int>::min(); // What the toolkit makes of no size.
+        for (const auto &[told, taken] : std::initializer_list<std::pair<int, int>>{{none, 96},
+                                                                                    {-1, 96},
+                                                                                    {0, 96},
+                                                                                    {5, 96},
+                                                                                    {24, 24},
+                                                                                    {96, 96},
+                                                                                    {192, 192},
+                                                                                    {600, 600},
+                                                                                    {100000, 96}})
+            QTest::addRow("%d", told) << told << taken;
+    }
+
+    void shouldBelieveNoScreenThatTellsNonsense()
+    {
+        QFETCH(int, told);
+        QTEST(ScreenDensity::credible(told), "taken");
+    }
+
+    void shouldDieWithABubbleOpen()
+    {
+        TestHost host(plainRow);
+        host.show();
+        const QPointer<CCR_ToolTipWidget> bubble = new CCR_ToolTipWidget(&host.window());
+        bubble->resize(200, 60);
+        bubble->setLabelText(QStringLiteral("text"));
+        bubble->show();
+        QToolTip::showText(QCursor::pos(), QStringLiteral("tip"), host.toolBar());
+        host.deleteWindow();
+        QVERIFY(!bubble);
+        QTest::qWait(50);
+        QToolTip::hideText();
+    }
+
+    void shouldDieWhileARowScrolls()
+    {
+        TestHost host(longRow.arg(buttons(60)));
+        host.window().resize(400, 300);
+        host.show();
+        auto *area = host.toolBar()->findChild<MRScrollArea *>();
+        area->DoScrollAction();
+        QTRY_VERIFY(area->horizontalScrollBar()->value() > 0);
+        host.deleteWindow();
+        QTest::qWait(350);
+        QVERIFY(!host.facade().IsSupportByToolBar("last"));
+    }
+
+    void shouldLetTheHostReenterFromACommand_data()
+    {
+        QTest::addColumn<QString>("control");
+        QTest::addColumn<Answer>("answer");
+        const QList<std::pair<const char *, Answer>> answers{
+            {"reset", [](TestHost &host) { host.facade().DoResetToolbarSlot(); }},
+            {"skin",
+             [](TestHost &host) {
+                 host.facade().DoSetSkinStyleSlot({{"[MainColor]", "#123456"}});
+             }},
+            {"hide", [](TestHost &host) { host.setVisible("toolbar_whole", false); }},
+            {"leave the tab", [](TestHost &host) { host.setVisible("t", false); }},
+            {"disable", [](TestHost &host) { host.setUsable("toolbar_maintoolbar", false); }},
+            {"check", [](TestHost &host) { host.setChecked("entry", true); }},
+            {"end", [](TestHost &host) { host.toolBar()->deleteLater(); }},
+        };
+        for (const auto &[what, answer] : answers) {
+            for (const char *control : {"plain", "entry", "other", "add"})
+                QTest::addRow("%s from %s", what, control) << control << answer;
+        }
+    }
+
+    void shouldLetTheHostReenterFromACommand()
+    {
+        QFETCH(QString, control);
+        QFETCH(Answer, answer);
+        TestHost host(
+            "<toolbar_tabbar><tabbutton name='t' text='T' checkable='true' checked='true'>"
+            "<button action='plain' text='Plain' checkable='true' group='g'/>"
+            "<menu name='drop' text='Drop' checkable='true' switchable='true'>"
+            "<menuitem action='entry' text='Entry' checkable='true' group='g'/></menu>"
+            "<buttongroup name='two'><button action='other' "
+            "text='Other'/></buttongroup></tabbutton>"
+            "<tabbutton name='u' text='U' checkable='true'/></toolbar_tabbar>"
+            "<toolbar_addtional><button action='add' text='Add'/></toolbar_addtional>");
+        host.show();
+        host.setUsable("any", true);
+        const QPointer<NewToolBar> toolBar = host.toolBar();
+        int heard = 0;
+        connect(&host.facade(), &MRToolBar::DoActive, this, [&] {
+            if (++heard == 1)
+                answer(host);
+        });
+        if (auto *button = host.find<QPushButton>(control))
+            button->click();
+        else
+            toolBar->GetActionInTotal(control)->trigger();
+        runDeferredDeletes();
+        QCOMPARE(heard, 1);
+        QCOMPARE(host.facade().IsSupportByToolBar("plain"), !toolBar.isNull());
+    }
+};
+
+QTEST_MAIN(HostileTest)
+#include "tst_hostile.moc"

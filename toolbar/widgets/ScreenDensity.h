@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QWidget>
+
+/** How dense the screen of a widget is: what the skins' lengths at 96 dpi are multiplied by. */
+namespace ScreenDensity {
+
+inline constexpr int designDpi = 96;
+
+/**
+ * The dpi themselves, or those of the design where a screen tells nonsense: without a physical
+ * size, or with that of a wall, everything would be laid out in no room at all.
+ */
+constexpr int credible(int dpi)
+{
+    constexpr int least = designDpi / 4;
+    constexpr int most = designDpi * 20;
+    return dpi < least || dpi > most ? designDpi : dpi;
+}
+
+inline int dpiX(const QWidget *widget)
+{
+    return credible(widget->physicalDpiX());
+}
+
+} // namespace ScreenDensity
