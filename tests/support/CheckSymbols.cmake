@@ -19,6 +19,11 @@ foreach(line IN LISTS lines)
     string(REGEX REPLACE
         "^(typeinfo name for|typeinfo for|vtable for|(non-)?virtual thunk to|guard variable for) "
         "" name "${name}")
+    # Templates of the standard library and of the toolkit's type system carry a visibility of
+    # their own.
+    if(name MATCHES "^([a-z ]+ )?(std::|QMetaType|QMetaAssociation)")
+        continue()
+    endif()
     string(REGEX REPLACE "(::|\\().*$" "" name "${name}")
     list(APPEND exported "${name}")
 endforeach()
