@@ -64,12 +64,14 @@ build=$root/build/qt$version
 configure "$build" "MRTOOLBAR_QT_MAJOR=$version"
 cmake --build "$build" --target mrtoolbar-pictures mrtoolbar-contactsheet mrtoolbar-reader
 
+# The status bar tells the path that the file was given by.
 take_reader()
 {
     local skin
+    cd -- "$root"
     for skin in marodi lum; do
         "$build/bin/mrtoolbar-reader" --skin "$skin" --screenshot "$folder/reader-$skin.png" \
-            "$root/examples/reader/samples/text.ofd"
+            examples/reader/samples/text.ofd
     done
 }
 
