@@ -5,6 +5,7 @@
 #include "toolbar/widgets/MRDropButton.h"
 #include "toolbar/widgets/MRGroupButton.h"
 #include "toolbar/widgets/MRSearchBar.h"
+#include "toolbar/widgets/PlaceholderTint.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -70,6 +71,7 @@ QWidget *NewToolBar::createExtraControl(QWidget *panel, const Controller &record
     field->setObjectName(record.name);
     field->setProperty("module", "toolbarinput");
     field->setPlaceholderText(record.tooltip);
+    new PlaceholderTint(field);
     return field;
 }
 

@@ -2,6 +2,7 @@
 
 #include "toolbar/skin/Skin.h"
 #include "toolbar/widgets/FieldKeyFilter.h"
+#include "toolbar/widgets/PlaceholderTint.h"
 #include "toolbar/widgets/ScreenDensity.h"
 
 #include <QHBoxLayout>
@@ -38,6 +39,7 @@ MRSearchBar::MRSearchBar(QWidget *parent, QLabel *label, QPushButton *previous, 
         button->setCursor(Qt::ArrowCursor);
     setLayout(m_layout);
     new FieldKeyFilter(this);
+    new PlaceholderTint(this);
 }
 
 QList<QPushButton *> MRSearchBar::buttons() const
