@@ -7,7 +7,6 @@ source "$(dirname -- "${BASH_SOURCE[0]}")/common.sh"
 version=5
 folder=$root/docs/pictures
 showcase=$root/examples/reader/showcase.xml
-skin_maps=$root/docs/skins
 
 show_help()
 {
@@ -41,7 +40,7 @@ take_sheet()
     local name=$1-${dpi}dpi.png skin=$2 description=$3 width=$4
     shift 4
     "$build/bin/mrtoolbar-pictures" --skin "$skin" --description "$description" \
-        --width "$((width * dpi / 96))" --out "$folder/$name" "$@" 2> >(grep -v 'parse stylesheet' >&2)
+        --width "$width" --out "$folder/$name" "$@" 2> >(grep -v 'parse stylesheet' >&2)
 }
 
 take_all()

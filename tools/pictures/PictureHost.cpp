@@ -4,10 +4,11 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
-#include <QSet>
+#include <QScrollArea>
 #include <QTest>
 #include <QTimer>
 #include <QToolBar>
@@ -40,7 +41,7 @@ PictureHost::PictureHost(const QDomDocument &description, const QMap<QString, QS
     , m_states(m_window, m_sheet)
 {
     m_window.setWindowTitle(QStringLiteral("OFD阅读器"));
-    m_window.resize(width, pageHeight * m_window.physicalDpiY() / 96);
+    m_window.resize(QSize(width, pageHeight) * m_window.physicalDpiX() / 96);
     auto *page = new QLabel;
     page->setStyleSheet(QStringLiteral("background:#FFFFFF"));
     m_window.setCentralWidget(page);
@@ -62,8 +63,6 @@ bool PictureHost::takeAll(const QString &path)
     takeWindow(QStringLiteral("disabled"));
     answerAuthority();
     takeTabs();
-    m_sheet.breakRow();
-    takeMenus();
     return m_sheet.save(path);
 }
 
@@ -99,27 +98,51 @@ void PictureHost::takeTabs()
         takeWindow(tab->objectName());
         m_states.takeNewKinds();
         m_sheet.breakRow();
+        takeNewMenus();
+        takeNewLists();
+        m_sheet.breakRow();
     }
     if (onShow)
         open(onShow);
 }
 
-void PictureHost::takeMenus()
+bool PictureHost::isNew(QWidget *control)
 {
-    QSet<QString> taken;
+    if (!control->isVisible() || !control->isEnabled() || control->objectName().isEmpty()
+        || m_opened.contains(control->objectName()))
+        return false;
+    m_opened.insert(control->objectName());
+    for (QWidget *parent = control->parentWidget(); parent; parent = parent->parentWidget()) {
+        if (auto *area = qobject_cast<QScrollArea *>(parent))
+            area->ensureWidgetVisible(control);
+    }
+    return true;
+}
+
+void PictureHost::takeNewMenus()
+{
     const QList<QAbstractButton *> buttons = m_window.findChildren<QAbstractButton *>();
     for (QAbstractButton *button : buttons) {
-        const bool isOfInterest =
-            button->isVisible() && button->isEnabled() && !button->objectName().isEmpty()
-            && button->property("module").toString() != QLatin1String("tabbutton")
+        const auto *pushButton = qobject_cast<const QPushButton *>(button);
+        const bool opensMenu =
+            button->property("module").toString() != QLatin1String("tabbutton")
             && (!button->findChildren<QMenu *>().isEmpty() || button->property("position").isValid()
                 || button->objectName() == QLatin1String("qt_toolbar_ext_button")
-                || (qobject_cast<QPushButton *>(button)
-                    && static_cast<QPushButton *>(button)->menu()));
-        if (isOfInterest && !taken.contains(button->objectName())) {
-            taken.insert(button->objectName());
+                || (pushButton && pushButton->menu()));
+        if (opensMenu && isNew(button))
             takeMenuOf(button, button->objectName());
-        }
+    }
+}
+
+void PictureHost::takeNewLists()
+{
+    const QList<QComboBox *> boxes = m_window.findChildren<QComboBox *>();
+    for (QComboBox *box : boxes) {
+        if (!isNew(box))
+            continue;
+        box->showPopup();
+        takePopups(box->objectName());
+        box->hidePopup();
     }
 }
 
@@ -149,20 +172,20 @@ void PictureHost::takeMenuOf(QAbstractButton *button, const QString &name)
 
 void PictureHost::takeSubMenus(QMenu *menu, const QString &name)
 {
-    QAction *lastEnabled = nullptr;
+    QAction *command = nullptr;
     const QList<QAction *> actions = menu->actions();
     for (QAction *action : actions) {
-        if (!action->isVisible() || !action->isEnabled())
+        if (!action->isVisible() || !action->isEnabled() || action->isSeparator())
             continue;
-        lastEnabled = action;
-        if (!action->menu())
-            continue;
-        menu->setActiveAction(action);
-        takePopups(name + QLatin1Char('-') + action->menu()->objectName());
-        action->menu()->hide();
+        if (QMenu *subMenu = action->menu()) {
+            menu->setActiveAction(action);
+            takeSubMenus(subMenu, name + QLatin1Char('-') + subMenu->objectName());
+            subMenu->hide();
+        } else if (!command) {
+            command = action;
+        }
     }
-    if (lastEnabled)
-        menu->setActiveAction(actions.first()->isEnabled() ? actions.first() : lastEnabled);
+    menu->setActiveAction(command);
     takePopups(name);
 }
 

@@ -8,6 +8,7 @@
 #include <QDomDocument>
 #include <QMainWindow>
 #include <QMap>
+#include <QSet>
 
 class QAbstractButton;
 class QMenu;
@@ -27,7 +28,10 @@ public:
 private:
     void answerAuthority();
     void takeTabs();
-    void takeMenus();
+    /** Whether the control can open something that has not been taken; brings it into view. */
+    bool isNew(QWidget *control);
+    void takeNewMenus();
+    void takeNewLists();
     void takeMenuOf(QAbstractButton *button, const QString &name);
     void takeSubMenus(QMenu *menu, const QString &name);
     void takeWindow(const QString &caption);
@@ -38,4 +42,5 @@ private:
     PictureSheet m_sheet;
     ControlStates m_states;
     MRToolBar *m_toolBar;
+    QSet<QString> m_opened;
 };

@@ -52,7 +52,7 @@ int main(int argc, char *argv[])
          QStringLiteral("marodi")},
         {QStringLiteral("description"), QStringLiteral("release, debug or a file"),
          QStringLiteral("description"), QStringLiteral("release")},
-        {QStringLiteral("width"), QStringLiteral("width of the window"), QStringLiteral("pixels"),
+        {QStringLiteral("width"), QStringLiteral("width of the window at 96 dpi"), QStringLiteral("pixels"),
          QStringLiteral("1280")},
         {QStringLiteral("skin-map"), QStringLiteral("file with lines key=value"),
          QStringLiteral("file")},
