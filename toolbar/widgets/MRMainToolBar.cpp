@@ -1,7 +1,48 @@
 #include "toolbar/widgets/MRMainToolBar.h"
 
+#include <QEvent>
+#include <QLayout>
+#include <QStyle>
+#include <QToolButton>
+
 MRMainToolBar::MRMainToolBar(QWidget *parent)
     : QToolBar(parent)
+    , m_extension(findChild<QToolButton *>(QString(), Qt::FindDirectChildrenOnly))
+    , m_extensionName(m_extension ? m_extension->objectName() : QString())
 {
     setProperty("intoolbar", "true");
+}
+
+bool MRMainToolBar::event(QEvent *event)
+{
+    const bool isHandled = QToolBar::event(event);
+    if (event->type() == QEvent::LayoutRequest)
+        showWhatHasRoom();
+    return isHandled;
+}
+
+void MRMainToolBar::showWhatHasRoom()
+{
+    if (!m_extension || m_extension->isHidden() || layout()->sizeHint().width() > width())
+        return;
+
+    // The toolkit has hidden a control by widths that it took before they had changed, and does not
+    // look again while the row keeps its own.
+    layout()->invalidate();
+    layout()->setGeometry(rect());
+}
+
+void MRMainToolBar::setFilled(bool filled)
+{
+    m_filled = filled;
+    if (!m_extension)
+        return;
+
+    // Sheets address the toolkit's button for what has no room by its name, and the toolkit reads
+    // the image of such a rule anew for each button and state. A row without controls needs none.
+    m_extension->setObjectName(filled ? m_extensionName : QString());
+    if (filled && m_extension->testAttribute(Qt::WA_WState_Polished)) {
+        m_extension->style()->unpolish(m_extension);
+        m_extension->style()->polish(m_extension);
+    }
 }

@@ -2,6 +2,8 @@
 
 #include <QToolBar>
 
+class QToolButton;
+
 /** The tool row of one tab. It knows whether its controls have been made yet. */
 class MRMainToolBar : public QToolBar
 {
@@ -11,8 +13,15 @@ public:
     explicit MRMainToolBar(QWidget *parent = nullptr);
 
     bool isFilled() const { return m_filled; }
-    void setFilled(bool filled) { m_filled = filled; }
+    void setFilled(bool filled);
+
+protected:
+    bool event(QEvent *event) override;
 
 private:
+    void showWhatHasRoom();
+
+    QToolButton *m_extension;
+    QString m_extensionName;
     bool m_filled = false;
 };
