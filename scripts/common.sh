@@ -38,13 +38,19 @@ require_one_of()
     usage_error "$option takes one of: $*, not '$value'"
 }
 
-# need_toolkit VERSION: the headers, the plug-in that draws the SVG icons, and what the example
-# reader opens files with.
+# need_toolkit VERSION: the headers, the plug-in that draws the SVG icons, what the example reader
+# opens files with, and the tools for translations with those of the toolkit's own texts.
 need_toolkit()
 {
     case $1 in
-        5) needed+=(qtbase5-dev libqt5svg5 libquazip1-qt5-dev) ;;
-        6) needed+=(qt6-base-dev libqt6svg6 libquazip1-qt6-dev) ;;
+        5)
+            needed+=(qtbase5-dev libqt5svg5 libquazip1-qt5-dev
+                qttools5-dev qttranslations5-l10n)
+            ;;
+        6)
+            needed+=(qt6-base-dev libqt6svg6 libquazip1-qt6-dev
+                qt6-tools-dev qt6-l10n-tools qt6-translations-l10n)
+            ;;
     esac
 }
 
@@ -130,7 +136,7 @@ start_xvfb()
     trap stop_xvfb EXIT
     # No reset when the last client leaves: the next test would connect in the middle of it.
     exec {reply}< <(exec Xvfb -displayfd 3 -screen 0 "${width}x${height}x24" -dpi "$dpi" \
-        -noreset -nolisten tcp 3>&1 >"$scratch/xvfb.log" 2>&1)
+        -noreset -nolisten tcp -wr 3>&1 >"$scratch/xvfb.log" 2>&1)
     xvfb_pid=$!
     read -r -t 60 -u "$reply" number \
         || die "Xvfb does not start: $(tail -n 1 "$scratch/xvfb.log")"

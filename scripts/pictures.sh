@@ -57,11 +57,12 @@ take_all()
 
 read_options "$@"
 need_toolkit "$version"
-needed+=(xvfb x11-xserver-utils)
+needed+=(xvfb x11-xserver-utils imagemagick xdotool)
 install_needed
 build=$root/build/qt$version
 configure "$build" "MRTOOLBAR_QT_MAJOR=$version"
-cmake --build "$build" --target mrtoolbar-pictures mrtoolbar-contactsheet mrtoolbar-reader
+cmake --build "$build" --target mrtoolbar-pictures mrtoolbar-contactsheet mrtoolbar-reader \
+    mrtoolbar-guide-pictures mrtoolbar-owndescription mrtoolbar-ownskin
 
 # The status bar tells the path that the file was given by.
 take_reader()
@@ -74,12 +75,47 @@ take_reader()
     done
 }
 
-mkdir -p "$folder"
+# take_example PROGRAM PICTURE [X Y [X Y]]: as the program starts, or after a click at the first place
+# of its window, with the pointer at the second.
+take_example()
+{
+    local program=$1 picture=$folder/guide/$2.png example window
+    local WINDOW X Y WIDTH HEIGHT SCREEN
+    "$build/bin/mrtoolbar-$program" 2>/dev/null &
+    example=$!
+    window=$(timeout 20 xdotool search --sync --onlyvisible --pid "$example" | tail -n 1)
+    xdotool windowsize --sync "$window" 640 200
+    eval "$(xdotool getwindowgeometry --shell "$window")"
+    if (($# >= 4)); then
+        xdotool mousemove $((X + $3)) $((Y + $4)) sleep 0.5 click 1
+        (($# < 6)) || xdotool mousemove $((X + $5)) $((Y + $6))
+    fi
+    sleep 1
+    import -window root -crop "${WIDTH}x$HEIGHT+$X+$Y" +repage "$picture"
+    kill "$example"
+    wait "$example" 2>/dev/null || true
+    say "$picture"
+}
+
+take_guides()
+{
+    rm -f "$folder"/guide/*.png
+    "$build/bin/mrtoolbar-guide-pictures" "$build/tests/guides/blocks" "$folder/guide" \
+        2> >(grep -v 'parse stylesheet' >&2)
+    take_example owndescription owndescription 35 19
+    take_example ownskin ownskin-night
+    take_example ownskin ownskin-forest 290 65 320 180
+}
+
+mkdir -p "$folder/guide"
 rm -f "$folder"/*.png
 for dpi in 96 120 144 192; do
     start_xvfb "$dpi"
     take_all
-    ((dpi != 96)) || take_reader
+    if ((dpi == 96)); then
+        take_reader
+        take_guides
+    fi
     stop_xvfb
     xvfb_pid=
 done

@@ -1,3 +1,4 @@
+#include "tests/support/TestDocuments.h"
 #include "tests/support/TestHost.h"
 
 #include <QAccessible>
@@ -33,15 +34,6 @@ bool isWithoutMeaning(const QWidget *control)
            || (button && button->text().isEmpty() && button->icon().isNull());
 }
 
-void enableEverything(TestHost &host)
-{
-    const QList<QAction *> actions = host.window().findChildren<QAction *>();
-    for (const QAction *action : actions) {
-        if (!action->objectName().isEmpty())
-            host.setUsable(action->objectName(), true);
-    }
-}
-
 } // namespace
 
 /** For those who cannot see the toolbar, and for those who use no mouse. */
@@ -49,24 +41,15 @@ class TestAccess : public QObject
 {
     Q_OBJECT
 
-private:
-    static void addDocuments()
-    {
-        QTest::addColumn<int>("skin");
-        QTest::addColumn<QString>("path");
-        QTest::newRow("marodi") << marodi << "marodi/mr_toolbar.debug.xml";
-        QTest::newRow("lum") << lum << "lum/mr_toolbar.release.xml";
-    }
-
 private Q_SLOTS:
-    void everyControlHasANameAndARole_data() { addDocuments(); }
+    void everyControlHasANameAndARole_data() { TestDocuments::addShipped(); }
 
     void everyControlHasANameAndARole()
     {
         QFETCH(int, skin);
         QFETCH(QString, path);
         const SkinChoice choice(skin);
-        const auto host = TestHost::withShipped(path);
+        const auto host = TestHost::withFile(path);
         host->show();
         const QWidgetList controls = shownControls(host->toolBar());
         QVERIFY(controls.size() > 20);
@@ -82,16 +65,16 @@ private Q_SLOTS:
         }
     }
 
-    void theTabKeyGoesAlongTheTopLineAndDownToTheRow_data() { addDocuments(); }
+    void theTabKeyGoesAlongTheTopLineAndDownToTheRow_data() { TestDocuments::addShipped(); }
 
     void theTabKeyGoesAlongTheTopLineAndDownToTheRow()
     {
         QFETCH(int, skin);
         QFETCH(QString, path);
         const SkinChoice choice(skin);
-        const auto host = TestHost::withShipped(path);
+        const auto host = TestHost::withFile(path);
         host->show();
-        enableEverything(*host);
+        host->enableEverything();
         const QWidget *stack = host->find<QStackedWidget>(QStringLiteral("tabwidget"));
         host->find<QPushButton>(QStringLiteral("menu_file"))->setFocus(Qt::TabFocusReason);
 
@@ -121,7 +104,7 @@ private Q_SLOTS:
         auto *document = new QLineEdit;
         host->window().setCentralWidget(document);
         host->show();
-        enableEverything(*host);
+        host->enableEverything();
         for (const char *name : {"st_input", "d_gotopage"}) {
             auto *field = host->find<QLineEdit>(QLatin1String(name));
             QTest::mouseClick(field, Qt::LeftButton);

@@ -1,3 +1,4 @@
+#include "tests/support/Describe.h"
 #include "tests/support/TestHost.h"
 #include "toolbar/widgets/MRDropButton.h"
 #include "toolbar/widgets/MRMainToolBar.h"
@@ -7,46 +8,26 @@
 #include <QLineEdit>
 #include <QMap>
 #include <QMenu>
-#include <QToolButton>
+
+using namespace Describe;
 
 namespace {
 
-/** A tab on show with these controls, and another one behind it. */
-QString tabs(const QString &controls, const QString &others = {})
-{
-    return QStringLiteral("<toolbar_tabbar><tabbutton name='row' text='r' checkable='true' "
-                          "checked='true'>%1</tabbutton><tabbutton name='other' text='o' "
-                          "checkable='true'>%2</tabbutton></toolbar_tabbar>")
-        .arg(controls, others);
-}
-
-MRMainToolBar *row(const TestHost &host)
+MRMainToolBar *rowOf(const TestHost &host)
 {
     return host.find<MRMainToolBar>(QStringLiteral("row"));
-}
-
-/** The rows stay disabled until the host has reported a first state. */
-void showEnabled(TestHost &host)
-{
-    host.setUsable(QStringLiteral("nothing"), true);
-    host.show();
 }
 
 /** What stands on the row: "|" for a separator, else the name, "()" for a group's panel. */
 QString contents(const TestHost &host)
 {
     QStringList names;
-    const QList<QAction *> actions = row(host)->actions();
+    const QList<QAction *> actions = rowOf(host)->actions();
     for (const QAction *action : actions) {
         const QString name = action->objectName().isEmpty() ? "()" : action->objectName();
         names.append(action->isSeparator() ? QStringLiteral("|") : name);
     }
     return names.join(QLatin1Char(' '));
-}
-
-QAction *action(const TestHost &host, const QString &name)
-{
-    return host.toolBar()->GetActionInTotal(name);
 }
 
 } // namespace
@@ -81,7 +62,7 @@ private Q_SLOTS:
         QString controls;
         for (const QChar kind : QString(QTest::currentDataTag()))
             controls += elements.value(kind, QStringLiteral("<button name='%1'/>").arg(kind));
-        TestHost host(tabs(controls));
+        TestHost host(row(controls));
         QTEST(contents(host), "placed");
     }
 
@@ -115,32 +96,32 @@ private Q_SLOTS:
     {
         QFETCH(QString, control);
         QFETCH(double, width);
-        TestHost host(tabs(control));
+        TestHost host(row(control));
         host.show();
-        QCOMPARE(row(host)->widgetForAction(action(host, "c"))->width(), host.scaled(width));
+        QCOMPARE(rowOf(host)->widgetForAction(host.action("c"))->width(), host.scaled(width));
 
         const SkinChoice compact(lum);
-        TestHost compactHost(tabs(control));
-        const QWidget *widget = row(compactHost)->widgetForAction(action(compactHost, "c"));
+        TestHost compactHost(row(control));
+        const QWidget *widget = rowOf(compactHost)->widgetForAction(compactHost.action("c"));
         QCOMPARE(widget->minimumWidth() == widget->maximumWidth(), control.startsWith("<menu"));
     }
 
     void aCommandOfSeveralPlacesIsOneActionAndReportsOnce()
     {
         const QString print = "<button name='print' text='Print' group='g' checkable='true'/>";
-        TestHost host(
-            tabs("<sperator/>" + print, "<buttongroup name='group'>" + print + "</buttongroup>"
-                                            + "<menu name='m' text='m'><menuitem action='print' "
-                                              "text='Print'/></menu>"));
-        showEnabled(host);
+        TestHost host(row("<sperator/>" + print,
+                          tab("other", "<buttongroup name='group'>" + print + "</buttongroup>"
+                                           + "<menu name='m' text='m'><menuitem action='print' "
+                                             "text='Print'/></menu>")));
+        host.showEnabled();
         host.click("other");
         QCOMPARE(host.window().findChildren<QAction *>("print").size(), 1);
-        QVERIFY(host.find<QMenu>("m")->actions().contains(action(host, "print")));
+        QVERIFY(host.find<QMenu>("m")->actions().contains(host.action("print")));
         QSignalSpy active(&host.facade(), &MRToolBar::DoActive);
         host.click("print"); // The button of the group.
         QCOMPARE(TestHost::texts(active), QStringList("print"));
         host.click("row");
-        QTest::mouseClick(row(host)->widgetForAction(action(host, "print")), Qt::LeftButton);
+        QTest::mouseClick(rowOf(host)->widgetForAction(host.action("print")), Qt::LeftButton);
         QCOMPARE(TestHost::texts(active), QStringList({"print", "print"}));
     }
 
@@ -165,8 +146,8 @@ private Q_SLOTS:
         for (const QString &item : std::as_const(items))
             children += QStringLiteral("<item action='mode_%1' text='%1'/>").arg(item);
         const QString attributes = QTest::currentDataTag();
-        TestHost host(tabs("<combobox " + attributes + " text='c'>" + children + "</combobox>"));
-        const auto *box = row(host)->findChild<QComboBox *>();
+        TestHost host(row("<combobox " + attributes + " text='c'>" + children + "</combobox>"));
+        const auto *box = rowOf(host)->findChild<QComboBox *>();
         QTEST(box->isEditable(), "isEditable");
         QCOMPARE(box->count(), items.size());
         if (!items.isEmpty()) {
@@ -190,8 +171,8 @@ private Q_SLOTS:
     void pageFieldTakesPagesOnly()
     {
         QFETCH(QString, page);
-        TestHost host(tabs("<lineedit name='d_GotoPage' text='Page'/><lineedit name='number'/>"));
-        showEnabled(host);
+        TestHost host(row("<lineedit name='d_GotoPage' text='Page'/><lineedit name='number'/>"));
+        host.showEnabled();
         host.facade().DoSetPageInfoSlot(3, 99);
         QSignalSpy pages(&host.facade(), &MRToolBar::DoGotoPage);
         for (const char *name : {"d_GotoPage", "number"}) { // Any other field tells nobody.
@@ -219,10 +200,10 @@ private Q_SLOTS:
     void dropButtonsShowTheirDescribedEntry()
     {
         const QString attributes = QTest::currentDataTag();
-        TestHost host(tabs("<menu name='m' checkable='true' " + attributes
-                           + "><menuitem action='one' text='One'/>"
-                             "<menuitem action='two' text='Two'/></menu>"));
-        showEnabled(host);
+        TestHost host(row("<menu name='m' checkable='true' " + attributes
+                          + "><menuitem action='one' text='One'/>"
+                            "<menuitem action='two' text='Two'/></menu>"));
+        host.showEnabled();
         auto *button = host.find<MRDropButton>("m");
         const QAction *current = button->GetCurrentAction();
         QStringList face{button->text(), current ? current->objectName() : QString("")};
@@ -237,43 +218,6 @@ private Q_SLOTS:
         QSignalSpy active(&host.facade(), &MRToolBar::DoActive);
         QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(5, button->height() / 2));
         QCOMPARE(TestHost::texts(active), QStringList(current->objectName()));
-    }
-
-    void aDropButtonAndItsCopyBehindANarrowRowStayInStep()
-    {
-        TestHost host(tabs("<button name='wide' text='wide'/>"
-                           "<menu name='m' text='M' checkable='true' switchable='true'>"
-                           "<menuitem action='one' text='One' checkable='true'/>"
-                           "<menuitem action='two' text='Two' checkable='true'/></menu>"));
-        showEnabled(host);
-        row(host)->setFixedWidth(host.scaled(90.0));
-        auto *extension = row(host)->findChild<QToolButton *>("qt_toolbar_ext_button");
-        QTRY_VERIFY(extension && extension->isVisible());
-        MRDropButton *copy = nullptr;
-        const QList<MRDropButton *> buttons = host.window().findChildren<MRDropButton *>();
-        for (MRDropButton *button : buttons) {
-            if (button->property("position") == QLatin1String("toolbarextend"))
-                copy = button;
-        }
-        auto *button = qobject_cast<MRDropButton *>(row(host)->widgetForAction(action(host, "m")));
-        QVERIFY(button && copy && copy != button);
-
-        action(host, "two")->trigger();
-        QCOMPARE(button->text(), QStringLiteral("Two   "));
-        QCOMPARE(copy->text(), QStringLiteral("    Two"));
-        host.setChecked("two", false);
-        QVERIFY(!button->isChecked() && !copy->isChecked());
-        host.setChecked("two", true);
-        QVERIFY(button->isChecked() && copy->isChecked());
-        host.setVisible("two", false);
-        QCOMPARE(copy->GetCurrentAction(), action(host, "one"));
-        host.setUsable("m", false);
-        QVERIFY(!button->isEnabled() && !copy->isEnabled());
-        host.setVisible("m", false);
-        QVERIFY(copy->isHidden());
-        host.setVisible("m", true);
-        host.setUsable("m", true);
-        QVERIFY(copy->isEnabled() && !copy->isHidden() && button->isEnabled());
     }
 };
 

@@ -1,3 +1,4 @@
+#include "tests/support/Menus.h"
 #include "tests/support/TestHost.h"
 
 #include <QFileInfo>
@@ -33,9 +34,7 @@ QString recentSection(const QString &items)
 void choose(QMenu *menu, QAction *entry, QMenu *subMenu)
 {
     if (menu->actions().contains(entry)) {
-        const QPoint place = menu->actionGeometry(entry).center();
-        QTest::mouseMove(menu, place);
-        QTest::mouseClick(menu, Qt::LeftButton, {}, place);
+        clickEntry(menu, entry);
         return;
     }
     menu->setActiveAction(subMenu->menuAction());
@@ -104,7 +103,7 @@ private Q_SLOTS:
             host.show();
             const QSignalSpy active(&host.facade(), &MRToolBar::DoActive);
             whenMenuPops([&](QMenu *menu) {
-                choose(menu, host.toolBar()->GetActionInTotal(name), host.find<QMenu>("menu_help"));
+                choose(menu, host.action(name), host.find<QMenu>("menu_help"));
             });
             host.click("menu_file");
             QCOMPARE(TestHost::texts(active), QStringList(name));

@@ -1,4 +1,6 @@
-#include "support/CheckDocuments.h"
+#include "tests/support/CheckDocuments.h"
+#include "tests/support/TestDocuments.h"
+#include "tests/support/TestHost.h"
 #include "tools/check/DescriptionCheck.h"
 #include "tools/check/Report.h"
 
@@ -13,27 +15,6 @@
 
 using namespace CheckDocuments;
 
-/** What an author is told of a description. */
-class CheckTest : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void shouldFindFault_data();
-    void shouldFindFault();
-    void shouldAcceptWhatIsInOrder_data();
-    void shouldAcceptWhatIsInOrder();
-    void shippedDescriptionsShouldPass_data();
-    void shippedDescriptionsShouldPass();
-    void shouldPointAtTheAttribute();
-    void shouldLookIconsUpInTheChosenSkin();
-    void shouldSurviveDeepNesting();
-
-    void toolShouldTellByItsExitCode_data();
-    void toolShouldTellByItsExitCode();
-    void toolShouldWriteJson();
-};
-
 namespace {
 
 QStringList summary(const QVector<Finding> &findings)
@@ -44,6 +25,11 @@ QStringList summary(const QVector<Finding> &findings)
                          .arg(Report::severityName(finding.severity), finding.id,
                               QString::number(finding.line)));
     return lines;
+}
+
+QString skinName(int skin)
+{
+    return skin == lum ? QStringLiteral("lum") : QStringLiteral("marodi");
 }
 
 QVector<Finding> withoutNotes(QVector<Finding> findings)
@@ -175,194 +161,204 @@ constexpr Fault menuFaults[]{
 
 } // namespace
 
-void CheckTest::shouldFindFault_data()
+/** What an author is told of a description. */
+class CheckTest : public QObject
 {
-    QTest::addColumn<QByteArray>("description");
-    QTest::addColumn<QString>("finding");
-    const auto add = [](const Fault &fault, const QByteArray &description) {
-        const QByteArray name = fault.finding + QByteArray(": ") + fault.text;
-        QTest::newRow(name.simplified().constData())
-            << description << QString::fromLatin1(fault.finding);
-    };
-    for (const Fault &fault : documentFaults)
-        add(fault, fault.text);
-    for (const Fault &fault : sectionFaults)
-        add(fault, document(fault.text));
-    for (const Fault &fault : rowFaults)
-        add(fault, row(fault.text));
-    for (const Fault &fault : extraFaults)
-        add(fault, row("<extra usable='true'>" + QByteArray(fault.text) + "</extra>", scalable));
-    for (const Fault &fault : menuFaults)
-        add(fault, menu(fault.text));
-}
+    Q_OBJECT
 
-void CheckTest::shouldFindFault()
-{
-    QFETCH(QByteArray, description);
-    QFETCH(QString, finding);
+private Q_SLOTS:
+    void shouldFindFault_data()
+    {
+        QTest::addColumn<QByteArray>("description");
+        QTest::addColumn<QString>("finding");
+        const auto add = [](const Fault &fault, const QByteArray &description) {
+            const QByteArray name = fault.finding + QByteArray(": ") + fault.text;
+            QTest::newRow(name.simplified().constData())
+                << description << QString::fromLatin1(fault.finding);
+        };
+        for (const Fault &fault : documentFaults)
+            add(fault, fault.text);
+        for (const Fault &fault : sectionFaults)
+            add(fault, document(fault.text));
+        for (const Fault &fault : rowFaults)
+            add(fault, row(fault.text));
+        for (const Fault &fault : extraFaults)
+            add(fault,
+                row("<extra usable='true'>" + QByteArray(fault.text) + "</extra>", scalable));
+        for (const Fault &fault : menuFaults)
+            add(fault, menu(fault.text));
+    }
 
-    QCOMPARE(summary(checkDescription(description)), QStringList(finding));
-}
+    void shouldFindFault()
+    {
+        QFETCH(QByteArray, description);
+        QFETCH(QString, finding);
 
-void CheckTest::shouldAcceptWhatIsInOrder_data()
-{
-    QTest::addColumn<QByteArray>("description");
+        QCOMPARE(summary(checkDescription(description)), QStringList(finding));
+    }
 
-    QTest::newRow("byte-order mark") << "\xEF\xBB\xBF" + document({});
-    QTest::newRow("comment") << row("<!-- <separator/> -->");
-    QTest::newRow("schema for editors")
-        << QByteArray("<uiconfig prefix='' xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' "
-                      "xsi:noNamespaceSchemaLocation='uiconfig.xsd'/>");
-    QTest::newRow("entities")
-        << "<!DOCTYPE uiconfig [<!ENTITY e \"<button action='a' text='A'/>\">]>"
-               + row("<button action='b' text='&lt;&#65;'/>&e;");
-    QTest::newRow("defaults spelled out")
-        << row("<button action='a' visible='true' checkable='false'/>");
-    QTest::newRow("separator") << row("<sperator/>");
-    QTest::newRow("menu with an own entry")
-        << row("<menu name='m' index='1'><menuitem action='a'/></menu>");
-    QTest::newRow("group across menus and rows")
-        << row("<button action='a' group='g' checkable='true'/><menu name='m'>"
-               "<menuitem action='b' group='g' checkable='true' checked='true'/></menu>");
-    QTest::newRow("different keys")
-        << menu("<menuitem action='a' shortcut='Ctrl+O'/><menuitem action='b' shortcut='F11'/>");
-    QTest::newRow("entry of a box named like a button")
-        << row("<button action='a'/><combobox action='b'><item action='a'/></combobox>");
-    QTest::newRow("recent files") << menu("<menu name='f_openrecent'><menuitem action='no_file'/>"
-                                          "<menuitem action='f_clearhistory'/></menu>");
-    QTest::newRow("extra search field")
-        << row("<extra usable='true'><lineedit name='gis'><button name='gis_next'/></lineedit>"
-               "</extra>",
-               scalable);
-}
+    void shouldAcceptWhatIsInOrder_data()
+    {
+        QTest::addColumn<QByteArray>("description");
 
-void CheckTest::shouldAcceptWhatIsInOrder()
-{
-    QFETCH(QByteArray, description);
+        QTest::newRow("byte-order mark") << "\xEF\xBB\xBF" + document({});
+        QTest::newRow("comment") << row("<!-- <separator/> -->");
+        QTest::newRow("schema for editors") << QByteArray(
+            "<uiconfig prefix='' xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' "
+            "xsi:noNamespaceSchemaLocation='uiconfig.xsd'/>");
+        QTest::newRow("entities")
+            << "<!DOCTYPE uiconfig [<!ENTITY e \"<button action='a' text='A'/>\">]>"
+                   + row("<button action='b' text='&lt;&#65;'/>&e;");
+        QTest::newRow("defaults spelled out")
+            << row("<button action='a' visible='true' checkable='false'/>");
+        QTest::newRow("separator") << row("<sperator/>");
+        QTest::newRow("menu with an own entry")
+            << row("<menu name='m' index='1'><menuitem action='a'/></menu>");
+        QTest::newRow("group across menus and rows")
+            << row("<button action='a' group='g' checkable='true'/><menu name='m'>"
+                   "<menuitem action='b' group='g' checkable='true' checked='true'/></menu>");
+        QTest::newRow("different keys") << menu(
+            "<menuitem action='a' shortcut='Ctrl+O'/><menuitem action='b' shortcut='F11'/>");
+        QTest::newRow("entry of a box named like a button")
+            << row("<button action='a'/><combobox action='b'><item action='a'/></combobox>");
+        QTest::newRow("recent files")
+            << menu("<menu name='f_openrecent'><menuitem action='no_file'/>"
+                    "<menuitem action='f_clearhistory'/></menu>");
+        QTest::newRow("extra search field")
+            << row("<extra usable='true'><lineedit name='gis'><button name='gis_next'/></lineedit>"
+                   "</extra>",
+                   scalable);
+    }
 
-    QCOMPARE(summary(checkDescription(description)), QStringList());
-}
+    void shouldAcceptWhatIsInOrder()
+    {
+        QFETCH(QByteArray, description);
 
-void CheckTest::shippedDescriptionsShouldPass_data()
-{
-    addShipped();
-}
+        QCOMPARE(summary(checkDescription(description)), QStringList());
+    }
 
-void CheckTest::shippedDescriptionsShouldPass()
-{
-    QFETCH(QString, skin);
-    QFETCH(QString, path);
+    void shippedDescriptionsShouldPass_data() { TestDocuments::addShipped(); }
 
-    const QVector<Finding> findings = checkDescription(content(path), {skin});
-    QVERIFY2(!findings.isEmpty(), "The documents have their oddities");
-    QCOMPARE(summary(withoutNotes(findings)), QStringList());
-}
+    void shippedDescriptionsShouldPass()
+    {
+        QFETCH(int, skin);
+        QFETCH(QString, path);
 
-void CheckTest::shouldPointAtTheAttribute()
-{
-    const QVector<Finding> findings = checkDescription(
-        row("<button action='a' text='1 &gt; 0 / 2'\r\n        icon='icon24/FitPage.svg'\r\n"
-            "\ttolltip='x'/>"));
-    QCOMPARE(findings.size(), 1);
-    QCOMPARE(findings.first().line, 5);
-    QCOMPARE(findings.first().column, 2);
-    QVERIFY2(findings.first().message.contains(QLatin1String("did you mean 'tooltip'?")),
-             qPrintable(findings.first().message));
-}
+        const QVector<Finding> findings =
+            checkDescription(TestDocuments::content(path), {skinName(skin)});
+        QVERIFY2(!findings.isEmpty(), "The documents have their oddities");
+        QCOMPARE(summary(withoutNotes(findings)), QStringList());
+    }
 
-void CheckTest::shouldLookIconsUpInTheChosenSkin()
-{
-    const QByteArray description = row("<button action='a' icon='more-white.svg'/>");
-    QCOMPARE(summary(checkDescription(description, {QStringLiteral("marodi")})), QStringList());
-    QCOMPARE(summary(checkDescription(description, {QStringLiteral("lum")})),
-             QStringList(QStringLiteral("warning icon-missing 3")));
+    void shouldPointAtTheAttribute()
+    {
+        const QVector<Finding> findings = checkDescription(
+            row("<button action='a' text='1 &gt; 0 / 2'\r\n        icon='icon24/FitPage.svg'\r\n"
+                "\ttolltip='x'/>"));
+        QCOMPARE(findings.size(), 1);
+        QCOMPARE(findings.first().line, 5);
+        QCOMPARE(findings.first().column, 2);
+        QVERIFY2(findings.first().message.contains(QLatin1String("did you mean 'tooltip'?")),
+                 qPrintable(findings.first().message));
+    }
 
-    // The action has its icon from the row, which is built first.
-    const QStringList found = summary(
-        checkDescription(content(shippedPath(QStringLiteral("marodi"), QStringLiteral("debug")))));
-    QCOMPARE(found.filter(QStringLiteral("icon-missing")),
-             QStringList(QStringLiteral("note icon-missing-shared 63")));
-}
+    void shouldLookIconsUpInTheChosenSkin()
+    {
+        const QByteArray description = row("<button action='a' icon='more-white.svg'/>");
+        QCOMPARE(summary(checkDescription(description, {QStringLiteral("marodi")})), QStringList());
+        QCOMPARE(summary(checkDescription(description, {QStringLiteral("lum")})),
+                 QStringList(QStringLiteral("warning icon-missing 3")));
 
-void CheckTest::shouldSurviveDeepNesting()
-{
-    constexpr int depth = 10000;
-    QByteArray entries;
-    for (int i = 0; i < depth; ++i)
-        entries += "<menu name='m" + QByteArray::number(i) + "'>";
-    entries += "<menuitem action='a' oops=''/>" + QByteArray("</menu>").repeated(depth);
-    QCOMPARE(summary(checkDescription(menu(entries))),
-             QStringList(QStringLiteral("warning unknown-attribute 3")));
-}
+        // The action has its icon from the row, which is built first.
+        const QByteArray shipped =
+            TestDocuments::content(TestDocuments::shippedPath("marodi/mr_toolbar.debug.xml"));
+        const QStringList found = summary(checkDescription(shipped));
+        QCOMPARE(found.filter(QStringLiteral("icon-missing")),
+                 QStringList(QStringLiteral("note icon-missing-shared 63")));
+    }
 
-void CheckTest::toolShouldTellByItsExitCode_data()
-{
-    QTest::addColumn<QStringList>("options");
-    QTest::addColumn<QByteArray>("description");
-    QTest::addColumn<int>("exitCode");
-    QTest::addColumn<QByteArray>("output");
+    void shouldSurviveDeepNesting()
+    {
+        constexpr int depth = 10000;
+        QByteArray entries;
+        for (int i = 0; i < depth; ++i)
+            entries += "<menu name='m" + QByteArray::number(i) + "'>";
+        entries += "<menuitem action='a' oops=''/>" + QByteArray("</menu>").repeated(depth);
+        QCOMPARE(summary(checkDescription(menu(entries))),
+                 QStringList(QStringLiteral("warning unknown-attribute 3")));
+    }
 
-    const QByteArray withNote = row("<button action='a' output='b'/>");
-    const QByteArray withWarning = row("<button action='a' Text='b'/>");
-    const auto add = [](const char *name, const QString &options, const QByteArray &description,
-                        int exitCode, const QByteArray &output) {
-        QTest::newRow(name) << options.split(QLatin1Char(' '), Qt::SkipEmptyParts) << description
-                            << exitCode << output;
-    };
-    add("clean", QStringLiteral("-"), document({}), 0, "");
-    add("note", QStringLiteral("-"), withNote, 0, "");
-    add("wanted note", QStringLiteral("--notes -"), withNote, 1, "-:3:20: note: ");
-    add("warning", QStringLiteral("-"), withWarning, 1, "-:3:20: warning: ");
-    add("warning as error", QStringLiteral("--werror -"), withWarning, 1, "-:3:20: error: ");
-    add("no file", QString(), {}, 2, "");
-    add("absent file", QStringLiteral("absent.xml"), {}, 2, "");
-    add("absent file and clean one", QStringLiteral("absent.xml -"), document({}), 2, "");
-    add("unknown option", QStringLiteral("--oops -"), {}, 2, "");
-    add("absent resources", QStringLiteral("--resources absent.rcc -"), {}, 2, "");
-    add("unknown skin", QStringLiteral("--skin blue -"), {}, 2, "");
-    add("help", QStringLiteral("--help"), {}, 0, "Usage: ");
-    add("version", QStringLiteral("--version"), {}, 0, "mrtoolbar-check ");
-}
+    void toolShouldTellByItsExitCode_data()
+    {
+        QTest::addColumn<QStringList>("options");
+        QTest::addColumn<QByteArray>("description");
+        QTest::addColumn<int>("exitCode");
+        QTest::addColumn<QByteArray>("output");
 
-void CheckTest::toolShouldTellByItsExitCode()
-{
-    QFETCH(QStringList, options);
-    QFETCH(QByteArray, description);
-    QFETCH(int, exitCode);
-    QFETCH(QByteArray, output);
+        const QByteArray withNote = row("<button action='a' output='b'/>");
+        const QByteArray withWarning = row("<button action='a' Text='b'/>");
+        const auto add = [](const char *name, const QString &options, const QByteArray &description,
+                            int exitCode, const QByteArray &output) {
+            QTest::newRow(name) << options.split(QLatin1Char(' '), Qt::SkipEmptyParts)
+                                << description << exitCode << output;
+        };
+        add("clean", QStringLiteral("-"), document({}), 0, "");
+        add("note", QStringLiteral("-"), withNote, 0, "");
+        add("wanted note", QStringLiteral("--notes -"), withNote, 1, "-:3:20: note: ");
+        add("warning", QStringLiteral("-"), withWarning, 1, "-:3:20: warning: ");
+        add("warning as error", QStringLiteral("--werror -"), withWarning, 1, "-:3:20: error: ");
+        add("no file", QString(), {}, 2, "");
+        add("absent file", QStringLiteral("absent.xml"), {}, 2, "");
+        add("absent file and clean one", QStringLiteral("absent.xml -"), document({}), 2, "");
+        add("unknown option", QStringLiteral("--oops -"), {}, 2, "");
+        add("absent resources", QStringLiteral("--resources absent.rcc -"), {}, 2, "");
+        add("unknown skin", QStringLiteral("--skin blue -"), {}, 2, "");
+        add("help", QStringLiteral("--help"), {}, 0, "Usage: ");
+        add("version", QStringLiteral("--version"), {}, 0, "mrtoolbar-check ");
+    }
 
-    const ToolResult result = runTool(options, description);
-    QCOMPARE(result.exitCode, exitCode);
-    QVERIFY2(output.isEmpty() ? result.output.isEmpty() : result.output.startsWith(output),
-             result.output.constData());
-    // One clear line, and only where something is wrong with the call.
-    QCOMPARE(int(result.error.count('\n')), exitCode == 2 ? 1 : 0);
-}
+    void toolShouldTellByItsExitCode()
+    {
+        QFETCH(QStringList, options);
+        QFETCH(QByteArray, description);
+        QFETCH(int, exitCode);
+        QFETCH(QByteArray, output);
 
-void CheckTest::toolShouldWriteJson()
-{
-    QTemporaryDir folder;
-    QFile file(folder.filePath(QStringLiteral("\"quoted\".xml")));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(row("<button/>"));
-    file.close();
+        const ToolResult result = runTool(options, description);
+        QCOMPARE(result.exitCode, exitCode);
+        QVERIFY2(output.isEmpty() ? result.output.isEmpty() : result.output.startsWith(output),
+                 result.output.constData());
+        // One clear line, and only where something is wrong with the call.
+        QCOMPARE(int(result.error.count('\n')), exitCode == 2 ? 1 : 0);
+    }
 
-    const ToolResult result = runTool({QStringLiteral("--json"), file.fileName()});
-    QCOMPARE(result.exitCode, 1);
-    const QJsonArray findings = QJsonDocument::fromJson(result.output).array();
-    QCOMPARE(findings.size(), 1);
-    const QJsonObject finding = findings.first().toObject();
-    QCOMPARE(finding.value(QLatin1String("file")).toString(), file.fileName());
-    QCOMPARE(finding.value(QLatin1String("line")).toInt(), 3);
-    QCOMPARE(finding.value(QLatin1String("column")).toInt(), 1);
-    QCOMPARE(finding.value(QLatin1String("severity")).toString(), QStringLiteral("error"));
-    QCOMPARE(finding.value(QLatin1String("id")).toString(), QStringLiteral("no-attributes"));
-    QVERIFY(finding.value(QLatin1String("message")).toString().contains(QLatin1String("'button'")));
+    void toolShouldWriteJson()
+    {
+        QTemporaryDir folder;
+        QFile file(folder.filePath(QStringLiteral("\"quoted\".xml")));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(row("<button/>"));
+        file.close();
 
-    const ToolResult clean = runTool({QStringLiteral("--json"), QStringLiteral("-")}, document({}));
-    QCOMPARE(clean.exitCode, 0);
-    QVERIFY(QJsonDocument::fromJson(clean.output).isArray());
-}
+        const ToolResult result = runTool({QStringLiteral("--json"), file.fileName()});
+        QCOMPARE(result.exitCode, 1);
+        const QJsonArray findings = QJsonDocument::fromJson(result.output).array();
+        QCOMPARE(findings.size(), 1);
+        const QJsonObject finding = findings.first().toObject();
+        QCOMPARE(finding.value(QLatin1String("file")).toString(), file.fileName());
+        QCOMPARE(finding.value(QLatin1String("line")).toInt(), 3);
+        QCOMPARE(finding.value(QLatin1String("column")).toInt(), 1);
+        QCOMPARE(finding.value(QLatin1String("severity")).toString(), QStringLiteral("error"));
+        QCOMPARE(finding.value(QLatin1String("id")).toString(), QStringLiteral("no-attributes"));
+        QVERIFY(
+            finding.value(QLatin1String("message")).toString().contains(QLatin1String("'button'")));
+
+        const ToolResult clean =
+            runTool({QStringLiteral("--json"), QStringLiteral("-")}, document({}));
+        QCOMPARE(clean.exitCode, 0);
+        QVERIFY(QJsonDocument::fromJson(clean.output).isArray());
+    }
+};
 
 QTEST_MAIN(CheckTest)
 #include "tst_check.moc"

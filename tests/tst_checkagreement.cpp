@@ -1,12 +1,12 @@
-#include "support/CheckDocuments.h"
-#include "support/TestHost.h"
+#include "tests/support/CheckDocuments.h"
+#include "tests/support/TestDocuments.h"
+#include "tests/support/TestHost.h"
 #include "toolbar/description/Controller.h"
 #include "toolbar/description/DescriptionParser.h"
 #include "toolbar/widgets/MRDropButton.h"
 #include "tools/check/DescriptionCheck.h"
 #include "tools/check/SkinIcons.h"
 #include "tools/check/SourceDocument.h"
-#include "tools/check/Vocabulary.h"
 
 #include <QAction>
 #include <QComboBox>
@@ -18,23 +18,6 @@
 #include <algorithm>
 
 using namespace CheckDocuments;
-
-/** That the description check tells what the parser reads and what the toolbar builds. */
-class CheckAgreementTest : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void shouldReadAsTheParserDoes_data();
-    void shouldReadAsTheParserDoes();
-    void shouldKnowTheAttributesOfTheParser();
-    void shouldRefuseTheXmlThatTheHostRefuses_data();
-    void shouldRefuseTheXmlThatTheHostRefuses();
-    void toolbarShouldLeaveOutWhatIsAnError_data();
-    void toolbarShouldLeaveOutWhatIsAnError();
-    void toolbarShouldFindTheSameIcons();
-    void toolbarShouldDoWhatTheWarningsSay();
-};
 
 namespace {
 
@@ -65,163 +48,157 @@ void compareRecords(const QList<Controller *> &records, const QVector<int> &elem
 
 } // namespace
 
-void CheckAgreementTest::shouldReadAsTheParserDoes_data()
+/** That the description check tells what the parser reads and what the toolbar builds. */
+class CheckAgreementTest : public QObject
 {
-    addShipped();
-    QTest::newRow("showcase") << QString() << QStringLiteral(SHOWCASE);
-}
+    Q_OBJECT
 
-void CheckAgreementTest::shouldReadAsTheParserDoes()
-{
-    QFETCH(QString, path);
+private Q_SLOTS:
+    void shouldReadAsTheParserDoes_data() { TestDocuments::addAll(); }
 
-    QDomDocument parsed;
-    QVERIFY(parsed.setContent(content(path)));
-    const SourceDocument source = readDocument(content(path));
-    QVERIFY(!source.fault);
-    const QVector<int> sections = source.elements.front().children;
-    QCOMPARE(sections.size(), 5);
+    void shouldReadAsTheParserDoes()
+    {
+        QFETCH(QString, path);
 
-    QDomElement section = parsed.documentElement().firstChildElement();
-    for (const int index : sections) {
-        QList<Controller *> records;
-        ParseXMLElement(&section, &records);
-        QVERIFY(!records.isEmpty());
-        compareRecords(records, source.at(index).children, source);
-        DeleteUnitControl(&records);
-        section = section.nextSiblingElement();
+        const QDomDocument parsed = TestDocuments::read(path);
+        const SourceDocument source = readDocument(TestDocuments::content(path));
+        QVERIFY(!source.fault);
+        const QVector<int> sections = source.elements.front().children;
+        QCOMPARE(sections.size(), 5);
+
+        QDomElement section = parsed.documentElement().firstChildElement();
+        for (const int index : sections) {
+            QList<Controller *> records;
+            ParseXMLElement(&section, &records);
+            QVERIFY(!records.isEmpty());
+            compareRecords(records, source.at(index).children, source);
+            DeleteUnitControl(&records);
+            section = section.nextSiblingElement();
+        }
     }
-}
 
-void CheckAgreementTest::shouldKnowTheAttributesOfTheParser()
-{
-    for (const QString &name : Vocabulary::attributes())
-        QVERIFY2(Vocabulary::attributeKind(name) != Vocabulary::AttributeKind::Unknown,
-                 qPrintable(name));
-    QCOMPARE(Vocabulary::attributeKind(QStringLiteral("min_width")),
-             Vocabulary::AttributeKind::Unknown);
-    QCOMPARE(Vocabulary::attributeKind(QStringLiteral("visible")),
-             Vocabulary::AttributeKind::FalseOnly);
-    QCOMPARE(Vocabulary::attributeKind(QStringLiteral("checked")),
-             Vocabulary::AttributeKind::TrueOnly);
-}
+    void shouldRefuseTheXmlThatTheHostRefuses_data()
+    {
+        QTest::addColumn<QByteArray>("description");
+        QTest::addColumn<bool>("isAccepted");
 
-void CheckAgreementTest::shouldRefuseTheXmlThatTheHostRefuses_data()
-{
-    QTest::addColumn<QByteArray>("description");
-    QTest::addColumn<bool>("isAccepted");
-
-    QTest::newRow("fine") << document({}) << true;
-    QTest::newRow("declared") << "<?xml version='1.0' encoding='UTF-8'?>" + document({}) << true;
-    QTest::newRow("nothing") << QByteArray() << false;
-    QTest::newRow("ampersand") << menu("<menuitem text='Open(&O)'/>") << false;
-    QTest::newRow("no quotes") << menu("<menuitem action=a/>") << false;
-    QTest::newRow("two roots") << document({}) + document({}) << false;
-    QTest::newRow("crossed tags") << row("<menu name='a'><button></menu></button>") << false;
-}
-
-void CheckAgreementTest::shouldRefuseTheXmlThatTheHostRefuses()
-{
-    QFETCH(QByteArray, description);
-    QFETCH(bool, isAccepted);
-
-    QCOMPARE(!readDocument(description).fault.has_value(), isAccepted);
-    QCOMPARE(bool(QDomDocument().setContent(description)), isAccepted);
-}
-
-void CheckAgreementTest::toolbarShouldLeaveOutWhatIsAnError_data()
-{
-    QTest::addColumn<QByteArray>("description");
-    QTest::addColumn<bool>("isBuilt");
-
-    const QByteArray button = "<button action='wanted' text='Wanted'/>";
-    const QByteArray extra = "<extra usable='true'><label name='wanted'/></extra>";
-    QTest::newRow("in place") << row(button) << true;
-    QTest::newRow("wrong element") << row("<menuitem action='wanted'/>") << false;
-    QTest::newRow("below a button") << row("<button action='a'>" + button + "</button>") << false;
-    QTest::newRow("extra group") << row(extra, scalable) << true;
-    QTest::newRow("idle extra group") << row(extra) << false;
-    QTest::newRow("third menu") << document(
-        "<toolbar_appbutton><menu name='a'/><menu name='b'/><menu name='wanted'/>"
-        "</toolbar_appbutton>") << false;
-    QTest::newRow("unknown section")
-        << document("<toolbar_additional>" + button + "</toolbar_additional>") << false;
-    QTest::newRow("known section")
-        << document("<toolbar_addtional>" + button + "</toolbar_addtional>") << true;
-    QTest::newRow("tab all the same")
-        << document("<toolbar_tabbar><button name='wanted' checkable='true' checked='true'/>"
-                    "</toolbar_tabbar>")
-        << true;
-    QTest::newRow("search field alone")
-        << document("<toolbar_searchbar><lineedit action='wanted'/></toolbar_searchbar>") << false;
-    QTest::newRow("no prefix") << row(button).replace(" prefix=\"\"", "") << false;
-}
-
-void CheckAgreementTest::toolbarShouldLeaveOutWhatIsAnError()
-{
-    QFETCH(QByteArray, description);
-    QFETCH(bool, isBuilt);
-
-    QDomDocument parsed;
-    QVERIFY(parsed.setContent(description));
-    QMainWindow window;
-    QDomElement root = parsed.documentElement();
-    const MRToolBar toolBar(&window, root, {}, ToolBarLeft);
-    QCOMPARE(window.findChild<QObject *>(QStringLiteral("wanted")) != nullptr, isBuilt);
-
-    const QVector<Finding> findings = checkDescription(description);
-    const bool hasErrors = std::any_of(findings.begin(), findings.end(), [](const Finding &one) {
-        return one.severity == Severity::Error;
-    });
-    QCOMPARE(hasErrors, !isBuilt);
-}
-
-void CheckAgreementTest::toolbarShouldFindTheSameIcons()
-{
-    const QStringList names{
-        QStringLiteral("icon24/FitPage.svg"), QStringLiteral("FitPage.svg"),
-        QStringLiteral("more-white.svg"),     QStringLiteral("/icon24/FitPage.svg"),
-        QStringLiteral("icon24/fitpage.svg"), QStringLiteral("icon24/revision_moveout.png")};
-    for (const int style : {marodi, lum}) {
-        const SkinChoice skin(style);
-        const TestHost host({});
-        for (const QString &name : names)
-            QCOMPARE(SkinIcons::exists(SkinIcons::skins().at(style), name),
-                     !host.toolBar()->GetIconPath(name).isEmpty());
+        QTest::newRow("fine") << document({}) << true;
+        QTest::newRow("declared") << "<?xml version='1.0' encoding='UTF-8'?>" + document({})
+                                  << true;
+        QTest::newRow("nothing") << QByteArray() << false;
+        QTest::newRow("ampersand") << menu("<menuitem text='Open(&O)'/>") << false;
+        QTest::newRow("no quotes") << menu("<menuitem action=a/>") << false;
+        QTest::newRow("two roots") << document({}) + document({}) << false;
+        QTest::newRow("crossed tags") << row("<menu name='a'><button></menu></button>") << false;
     }
-}
 
-void CheckAgreementTest::toolbarShouldDoWhatTheWarningsSay()
-{
-    TestHost host(QStringLiteral(
-        "<toolbar_tabbar><tabbutton name='t' checkable='true' checked='true'>"
-        "<combobox action='box' index='2'><item action='one' text='1'/></combobox>"
-        "<menu name='drop' text='Own' index='2'><menuitem action='two' text='2'/></menu>"
-        "<button action='solo' group='g' checkable='true' checked='true'/>"
-        "<button action='plain' checked='true'/>"
-        "<button action='same' text='First'/><button action='same' text='Second'/>"
-        "</tabbutton><tabbutton name='u' checkable='true' checked='true'/></toolbar_tabbar>"));
+    void shouldRefuseTheXmlThatTheHostRefuses()
+    {
+        QFETCH(QByteArray, description);
+        QFETCH(bool, isAccepted);
 
-    // index-out-of-range
-    QCOMPARE(host.find<QComboBox>(QStringLiteral("box"))->currentIndex(), -1);
-    QVERIFY(!host.find<MRDropButton>(QStringLiteral("drop"))->GetCurrentAction());
-    // group-of-one, checked-not-checkable
-    auto *solo = host.find<QAction>(QStringLiteral("solo"));
-    solo->trigger();
-    solo->trigger();
-    QVERIFY(solo->isChecked());
-    QVERIFY(!host.find<QAction>(QStringLiteral("plain"))->isCheckable());
-    // shared-action-differs
-    QCOMPARE(host.find<QAction>(QStringLiteral("same"))->text(), QStringLiteral("First"));
-    QCOMPARE(host.window().findChildren<QAction *>(QStringLiteral("same")).size(), 1);
-    // checked-tabs
-    QCOMPARE(host.find<QStackedWidget>(QStringLiteral("tabwidget"))->currentIndex(), 1);
+        QCOMPARE(!readDocument(description).fault.has_value(), isAccepted);
+        QCOMPARE(bool(QDomDocument().setContent(description)), isAccepted);
+    }
 
-    // no-checked-tab
-    const TestHost unchecked(QStringLiteral("<toolbar_tabbar><tabbutton name='t' checkable='true'>"
-                                            "<button action='a'/></tabbutton></toolbar_tabbar>"));
-    QVERIFY(unchecked.find<QToolBar>(QStringLiteral("t"))->actions().isEmpty());
-}
+    void toolbarShouldLeaveOutWhatIsAnError_data()
+    {
+        QTest::addColumn<QByteArray>("description");
+        QTest::addColumn<bool>("isBuilt");
+
+        const QByteArray button = "<button action='wanted' text='Wanted'/>";
+        const QByteArray extra = "<extra usable='true'><label name='wanted'/></extra>";
+        QTest::newRow("in place") << row(button) << true;
+        QTest::newRow("wrong element") << row("<menuitem action='wanted'/>") << false;
+        QTest::newRow("below a button")
+            << row("<button action='a'>" + button + "</button>") << false;
+        QTest::newRow("extra group") << row(extra, scalable) << true;
+        QTest::newRow("idle extra group") << row(extra) << false;
+        QTest::newRow("third menu")
+            << document("<toolbar_appbutton><menu name='a'/><menu name='b'/><menu name='wanted'/>"
+                        "</toolbar_appbutton>")
+            << false;
+        QTest::newRow("unknown section")
+            << document("<toolbar_additional>" + button + "</toolbar_additional>") << false;
+        QTest::newRow("known section")
+            << document("<toolbar_addtional>" + button + "</toolbar_addtional>") << true;
+        QTest::newRow("tab all the same")
+            << document("<toolbar_tabbar><button name='wanted' checkable='true' checked='true'/>"
+                        "</toolbar_tabbar>")
+            << true;
+        QTest::newRow("search field alone")
+            << document("<toolbar_searchbar><lineedit action='wanted'/></toolbar_searchbar>")
+            << false;
+        QTest::newRow("no prefix") << row(button).replace(" prefix=\"\"", "") << false;
+    }
+
+    void toolbarShouldLeaveOutWhatIsAnError()
+    {
+        QFETCH(QByteArray, description);
+        QFETCH(bool, isBuilt);
+
+        QDomDocument parsed;
+        QVERIFY(parsed.setContent(description));
+        QMainWindow window;
+        QDomElement root = parsed.documentElement();
+        const MRToolBar toolBar(&window, root, {}, ToolBarLeft);
+        QCOMPARE(window.findChild<QObject *>(QStringLiteral("wanted")) != nullptr, isBuilt);
+
+        const QVector<Finding> findings = checkDescription(description);
+        const bool hasErrors =
+            std::any_of(findings.begin(), findings.end(),
+                        [](const Finding &one) { return one.severity == Severity::Error; });
+        QCOMPARE(hasErrors, !isBuilt);
+    }
+
+    void toolbarShouldFindTheSameIcons()
+    {
+        const QStringList names{
+            QStringLiteral("icon24/FitPage.svg"), QStringLiteral("FitPage.svg"),
+            QStringLiteral("more-white.svg"),     QStringLiteral("/icon24/FitPage.svg"),
+            QStringLiteral("icon24/fitpage.svg"), QStringLiteral("icon24/revision_moveout.png")};
+        for (const int style : {marodi, lum}) {
+            const SkinChoice skin(style);
+            const TestHost host({});
+            for (const QString &name : names)
+                QCOMPARE(SkinIcons::exists(SkinIcons::skins().at(style), name),
+                         !host.toolBar()->GetIconPath(name).isEmpty());
+        }
+    }
+
+    void toolbarShouldDoWhatTheWarningsSay()
+    {
+        TestHost host(QStringLiteral(
+            "<toolbar_tabbar><tabbutton name='t' checkable='true' checked='true'>"
+            "<combobox action='box' index='2'><item action='one' text='1'/></combobox>"
+            "<menu name='drop' text='Own' index='2'><menuitem action='two' text='2'/></menu>"
+            "<button action='solo' group='g' checkable='true' checked='true'/>"
+            "<button action='plain' checked='true'/>"
+            "<button action='same' text='First'/><button action='same' text='Second'/>"
+            "</tabbutton><tabbutton name='u' checkable='true' checked='true'/></toolbar_tabbar>"));
+
+        // index-out-of-range
+        QCOMPARE(host.find<QComboBox>(QStringLiteral("box"))->currentIndex(), -1);
+        QVERIFY(!host.find<MRDropButton>(QStringLiteral("drop"))->GetCurrentAction());
+        // group-of-one, checked-not-checkable
+        auto *solo = host.find<QAction>(QStringLiteral("solo"));
+        solo->trigger();
+        solo->trigger();
+        QVERIFY(solo->isChecked());
+        QVERIFY(!host.find<QAction>(QStringLiteral("plain"))->isCheckable());
+        // shared-action-differs
+        QCOMPARE(host.find<QAction>(QStringLiteral("same"))->text(), QStringLiteral("First"));
+        QCOMPARE(host.window().findChildren<QAction *>(QStringLiteral("same")).size(), 1);
+        // checked-tabs
+        QCOMPARE(host.find<QStackedWidget>(QStringLiteral("tabwidget"))->currentIndex(), 1);
+
+        // no-checked-tab
+        const TestHost unchecked(
+            QStringLiteral("<toolbar_tabbar><tabbutton name='t' checkable='true'>"
+                           "<button action='a'/></tabbutton></toolbar_tabbar>"));
+        QVERIFY(unchecked.find<QToolBar>(QStringLiteral("t"))->actions().isEmpty());
+    }
+};
 
 QTEST_MAIN(CheckAgreementTest)
 #include "tst_checkagreement.moc"

@@ -1,3 +1,4 @@
+#include "tests/support/Describe.h"
 #include "tests/support/TestHost.h"
 #include "toolbar/widgets/MRDropButton.h"
 
@@ -5,22 +6,13 @@
 
 #include <array>
 
+using namespace Describe;
+
 namespace {
-
-QString row(const QString &controls)
-{
-    return "<toolbar_tabbar><tabbutton name='t' checked='true'>" + controls
-           + "</tabbutton></toolbar_tabbar>";
-}
-
-QString button(const QString &name, const QString &attributes = "")
-{
-    return "<button action='" + name + "' text='B' " + attributes + "/>";
-}
 
 void trigger(const TestHost &host, const QString &name)
 {
-    host.toolBar()->GetActionInTotal(name)->trigger();
+    host.action(name)->trigger();
 }
 
 } // namespace

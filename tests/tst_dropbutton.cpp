@@ -1,3 +1,6 @@
+#include "tests/support/Icons.h"
+#include "tests/support/Menus.h"
+#include "tests/support/Pointer.h"
 #include "tests/support/TestHost.h"
 #include "toolbar/widgets/HoverSheets.h"
 #include "toolbar/widgets/MRDropButton.h"
@@ -8,18 +11,6 @@
 #include <memory>
 
 namespace {
-
-QIcon colouredIcon(const QColor &colour)
-{
-    QPixmap pixmap(16, 16);
-    pixmap.fill(colour);
-    return {pixmap};
-}
-
-QColor shownColour(const QToolButton *button)
-{
-    return button->icon().pixmap(16, 16).toImage().pixelColor(8, 8);
-}
 
 /** A row that is no child of a main window, with a drop button that offers three shapes. */
 class Row
@@ -103,8 +94,7 @@ class TestDropButton : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    // Away from every window, so that nothing is hovered over before the test says so.
-    void init() { QCursor::setPos(1500, 1100); }
+    void init() { movePointerAway(); }
 
     void aChosenEntryTakesTheFaceAndAClickRepeatsIt()
     {
@@ -117,7 +107,7 @@ private Q_SLOTS:
 
         fixture.line->trigger();
         QCOMPARE(button->text(), QStringLiteral("Line   "));
-        QCOMPARE(shownColour(button), QColor(Qt::red));
+        QCOMPARE(shownColour(*button), QColor(Qt::red));
         QVERIFY(button->isChecked());
         QCOMPARE(button->GetCurrentAction(), fixture.line);
 
@@ -128,7 +118,7 @@ private Q_SLOTS:
         // An entry without an icon leaves the one there is.
         fixture.plain->trigger();
         QCOMPARE(button->text(), QStringLiteral("Plain   "));
-        QCOMPARE(shownColour(button), QColor(Qt::red));
+        QCOMPARE(shownColour(*button), QColor(Qt::red));
     }
 
     void aClickOpensTheMenuWhileThereIsNothingToRepeat_data()
@@ -175,7 +165,7 @@ private Q_SLOTS:
         QCOMPARE(fixture.button()->text(), QStringLiteral("Line   "));
         QCOMPARE(fixture.copy->text(), QStringLiteral("    Line"));
         for (MRDropButton *button : {fixture.button(), fixture.copy.data()}) {
-            QCOMPARE(shownColour(button), QColor(Qt::red));
+            QCOMPARE(shownColour(*button), QColor(Qt::red));
             QVERIFY(!button->GetCurrentAction());
         }
     }
@@ -192,27 +182,18 @@ private Q_SLOTS:
         QVERIFY(!guarded);
     }
 
-    void theDefaultEntryIsShownUnchecked()
-    {
-        Row fixture;
-        fixture.action->SetAction(fixture.oval);
-        fixture.addWithCopy();
-
-        QCOMPARE(fixture.button()->text(), QStringLiteral("Oval   "));
-        QCOMPARE(fixture.copy->text(), QStringLiteral("    Oval"));
-        for (MRDropButton *button : {fixture.button(), fixture.copy.data()}) {
-            QVERIFY(button->isCheckable());
-            QVERIFY(!button->isChecked());
-            QCOMPARE(button->popupMode(), QToolButton::MenuButtonPopup);
-        }
-    }
-
     void theCopyStaysInStepWithTheRow()
     {
         Row fixture;
+        fixture.action->SetAction(fixture.line); // By default, so that nothing is checked yet.
         fixture.addWithCopy();
         MRDropButton *button = fixture.button();
-        QCOMPARE(fixture.copy->text(), QStringLiteral("   Shapes"));
+        QCOMPARE(button->text(), QStringLiteral("Line   "));
+        QCOMPARE(fixture.copy->text(), QStringLiteral("    Line"));
+        for (const MRDropButton *one : {button, fixture.copy.data()}) {
+            QVERIFY(one->isCheckable() && !one->isChecked());
+            QCOMPARE(one->popupMode(), QToolButton::MenuButtonPopup);
+        }
         QCOMPARE(button->property("position").toString(), QStringLiteral("toolbar"));
         QCOMPARE(fixture.copy->property("position").toString(), QStringLiteral("toolbarextend"));
 
@@ -240,29 +221,26 @@ private Q_SLOTS:
         Row fixture;
         fixture.addWithCopy();
         fixture.show();
-        const QList<MRDropButton *> buttons{fixture.button(), fixture.copy};
+        const auto areBoth = [&fixture](bool (QWidget::*state)() const, bool expected) {
+            return (fixture.button()->*state)() == expected && (fixture.copy->*state)() == expected;
+        };
 
         // Of a row that is disabled as a whole, too.
         fixture.row->setEnabled(false);
         fixture.action->setEnabled(false);
         fixture.row->setEnabled(true);
-        for (const MRDropButton *button : buttons)
-            QVERIFY(!button->isEnabled());
+        QVERIFY(areBoth(&QWidget::isEnabled, false));
         fixture.action->setEnabled(true);
-        for (const MRDropButton *button : buttons)
-            QVERIFY(button->isEnabled());
+        QVERIFY(areBoth(&QWidget::isEnabled, true));
         fixture.button()->setEnabled(false); // Told by itself; the action has the last word.
         fixture.action->setEnabled(true);
-        for (const MRDropButton *button : buttons)
-            QVERIFY(button->isEnabled());
+        QVERIFY(areBoth(&QWidget::isEnabled, true));
 
         fixture.action->setVisible(false);
         QVERIFY(!fixture.action->isVisible());
-        for (const MRDropButton *button : buttons)
-            QVERIFY(button->isHidden());
+        QVERIFY(areBoth(&QWidget::isHidden, true));
         fixture.action->setVisible(true);
-        for (const MRDropButton *button : buttons)
-            QTRY_VERIFY(!button->isHidden());
+        QTRY_VERIFY(areBoth(&QWidget::isHidden, false));
     }
 
     void theExtendMenuMayBeDeletedAndComeBack()
@@ -371,7 +349,7 @@ private Q_SLOTS:
         QTest::mouseMove(button, arrowOf(button) + QPoint(0, 1));
         QTRY_COMPARE(button->styleSheet(), isSplit ? arrow : body);
 
-        QCursor::setPos(1500, 1100);
+        movePointerAway();
         QTRY_VERIFY(button->styleSheet().isEmpty());
     }
 
@@ -388,7 +366,7 @@ private Q_SLOTS:
         QTest::mouseMove(&button, bodyOf(&button));
         QTRY_COMPARE(button.styleSheet(),
                      HoverSheets::dropButton(true, false, false, button.physicalDpiX() / 96.0));
-        QCursor::setPos(1500, 1100);
+        movePointerAway();
         QTRY_COMPARE(button.styleSheet(), QStringLiteral("QToolButton{height:2em;}"));
     }
 

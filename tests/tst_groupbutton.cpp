@@ -1,3 +1,5 @@
+#include "tests/support/Icons.h"
+#include "tests/support/Pointer.h"
 #include "tests/support/TestHost.h"
 #include "toolbar/widgets/HoverSheets.h"
 #include "toolbar/widgets/MRGroupButton.h"
@@ -5,28 +7,12 @@
 
 #include <QMenu>
 
-namespace {
-
-QIcon colouredIcon(const QColor &colour)
-{
-    QPixmap pixmap(16, 16);
-    pixmap.fill(colour);
-    return {pixmap};
-}
-
-QColor shownColour(const QToolButton &button)
-{
-    return button.icon().pixmap(16, 16).toImage().pixelColor(8, 8);
-}
-
-} // namespace
-
 class TestGroupButton : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { QCursor::setPos(1500, 1100); }
+    void init() { movePointerAway(); }
 
     void theOwnIconStandsInForActionsWithoutOne()
     {
@@ -92,7 +78,7 @@ private Q_SLOTS:
         QTest::mouseMove(&button, {button.width() - 4, 20});
         QTRY_COMPARE(button.styleSheet(), HoverSheets::groupButton(hasMenu, skin == lum));
 
-        QCursor::setPos(1500, 1100);
+        movePointerAway();
         QTRY_COMPARE(button.styleSheet(),
                      initial + QStringLiteral(" QToolButton:checked{background:#D3D3D3;}"));
     }

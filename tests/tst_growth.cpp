@@ -1,20 +1,10 @@
+#include "tests/support/TestDocuments.h"
 #include "tests/support/TestHost.h"
 
 #include <QApplication>
-#include <QFile>
 #include <QPixmapCache>
 
 #include <malloc.h>
-
-/** What a process keeps of the toolbars that it has had. */
-class GrowthTest : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void shouldKeepNothingOfDeadToolbars_data();
-    void shouldKeepNothingOfDeadToolbars();
-};
 
 namespace {
 
@@ -27,15 +17,6 @@ size_t bytesInUse()
     return info.uordblks + info.hblkhd;
 }
 
-QDomDocument shippedDescription(const QString &path)
-{
-    QFile file(QStringLiteral(":/mr_toolbar/Resources/") + path);
-    QDomDocument document;
-    if (!file.open(QIODevice::ReadOnly) || !document.setContent(file.readAll()))
-        qFatal("No description %s", qPrintable(path));
-    return document;
-}
-
 /** One toolbar's whole life: shown, every tab and menu opened, states set, and gone. */
 void liveOneLife(QMainWindow &window, const QDomDocument &description)
 {
@@ -45,8 +26,7 @@ void liveOneLife(QMainWindow &window, const QDomDocument &description)
     QCoreApplication::processEvents();
     const QList<QPushButton *> buttons = toolBar->findChildren<QPushButton *>();
     for (QPushButton *button : buttons) {
-        if (button->property("module").toString() == QLatin1String("tabbutton")
-            && !button->isChecked())
+        if (button->property("module") == "tabbutton" && !button->isChecked())
             button->click();
     }
     toolBar->Inner_DoDelayLoadMenuSlot();
@@ -57,50 +37,57 @@ void liveOneLife(QMainWindow &window, const QDomDocument &description)
     QCoreApplication::processEvents();
 
     delete toolBar;
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QCoreApplication::processEvents();
+    runDeferredDeletes();
 }
 
 } // namespace
 
-void GrowthTest::shouldKeepNothingOfDeadToolbars_data()
+/** What a process keeps of the toolbars that it has had. */
+class GrowthTest : public QObject
 {
-    QTest::addColumn<int>("style");
-    QTest::addColumn<QString>("description");
-    QTest::newRow("marodi") << marodi << QStringLiteral("marodi/mr_toolbar.debug.xml");
-    QTest::newRow("lum") << lum << QStringLiteral("lum/mr_toolbar.release.xml");
-}
+    Q_OBJECT
 
-void GrowthTest::shouldKeepNothingOfDeadToolbars()
-{
-    QFETCH(int, style);
-    QFETCH(QString, description);
-    const SkinChoice skin(style);
-    constexpr int warmUp = 10;
-    constexpr int toolbars = 200;
-    // The allocator's own rounding; a single lost control per toolbar would be more.
-    constexpr size_t tolerance = size_t{64} * 1024;
+private Q_SLOTS:
+    void shouldKeepNothingOfDeadToolbars_data()
+    {
+        QTest::addColumn<int>("skin");
+        QTest::addColumn<QString>("path");
+        QTest::newRow("marodi") << marodi
+                                << TestDocuments::shippedPath("marodi/mr_toolbar.debug.xml");
+        QTest::newRow("lum") << lum << TestDocuments::shippedPath("lum/mr_toolbar.release.xml");
+    }
 
-    // One window for all of them: the toolkit and the X server keep a little of every window.
-    const QDomDocument document = shippedDescription(description);
-    QMainWindow window;
-    window.resize(1300, 600);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    void shouldKeepNothingOfDeadToolbars()
+    {
+        QFETCH(int, skin);
+        QFETCH(QString, path);
+        const SkinChoice choice(skin);
+        constexpr int warmUp = 10;
+        constexpr int toolbars = 200;
+        // The allocator's own rounding; a single lost control per toolbar would be more.
+        constexpr size_t tolerance = size_t{64} * 1024;
 
-    for (int i = 0; i < warmUp; ++i)
-        liveOneLife(window, document);
-    const qsizetype widgetsBefore = QApplication::allWidgets().size();
-    const size_t bytesBefore = bytesInUse();
-    for (int i = warmUp; i < toolbars; ++i)
-        liveOneLife(window, document);
-    QCOMPARE(QApplication::allWidgets().size(), widgetsBefore);
+        // One window for all of them: the toolkit and the X server keep a little of every window.
+        const QDomDocument document = TestDocuments::read(path);
+        QMainWindow window;
+        window.resize(1300, 600);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
 
-    const size_t bytesAfter = bytesInUse();
-    qInfo("%zu bytes in use after %d toolbars, %zu after %d", bytesBefore, warmUp, bytesAfter,
-          toolbars);
-    QVERIFY2(bytesAfter < bytesBefore + tolerance, "the heap has grown");
-}
+        for (int i = 0; i < warmUp; ++i)
+            liveOneLife(window, document);
+        const qsizetype widgetsBefore = QApplication::allWidgets().size();
+        const size_t bytesBefore = bytesInUse();
+        for (int i = warmUp; i < toolbars; ++i)
+            liveOneLife(window, document);
+        QCOMPARE(QApplication::allWidgets().size(), widgetsBefore);
+
+        const size_t bytesAfter = bytesInUse();
+        qInfo("%zu bytes in use after %d toolbars, %zu after %d", bytesBefore, warmUp, bytesAfter,
+              toolbars);
+        QVERIFY2(bytesAfter < bytesBefore + tolerance, "the heap has grown");
+    }
+};
 
 QTEST_MAIN(GrowthTest)
 #include "tst_growth.moc"

@@ -1,4 +1,6 @@
+#include "tests/support/Describe.h"
 #include "tests/support/TestHost.h"
+#include "tests/support/WarningTrap.h"
 #include "toolbar/widgets/CCR_ToolTipWidget.h"
 #include "toolbar/widgets/MRDropButton.h"
 #include "toolbar/widgets/MRMainToolBar.h"
@@ -8,6 +10,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QMenu>
+#include <QScreen>
 #include <QScrollBar>
 #include <QToolBar>
 #include <QToolTip>
@@ -19,44 +22,17 @@
 using Answer = std::function<void(TestHost &)>;
 Q_DECLARE_METATYPE(Answer)
 
+using namespace Describe;
+
 namespace {
 
-const QString plainRow =
-    QStringLiteral("<toolbar_tabbar><tabbutton name='t' text='T' checkable='true' checked='true'>"
-                   "<button action='plain' text='Plain'/></tabbutton></toolbar_tabbar>");
+const QString plainRow = row(button("plain"));
 
-const QString longRow =
-    QStringLiteral("<toolbar_tabbar><tabbutton name='t' text='T' checkable='true' checked='true'>%1"
-                   "<button action='last' text='Last'/></tabbutton></toolbar_tabbar>");
-
-QString buttons(int count)
+/** A row of these controls with a plain one at the end. */
+QString rowWithLast(const QString &controls)
 {
-    QString row;
-    for (int i = 0; i < count; ++i)
-        row += QStringLiteral("<button action='b%1' text='Button'/>").arg(i);
-    return row;
+    return row(controls + button("last"));
 }
-
-QStringList warnings;
-
-void noteWarning(QtMsgType, const QMessageLogContext &, const QString &message)
-{
-    if (!message.contains(QLatin1String("This plugin does not support")))
-        warnings.append(message);
-}
-
-/** Keeps what the toolkit complains of while it lives. */
-class WarningTrap
-{
-public:
-    WarningTrap()
-    {
-        warnings.clear();
-        qInstallMessageHandler(noteWarning);
-    }
-    ~WarningTrap() { qInstallMessageHandler(nullptr); }
-    Q_DISABLE_COPY_MOVE(WarningTrap)
-};
 
 /** A description whose only application menu holds one menu inside the other. */
 QDomDocument nestedMenus(int depth)
@@ -75,12 +51,6 @@ QDomDocument nestedMenus(int depth)
     return document;
 }
 
-void runDeferredDeletes()
-{
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QCoreApplication::processEvents();
-}
-
 } // namespace
 
 /** What a careless author or host, or one of ill will, hands to the toolbar. */
@@ -94,15 +64,15 @@ private Q_SLOTS:
         constexpr int tabs = 50;
         constexpr int controlsOfATab = 1000;
         QString sections;
-        for (int tab = 0; tab < tabs; ++tab) {
-            sections += QStringLiteral("<tabbutton name='t%1' text='T' checkable='true'>").arg(tab);
+        for (int number = 0; number < tabs; ++number) {
+            QString controls;
             for (int i = 0; i < controlsOfATab; ++i)
-                sections += QStringLiteral("<button action='b%1_%2' text='B'/>").arg(tab).arg(i);
-            sections += QLatin1String("</tabbutton>");
+                controls += button(QStringLiteral("b%1_%2").arg(number).arg(i));
+            sections += tab(QStringLiteral("t%1").arg(number), controls);
         }
-        TestHost host("<toolbar_tabbar>" + sections + "</toolbar_tabbar>");
-        for (int tab = 0; tab < tabs; ++tab)
-            host.find<QAbstractButton>(QStringLiteral("t%1").arg(tab))->click();
+        TestHost host(section("tabbar", sections));
+        for (int number = 0; number < tabs; ++number)
+            host.find<QAbstractButton>(QStringLiteral("t%1").arg(number))->click();
         QString last = QStringLiteral("b%1_%2").arg(tabs - 1).arg(controlsOfATab - 1);
         QVERIFY(host.facade().IsSupportByToolBar(last));
         host.setUsable(last, false);
@@ -155,13 +125,13 @@ private Q_SLOTS:
         const QString controls = huge.arg("button", "big", attribute, value)
                                  + huge.arg("label", "bigger", attribute, value)
                                  + huge.arg("menu", "biggest", attribute, value);
-        TestHost host(longRow.arg(controls));
+        TestHost host(rowWithLast(controls));
         host.show();
         host.setUsable("last", true);
         QVERIFY(host.facade().GetCompositeEnable("last"));
         QCOMPARE(host.window().width(), 1300);
         const QSignalSpy active(&host.facade(), &MRToolBar::DoActive);
-        host.toolBar()->GetActionInTotal("last")->trigger();
+        host.action("last")->trigger();
         QCOMPARE(active.size(), 1);
     }
 
@@ -211,7 +181,7 @@ private Q_SLOTS:
         QCOMPARE(host.find<QToolBar>("mrtoolbar")->styleSheet(),
                  harmless.find<QToolBar>("mrtoolbar")->styleSheet());
         QCOMPARE(host.toolBar()->size(), harmless.toolBar()->size());
-        QCOMPARE(warnings, QStringList());
+        QCOMPARE(WarningTrap::warnings(), QStringList());
     }
 
     void shouldFindNoIconOutsideTheSkin_data()
@@ -222,20 +192,21 @@ private Q_SLOTS:
         QTest::newRow("url") << "file:///etc/passwd";
         QTest::newRow("resource") << ":/mr_toolbar/Resources/lum/qssfile.qss";
         QTest::newRow("nothing but dots") << "../../..";
+        QTest::newRow("other skin") << "../../lum/icons/icon16/Print.svg";
+        QTest::newRow("directory") << "icon16";
     }
 
     void shouldFindNoIconOutsideTheSkin()
     {
         QFETCH(QString, name);
         TestHost host(
-            longRow.arg(QStringLiteral("<button action='odd' text='Odd' icon='%1'/>")).arg(name));
+            rowWithLast(QStringLiteral("<button action='odd' text='Odd' icon='%1'/>").arg(name)));
         host.show();
-        const QIcon icon = host.toolBar()->GetActionInTotal("odd")->icon();
+        const QIcon icon = host.action("odd")->icon();
         QVERIFY(icon.pixmap(24, 24).toImage() == QImage()
                 || icon.pixmap(24, 24).toImage().allGray());
         const QString path = host.toolBar()->GetIconPath(name);
-        QVERIFY2(path.isEmpty() || path.startsWith(host.toolBar()->GetResourceDir()),
-                 qPrintable(path));
+        QVERIFY2(path.isEmpty(), qPrintable(path));
     }
 
     void shouldTakeAnySkin_data()
@@ -261,7 +232,7 @@ private Q_SLOTS:
         host.facade().DoSetSkinStyleSlot({{key, value}});
         host.setUsable("plain", true);
         const QSignalSpy active(&host.facade(), &MRToolBar::DoActive);
-        host.toolBar()->GetActionInTotal("plain")->trigger();
+        host.action("plain")->trigger();
         QCOMPARE(active.size(), 1);
 
         // A sound skin heals it.
@@ -276,15 +247,10 @@ private Q_SLOTS:
         QTest::addColumn<int>("told");
         QTest::addColumn<int>("taken");
         const int none = std::numeric_limits<int>::min(); // What the toolkit makes of no size.
-        for (const auto &[told, taken] : std::initializer_list<std::pair<int, int>>{{none, 96},
-                                                                                    {-1, 96},
-                                                                                    {0, 96},
-                                                                                    {5, 96},
-                                                                                    {24, 24},
-                                                                                    {96, 96},
-                                                                                    {192, 192},
-                                                                                    {600, 600},
-                                                                                    {100000, 96}})
+        const QList<std::pair<int, int>> rows{{none, 96}, {-1, 96},   {0, 96},
+                                              {5, 96},    {24, 24},   {96, 96},
+                                              {192, 192}, {600, 600}, {100000, 96}};
+        for (const auto &[told, taken] : rows)
             QTest::addRow("%d", told) << told << taken;
     }
 
@@ -292,6 +258,25 @@ private Q_SLOTS:
     {
         QFETCH(int, told);
         QTEST(ScreenDensity::credible(told), "taken");
+    }
+
+    void shouldStandAScreenThatChangesItsDensity()
+    {
+        TestHost host(rowWithLast(button("plain")));
+        host.showEnabled();
+        QTest::qWait(10);
+        const QSize size = host.toolBar()->size();
+        const QSignalSpy commands(&host.facade(), &MRToolBar::DoActive);
+        QScreen *screen = QGuiApplication::primaryScreen();
+        for (const qreal dpi : {192.0, 1.0, 0.0, 96.0}) {
+            Q_EMIT screen->physicalDotsPerInchChanged(dpi);
+            Q_EMIT screen->logicalDotsPerInchChanged(dpi);
+            QTest::qWait(10);
+            host.action(QStringLiteral("plain"))->trigger();
+        }
+        // Laid out for the screen that it was made on, and as alive as before.
+        QCOMPARE(host.toolBar()->size(), size);
+        QCOMPARE(commands.count(), 4);
     }
 
     void shouldDieWithABubbleOpen()
@@ -311,7 +296,10 @@ private Q_SLOTS:
 
     void shouldDieWhileARowScrolls()
     {
-        TestHost host(longRow.arg(buttons(60)));
+        QString controls;
+        for (int i = 0; i < 60; ++i)
+            controls += button(QStringLiteral("b%1").arg(i));
+        TestHost host(rowWithLast(controls));
         host.window().resize(400, 300);
         host.show();
         auto *area = host.toolBar()->findChild<MRScrollArea *>();
@@ -333,7 +321,7 @@ private Q_SLOTS:
                  host.facade().DoSetSkinStyleSlot({{"[MainColor]", "#123456"}});
              }},
             {"hide", [](TestHost &host) { host.setVisible("toolbar_whole", false); }},
-            {"leave the tab", [](TestHost &host) { host.setVisible("t", false); }},
+            {"leave the tab", [](TestHost &host) { host.setVisible("row", false); }},
             {"disable", [](TestHost &host) { host.setUsable("toolbar_maintoolbar", false); }},
             {"check", [](TestHost &host) { host.setChecked("entry", true); }},
             {"end", [](TestHost &host) { host.toolBar()->deleteLater(); }},
@@ -348,17 +336,13 @@ private Q_SLOTS:
     {
         QFETCH(QString, control);
         QFETCH(Answer, answer);
-        TestHost host(
-            "<toolbar_tabbar><tabbutton name='t' text='T' checkable='true' checked='true'>"
-            "<button action='plain' text='Plain' checkable='true' group='g'/>"
-            "<menu name='drop' text='Drop' checkable='true' switchable='true'>"
-            "<menuitem action='entry' text='Entry' checkable='true' group='g'/></menu>"
-            "<buttongroup name='two'><button action='other' "
-            "text='Other'/></buttongroup></tabbutton>"
-            "<tabbutton name='u' text='U' checkable='true'/></toolbar_tabbar>"
-            "<toolbar_addtional><button action='add' text='Add'/></toolbar_addtional>");
-        host.show();
-        host.setUsable("any", true);
+        TestHost host(row(button("plain", "checkable='true' group='g'")
+                              + menu("drop", item("entry", "checkable='true' group='g'"),
+                                     "checkable='true' switchable='true'")
+                              + "<buttongroup name='two'>" + button("other") + "</buttongroup>",
+                          tab("u", {}))
+                      + section("addtional", button("add")));
+        host.showEnabled();
         const QPointer<NewToolBar> toolBar = host.toolBar();
         int heard = 0;
         connect(&host.facade(), &MRToolBar::DoActive, this, [&] {
@@ -368,7 +352,7 @@ private Q_SLOTS:
         if (auto *button = host.find<QPushButton>(control))
             button->click();
         else
-            toolBar->GetActionInTotal(control)->trigger();
+            host.action(control)->trigger();
         runDeferredDeletes();
         QCOMPARE(heard, 1);
         QCOMPARE(host.facade().IsSupportByToolBar("plain"), !toolBar.isNull());

@@ -1,3 +1,4 @@
+#include "tests/support/Menus.h"
 #include "tests/support/TestHost.h"
 
 #include <QApplication>
@@ -50,23 +51,6 @@ void die(TestHost &host, Death death)
         delete host.find<QToolBar>("mrtoolbar");
 }
 
-/** The entry of that name, or the one that opens the menu of that name. */
-QAction *entryOf(const QMenu *menu, const QString &name)
-{
-    const QList<QAction *> entries = menu->actions();
-    for (QAction *entry : entries) {
-        if ((entry->menu() ? entry->menu()->objectName() : entry->objectName()) == name)
-            return entry;
-    }
-    return nullptr;
-}
-
-void runEventLoop()
-{
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QCoreApplication::processEvents();
-}
-
 } // namespace
 
 /** Who dies first, and what goes on at that moment. */
@@ -96,14 +80,13 @@ private Q_SLOTS:
         QFETCH(Death, death);
         QFETCH(QString, openMenuOf);
         TestHost host(everything);
-        host.show();
-        host.setUsable("any", true); // The rows are disabled until the host speaks.
+        host.showEnabled();
         const QSignalSpy active(host.toolBar(), &NewToolBar::DoActive);
         QStringList heard;
         connect(&host.facade(), &MRToolBar::DoActive, this,
                 [&heard](const QString &name) { heard.append(name); });
 
-        host.toolBar()->GetActionInTotal("slow")->trigger();
+        host.action("slow")->trigger();
         if (openMenuOf.isEmpty()) {
             die(host, death);
         } else {
@@ -117,7 +100,7 @@ private Q_SLOTS:
                                       Qt::QueuedConnection);
             QTRY_VERIFY(hasPopped);
         }
-        runEventLoop();
+        runDeferredDeletes();
         QTest::qWait(300);
         QVERIFY2(heard.isEmpty(), "The host has heard from the dead");
         QVERIFY(!QApplication::activePopupWidget());
@@ -131,9 +114,9 @@ private Q_SLOTS:
     void shouldLetTheHostDeleteItInAHandler_data()
     {
         QTest::addColumn<QString>("control");
-        for (const char *control : {"t_two", "menu_file", "ab_set", "plain", "f_open",
-                                    "qbar_f_open", "st_next", "st_input", "e_preference",
-                                    "d_gotopage"})
+        for (const char *control :
+             {"t_two", "menu_file", "ab_set", "plain", "f_open", "qbar_f_open", "st_next",
+              "st_input", "e_preference", "d_gotopage"})
             QTest::newRow(control) << control;
     }
 
@@ -141,8 +124,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, control);
         TestHost host(everything);
-        host.show();
-        host.setUsable("any", true);
+        host.showEnabled();
         const QPointer<NewToolBar> toolBar = host.toolBar();
         if (control == "f_open")
             toolBar->Inner_DoDelayLoadMenuSlot();
@@ -165,7 +147,7 @@ private Q_SLOTS:
             action->trigger();
         }
         QVERIFY2(!toolBar, "The handler was not called");
-        runEventLoop();
+        runDeferredDeletes();
         QVERIFY(!host.find<QToolBar>("mrtoolbar"));
     }
 
@@ -176,8 +158,8 @@ private Q_SLOTS:
         QTest::newRow("row") << "drop" << QStringList{"d_one"};
         QTest::newRow("sub-menu of a row") << "drop" << QStringList{"d_more", "d_two"};
         QTest::newRow("application") << "menu_file" << QStringList{"f_open"};
-        QTest::newRow("sub-menu of the application") << "menu_file"
-                                                     << QStringList{"menu_help", "h_info"};
+        QTest::newRow("sub-menu of the application")
+            << "menu_file" << QStringList{"menu_help", "h_info"};
         QTest::newRow("set button") << "ab_set" << QStringList{"s_one"};
     }
 
@@ -186,8 +168,7 @@ private Q_SLOTS:
         QFETCH(QString, button);
         QFETCH(QStringList, entries);
         TestHost host(everything);
-        host.show();
-        host.setUsable("any", true);
+        host.showEnabled();
         connect(&host.facade(), &MRToolBar::DoRequestAuthority, this, [&host] {
             for (const char *name : {"f_open", "h_info", "s_one"})
                 host.setUsable(name, true);
@@ -203,8 +184,7 @@ private Q_SLOTS:
                 QAction *entry = entryOf(menu, name);
                 QVERIFY(entry);
                 if (name == entries.last()) {
-                    const QPoint place = menu->actionGeometry(entry).center();
-                    QTest::mouseClick(menu, Qt::LeftButton, {}, place);
+                    clickEntry(menu, entry);
                     return;
                 }
                 menu->setActiveAction(entry);
@@ -219,7 +199,7 @@ private Q_SLOTS:
         else
             QTest::mouseClick(opener, Qt::LeftButton);
         QVERIFY(isHeard);
-        runEventLoop();
+        runDeferredDeletes();
         QVERIFY(!opener);
     }
 
@@ -254,24 +234,6 @@ private Q_SLOTS:
             facade.DoSetControlUsableStateSlot(name, false);
             QVERIFY(!facade.GetCompositeEnable(name) && !facade.GetCompositeVisible(name));
         }
-    }
-
-    void shouldLeaveNoWidgetsBehind()
-    {
-        const auto liveOnce = [](bool windowDies) {
-            const auto host = TestHost::withShipped("marodi/mr_toolbar.debug.xml");
-            host->show();
-            host->toolBar()->Inner_DoDelayLoadMenuSlot();
-            host->toolBar()->InitMainToolBar("1");
-            if (!windowDies)
-                delete host->toolBar();
-            runEventLoop();
-        };
-        liveOnce(true); // The toolkit makes some widgets once and keeps them.
-        const auto before = QApplication::allWidgets().size();
-        for (int i = 0; i < 20; ++i)
-            liveOnce(i % 2 == 0);
-        QCOMPARE(QApplication::allWidgets().size(), before);
     }
 };
 

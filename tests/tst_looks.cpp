@@ -1,3 +1,5 @@
+#include "tests/support/Elements.h"
+#include "tests/support/TestDocuments.h"
 #include "tests/support/TestHost.h"
 #include "toolbar/widgets/MRMainToolBar.h"
 
@@ -89,15 +91,17 @@ void collectProtruding(const QWidget *row, QStringList &faults)
     }
 }
 
-void collectIcons(const QDomElement &parent, QStringList &names)
+QStringList iconsIn(const QDomElement &description)
 {
-    for (QDomElement element = parent.firstChildElement(); !element.isNull();
-         element = element.nextSiblingElement()) {
-        const QString name = element.attribute(QStringLiteral("icon"));
-        if (!name.isEmpty() && !names.contains(name))
-            names.append(name);
-        collectIcons(element, names);
+    QStringList names;
+    const QList<QDomElement> elements = elementsBelow(description);
+    for (const QDomElement &element : elements) {
+        if (element.hasAttribute(QStringLiteral("icon")))
+            names.append(element.attribute(QStringLiteral("icon")));
     }
+    names.removeDuplicates();
+    names.removeAll(QString());
+    return names;
 }
 
 bool isBlank(const QImage &image)
@@ -118,23 +122,8 @@ class TestLooks : public QObject
 {
     Q_OBJECT
 
-private:
-    static void addDocuments()
-    {
-        QTest::addColumn<int>("skin");
-        QTest::addColumn<QString>("path");
-        for (const char *document : {"release", "debug"}) {
-            const QString path = QStringLiteral(":/mr_toolbar/Resources/%1/mr_toolbar.%2.xml");
-            QTest::addRow("marodi %s", document) << marodi << path.arg("marodi", document);
-            QTest::addRow("lum %s", document) << lum << path.arg("lum", document);
-        }
-        const QString showcase = QFINDTESTDATA("../examples/reader/showcase.xml");
-        QTest::newRow("marodi showcase") << marodi << showcase;
-        QTest::newRow("lum showcase") << lum << showcase;
-    }
-
 private Q_SLOTS:
-    void everyTextAndIconFitsItsControl_data() { addDocuments(); }
+    void everyTextAndIconFitsItsControl_data() { TestDocuments::addAll(); }
 
     void everyTextAndIconFitsItsControl()
     {
@@ -146,18 +135,13 @@ private Q_SLOTS:
         host->show();
 
         QStringList faults;
-        const QList<QPushButton *> buttons = host->toolBar()->findChildren<QPushButton *>();
-        for (QPushButton *tab : buttons) {
-            if (tab->property("module") != "tabbutton" || !tab->isVisible())
-                continue;
-            if (!tab->isChecked())
-                QTest::mouseClick(tab, Qt::LeftButton);
+        host->openEachTab([&](const QString &tab) {
             QTest::qWait(20);
             collectFaults<QToolButton>(host->toolBar(), faults);
             collectFaults<QPushButton>(host->toolBar(), faults);
             collectFaults<QLabel>(host->toolBar(), faults);
-            collectProtruding(host->find<MRMainToolBar>(tab->objectName()), faults);
-        }
+            collectProtruding(host->find<MRMainToolBar>(tab), faults);
+        });
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
     }
 
@@ -172,9 +156,8 @@ private Q_SLOTS:
     {
         QFETCH(int, skin);
         const SkinChoice choice(skin);
-        const QString path = QFINDTESTDATA("../examples/reader/showcase.xml");
-        const auto picture = [&] {
-            const auto host = TestHost::withFile(path);
+        const auto picture = [] {
+            const auto host = TestHost::withFile(QStringLiteral(SHOWCASE));
             host->window().resize(host->scaled(1000), host->scaled(300));
             auto *own = new QPushButton(QStringLiteral("own"));
             host->window().setCentralWidget(own);
@@ -202,23 +185,18 @@ private Q_SLOTS:
         }
     }
 
-    void everyDescribedIconIsSeenAndToldApart_data() { addDocuments(); }
+    void everyDescribedIconIsSeenAndToldApart_data() { TestDocuments::addAll(); }
 
     void everyDescribedIconIsSeenAndToldApart()
     {
         QFETCH(int, skin);
         QFETCH(QString, path);
         const SkinChoice choice(skin);
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QDomDocument document;
-        QVERIFY(document.setContent(file.readAll()));
-        QStringList names;
-        collectIcons(document.documentElement(), names);
+        const QStringList names = iconsIn(TestDocuments::read(path).documentElement());
         const auto host = TestHost::withFile(path);
 
         QList<QImage> seen;
-        for (const QString &name : std::as_const(names)) {
+        for (const QString &name : names) {
             const QString icon = host->toolBar()->GetIconPath(name);
             if (icon.isEmpty() && !name.contains(QLatin1Char('/')))
                 continue; // Named without its folder on purpose.

@@ -1,3 +1,4 @@
+#include "tests/support/Menus.h"
 #include "tests/support/TestHost.h"
 #include "toolbar/widgets/CCR_ToolTipWidget.h"
 #include "toolbar/widgets/CustomMenuStyle.h"

@@ -1,3 +1,4 @@
+#include "tests/support/Menus.h"
 #include "tests/support/TestHost.h"
 #include "toolbar/QuickAccessSetting.h"
 
@@ -35,11 +36,7 @@ QStringList namesOf(const QList<QAction *> &actions, Predicate isIncluded)
 /** Opens the customise menu by its button and clicks an entry. */
 void customise(TestHost &host, const QString &name)
 {
-    whenMenuPops([&name](QMenu *menu) {
-        const QPoint place = menu->actionGeometry(menu->findChild<QAction *>(name)).center();
-        QTest::mouseMove(menu, place);
-        QTest::mouseClick(menu, Qt::LeftButton, {}, place);
-    });
+    whenMenuPops([&name](QMenu *menu) { clickEntry(menu, entryOf(menu, name)); });
     host.click("qt_set");
 }
 
@@ -105,8 +102,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, setting);
         QFETCH(QString, list);
-        // The second time around, with the list
-        // that the host has stored.
+        // The second time around, with the list that the host has stored.
         for (const QString &stored : {setting, list.isEmpty() ? setting : list}) {
             const auto host =
                 TestHost::withShipped("marodi/mr_toolbar.release.xml", {{settingKey, stored}});

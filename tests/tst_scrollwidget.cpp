@@ -1,3 +1,4 @@
+#include "tests/support/Pointer.h"
 #include "tests/support/TestHost.h"
 #include "toolbar/widgets/MRScrollWidget.h"
 
@@ -9,7 +10,6 @@
 #include <QPropertyAnimation>
 #include <QScrollBar>
 #include <QWheelEvent>
-#include <qtestspontaneevent.h>
 
 namespace {
 
@@ -55,20 +55,6 @@ public:
     QComboBox *combo;
 };
 
-/** Turns the wheel over the middle of a widget, as the windowing system would report it. */
-void turnWheel(QWidget *target, const QPoint &delta)
-{
-    const QPoint centre = target->rect().center();
-    const QPoint global = target->mapToGlobal(centre);
-    QCursor::setPos(global);
-    QTRY_COMPARE(QCursor::pos(), global);
-    QWidget *window = target->window();
-    QWheelEvent event(target->mapTo(window, centre), global, QPoint(), delta, Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
-    QSpontaneKeyEvent::setSpontaneous(&event);
-    qApp->notify(window->windowHandle(), &event);
-}
-
 } // namespace
 
 class TestScrollWidget : public QObject
@@ -76,7 +62,7 @@ class TestScrollWidget : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { QCursor::setPos(1500, 1100); }
+    void init() { movePointerAway(); }
 
     void anArrowIsShownWhereContentIsHidden()
     {
@@ -104,11 +90,11 @@ private Q_SLOTS:
         const QRect before = fixture.area()->geometry();
         fixture.bar()->setValue(10);
         QCOMPARE(fixture.area()->geometry(), before);
-        QCOMPARE(fixture.arrow("left")->accessibleName(), QStringLiteral("向左滚动"));
-        QCOMPARE(fixture.arrow("right")->accessibleName(), QStringLiteral("向右滚动"));
-        QVERIFY(fixture.holder.findChild<MRExtendButton *>(QStringLiteral("leftextend")));
-        QVERIFY(fixture.holder.findChild<MRExtendButton *>(QStringLiteral("rightextend")));
-        QVERIFY(!fixture.arrow("left")->icon().isNull());
+        for (const char *side : {"left", "right"}) {
+            QVERIFY(!fixture.arrow(side)->accessibleName().isEmpty());
+            QVERIFY(!fixture.arrow(side)->icon().isNull());
+            QVERIFY(fixture.holder.findChild<MRExtendButton *>(QLatin1String(side) + "extend"));
+        }
     }
 
     void clicksGoToTheFarEndAndBack()
@@ -217,7 +203,7 @@ private Q_SLOTS:
         QVERIFY(!fixture.isMoving());
 
         // Nor does the row answer for an event that the pointer is not there for.
-        QCursor::setPos(1500, 1100);
+        movePointerAway();
         QWheelEvent stray(QPoint(5, 5), QPoint(5, 5), QPoint(), QPoint(0, 120), Qt::NoButton,
                           Qt::NoModifier, Qt::NoScrollPhase, false);
         fixture.label->setAttribute(Qt::WA_NoMousePropagation);

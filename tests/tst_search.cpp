@@ -1,8 +1,8 @@
+#include "tests/support/Menus.h"
 #include "tests/support/TestHost.h"
 #include "toolbar/widgets/MRSearchBar.h"
 
 #include <QMenu>
-#include <QStackedWidget>
 #include <QVBoxLayout>
 
 #include <array>
@@ -26,7 +26,7 @@ const QString sections =
 void searchFor(TestHost &host, const QString &fieldName, const QString &text,
                const QString &button = "")
 {
-    host.setUsable("b", true); // The rows are disabled until the host speaks.
+    host.enableRows();
     auto *field = host.find<QLineEdit>(fieldName);
     QTest::mouseClick(field, Qt::LeftButton, {}, QPoint(30, field->height() / 2));
     QTRY_VERIFY(field->hasFocus());
@@ -147,12 +147,7 @@ private Q_SLOTS:
         QStringList checked;
         for (const QString &option : {wholeWord, noCase, wholeWord, noCase}) {
             const auto before = searches.count();
-            whenMenuPops([&option](QMenu *menu) {
-                const QPoint place =
-                    menu->actionGeometry(menu->findChild<QAction *>(option)).center();
-                QTest::mouseMove(menu, place);
-                QTest::mouseClick(menu, Qt::LeftButton, {}, place);
-            });
+            whenMenuPops([&option](QMenu *menu) { clickEntry(menu, entryOf(menu, option)); });
             host.click("st_set");
             QVERIFY2(searches.count() == before, "An option is no search");
             if (!checked.removeOne(option))
@@ -166,32 +161,6 @@ private Q_SLOTS:
         }
     }
 
-    void shouldFoldAndUnfoldTheRows()
-    {
-        TestHost host(sections);
-        host.show();
-        const QSignalSpy active(&host.facade(), &MRToolBar::DoActive);
-        const auto areFolded = [&host](bool folded) {
-            return host.find<QStackedWidget>("tabwidget")->isVisible() != folded
-                   && host.find<QPushButton>("t_fold")->isVisible() != folded
-                   && host.find<QPushButton>("t_extend")->isVisible() == folded;
-        };
-        QVERIFY(areFolded(false));
-        host.click("t_fold");
-        QVERIFY(areFolded(true));
-        host.click("t_extend");
-        QVERIFY(areFolded(false));
-        host.toolBar()->InitMainToolBar("0");
-        QVERIFY(areFolded(true));
-        host.setVisible("toolbar_maintoolbar", true);
-        QVERIFY(!host.find<QStackedWidget>("tabwidget")->isVisible());
-        host.toolBar()->InitMainToolBar("0");
-        QVERIFY(areFolded(false));
-        QCOMPARE(active.count(), 0);
-        host.click("e_preference");
-        QCOMPARE(TestHost::texts(active), QStringList{"e_preference"});
-    }
-
     void shouldSplitTheTipOfTheFoldButton()
     {
         using Tips = std::array<QString, 3>;
@@ -202,6 +171,25 @@ private Q_SLOTS:
                                 + "'/></toolbar_addtional>");
             QCOMPARE(host.find<QPushButton>("t_fold")->toolTip(), foldTip);
             QCOMPARE(host.find<QPushButton>("t_extend")->toolTip(), unfoldTip);
+        }
+    }
+
+    void shouldNotLookFilledByItsPrompt()
+    {
+        for (const int skin : {marodi, lum}) {
+            const SkinChoice choice(skin);
+            TestHost host(sections);
+            host.show();
+            for (const char *colour : {"", "#7A3B1B"}) {
+                if (*colour)
+                    host.facade().DoSetSkinStyleSlot({{"[MainColor.checked]", colour}});
+                for (const char *name : {"st_input", "gis_input"}) {
+                    const QPalette palette = host.find<QLineEdit>(name)->palette();
+                    QVERIFY2(palette.color(QPalette::PlaceholderText).alpha()
+                                 < palette.color(QPalette::Text).alpha(),
+                             name);
+                }
+            }
         }
     }
 

@@ -1,3 +1,4 @@
+#include "tests/support/Menus.h"
 #include "tests/support/TestHost.h"
 
 #include <QApplication>
@@ -65,29 +66,14 @@ public:
         QFAIL(qPrintable(command + " stands on no row"));
     }
 
-    /** Opens a menu, by a click on a button or on the row, and clicks through these entries. */
-    void choose(const std::function<void()> &open, const QStringList &entries)
+    void clickMenu(const QString &button, const QStringList &entries)
     {
-        whenMenuPops([entries](QMenu *menu) {
-            for (const QString &name : entries) {
-                QAction *entry = nullptr;
-                const QList<QAction *> actions = menu->actions();
-                for (QAction *action : actions) {
-                    const QMenu *subMenu = action->menu();
-                    if ((subMenu ? subMenu->objectName() : action->objectName()) == name)
-                        entry = action;
-                }
-                QVERIFY2(entry, qPrintable(name));
-                QMenu *subMenu = entry->menu();
-                QTest::mouseMove(menu, menu->actionGeometry(entry).center());
-                QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(entry).center());
-                if (subMenu)
-                    QTRY_VERIFY(subMenu->isVisible());
-                menu = subMenu;
-            }
-        });
-        open();
-        QTRY_VERIFY(!QApplication::activePopupWidget());
+        choose([&] { click(button); }, entries);
+    }
+
+    void clickDrop(const QString &command, const QString &entry)
+    {
+        choose([&] { clickOnRow(command); }, {entry});
     }
 
     void enter(QLineEdit *field, const QString &text)
@@ -101,6 +87,24 @@ public:
     QStringList log;
 
 private:
+    /** Opens a menu and clicks through these entries. */
+    void choose(const std::function<void()> &open, const QStringList &entries)
+    {
+        whenMenuPops([entries](QMenu *menu) {
+            for (const QString &name : entries) {
+                QAction *entry = entryOf(menu, name);
+                QVERIFY2(entry, qPrintable(name));
+                QMenu *subMenu = entry->menu();
+                clickEntry(menu, entry);
+                if (subMenu)
+                    QTRY_VERIFY(subMenu->isVisible());
+                menu = subMenu;
+            }
+        });
+        open();
+        QTRY_VERIFY(!QApplication::activePopupWidget());
+    }
+
     template <typename Signal>
     void note(const char *name, Signal signal)
     {
@@ -111,11 +115,9 @@ private:
 
     void reportStates()
     {
-        const QList<QAction *> actions = m_host->window().findChildren<QAction *>();
-        for (const QAction *action : actions) {
-            if (!action->objectName().isEmpty())
-                m_host->setUsable(action->objectName(), !m_unusable.contains(action->objectName()));
-        }
+        m_host->enableEverything();
+        for (const QString &name : std::as_const(m_unusable))
+            m_host->setUsable(name, false);
     }
 
     SkinChoice m_skin;
@@ -134,20 +136,14 @@ private Q_SLOTS:
     {
         Session session(marodi, "marodi/mr_toolbar.debug.xml", {"f_save", "qbar_f_save"});
         TestHost &host = session.host();
-        const auto menu = [&session](const char *button, const QStringList &entries) {
-            session.choose([&] { session.click(button); }, entries);
-        };
-        const auto drop = [&session](const char *name, const QString &entry) {
-            session.choose([&] { session.clickOnRow(name); }, {entry});
-        };
         host.facade().DoSetPageInfoSlot(1, 25);
-        menu("menu_file", {"f_open"});
-        menu("menu_file", {"menu_help", "h_productinfo"});
-        menu("menu_file", {"f_save"}); // Not usable.
+        session.clickMenu("menu_file", {"f_open"});
+        session.clickMenu("menu_file", {"menu_help", "h_productinfo"});
+        session.clickMenu("menu_file", {"f_save"}); // Not usable.
         session.clickOnRow("qbar_f_print");
         session.clickOnRow("qbar_f_save"); // Not usable either.
         session.clickOnRow("t_handtool");
-        menu("ab_set", {"menu_view", "menu_view_pagelayout", "vpmode_doublepage"});
+        session.clickMenu("ab_set", {"menu_view", "menu_view_pagelayout", "vpmode_doublepage"});
 
         auto *page = host.find<QLineEdit>("d_gotopageinput");
         session.enter(page, "7");
@@ -160,12 +156,12 @@ private Q_SLOTS:
         session.enter(zoom->lineEdit(), "100"); // On the list already.
         session.clickOnRow("vzmode_fitwidth");
         host.facade().DoSetZoomModeSlot("vzmode_fitwidth");
-        drop("v_foreground", "background_nighttime");
+        session.clickDrop("v_foreground", "background_nighttime");
         host.facade().DoSetBackgroundSlot(Background_Eyeguard);
 
         session.click("tb_annot");
         session.clickOnRow("tt_highlight");
-        drop("tp_shape", "tp_arrow");
+        session.clickDrop("tp_shape", "tp_arrow");
         session.clickOnRow("tp_shape"); // Once more the same.
         host.setChecked("t_handtool", true);
         session.click("tb_security");
@@ -174,7 +170,7 @@ private Q_SLOTS:
 
         session.enter(host.find<QLineEdit>("st_input"), "OFD");
         session.click("st_prev");
-        session.choose([&] { session.click("st_set"); }, {"st_option_nocase"});
+        session.clickMenu("st_set", {"st_option_nocase"});
         session.click("st_next");
         for (const char *button : {"e_preference", "t_fold", "t_extend"})
             session.click(button);
@@ -208,13 +204,10 @@ private Q_SLOTS:
     {
         Session session(lum, "lum/mr_toolbar.release.xml", {"f_save"});
         TestHost &host = session.host();
-        const auto menu = [&session](const char *button, const QStringList &entries) {
-            session.choose([&] { session.click(button); }, entries);
-        };
-        menu("ab_set", {"lum_open"}); // The second face of the same menu.
+        session.clickMenu("ab_set", {"lum_open"}); // The second face of the same menu.
         host.facade().DoSetPageInfoSlot(2, 9);
         QCOMPARE(host.find<QLabel>("d_totalpagelabel")->text(), QStringLiteral("/9"));
-        menu("menu_file", {"f_exit"});
+        session.clickMenu("menu_file", {"f_exit"});
         session.clickOnRow("f_open");
         session.enter(host.find<QLineEdit>("d_gotopage"), "9");
         session.click("tb_start"); // Folds
@@ -224,7 +217,7 @@ private Q_SLOTS:
         session.enter(zoom->lineEdit(), "12.5%");
         session.enter(zoom->lineEdit(), "9999");
         session.enter(zoom->lineEdit(), "80");
-        session.choose([&] { session.clickOnRow("v_foreground"); }, {"background_parchment"});
+        session.clickDrop("v_foreground", "background_parchment");
         session.clickOnRow("vpmode_doublepage");
         session.enter(host.find<QLineEdit>("st_input"), "seal");
         session.click("e_preference");

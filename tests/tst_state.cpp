@@ -1,51 +1,18 @@
+#include "tests/support/Describe.h"
 #include "tests/support/TestHost.h"
 #include "toolbar/widgets/MRDropButton.h"
 #include "toolbar/widgets/MRMainToolBar.h"
 #include "toolbar/widgets/MRMenuButton.h"
 #include "toolbar/widgets/MRScrollWidget.h"
 
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
 #include <QMenu>
 #include <QStackedWidget>
 
 #include <algorithm>
 
+using namespace Describe;
+
 namespace {
-
-QString section(const QString &name, const QString &controls)
-{
-    return QStringLiteral("<toolbar_%1>%2</toolbar_%1>").arg(name, controls);
-}
-
-QString button(const QString &name, const QString &more = {})
-{
-    return QStringLiteral("<button name='%1' text='%1' %2/>").arg(name, more);
-}
-
-QString item(const QString &name)
-{
-    return QStringLiteral("<menuitem action='%1' text='%1' checkable='true'/>").arg(name);
-}
-
-QString tab(const QString &name, const QString &controls, const QString &more = {})
-{
-    return QStringLiteral("<tabbutton name='%1' text='%1' checkable='true' %3>%2</tabbutton>")
-        .arg(name, controls, more);
-}
-
-/** One tab on show with these controls. */
-QString row(const QString &controls)
-{
-    return section("tabbar", tab("row", controls, "checked='true'"));
-}
-
-/** "a", which is on show, and "b". */
-QString twoTabs()
-{
-    return section("tabbar", tab("a", button("x"), "checked='true'") + tab("b", button("y")));
-}
 
 QString foldControls()
 {
@@ -69,16 +36,6 @@ QString everything()
            + foldControls();
 }
 
-QAction *action(const TestHost &host, const QString &name)
-{
-    return host.toolBar()->GetActionInTotal(name);
-}
-
-QStackedWidget *stack(const TestHost &host)
-{
-    return host.find<QStackedWidget>(QStringLiteral("tabwidget"));
-}
-
 /** Which of the places of "x" (tab and buttons) are enabled, a letter each. */
 QString enabledPlaces(TestHost &host)
 {
@@ -88,7 +45,7 @@ QString enabledPlaces(TestHost &host)
             places += QLatin1Char(letter);
     };
     const QList<QPushButton *> buttons = host.window().findChildren<QPushButton *>();
-    append('A', action(host, "x") && action(host, "x")->isEnabled());
+    append('A', host.action("x") && host.action("x")->isEnabled());
     for (const QPushButton *candidate : buttons) {
         if (candidate->objectName() == "x" && !qobject_cast<const MRMenuButton *>(candidate))
             append(candidate->property("tabindex").isValid() ? 'T' : 'X', candidate->isEnabled());
@@ -106,6 +63,7 @@ QString enabledPlaces(TestHost &host)
 
 } // namespace
 
+/** Enabled and visible by name: areas, single controls, and the questions about them. */
 class TestState : public QObject
 {
     Q_OBJECT
@@ -131,8 +89,7 @@ private Q_SLOTS:
         QFETCH(QStringList, members);
         TestHost host(everything());
         const QString name = QTest::currentDataTag();
-        host.setUsable("first", true);
-        host.show();
+        host.showEnabled();
         host.find<MRMainToolBar>("a")->setObjectName("a_row");
         const bool isArea = !members.isEmpty();
         if (!isArea) // None of these is to change.
@@ -187,8 +144,7 @@ private Q_SLOTS:
         QFETCH(QString, tabs);
         QFETCH(QString, sections);
         TestHost host(section("tabbar", tab("row", row, "checked='true'") + tabs) + sections);
-        host.setUsable("first", true);
-        host.show();
+        host.showEnabled();
         if (auto *drop = host.find<MRDropButton>("x"))
             drop->setEnabled(true);
         const QList<QAction *> entries = host.find<QToolBar>("toolbar_quickaccessbar")->actions();
@@ -201,25 +157,27 @@ private Q_SLOTS:
     void theFirstReportEnablesTheRows()
     {
         TestHost host(everything());
-        QVERIFY(!stack(host)->isEnabled());
-        host.find<QToolBar>("mrtoolbar")->setEnabled(false);
+        auto *stack = host.find<QStackedWidget>("tabwidget");
+        auto *strip = host.find<QToolBar>("mrtoolbar");
+        QVERIFY(!stack->isEnabled());
+        strip->setEnabled(false);
         host.setUsable("x", false);
-        QVERIFY(stack(host)->isEnabledTo(host.find<QToolBar>("mrtoolbar")));
-        host.find<QToolBar>("mrtoolbar")->setEnabled(true);
-        QVERIFY(action(host, "x")->isEnabled()); // A disabled toolbar takes no states by name.
-        stack(host)->setEnabled(false);
+        QVERIFY(stack->isEnabledTo(strip));
+        strip->setEnabled(true);
+        QVERIFY(host.action("x")->isEnabled()); // A disabled toolbar takes no states by name.
+        stack->setEnabled(false);
         host.setUsable("x", true);
-        QVERIFY(!stack(host)->isEnabled()); // Only the first one does.
+        QVERIFY(!stack->isEnabled()); // Only the first one does.
     }
 
     void aDisabledRowLeavesOnlyTheFirstActionToTheHost()
     {
         TestHost host(row(button("h_info") + button("menu_h_info")) + foldControls());
-        host.setUsable("first", true);
+        host.enableRows();
         host.find<MRScrollWidget>(QString())->setEnabled(false);
         host.setUsable("h_info", false);
-        QVERIFY(!action(host, "h_info")->isEnabled());
-        QVERIFY(action(host, "menu_h_info")->isEnabled());
+        QVERIFY(!host.action("h_info")->isEnabled());
+        QVERIFY(host.action("menu_h_info")->isEnabled());
         QVERIFY(host.find<QPushButton>("h_info")->isEnabled());
         host.setUsable("toolbar_addtional", false);
         QVERIFY(host.find<QPushButton>("h_info")->isEnabled());
@@ -230,11 +188,11 @@ private Q_SLOTS:
         TestHost host(
             row(button("pen/red") + button("big pen/red") + button("pen") + button("menu_pen")));
         host.setUsable("pen/red", false);
-        QVERIFY(!action(host, "pen/red")->isEnabled() && !action(host, "big pen/red")->isEnabled());
-        QVERIFY(action(host, "pen")->isEnabled());
+        QVERIFY(!host.action("pen/red")->isEnabled() && !host.action("big pen/red")->isEnabled());
+        QVERIFY(host.action("pen")->isEnabled());
         host.setVisible("pen", false);
-        QVERIFY(!action(host, "pen")->isVisible() && !action(host, "menu_pen")->isVisible());
-        QVERIFY(action(host, "pen/red")->isVisible());
+        QVERIFY(!host.action("pen")->isVisible() && !host.action("menu_pen")->isVisible());
+        QVERIFY(host.action("pen/red")->isVisible());
         QVERIFY(!host.facade().GetCompositeVisible("n/r")); // Asked for by its whole name.
         QVERIFY(host.facade().GetCompositeVisible("big pen/red"));
     }
@@ -276,225 +234,35 @@ private Q_SLOTS:
         QCOMPARE(shown(), QStringLiteral("sOP"));
     }
 
-    void checkingByNameIsSilent()
-    {
-        const QString tool = "group='tools' checkable='true'";
-        TestHost host(row(button("pen", tool + " checked='true'") + button("ink", tool)
-                          + button("off", tool + " usable='false'")
-                          + button("hid", tool + " visible='false'") + button("menu_ink")));
-        QSignalSpy active(&host.facade(), &MRToolBar::DoActive);
-        QString name = "ink:red:thick";
-        host.facade().DoSetControlCheckedStateSlot(name, true);
-        QCOMPARE(name, QStringLiteral("ink"));
-        QVERIFY(action(host, "ink")->isChecked() && !action(host, "pen")->isChecked());
-        host.setChecked("ink", true); // Checked already: nothing to be silent about.
-        for (const char *refusing : {"off", "hid"}) {
-            host.setChecked(refusing, true);
-            QVERIFY(action(host, refusing)->isChecked());
-            QVERIFY(host.facade().GetControlCheckedState(refusing));
-        }
-        QVERIFY(!action(host, "off")->isEnabled() && !action(host, "ink")->isChecked());
-        host.setChecked("hid", false);
-        QVERIFY(!action(host, "hid")->isChecked());
-        QVERIFY(active.isEmpty());
-        action(host, "ink")->trigger();
-        action(host, "menu_ink")->trigger(); // The same command once more.
-        QCOMPARE(TestHost::texts(active), QStringList({"ink", "ink"}));
-    }
-
-    void aStateSetByNameLeavesAControlToItsNextStates()
-    {
-        TestHost host(row("<menu name='m' text='M' checkable='true'>" + item("one") + "</menu>"));
-        host.setChecked("m", true);
-        for (const bool usable : {false, true}) {
-            host.setUsable("m", usable);
-            QCOMPARE(host.facade().GetCompositeEnable("m"), usable);
-        }
-    }
-
-    void anUnavailableControlReportsNothingAtFirst()
-    {
-        TestHost host(row(button("c", "available='false' checkable='true'") + button("menu_c")));
-        host.setUsable("nothing", true);
-        QSignalSpy active(&host.facade(), &MRToolBar::DoActive);
-        action(host, "menu_c")->trigger();
-        QVERIFY(active.isEmpty());
-        QVERIFY(action(host, "c")->isChecked());
-        action(host, "menu_c")->trigger();
-        QCOMPARE(TestHost::texts(active), QStringList("c"));
-        QVERIFY(!action(host, "c")->isChecked());
-        host.setUsable("c", true); // From now on it is like any other.
-        QVERIFY(action(host, "c")->isEnabled());
-    }
-
-    void anyOtherStateEndsTheShapeTool_data()
-    {
-        QTest::addColumn<bool>("endsIt");
-        QTest::newRow("tw_watermark_add") << false;
-        QTest::newRow("tp_else") << false;
-        QTest::newRow("my tp_tool:x") << false;
-        QTest::newRow("tool") << true;
-        QTest::newRow("unknown") << true;
-    }
-
-    void anyOtherStateEndsTheShapeTool()
-    {
-        const QString menu = "<menu name='%1' text='%1' checkable='true' switchable='true'>";
-        TestHost host(row(menu.arg("tp_shape") + item("tp_arrow") + "</menu>" + menu.arg("pens")
-                          + item("tool") + "</menu>"));
-        const auto *shapes = host.find<MRDropButton>("tp_shape");
-        const auto *pens = host.find<MRDropButton>("pens");
-        for (const bool checked : {true, false}) {
-            host.setChecked("tp_arrow", true);
-            QVERIFY(shapes->isChecked()); // In line with its menu.
-            host.setChecked(QTest::currentDataTag(), checked);
-            QTEST(!shapes->isChecked(), "endsIt");
-            QCOMPARE(pens->isChecked(), action(host, "tool")->isChecked());
-        }
-    }
-
-    void theTabOnShowFoldsAndMovesOn_data()
-    {
-        QTest::addColumn<int>("current"); // Of three tabs.
-        QTest::addColumn<QStringList>("disabled");
-        QTest::addColumn<int>("shown");
-        QTest::newRow("the next one") << 0 << QStringList() << 1;
-        QTest::newRow("wraps around") << 2 << QStringList() << 0;
-        QTest::newRow("the next one is disabled") << 0 << QStringList("1") << 0;
-        QTest::newRow("no other one is usable") << 1 << QStringList{"0", "2"} << 1;
-    }
-
-    void theTabOnShowFoldsAndMovesOn()
-    {
-        QFETCH(int, current);
-        QFETCH(QStringList, disabled);
-        const QString name = QString::number(current);
-        QString tabs;
-        for (const char *number : {"0", "1", "2"})
-            tabs += tab(number, button("command"), name == number ? "checked='true'" : "");
-        for (const bool hides : {false, true}) {
-            TestHost host(section("tabbar", tabs) + foldControls());
-            host.setUsable("first", true);
-            host.show();
-            for (const QString &other : std::as_const(disabled))
-                host.find<QPushButton>(other)->setEnabled(false);
-            hides ? host.setVisible(name, false) : host.setUsable(name, false);
-            QTEST(stack(host)->currentIndex(), "shown");
-            QVERIFY(!host.find<MRMainToolBar>(name)->isVisible());
-            const auto *tabButton = host.find<QPushButton>(name);
-            QVERIFY(hides ? !tabButton->isVisible() : !tabButton->isEnabled());
-            QVERIFY(!host.find<QPushButton>("t_fold")->isVisible());
-            QVERIFY(host.find<QPushButton>("t_extend")->isVisible());
-        }
-    }
-
-    void aTabThatWasLeftShowsItsRowAgainWhenItIsOpened()
-    {
-        TestHost host(twoTabs());
-        host.show();
-        host.setUsable("a", false);
-        host.find<QPushButton>("a")->setEnabled(true);
-        host.click("a");
-        QVERIFY(host.find<MRMainToolBar>("a")->isVisible());
-    }
-
-    void enablingTheTabOnShowMovesOnToo()
-    {
-        TestHost host(twoTabs() + section("appbutton", "<menu name='a' text='App'/>"));
-        host.find<MRMenuButton>("a")->setEnabled(false);
-        for (const bool isFurther : {false, true}) { // Moving on ends the search for the name.
-            host.setUsable("a", true);
-            QCOMPARE(stack(host)->currentIndex(), 1);
-            QCOMPARE(host.find<MRMenuButton>("a")->isEnabled(), isFurther);
-        }
-    }
-
-    void aHostThatSendsAllStatesAgainStillMovesOn()
-    {
-        TestHost host(twoTabs() + foldControls());
-        host.show();
-        connect(&host.facade(), &MRToolBar::DoRequestAuthority, &host.facade(),
-                [&host] { host.setUsable("a", false); });
-        host.setUsable("a", false);
-        QCOMPARE(stack(host)->currentIndex(), 1);
-        QVERIFY(host.find<MRMainToolBar>("b")->isVisible());
-    }
-
-    void aDropButtonPassesOnFromAHiddenEntry_data()
-    {
-        QTest::addColumn<QString>("hidden"); // In this order.
-        QTest::addColumn<int>("current");
-        QTest::newRow("index='2' (another)") << "1" << 2;
-        QTest::newRow("index='2'") << "2" << 3;
-        QTest::newRow("index='3'") << "3" << 1;
-        QTest::newRow("index='1'") << "21" << 3;
-        QTest::newRow("index='1' (no other)") << "231" << 1;
-        QTest::newRow("index='2' withaction='true'") << "2" << 1;
-        QTest::newRow("index='2' withaction='true' (last)") << "12" << 3;
-    }
-
-    void aDropButtonPassesOnFromAHiddenEntry()
-    {
-        QFETCH(QString, hidden);
-        const QString attributes = QString(QTest::currentDataTag()).section(" (", 0, 0);
-        TestHost host(row("<menu name='m' checkable='true' " + attributes + ">" + item("1")
-                          + item("2") + item("3") + "</menu>"));
-        for (const QChar name : std::as_const(hidden))
-            host.setVisible(name, false);
-        const auto *button = host.find<MRDropButton>("m");
-        QTEST(button->GetCurrentAction()->objectName().toInt(), "current");
-    }
-
     void fieldsAreAddressedByTheirContainers()
     {
         const QString items = "<item action='m1' text='1%'/><item action='m2' text='2%'/>";
         TestHost host(row("<combobox name='v_zoom'>" + items + "</combobox>" + button("v_zoomlist")
                           + "<lineedit name='d_gotopage'/>" + button("d_gotopageinput")));
-        host.setUsable("first", true);
-        host.show();
+        host.showEnabled();
         const QStringList names{"v_zoom", "v_zoomlist", "d_gotopage", "d_gotopageinput"};
         for (int i = 0; i < names.size(); i += 2) {
             const QString &name = names.at(i);
             const auto *field = host.find<QWidget>(name)->parentWidget();
             host.setUsable(name, false);
             QVERIFY(!field->isEnabled() && !host.facade().GetCompositeEnable(name));
-            QVERIFY(action(host, names.at(i + 1))->isEnabled());
+            QVERIFY(host.action(names.at(i + 1))->isEnabled());
             host.setVisible(name, false);
             QVERIFY(!field->isVisible() && !host.facade().GetCompositeVisible(name));
-            QVERIFY(!action(host, names.at(i + 1))->isVisible());
+            QVERIFY(!host.action(names.at(i + 1))->isVisible());
             host.setVisible(name, true);
-            QVERIFY(field->isVisible() && action(host, names.at(i + 1))->isVisible());
+            QVERIFY(field->isVisible() && host.action(names.at(i + 1))->isVisible());
             QVERIFY2(!field->isEnabled(), "Showing a field must not enable it");
             host.setUsable(name, true);
             QVERIFY(field->isEnabled());
         }
     }
 
-    void additionalControlsBringBackTheFoldButtonInForce()
-    {
-        TestHost host(everything());
-        host.show();
-        const auto verify = [&host](bool folded) {
-            host.setVisible("toolbar_addtional", false);
-            host.setVisible("toolbar_addtional", true);
-            QVERIFY(host.find<QPushButton>("h_info")->isVisible());
-            QCOMPARE(host.find<QPushButton>("t_extend")->isVisible(), folded);
-            QCOMPARE(host.find<QPushButton>("t_fold")->isVisible(), !folded);
-        };
-        verify(false);
-        host.click("t_fold");
-        verify(true);
-        host.click("t_extend");
-        host.setVisible("toolbar_maintoolbar", false);
-        verify(true);
-    }
-
     void questionsAnswerForSingleControls()
     {
         TestHost host(everything() + section("tabbar", tab("b", {})));
         host.toolBar()->Inner_DoDelayLoadMenuSlot();
-        host.setUsable("first", true);
-        host.show();
+        host.showEnabled();
         const auto enabled = [&host](const char *name) {
             return host.facade().GetCompositeEnable(name);
         };
@@ -519,36 +287,12 @@ private Q_SLOTS:
     {
         TestHost host(everything());
         host.show();
-        const QWidget *face = host.find<MRMainToolBar>("a")->widgetForAction(action(host, "y"));
+        const QWidget *face = host.find<MRMainToolBar>("a")->widgetForAction(host.action("y"));
         QTRY_VERIFY(face->x() > 0);
         QCOMPARE(host.facade().GetControlGeometry("y"),
                  QRect(face->mapToGlobal(QPoint()), face->size()));
         for (const char *name : {"nothing", "z", "f_exit", "qbar_f_open", ""})
             QCOMPARE(host.facade().GetControlGeometry(name), QRect());
-    }
-
-    void resettingLeavesEnabledAndVisibleStatesAlone()
-    {
-        TestHost host(row(button("on", "checkable='true' checked='true'") + button("off")
-                          + "<menu name='m' text='M' checkable='true' switchable='true'>"
-                          + item("one")
-                          + "</menu><lineedit name='d_gotopage'/>"
-                            "<label name='d_totalpagelabel' text='/'/>"));
-        host.setUsable("off", false);
-        host.setVisible("off", false);
-        host.setUsable("d_gotopage", false);
-        host.facade().DoSetPageInfoSlot(3, 12);
-        host.setChecked("one", true);
-        QSignalSpy active(&host.facade(), &MRToolBar::DoActive);
-        host.facade().DoResetToolbarSlot();
-        QVERIFY(!action(host, "on")->isChecked() && !action(host, "one")->isChecked());
-        QVERIFY(!host.find<MRDropButton>("m")->isChecked());
-        QVERIFY(active.isEmpty());
-        QVERIFY(!action(host, "off")->isVisible() && action(host, "on")->isEnabled());
-        QVERIFY(!host.facade().GetCompositeEnable("off"));
-        QVERIFY(!host.facade().GetCompositeEnable("d_gotopage"));
-        QCOMPARE(host.find<QLineEdit>("d_gotopage")->text(), QString());
-        QCOMPARE(host.find<QLabel>("d_totalpagelabel")->text(), QStringLiteral("/ "));
     }
 };
 

@@ -1,3 +1,4 @@
+#include "tests/support/Describe.h"
 #include "tests/support/TestHost.h"
 #include "toolbar/widgets/MRGroupButton.h"
 #include "toolbar/widgets/MRMainToolBar.h"
@@ -9,24 +10,13 @@
 #include <QMap>
 #include <QStackedWidget>
 
+using namespace Describe;
+
 namespace {
-
-QString button(const QString &name, const QString &more = {})
-{
-    return QStringLiteral("<button name='%1' text='%1' %2/>").arg(name, more);
-}
-
-QString tab(const QString &name, const QString &controls, const QString &more = {})
-{
-    return QStringLiteral("<tabbutton name='%1' text='%1' checkable='true' %3>%2</tabbutton>")
-        .arg(name, controls, more);
-}
 
 QString tabBar(const QString &tabs)
 {
-    return QStringLiteral("<toolbar_tabbar>%1</toolbar_tabbar>"
-                          "<toolbar_addtional><button name='t_fold'/></toolbar_addtional>")
-        .arg(tabs);
+    return section("tabbar", tabs) + section("addtional", "<button name='t_fold'/>");
 }
 
 /** One tab, on show, with these controls. */
@@ -45,13 +35,6 @@ QString threeTabs()
 QStackedWidget *stack(const TestHost &host)
 {
     return host.find<QStackedWidget>(QStringLiteral("tabwidget"));
-}
-
-/** The rows stay disabled until the host has reported a first state. */
-void showEnabled(TestHost &host)
-{
-    host.setUsable(QStringLiteral("nothing"), true);
-    host.show();
 }
 
 } // namespace
@@ -95,20 +78,35 @@ private Q_SLOTS:
         QVERIFY(!host.facade().IsSupportByToolBar("c_command"));
     }
 
-    void clickingTheTabOnShowFoldsAndUnfoldsTheRows()
+    void theRowsFoldAndUnfold()
     {
         TestHost host(threeTabs());
         host.show();
         bool isShown = true;
-        for (const char *clicked : {"a", "a", "a", "b", "b"}) { // Another tab unfolds.
+        // Hidden and shown again, the additional controls bring back the button in force.
+        const auto verifyButtons = [&host, &isShown] {
+            for (int time = 0; time < 2; ++time) {
+                QCOMPARE(host.find<QPushButton>("t_fold")->isVisible(), isShown);
+                QCOMPARE(host.find<QPushButton>("t_extend")->isVisible(), !isShown);
+                host.setVisible("toolbar_addtional", false);
+                host.setVisible("toolbar_addtional", true);
+            }
+        };
+        // By the tab on show, another tab, and the buttons.
+        for (const char *clicked : {"a", "a", "a", "b", "b", "t_extend", "t_fold"}) {
             isShown = !isShown;
             host.click(clicked);
             QCOMPARE(stack(host)->isVisible(), isShown);
-            QCOMPARE(host.find<QPushButton>("t_fold")->isVisible(), isShown);
-            QCOMPARE(host.find<QPushButton>("t_extend")->isVisible(), !isShown);
+            verifyButtons();
         }
         QVERIFY(!host.toolBar()->InitMainToolBar(QString()));
+        host.setVisible("toolbar_maintoolbar", true);
         QVERIFY(!stack(host)->isVisible());
+        host.toolBar()->InitMainToolBar("1"); // Of the tab on show.
+        QVERIFY(stack(host)->isVisible());
+        host.setVisible("toolbar_maintoolbar", false);
+        isShown = false;
+        verifyButtons();
     }
 
     void aTabWithoutControlsOpensAnEmptyPage()
@@ -185,7 +183,7 @@ private Q_SLOTS:
         TestHost host(oneTab("<extra scalable='true'><lineedit name='gis_input'>" + children
                                  + "</lineedit></extra>",
                              "scalable='true'"));
-        showEnabled(host);
+        host.showEnabled();
         auto *field = host.find<MRSearchBar>("gis_input");
         QCOMPARE(field != nullptr, direction >= 0);
         if (!field)
@@ -224,7 +222,7 @@ private Q_SLOTS:
         TestHost host(oneTab("<buttongroup name='group'>" + button("shown")
                              + button("hidden", "visible='false'") + "<button name='bare'/>"
                              + button("away", "available='false'") + "</buttongroup>"));
-        showEnabled(host);
+        host.showEnabled();
         QSignalSpy active(&host.facade(), &MRToolBar::DoActive);
         for (const char *name : {"shown", "away"})
             host.click(name);
@@ -260,7 +258,7 @@ private Q_SLOTS:
         QCOMPARE(pick->popupMode() == QToolButton::MenuButtonPopup, isSplit);
         if (isSplit) // As wide as the longest of its texts.
             QCOMPARE(pick->width(), host.scaled(6 * 24.0 + 12.0));
-        host.toolBar()->GetActionInTotal("one")->trigger();
+        host.action("one")->trigger();
         texts.append(pick->text());
         QTEST(texts, "texts");
     }

@@ -1,25 +1,16 @@
+#include "tests/support/Describe.h"
+#include "tests/support/Pointer.h"
+#include "tests/support/TestDocuments.h"
 #include "tests/support/TestHost.h"
 #include "toolbar/widgets/TabStrip.h"
 
-#include <QApplication>
 #include <QLineEdit>
-#include <QWheelEvent>
-#include <QtTest/qtestspontaneevent.h>
+
+using namespace Describe;
 
 namespace {
 
 constexpr double narrowWidth = 500;
-
-QList<QPushButton *> shownTabs(const TestHost &host)
-{
-    QList<QPushButton *> tabs;
-    const QList<QPushButton *> buttons = host.toolBar()->findChildren<QPushButton *>();
-    for (QPushButton *button : buttons) {
-        if (button->property("module") == "tabbutton" && !button->isHidden())
-            tabs.append(button);
-    }
-    return tabs;
-}
 
 /** Whether a click on the middle of the widget reaches it. */
 bool isReachable(const QWidget *widget)
@@ -32,8 +23,8 @@ bool isReachable(const QWidget *widget)
 /** The arrow on that side of the strip, or null while it is hidden. */
 TabStripArrow *arrow(const TestHost &host, bool isLeft)
 {
-    const auto *strip = dynamic_cast<TabStrip *>(shownTabs(host).first()->parentWidget()
-                                                     ->parentWidget()->parentWidget());
+    const auto *strip = dynamic_cast<TabStrip *>(
+        host.shownTabs().first()->parentWidget()->parentWidget()->parentWidget());
     const QList<QPushButton *> children =
         strip->findChildren<QPushButton *>(QString(), Qt::FindDirectChildrenOnly);
     for (QPushButton *child : children) {
@@ -43,24 +34,12 @@ TabStripArrow *arrow(const TestHost &host, bool isLeft)
     return nullptr;
 }
 
-void turnWheel(QWidget *widget, int angle)
-{
-    const QPointF middle = widget->rect().center();
-    QWheelEvent event(middle, widget->mapToGlobal(middle.toPoint()), {}, {0, angle}, Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
-    // Only what comes from the window system is passed on to the parents.
-    QSpontaneKeyEvent::setSpontaneous(&event);
-    qApp->notify(widget, &event);
-}
-
 QString manyTabs(int count)
 {
     QString tabs;
     for (int i = 0; i < count; ++i)
-        tabs += QStringLiteral("<tabbutton name='tab%1' text='分页' checkable='true' %2/>")
-                    .arg(i)
-                    .arg(i == 0 ? "checked='true'" : "");
-    return QStringLiteral("<toolbar_tabbar>%1</toolbar_tabbar>").arg(tabs);
+        tabs += tab(QStringLiteral("tab%1").arg(i), {}, i == 0 ? "checked='true'" : "");
+    return section("tabbar", tabs);
 }
 
 } // namespace
@@ -70,21 +49,14 @@ class TestTopLine : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void everythingStaysInReachInANarrowWindow_data()
-    {
-        QTest::addColumn<int>("skin");
-        QTest::addColumn<QString>("path");
-        QTest::newRow("marodi release") << marodi << "marodi/mr_toolbar.release.xml";
-        QTest::newRow("marodi debug") << marodi << "marodi/mr_toolbar.debug.xml";
-        QTest::newRow("lum release") << lum << "lum/mr_toolbar.release.xml";
-    }
+    void everythingStaysInReachInANarrowWindow_data() { TestDocuments::addShipped(); }
 
     void everythingStaysInReachInANarrowWindow()
     {
         QFETCH(int, skin);
         QFETCH(QString, path);
         const SkinChoice choice(skin);
-        const auto host = TestHost::withShipped(path);
+        const auto host = TestHost::withFile(path);
         host->window().resize(host->scaled(narrowWidth), host->scaled(300));
         host->show();
         QVERIFY(host->window().width() <= host->scaled(narrowWidth));
@@ -95,7 +67,7 @@ private Q_SLOTS:
         for (const QPushButton *button : buttons)
             QVERIFY2(!button->isVisible() || isReachable(button), qPrintable(button->objectName()));
 
-        const QList<QPushButton *> tabs = shownTabs(*host);
+        const QList<QPushButton *> tabs = host->shownTabs();
         for (int i = 0; i < tabs.size(); ++i) {
             while (!isReachable(tabs.at(i)) && arrow(*host, false))
                 QTest::mouseClick(arrow(*host, false), Qt::LeftButton);
@@ -109,7 +81,7 @@ private Q_SLOTS:
         TestHost host(manyTabs(count));
         host.window().resize(host.scaled(narrowWidth), host.scaled(300));
         host.show();
-        const QList<QPushButton *> tabs = shownTabs(host);
+        const QList<QPushButton *> tabs = host.shownTabs();
         QVERIFY(isReachable(tabs.first()) && !isReachable(tabs.last()));
         QVERIFY(!arrow(host, true) && arrow(host, false));
 
@@ -120,9 +92,9 @@ private Q_SLOTS:
         tabs.first()->setFocus(Qt::TabFocusReason);
         QVERIFY(isReachable(tabs.first()));
 
-        turnWheel(tabs.first(), -120);
+        turnWheel(tabs.first(), {0, -120});
         QVERIFY(arrow(host, true));
-        turnWheel(tabs.at(1), 120);
+        turnWheel(tabs.at(1), {0, 120});
         QVERIFY(!arrow(host, true));
 
         QTest::mouseClick(tabs.at(3), Qt::LeftButton);

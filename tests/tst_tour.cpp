@@ -1,3 +1,4 @@
+#include "tests/support/Menus.h"
 #include "tests/support/TestHost.h"
 #include "toolbar/ActionData.h"
 #include "toolbar/widgets/MRMainToolBar.h"

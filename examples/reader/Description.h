@@ -2,6 +2,16 @@
 
 #include <QDomDocument>
 
+#include <optional>
+
+/** Why a text is no description, and where; both count from 1, a 0 stands for no place. */
+struct DescriptionFault
+{
+    QString message;
+    int line = 0;
+    int column = 0;
+};
+
 /** Reading the description of a toolbar, and what a host may add to it. */
 namespace Description {
 
@@ -12,6 +22,15 @@ namespace Description {
  * @param error gets one line that tells what is wrong; empty if nothing is.
  */
 QDomDocument read(const QString &name, const QString &skin, QString *error);
+
+/** Whether the name stands for a description that the library brings along. */
+bool isShipped(const QString &name);
+
+/** Reads a description from the content of a file; @p fault is set if it is none. */
+QDomDocument parse(const QByteArray &content, std::optional<DescriptionFault> *fault);
+
+/** Lets a toolbar begin with the tab of that name, if it has one, whichever is described so. */
+void beginWithTab(QDomDocument &description, const QString &name);
 
 /**
  * Ends the menu of recent files with an entry that clears it. Only with such an entry does the

@@ -18,7 +18,7 @@ void AddMarkEdit::undo()
 }
 
 RemoveMarkEdit::RemoveMarkEdit(Document &document, int position)
-    : QUndoCommand(QStringLiteral("擦除笔迹"))
+    : QUndoCommand(tr("擦除笔迹"))
     , m_document(document)
     , m_position(position)
     , m_mark(document.marks().at(position))

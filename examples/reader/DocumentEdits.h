@@ -2,6 +2,7 @@
 
 #include "Document.h"
 
+#include <QCoreApplication>
 #include <QUndoCommand>
 
 /** A mark put on a page. */
@@ -20,6 +21,8 @@ private:
 /** A mark rubbed out; it comes back where it was in the order of drawing. */
 class RemoveMarkEdit : public QUndoCommand
 {
+    Q_DECLARE_TR_FUNCTIONS(RemoveMarkEdit)
+
 public:
     RemoveMarkEdit(Document &document, int position);
     void redo() override;

@@ -94,21 +94,22 @@ void EditCommands::addPages(CommandTable &table)
         const int index = m_parts.view->currentPage() + 1;
         m_parts.document->insertPage(index, page, what);
         m_parts.view->setCurrentPage(index);
-        m_parts.say(QStringLiteral("%1：第 %2 页").arg(what).arg(index + 1));
+        m_parts.say(tr("%1：第 %2 页").arg(what).arg(index + 1));
     };
     table.add(name("d_insertblankpage"), Needs::Document, [insert](const QString &) {
         Page blank;
-        blank.heading = QStringLiteral("空白页");
-        insert(blank, QStringLiteral("插入空白页"));
+        blank.heading = tr("空白页");
+        insert(blank, tr("插入空白页"));
     });
     table.add(name("d_insertpage"), Needs::Document, [this, insert](const QString &) {
         const int number = m_parts.document->pageCount() + 1;
-        insert(PageGenerator::page(insertedPageSeed, number), QStringLiteral("插入页面"));
+        insert(PageGenerator::page(insertedPageSeed, number), tr("插入页面"));
     });
 }
 
 void EditCommands::addStamps(CommandTable &table)
 {
+    // What is put on a page belongs to the document, and is written in its language.
     table.add(name("t_sealsign"), Needs::Document, [this](const QString &) {
         place(MarkKind::RoundSeal, QRectF(520, 830, 170, 170), QStringLiteral("示例单位专用章"));
     });
@@ -156,16 +157,15 @@ void EditCommands::editHandwriting()
     if (!m_parts.document->isOpen())
         return;
     useTool(m_lastPen);
-    m_parts.say(QStringLiteral("按住鼠标左键在页面上书写"));
+    m_parts.say(tr("按住鼠标左键在页面上书写"));
 }
 
 void EditCommands::addDrawn(Mark mark)
 {
     if (mark.kind == MarkKind::TextBox || mark.kind == MarkKind::Note) {
         bool isGiven = false;
-        mark.text =
-            QInputDialog::getText(m_parts.window, markName(mark.kind), QStringLiteral("文字"),
-                                  QLineEdit::Normal, QString(), &isGiven);
+        mark.text = QInputDialog::getText(m_parts.window, markName(mark.kind), tr("文字"),
+                                          QLineEdit::Normal, QString(), &isGiven);
         if (!isGiven || mark.text.isEmpty())
             return;
     }
@@ -181,7 +181,7 @@ void EditCommands::place(MarkKind kind, const QRectF &rect, const QString &text)
     mark.text = text;
     mark.colour = sealColour;
     m_parts.document->addMark(mark, markName(kind));
-    m_parts.say(QStringLiteral("%1：第 %2 页").arg(markName(kind)).arg(mark.page + 1));
+    m_parts.say(tr("%1：第 %2 页").arg(markName(kind)).arg(mark.page + 1));
 }
 
 void EditCommands::placeOnEveryPage(MarkKind kind, const QRectF &rect, const QString &text)
@@ -193,15 +193,15 @@ void EditCommands::placeOnEveryPage(MarkKind kind, const QRectF &rect, const QSt
     mark.text = text;
     mark.colour = kind == MarkKind::Watermark ? watermarkColour : sealColour;
     m_parts.document->addMark(mark, markName(kind));
-    m_parts.say(QStringLiteral("%1：每一页").arg(markName(kind)));
+    m_parts.say(tr("%1：每一页").arg(markName(kind)));
 }
 
 void EditCommands::addWatermark()
 {
     bool isGiven = false;
-    const QString text = QInputDialog::getText(m_parts.window, markName(MarkKind::Watermark),
-                                               QStringLiteral("水印的文字"), QLineEdit::Normal,
-                                               QStringLiteral("内部资料"), &isGiven);
+    const QString text =
+        QInputDialog::getText(m_parts.window, markName(MarkKind::Watermark), tr("水印的文字"),
+                              QLineEdit::Normal, tr("内部资料"), &isGiven);
     const QSizeF size = m_parts.document->sizeOf(m_parts.view->currentPage());
     if (isGiven && !text.isEmpty())
         placeOnEveryPage(MarkKind::Watermark, QRectF(QPointF(0, 0), size), text);
@@ -216,5 +216,5 @@ void EditCommands::selectPages(int first, int last)
             selection.append({page, 0, length});
     }
     m_parts.view->setSelection(selection);
-    m_parts.say(QStringLiteral("已选择 %1 个字").arg(m_parts.view->selectedText().size()));
+    m_parts.say(tr("已选择 %1 个字").arg(m_parts.view->selectedText().size()));
 }

@@ -3,12 +3,16 @@
 #include "Mark.h"
 #include "ReaderParts.h"
 
+#include <QCoreApplication>
+
 class CommandTable;
 class QString;
 
 /** Everything that changes the document: tools, stamps, pages, and taking it back. */
 class EditCommands
 {
+    Q_DECLARE_TR_FUNCTIONS(EditCommands)
+
 public:
     explicit EditCommands(const ReaderParts &parts);
 

@@ -19,10 +19,22 @@
 
 namespace {
 
-const QString ofdFilter = QStringLiteral("OFD 文件 (*.ofd)");
-const QString pdfFilter = QStringLiteral("PDF 文件 (*.pdf)");
-const QString textFilter = QStringLiteral("文本文件 (*.txt)");
 constexpr int mostRecentFiles = 30;
+
+QString ofdFilter()
+{
+    return FileCommands::tr("OFD 文件 (*.ofd)");
+}
+
+QString pdfFilter()
+{
+    return FileCommands::tr("PDF 文件 (*.pdf)");
+}
+
+QString textFilter()
+{
+    return FileCommands::tr("文本文件 (*.txt)");
+}
 
 } // namespace
 
@@ -45,14 +57,13 @@ void FileCommands::addTo(CommandTable &table)
     table.add(name("f_exit"), Needs::Nothing, [this](const QString &) { m_parts.window->close(); });
     table.add(name("f_clearhistory"), Needs::Nothing,
               [this](const QString &) { m_parts.settings->clearRecentFiles(); });
-    table.add(name("f_saveenv"), Needs::Document, [this](const QString &) {
-        m_parts.say(QStringLiteral("保存信封：示例不生成数字信封"));
-    });
+    table.add(name("f_saveenv"), Needs::Document,
+              [this](const QString &) { m_parts.say(tr("保存信封：示例不生成数字信封")); });
     table.add(name("e_preference"), Needs::Nothing, [this](const QString &) { showPreferences(); });
     table.add({QStringLiteral("h_productinfo"), QStringLiteral("h_software")}, Needs::Nothing,
               [this](const QString &) { showAbout(); });
     table.add(name("h_softupdate"), Needs::Nothing,
-              [this](const QString &) { m_parts.say(QStringLiteral("检查更新：示例不连接网络")); });
+              [this](const QString &) { m_parts.say(tr("检查更新：示例不连接网络")); });
 }
 
 void FileCommands::open(const QString &fileName)
@@ -68,20 +79,18 @@ void FileCommands::open(const QString &fileName)
     m_parts.settings->addRecentFile(fileName);
     m_parts.view->setCurrentPage(0);
     const QString leftOut = m_parts.document->file().leftOut;
-    m_parts.say(leftOut.isEmpty()
-                    ? QStringLiteral("已打开：%1").arg(QDir::toNativeSeparators(fileName))
-                    : leftOut);
+    m_parts.say(leftOut.isEmpty() ? tr("已打开：%1").arg(QDir::toNativeSeparators(fileName))
+                                  : leftOut);
 }
 
 void FileCommands::refuse(const QString &fileName, const QString &reason) const
 {
     // Not exec(): a file named on the command line is opened before the window is up.
-    auto *box = new QMessageBox(
-        QMessageBox::Warning, QStringLiteral("无法打开"),
-        QStringLiteral("无法打开“%1”：%2").arg(QFileInfo(fileName).fileName(), reason),
-        QMessageBox::Ok, m_parts.window);
+    auto *box = new QMessageBox(QMessageBox::Warning, tr("无法打开"),
+                                tr("无法打开“%1”：%2").arg(QFileInfo(fileName).fileName(), reason),
+                                QMessageBox::Ok, m_parts.window);
     box->setTextFormat(Qt::PlainText);
-    box->button(QMessageBox::Ok)->setText(QStringLiteral("确定"));
+    box->button(QMessageBox::Ok)->setText(tr("确定"));
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->open();
 }
@@ -91,11 +100,10 @@ bool FileCommands::mayDiscard() const
     if (!m_parts.document->isModified())
         return true;
     QMessageBox box(QMessageBox::Question, m_parts.window->windowTitle(),
-                    QStringLiteral("“%1”有未保存的修改，要放弃吗？").arg(m_parts.document->title()),
+                    tr("“%1”有未保存的修改，要放弃吗？").arg(m_parts.document->title()),
                     QMessageBox::NoButton, m_parts.window);
-    const QPushButton *discard =
-        box.addButton(QStringLiteral("放弃修改"), QMessageBox::DestructiveRole);
-    box.addButton(QStringLiteral("取消"), QMessageBox::RejectRole);
+    const QPushButton *discard = box.addButton(tr("放弃修改"), QMessageBox::DestructiveRole);
+    box.addButton(tr("取消"), QMessageBox::RejectRole);
     box.exec();
     return box.clickedButton() == discard;
 }
@@ -103,8 +111,8 @@ bool FileCommands::mayDiscard() const
 void FileCommands::askAndOpen()
 {
     const QString fileName =
-        QFileDialog::getOpenFileName(m_parts.window, QStringLiteral("打开"), QString(),
-                                     ofdFilter + QStringLiteral(";;所有文件 (*)"));
+        QFileDialog::getOpenFileName(m_parts.window, tr("打开"), QString(),
+                                     ofdFilter() + QStringLiteral(";;") + tr("所有文件 (*)"));
     if (!fileName.isEmpty())
         open(fileName);
 }
@@ -133,39 +141,39 @@ void FileCommands::saveAs()
 void FileCommands::saveTo(const QString &fileName)
 {
     if (!Export::write(*m_parts.document, fileName)) {
-        m_parts.say(QStringLiteral("无法写入：%1").arg(fileName));
+        m_parts.say(tr("无法写入：%1").arg(fileName));
         return;
     }
     if (m_parts.document->isModified() && !Export::keepsMarks(fileName)) {
-        m_parts.say(QStringLiteral("已保存，但不含批注；另存为 PDF 可保留批注：%1").arg(fileName));
+        m_parts.say(tr("已保存，但不含批注；另存为 PDF 可保留批注：%1").arg(fileName));
         return;
     }
     m_savedFile = fileName;
     m_parts.document->undoStack().setClean();
-    m_parts.say(QStringLiteral("已保存：%1").arg(fileName));
+    m_parts.say(tr("已保存：%1").arg(fileName));
 }
 
 void FileCommands::print()
 {
     if (Printing::ask(*m_parts.document, m_parts.view->currentPage(), m_parts.window))
-        m_parts.say(QStringLiteral("已打印"));
+        m_parts.say(tr("已打印"));
     else
-        m_parts.say(QStringLiteral("没有打印"));
+        m_parts.say(tr("没有打印"));
 }
 
 QString FileCommands::askFileToWrite() const
 {
-    const QMap<QString, QString> suffixes = {{ofdFilter, QStringLiteral(".ofd")},
-                                             {pdfFilter, QStringLiteral(".pdf")},
-                                             {textFilter, QStringLiteral(".txt")}};
-    QStringList filters = {pdfFilter, textFilter};
+    const QMap<QString, QString> suffixes = {{ofdFilter(), QStringLiteral(".ofd")},
+                                             {pdfFilter(), QStringLiteral(".pdf")},
+                                             {textFilter(), QStringLiteral(".txt")}};
+    QStringList filters = {pdfFilter(), textFilter()};
     // The package is copied as it is, so it comes first as long as nothing would be lost.
     if (!m_parts.document->isGenerated())
-        filters.insert(m_parts.document->isModified() ? 1 : 0, ofdFilter);
+        filters.insert(m_parts.document->isModified() ? 1 : 0, ofdFilter());
     const QFileInfo file(m_parts.document->fileName());
     QString chosen = filters.first();
     QString fileName = QFileDialog::getSaveFileName(
-        m_parts.window, QStringLiteral("另存为"), file.completeBaseName() + suffixes.value(chosen),
+        m_parts.window, tr("另存为"), file.completeBaseName() + suffixes.value(chosen),
         filters.join(QStringLiteral(";;")), &chosen);
     if (!fileName.isEmpty() && QFileInfo(fileName).suffix().isEmpty())
         fileName += suffixes.value(chosen);
@@ -180,16 +188,16 @@ void FileCommands::showProperties() const
 void FileCommands::showPreferences()
 {
     bool isGiven = false;
-    const int limit = QInputDialog::getInt(
-        m_parts.window, QStringLiteral("设置"), QStringLiteral("最近打开的文件的数量"),
-        m_parts.settings->recentLimit(), 1, mostRecentFiles, 1, &isGiven);
+    const int limit =
+        QInputDialog::getInt(m_parts.window, tr("设置"), tr("最近打开的文件的数量"),
+                             m_parts.settings->recentLimit(), 1, mostRecentFiles, 1, &isGiven);
     if (isGiven)
         m_parts.settings->setRecentLimit(limit);
 }
 
 void FileCommands::showAbout() const
 {
-    QMessageBox::about(m_parts.window, QStringLiteral("关于OFD阅读器"),
-                       QStringLiteral("工具栏的示例阅读器，可打开 OFD 文件。\n\nQt %1")
-                           .arg(QLatin1String(qVersion())));
+    QMessageBox::about(
+        m_parts.window, tr("关于OFD阅读器"),
+        tr("工具栏的示例阅读器，可打开 OFD 文件。\n\nQt %1").arg(QLatin1String(qVersion())));
 }

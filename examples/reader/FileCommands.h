@@ -2,6 +2,7 @@
 
 #include "ReaderParts.h"
 
+#include <QCoreApplication>
 #include <QString>
 
 class CommandTable;
@@ -9,6 +10,8 @@ class CommandTable;
 /** Files, settings and what the reader says of itself. */
 class FileCommands
 {
+    Q_DECLARE_TR_FUNCTIONS(FileCommands)
+
 public:
     explicit FileCommands(const ReaderParts &parts);
 

@@ -112,8 +112,7 @@ void HandwritingSettings::followRegion(MRHandWriteDialog &dialog)
     whenClicked(dialog, QStringLiteral("pushButtonRegionWrite"), [&dialog] { dialog.accept(); });
     whenClicked(dialog, QStringLiteral("pushButtonRegionWriteSet"), [&dialog] {
         bool isGiven = false;
-        const int size = QInputDialog::getInt(&dialog, QStringLiteral("区域手写"),
-                                              QStringLiteral("区域的大小（像素）"),
+        const int size = QInputDialog::getInt(&dialog, tr("区域手写"), tr("区域的大小（像素）"),
                                               dialog.GetRegionSize(), 20, 600, 10, &isGiven);
         if (isGiven)
             dialog.SetRegionSize(size);

@@ -23,13 +23,13 @@ HostPanel::HostPanel(QWidget *parent)
     : QWidget(parent)
 {
     auto *row = new QHBoxLayout;
-    row->addWidget(new QLabel(QStringLiteral("皮肤颜色")));
-    addSkinButton(row, QStringLiteral("蓝"), "#008AD9", SkinMaps::blue());
-    addSkinButton(row, QStringLiteral("绿"), "#1B7A3D", SkinMaps::green());
-    addSkinButton(row, QStringLiteral("暗"), "#20262C", SkinMaps::dark());
+    row->addWidget(new QLabel(tr("皮肤颜色")));
+    addSkinButton(row, tr("蓝"), "#008AD9", SkinMaps::blue());
+    addSkinButton(row, tr("绿"), "#1B7A3D", SkinMaps::green());
+    addSkinButton(row, tr("暗"), "#20262C", SkinMaps::dark());
     row->addStretch();
 
-    auto *penButton = new QPushButton(QStringLiteral("手写设置…"));
+    auto *penButton = new QPushButton(tr("手写设置…"));
     penButton->setObjectName(QStringLiteral("host_handwriting"));
     connect(penButton, &QPushButton::clicked, this, &HostPanel::handwritingAsked);
 

@@ -3,6 +3,7 @@
 #include "ShapePath.h"
 #include "StampPainter.h"
 
+#include <QCoreApplication>
 #include <QMap>
 #include <QPainter>
 #include <QPainterPath>
@@ -71,33 +72,33 @@ bool isTextMark(MarkKind kind)
 
 QString markName(MarkKind kind)
 {
-    static const QMap<MarkKind, QString> names = {
-        {MarkKind::Highlight, QStringLiteral("高亮")},
-        {MarkKind::Underline, QStringLiteral("下划线")},
-        {MarkKind::WavyLine, QStringLiteral("波浪线")},
-        {MarkKind::DeleteLine, QStringLiteral("删除线")},
-        {MarkKind::Revision, QStringLiteral("修订")},
-        {MarkKind::StraightLine, QStringLiteral("直线")},
-        {MarkKind::Arrow, QStringLiteral("箭头")},
-        {MarkKind::Rectangle, QStringLiteral("矩形")},
-        {MarkKind::Ellipse, QStringLiteral("椭圆")},
-        {MarkKind::Polygon, QStringLiteral("多边形")},
-        {MarkKind::Polyline, QStringLiteral("折线")},
-        {MarkKind::Cloud, QStringLiteral("云线")},
-        {MarkKind::Ink, QStringLiteral("笔迹")},
-        {MarkKind::DisplayMask, QStringLiteral("显示遮罩")},
-        {MarkKind::PrintMask, QStringLiteral("打印遮罩")},
-        {MarkKind::TextBox, QStringLiteral("文本框")},
-        {MarkKind::Note, QStringLiteral("便签")},
-        {MarkKind::RoundSeal, QStringLiteral("电子签章")},
-        {MarkKind::EdgeSeal, QStringLiteral("骑缝章")},
-        {MarkKind::SquareSeal, QStringLiteral("印章")},
-        {MarkKind::SealPlace, QStringLiteral("签章标记")},
-        {MarkKind::Stamp, QStringLiteral("图章")},
-        {MarkKind::Picture, QStringLiteral("贴图")},
-        {MarkKind::Watermark, QStringLiteral("水印")},
+    static const QMap<MarkKind, const char *> names = {
+        {MarkKind::Highlight, QT_TRANSLATE_NOOP("Mark", "高亮")},
+        {MarkKind::Underline, QT_TRANSLATE_NOOP("Mark", "下划线")},
+        {MarkKind::WavyLine, QT_TRANSLATE_NOOP("Mark", "波浪线")},
+        {MarkKind::DeleteLine, QT_TRANSLATE_NOOP("Mark", "删除线")},
+        {MarkKind::Revision, QT_TRANSLATE_NOOP("Mark", "修订")},
+        {MarkKind::StraightLine, QT_TRANSLATE_NOOP("Mark", "直线")},
+        {MarkKind::Arrow, QT_TRANSLATE_NOOP("Mark", "箭头")},
+        {MarkKind::Rectangle, QT_TRANSLATE_NOOP("Mark", "矩形")},
+        {MarkKind::Ellipse, QT_TRANSLATE_NOOP("Mark", "椭圆")},
+        {MarkKind::Polygon, QT_TRANSLATE_NOOP("Mark", "多边形")},
+        {MarkKind::Polyline, QT_TRANSLATE_NOOP("Mark", "折线")},
+        {MarkKind::Cloud, QT_TRANSLATE_NOOP("Mark", "云线")},
+        {MarkKind::Ink, QT_TRANSLATE_NOOP("Mark", "笔迹")},
+        {MarkKind::DisplayMask, QT_TRANSLATE_NOOP("Mark", "显示遮罩")},
+        {MarkKind::PrintMask, QT_TRANSLATE_NOOP("Mark", "打印遮罩")},
+        {MarkKind::TextBox, QT_TRANSLATE_NOOP("Mark", "文本框")},
+        {MarkKind::Note, QT_TRANSLATE_NOOP("Mark", "便签")},
+        {MarkKind::RoundSeal, QT_TRANSLATE_NOOP("Mark", "电子签章")},
+        {MarkKind::EdgeSeal, QT_TRANSLATE_NOOP("Mark", "骑缝章")},
+        {MarkKind::SquareSeal, QT_TRANSLATE_NOOP("Mark", "印章")},
+        {MarkKind::SealPlace, QT_TRANSLATE_NOOP("Mark", "签章标记")},
+        {MarkKind::Stamp, QT_TRANSLATE_NOOP("Mark", "图章")},
+        {MarkKind::Picture, QT_TRANSLATE_NOOP("Mark", "贴图")},
+        {MarkKind::Watermark, QT_TRANSLATE_NOOP("Mark", "水印")},
     };
-    return names.value(kind);
+    return QCoreApplication::translate("Mark", names.value(kind));
 }
 
 QList<QRectF> textRectsOf(const Mark &mark)

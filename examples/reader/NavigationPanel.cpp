@@ -30,9 +30,9 @@ constexpr QSize thumbnailSize(106, 150);
 QString titleOf(const QString &panel)
 {
     static const QHash<QString, QString> titles = {
-        {outline, QStringLiteral("大纲")},     {thumbnails, QStringLiteral("缩略图")},
-        {words, QStringLiteral("自定义标引")}, {bookmarks, QStringLiteral("书签")},
-        {marks, QStringLiteral("批注")},       {attachments, QStringLiteral("附件")},
+        {outline, NavigationPanel::tr("大纲")},     {thumbnails, NavigationPanel::tr("缩略图")},
+        {words, NavigationPanel::tr("自定义标引")}, {bookmarks, NavigationPanel::tr("书签")},
+        {marks, NavigationPanel::tr("批注")},       {attachments, NavigationPanel::tr("附件")},
     };
     return titles.value(panel);
 }
@@ -85,7 +85,7 @@ NavigationPanel::NavigationPanel(const Document &document, QWidget *parent)
     : QDockWidget(parent)
     , m_document(document)
     , m_stack(new QStackedWidget)
-    , m_bookmarkButton(new QPushButton(QStringLiteral("为当前页添加书签")))
+    , m_bookmarkButton(new QPushButton(tr("为当前页添加书签")))
 {
     setObjectName(QStringLiteral("navigation"));
     auto *content = new QWidget;
@@ -173,7 +173,7 @@ void NavigationPanel::refill()
     const int row = list->currentRow();
     list->clear();
     if (!m_document.isOpen())
-        addNotice(list, QStringLiteral("没有打开的文档"));
+        addNotice(list, tr("没有打开的文档"));
     else if (m_panel == outline)
         fillOutline();
     else if (m_panel == thumbnails)
@@ -194,7 +194,7 @@ void NavigationPanel::fillOutline()
     addPlaces(outline, m_document.file().outline);
     if (!m_document.isGenerated()) {
         if (m_document.file().outline.isEmpty())
-            addNotice(m_lists.value(outline), QStringLiteral("本文档没有大纲"));
+            addNotice(m_lists.value(outline), tr("本文档没有大纲"));
         return;
     }
     for (int page = 0; page < m_document.pageCount(); ++page) {
@@ -247,7 +247,7 @@ void NavigationPanel::fillWords()
         int count = 0;
         for (int page = 0; page < m_document.pageCount(); ++page)
             count += int(m_document.page(page).text.count(word));
-        auto *item = new QListWidgetItem(QStringLiteral("%1（%2 处）").arg(word).arg(count), list);
+        auto *item = new QListWidgetItem(tr("%1（%2 处）").arg(word).arg(count), list);
         item->setData(wordRole, word);
     }
 }
@@ -258,25 +258,24 @@ void NavigationPanel::fillBookmarks()
     addPlaces(bookmarks, m_document.file().bookmarks);
     for (const int page : std::as_const(m_bookmarks)) {
         if (page < m_document.pageCount())
-            addItem(list, QStringLiteral("第 %1 页").arg(page + 1), page);
+            addItem(list, tr("第 %1 页").arg(page + 1), page);
     }
     if (list->count() == 0)
-        addNotice(list, QStringLiteral("还没有书签"));
+        addNotice(list, tr("还没有书签"));
 }
 
 void NavigationPanel::fillMarks()
 {
     QListWidget *list = m_lists.value(marks);
     for (const Mark &mark : m_document.marks()) {
-        const QString place = mark.page == everyPage
-                                  ? QStringLiteral("每一页")
-                                  : QStringLiteral("第 %1 页").arg(mark.page + 1);
-        const QString text = mark.text.isEmpty() ? QString() : QStringLiteral("：") + mark.text;
+        const QString place =
+            mark.page == everyPage ? tr("每一页") : tr("第 %1 页").arg(mark.page + 1);
+        const QString text = mark.text.isEmpty() ? QString() : tr("：%1").arg(mark.text);
         addItem(list, place + QStringLiteral("　") + markName(mark.kind) + text,
                 std::max(0, mark.page));
     }
     if (list->count() == 0)
-        addNotice(list, QStringLiteral("还没有批注"));
+        addNotice(list, tr("还没有批注"));
 }
 
 void NavigationPanel::fillAttachments()
@@ -285,7 +284,7 @@ void NavigationPanel::fillAttachments()
     for (const QString &name : names)
         addNotice(m_lists.value(attachments), name);
     if (names.isEmpty())
-        addNotice(m_lists.value(attachments), QStringLiteral("本文档没有附件"));
+        addNotice(m_lists.value(attachments), tr("本文档没有附件"));
 }
 
 void NavigationPanel::itemChosen(const QListWidgetItem *item)

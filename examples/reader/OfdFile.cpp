@@ -71,8 +71,9 @@ QString leftOutOf(const Ofd::Painter &painter)
         counts[kind.key()] += kind.value();
     QStringList parts;
     for (auto kind = counts.cbegin(); kind != counts.cend(); ++kind)
-        parts.append(QStringLiteral("%1 %2 处").arg(kind.key()).arg(kind.value()));
-    return parts.isEmpty() ? QString() : QStringLiteral("未显示：") + parts.join(QChar(u'，'));
+        parts.append(OfdFile::tr("%1 %2 处").arg(kind.key()).arg(kind.value()));
+    return parts.isEmpty() ? QString()
+                           : OfdFile::tr("未显示：%1").arg(parts.join(OfdFile::tr("，")));
 }
 
 } // namespace
@@ -87,7 +88,7 @@ bool OfdFile::read(const QString &fileName, QList<Page> *pages, QString *error)
     for (int i = 0; i < document->pages.size(); ++i) {
         Page page;
         page.size = document->pages.at(i).area.size() * unitsPerMillimetre;
-        page.heading = QStringLiteral("第 %1 页").arg(i + 1);
+        page.heading = tr("第 %1 页").arg(i + 1);
         page.content = std::make_shared<OfdPageContent>(painter, i);
         page.isTextRead = false;
         pages->append(page);

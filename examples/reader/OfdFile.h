@@ -3,6 +3,7 @@
 #include "Page.h"
 
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QPair>
 #include <QStringList>
 
@@ -17,6 +18,9 @@ struct NamedPlace
 /** What the reader knows of a file besides its pages. All of it is empty for generated pages. */
 struct OfdFile
 {
+    Q_DECLARE_TR_FUNCTIONS(OfdFile)
+
+public:
     QByteArray archive; ///< The file itself, as it was read.
     QVector<QPair<QString, QString>> information;
     QList<NamedPlace> outline;

@@ -1,10 +1,14 @@
 #include "Options.h"
 
+#include "Description.h"
+
 #include <QCommandLineParser>
+#include <QFileInfo>
 
 namespace {
 
 const QStringList skins = {QStringLiteral("marodi"), QStringLiteral("lum")};
+const QStringList languages = {QStringLiteral("zh_CN"), QStringLiteral("en")};
 
 const QCommandLineOption &skinOption()
 {
@@ -21,6 +25,16 @@ const QCommandLineOption &descriptionOption()
         QStringLiteral("Toolbar description: a file, or release or debug for one of the skin's own "
                        "(release)."),
         QStringLiteral("file"), QStringLiteral("release"));
+    return option;
+}
+
+const QCommandLineOption &languageOption()
+{
+    static const QCommandLineOption option(
+        QStringLiteral("language"),
+        QStringLiteral("Language of the reader: zh_CN or en (zh_CN). The toolbar shows the texts "
+                       "of its description."),
+        QStringLiteral("name"), languages.first());
     return option;
 }
 
@@ -42,15 +56,39 @@ const QCommandLineOption &clearHistoryOption()
     return option;
 }
 
+const QCommandLineOption &watchOption()
+{
+    static const QCommandLineOption option(
+        QStringLiteral("watch"),
+        QStringLiteral("Rebuild the toolbar whenever the file of the description is saved, and "
+                       "list what is wrong with it."));
+    return option;
+}
+
+/** Only a file of one's own is ever saved; the shipped descriptions are part of the library. */
+QString watchFaultOf(const QString &description)
+{
+    if (Description::isShipped(description))
+        return QStringLiteral("--watch needs a file of your own, as --description FILE");
+    if (!QFileInfo(description).isFile())
+        return QStringLiteral("--watch: there is no file '%1'").arg(description);
+    return QString();
+}
+
 QString faultOf(const QCommandLineParser &parser)
 {
     const QString skin = parser.value(skinOption());
     if (!skins.contains(skin))
         return QStringLiteral("--skin takes marodi or lum, not '%1'").arg(skin);
+    const QString language = parser.value(languageOption());
+    if (!languages.contains(language))
+        return QStringLiteral("--language takes zh_CN or en, not '%1'").arg(language);
     if (parser.positionalArguments().size() > 1)
         return QStringLiteral("only one file can be opened at a time");
     if (parser.isSet(screenshotOption()) && parser.value(screenshotOption()).isEmpty())
         return QStringLiteral("--screenshot takes a file name");
+    if (parser.isSet(watchOption()))
+        return watchFaultOf(parser.value(descriptionOption()));
     return QString();
 }
 
@@ -63,8 +101,8 @@ Options Options::of(const QStringList &arguments, QString *error)
     parser.addPositionalArgument(
         QStringLiteral("file"), QStringLiteral("An OFD file; without one the pages are generated."),
         QStringLiteral("[file]"));
-    parser.addOptions(
-        {skinOption(), descriptionOption(), screenshotOption(), clearHistoryOption()});
+    parser.addOptions({skinOption(), languageOption(), descriptionOption(), watchOption(),
+                       screenshotOption(), clearHistoryOption()});
     const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
                                   QStringLiteral("Show this text and end."));
     parser.addOption(help);
@@ -78,9 +116,11 @@ Options Options::of(const QStringList &arguments, QString *error)
         parser.showHelp();
     *error = faultOf(parser);
     options.skin = parser.value(skinOption());
+    options.language = parser.value(languageOption());
     options.description = parser.value(descriptionOption());
     options.screenshot = parser.value(screenshotOption());
     options.file = parser.positionalArguments().value(0);
+    options.watch = parser.isSet(watchOption());
     options.clearHistory = parser.isSet(clearHistoryOption());
     return options;
 }

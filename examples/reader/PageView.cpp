@@ -379,5 +379,5 @@ void PageView::paintHint(QPainter &painter)
     painter.setFont(font);
     painter.setPen(PageColours::of(m_background).ink);
     painter.drawText(viewport()->rect(), Qt::AlignCenter,
-                     QStringLiteral("没有打开的文档\n按 Ctrl+O 打开一个文件"));
+                     tr("没有打开的文档\n按 Ctrl+O 打开一个文件"));
 }

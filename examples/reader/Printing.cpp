@@ -3,6 +3,7 @@
 #include "Document.h"
 #include "PagePainter.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QPageLayout>
 #include <QPainter>
@@ -74,7 +75,7 @@ bool Printing::ask(const Document &document, int currentPage, QWidget *parent)
     printer.setFromTo(1, document.pageCount());
     printer.setPrintRange(QPrinter::AllPages);
     QPrintDialog dialog(&printer, parent);
-    dialog.setWindowTitle(QStringLiteral("打印"));
+    dialog.setWindowTitle(QCoreApplication::translate("Printing", "打印"));
     dialog.setOption(QAbstractPrintDialog::PrintCurrentPage);
     dialog.setMinMax(1, document.pageCount());
     return dialog.exec() == QDialog::Accepted && print(document, currentPage, printer);

@@ -1,5 +1,6 @@
 #include "ReaderWindow.h"
 
+#include "Description.h"
 #include "HandwritingSettings.h"
 #include "HostPanel.h"
 #include "NavigationPanel.h"
@@ -11,18 +12,20 @@
 
 #include <QCloseEvent>
 #include <QComboBox>
-#include <QDomDocument>
 #include <QDropEvent>
 #include <QLabel>
 #include <QMimeData>
+#include <QPushButton>
 #include <QShortcut>
 #include <QStatusBar>
+#include <QToolBar>
 #include <QUrl>
 #include <QVBoxLayout>
 
 namespace {
 
 const QString quickAccessKey = QStringLiteral("quickaccessbarbuttons");
+const QString toolBarName = QStringLiteral("mrtoolbar");
 const QString sampleName = QStringLiteral("示例文档.ofd");
 constexpr int messageTime = 6000;
 constexpr int logWidth = 300;
@@ -45,6 +48,7 @@ void ReaderParts::say(const QString &message) const
 
 ReaderWindow::ReaderWindow(const QDomDocument &description, const QString &skin)
     : m_skin(skin)
+    , m_colours(HostPanel::firstSkin())
     , m_view(new PageView(m_document, this))
     , m_navigation(new NavigationPanel(m_document, this))
     , m_search(new SearchPanel(m_document, *m_view, this))
@@ -94,7 +98,7 @@ void ReaderWindow::createDocks()
     layout->addWidget(m_hostPanel);
     layout->addWidget(m_log);
     content->setMinimumWidth(logWidth * logicalDpiX() / referenceDpi);
-    auto *dock = new QDockWidget(QStringLiteral("宿主"), this);
+    auto *dock = new QDockWidget(tr("宿主"), this);
     dock->setObjectName(QStringLiteral("host"));
     dock->setWidget(content);
     addDockWidget(Qt::RightDockWidgetArea, dock);
@@ -102,14 +106,45 @@ void ReaderWindow::createDocks()
 
 void ReaderWindow::createToolBar(const QDomDocument &description)
 {
-    ToolBarSkinStyle skin = HostPanel::firstSkin();
-    const QString buttons = m_settings.quickAccessButtons(m_skin);
+    ToolBarSkinStyle skin = m_colours;
+    const QString buttons = m_skin.isEmpty() ? QString() : m_settings.quickAccessButtons(m_skin);
     if (!buttons.isEmpty())
         skin.insert(quickAccessKey, buttons);
     QDomNode root = description.documentElement();
     m_toolBar = std::make_unique<MRToolBar>(this, root, skin, ToolBarLeft);
     m_report.emplace(*m_toolBar, m_commands);
     m_log->listenTo(*m_toolBar);
+}
+
+void ReaderWindow::setDescription(QDomDocument description)
+{
+    Description::beginWithTab(description, shownTab());
+    removeToolBar();
+    createToolBar(description);
+    connectToolBar();
+    m_report->tellAll(state());
+}
+
+void ReaderWindow::removeToolBar()
+{
+    auto *bar = findChild<QToolBar *>(toolBarName, Qt::FindDirectChildrenOnly);
+    if (bar->isAncestorOf(focusWidget()))
+        m_view->setFocus();
+    m_report.reset();
+    m_toolBar.reset();
+    // Not later: the next toolbar is made when the former is gone, as both bear the same names.
+    delete bar;
+}
+
+QString ReaderWindow::shownTab() const
+{
+    const QList<QPushButton *> buttons = findChildren<QPushButton *>();
+    for (const QPushButton *button : buttons) {
+        if (button->isChecked()
+            && button->property("module").toString() == QLatin1String("tabbutton"))
+            return button->objectName();
+    }
+    return QString();
 }
 
 void ReaderWindow::createCommands()
@@ -196,7 +231,10 @@ void ReaderWindow::connectParts()
     connect(m_search, &SearchPanel::found, this,
             [this](const QString &message) { parts().say(message); });
 
-    connect(m_hostPanel, &HostPanel::skinChosen, m_toolBar.get(), &MRToolBar::DoSetSkinStyleSlot);
+    connect(m_hostPanel, &HostPanel::skinChosen, this, [this](const ToolBarSkinStyle &colours) {
+        m_colours = colours;
+        m_toolBar->DoSetSkinStyleSlot(colours);
+    });
     connect(m_hostPanel, &HostPanel::handwritingAsked, this, [this] {
         m_editCommands.editHandwriting();
         stateChanged();
@@ -206,7 +244,7 @@ void ReaderWindow::connectParts()
 void ReaderWindow::runCommand(const QString &name)
 {
     if (!m_commands.run(name))
-        parts().say(QStringLiteral("没有实现的命令：%1").arg(name));
+        parts().say(tr("没有实现的命令：%1").arg(name));
     stateChanged();
 }
 
@@ -283,17 +321,16 @@ void ReaderWindow::updateToolBar()
 
 void ReaderWindow::updateTitle()
 {
-    const QString application = QStringLiteral("OFD阅读器");
+    const QString application = tr("OFD阅读器");
     setWindowModified(m_document.isModified());
     if (!m_document.isOpen()) {
         setWindowTitle(application);
         m_place->clear();
         return;
     }
-    const QString origin =
-        m_document.isGenerated() ? QStringLiteral("（生成的页面）") : QStringLiteral(" ");
+    const QString origin = m_document.isGenerated() ? tr("（生成的页面）") : QStringLiteral(" ");
     setWindowTitle(QStringLiteral("%1[*]%2- %3").arg(m_document.title(), origin, application));
-    m_place->setText(QStringLiteral("第 %1 / %2 页　%3%")
+    m_place->setText(tr("第 %1 / %2 页　%3%")
                          .arg(m_view->currentPage() + 1)
                          .arg(m_document.pageCount())
                          .arg(m_view->percent(), 0, 'f', 0));
@@ -305,7 +342,8 @@ void ReaderWindow::closeEvent(QCloseEvent *event)
         event->ignore();
         return;
     }
-    m_settings.setQuickAccessButtons(m_skin, m_toolBar->GetQuickAccessButtonList());
+    if (!m_skin.isEmpty())
+        m_settings.setQuickAccessButtons(m_skin, m_toolBar->GetQuickAccessButtonList());
     QMainWindow::closeEvent(event);
 }
 

@@ -29,9 +29,15 @@ class ReaderWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    /** @param skin under which name the quick access buttons of this skin are remembered. */
+    /**
+     * @param skin under which name the quick access buttons of this skin are remembered; empty to
+     *             have them as described each time.
+     */
     ReaderWindow(const QDomDocument &description, const QString &skin);
     ~ReaderWindow() override;
+
+    /** Replaces the toolbar; the document, and how it is looked at, stay as they are. */
+    void setDescription(QDomDocument description);
 
     void open(const QString &fileName);
     /** Opens a document that leaves no trace in the recent files. */
@@ -47,6 +53,8 @@ private:
     ReaderParts parts();
     void createDocks();
     void createToolBar(const QDomDocument &description);
+    void removeToolBar();
+    QString shownTab() const;
     void createCommands();
     void createShortcuts();
     void connectToolBar();
@@ -61,6 +69,7 @@ private:
     void updateTitle();
 
     const QString m_skin;
+    ToolBarSkinStyle m_colours;
     ReaderSettings m_settings;
     Document m_document;
     PageView *m_view;

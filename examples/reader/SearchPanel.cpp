@@ -23,7 +23,7 @@ QString contextOf(const Page &page, const TextRange &hit)
 } // namespace
 
 SearchPanel::SearchPanel(const Document &document, PageView &view, QWidget *parent)
-    : QDockWidget(QStringLiteral("高级搜索"), parent)
+    : QDockWidget(tr("高级搜索"), parent)
     , m_document(document)
     , m_view(view)
     , m_field(new QLineEdit)
@@ -40,9 +40,9 @@ SearchPanel::SearchPanel(const Document &document, PageView &view, QWidget *pare
 
 void SearchPanel::buildContent()
 {
-    m_field->setPlaceholderText(QStringLiteral("输入要查找的文字"));
+    m_field->setPlaceholderText(tr("输入要查找的文字"));
     m_field->setClearButtonEnabled(true);
-    m_list->setAccessibleName(QStringLiteral("搜索结果"));
+    m_list->setAccessibleName(tr("搜索结果"));
     auto *content = new QWidget;
     auto *layout = new QVBoxLayout(content);
     layout->addWidget(m_field);
@@ -88,12 +88,11 @@ void SearchPanel::goToHit(int index)
 void SearchPanel::showHits()
 {
     m_view.setHits(m_search.hits(), m_search.current());
-    const QString message = m_search.hasHits()
-                                ? QStringLiteral("“%1”：第 %2 处，共 %3 处")
-                                      .arg(m_search.content())
-                                      .arg(m_search.currentIndex() + 1)
-                                      .arg(m_search.hits().size())
-                                : QStringLiteral("没有找到“%1”").arg(m_search.content());
+    const QString message = m_search.hasHits() ? tr("“%1”：第 %2 处，共 %3 处")
+                                                     .arg(m_search.content())
+                                                     .arg(m_search.currentIndex() + 1)
+                                                     .arg(m_search.hits().size())
+                                               : tr("没有找到“%1”").arg(m_search.content());
     m_label->setText(message);
     Q_EMIT found(message);
 }

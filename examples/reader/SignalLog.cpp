@@ -28,14 +28,14 @@ SignalLog::SignalLog(QWidget *parent)
     : QWidget(parent)
     , m_list(new QListWidget)
 {
-    m_list->setAccessibleName(QStringLiteral("工具栏信号"));
+    m_list->setAccessibleName(tr("工具栏信号"));
     m_list->setSelectionMode(QAbstractItemView::NoSelection);
     m_list->setWordWrap(true);
 
-    auto *clearButton = new QPushButton(QStringLiteral("清空"));
+    auto *clearButton = new QPushButton(tr("清空"));
     connect(clearButton, &QPushButton::clicked, m_list, &QListWidget::clear);
     auto *header = new QHBoxLayout;
-    header->addWidget(new QLabel(QStringLiteral("收到的信号")));
+    header->addWidget(new QLabel(tr("收到的信号")));
     header->addStretch();
     header->addWidget(clearButton);
 

@@ -78,9 +78,9 @@ void ViewCommands::addZoom(CommandTable &table)
     table.addControl({QStringLiteral("v_zoom"), QStringLiteral("v_zoomlist")}, Needs::Document);
     Document *document = m_parts.document;
     table.add(name("v_rotateclock"), Needs::Document,
-              [document](const QString &) { document->turn(1, QStringLiteral("顺时针旋转")); });
+              [document](const QString &) { document->turn(1, tr("顺时针旋转")); });
     table.add(name("v_rotateanti"), Needs::Document,
-              [document](const QString &) { document->turn(-1, QStringLiteral("逆时针旋转")); });
+              [document](const QString &) { document->turn(-1, tr("逆时针旋转")); });
 }
 
 void ViewCommands::addLayouts(CommandTable &table)
@@ -127,15 +127,14 @@ void ViewCommands::toggleFullScreen()
     QMainWindow *window = m_parts.window;
     window->setWindowState(window->windowState() ^ Qt::WindowFullScreen);
     if (window->isFullScreen())
-        m_parts.say(QStringLiteral("按 Esc 退出全屏"));
+        m_parts.say(tr("按 Esc 退出全屏"));
 }
 
 void ViewCommands::showRevisions()
 {
     PageView *view = m_parts.view;
     view->setRevisionsVisible(!view->areRevisionsVisible());
-    m_parts.say(view->areRevisionsVisible() ? QStringLiteral("显示修订标记")
-                                            : QStringLiteral("隐藏修订标记"));
+    m_parts.say(view->areRevisionsVisible() ? tr("显示修订标记") : tr("隐藏修订标记"));
 }
 
 void ViewCommands::showInk() const
@@ -144,15 +143,15 @@ void ViewCommands::showInk() const
     for (const Mark &mark : m_parts.document->marks()) {
         if (mark.kind != MarkKind::Ink)
             continue;
-        lines.append(QStringLiteral("第 %1 页：%2 个点，线宽 %3，颜色 %4")
+        lines.append(tr("第 %1 页：%2 个点，线宽 %3，颜色 %4")
                          .arg(mark.page + 1)
                          .arg(mark.points.size())
                          .arg(mark.width)
                          .arg(mark.colour.name()));
     }
     if (lines.isEmpty())
-        lines.append(QStringLiteral("还没有手写痕迹"));
-    QMessageBox::information(m_parts.window, QStringLiteral("痕迹信息"), lines.join(QChar(u'\n')));
+        lines.append(tr("还没有手写痕迹"));
+    QMessageBox::information(m_parts.window, tr("痕迹信息"), lines.join(QChar(u'\n')));
 }
 
 void ViewCommands::findInToolBar()

@@ -3,12 +3,16 @@
 #include "PageLayout.h"
 #include "ReaderParts.h"
 
+#include <QCoreApplication>
+
 class CommandTable;
 class QString;
 
 /** Pages, zoom, layout, panels and search. */
 class ViewCommands
 {
+    Q_DECLARE_TR_FUNCTIONS(ViewCommands)
+
 public:
     explicit ViewCommands(const ReaderParts &parts);
 

@@ -1,6 +1,8 @@
 // A small OFD reader, whose commands all come from the toolbar.
 
 #include "Description.h"
+#include "Language.h"
+#include "LivePreview.h"
 #include "Options.h"
 #include "ReaderWindow.h"
 #include "Screenshot.h"
@@ -10,6 +12,8 @@
 #include <QApplication>
 #include <QTextStream>
 
+#include <optional>
+
 namespace {
 
 constexpr int lumStyle = 1;
@@ -18,6 +22,17 @@ int fail(const QString &reason)
 {
     QTextStream(stderr) << QCoreApplication::applicationName() << ": " << reason << '\n';
     return 1;
+}
+
+/** What the toolbar begins with: nothing where a watched file is about to give it. */
+QDomDocument describedToolBar(const Options &options, QString *error)
+{
+    if (options.watch)
+        return QDomDocument();
+    QDomDocument description = Description::read(options.description, options.skin, error);
+    if (error->isEmpty() && options.clearHistory)
+        Description::addClearHistory(description);
+    return description;
 }
 
 } // namespace
@@ -35,15 +50,18 @@ int main(int argc, char *argv[])
     const Options options = Options::of(QCoreApplication::arguments(), &error);
     if (!error.isEmpty())
         return fail(error);
-    QDomDocument description = Description::read(options.description, options.skin, &error);
+    Language::install(options.language);
+    const QDomDocument description = describedToolBar(options, &error);
     if (!error.isEmpty())
         return fail(error);
-    if (options.clearHistory)
-        Description::addClearHistory(description);
 
     // The skin is the process's, and is chosen before the first toolbar is made.
     NewToolBar::uiStyle = options.skin == QLatin1String("lum") ? lumStyle : 0;
-    ReaderWindow window(description, options.skin);
+    // The user's buttons of quick access would hide what a watched description says of them.
+    ReaderWindow window(description, options.watch ? QString() : options.skin);
+    std::optional<LivePreview> preview;
+    if (options.watch)
+        preview.emplace(window, options);
     if (options.file.isEmpty())
         window.openSample();
     else

@@ -1,7 +1,9 @@
 #include "tests/fuzz/DescriptionMutator.h"
 
+#include "tests/support/Elements.h"
+#include "tests/support/Words.h"
+
 #include <QDomDocument>
-#include <QStringList>
 
 namespace {
 
@@ -9,105 +11,40 @@ constexpr int mostElements = 250;
 
 const QStringList &tags()
 {
-    static const QStringList names{"toolbar_appbutton",
-                                   "toolbar_quickaccessbar",
-                                   "toolbar_tabbar",
-                                   "toolbar_searchbar",
-                                   "toolbar_addtional",
-                                   "tabbutton",
-                                   "menu",
-                                   "menuitem",
-                                   "button",
-                                   "buttongroup",
-                                   "combobox",
-                                   "item",
-                                   "label",
-                                   "lineedit",
-                                   "extra",
-                                   "sperator",
-                                   "unknown"};
+    static const QStringList names =
+        words("toolbar_appbutton toolbar_quickaccessbar toolbar_tabbar toolbar_searchbar "
+              "toolbar_addtional tabbutton menu menuitem button buttongroup combobox item label "
+              "lineedit extra sperator unknown");
     return names;
 }
 
 const QStringList &attributes()
 {
-    static const QStringList names{
-        "text",       "icon",       "name",      "action",      "tooltip",   "disabletip",
-        "shortcut",   "output",     "layout",    "group",       "arrow",     "dropicon",
-        "visible",    "usable",     "available", "doubleclick", "checkable", "editable",
-        "switchable", "withaction", "scalable",  "check",       "checked",   "index"};
+    static const QStringList names = words(
+        "text icon name action tooltip disabletip shortcut output layout group arrow dropicon "
+        "visible usable available doubleclick checkable editable switchable withaction "
+        "scalable check checked index");
     return names;
 }
 
 const QStringList &values()
 {
-    static const QStringList texts{"true",
-                                   "false",
-                                   "",
-                                   " ",
-                                   "0",
-                                   "1",
-                                   "2",
-                                   "-1",
-                                   "2147483647",
-                                   "a;b",
-                                   "100%",
-                                   "/",
-                                   "menu_",
-                                   "annotgroup",
-                                   "zmode",
-                                   "v_zoom",
-                                   "d_gotopage",
-                                   "d_totalpagelabel",
-                                   "vzmode_original",
-                                   "vzmode_custom",
-                                   "vzmode_37p",
-                                   "background_nighttime",
-                                   "vpmode_singlepage",
-                                   "vmode_flow",
-                                   "tp_shape",
-                                   "qbar_f_open",
-                                   "qt_set",
-                                   "st_input",
-                                   "st_prev",
-                                   "st_next",
-                                   "st_set",
-                                   "st_option_nocase",
-                                   "st_option_wholeword",
-                                   "gis_next",
-                                   "t_fold",
-                                   "t_extend",
-                                   "f_openrecent",
-                                   "f_openrecentfile",
-                                   "no_file",
-                                   "f_clearhistory",
-                                   "ab_set",
-                                   "menu_file",
-                                   "toolbar_whole",
-                                   "mrtoolbar",
-                                   "tabwidget",
-                                   "top_widget",
-                                   "../../..",
-                                   "icon16/Set.svg",
-                                   "<b>&amp;",
-                                   "Ctrl+O"};
+    static const QStringList texts =
+        QStringList{"", " "}
+        + words(
+            "true false 0 1 2 -1 2147483647 a;b 100% / menu_ annotgroup zmode v_zoom d_gotopage "
+            "d_totalpagelabel vzmode_original vzmode_custom vzmode_37p background_nighttime "
+            "vpmode_singlepage vmode_flow tp_shape qbar_f_open qt_set st_input st_prev st_next "
+            "st_set st_option_nocase st_option_wholeword gis_next t_fold t_extend f_openrecent "
+            "f_openrecentfile no_file f_clearhistory ab_set menu_file toolbar_whole mrtoolbar "
+            "tabwidget top_widget ../../.. icon16/Set.svg <b>&amp; Ctrl+O");
     return texts;
 }
 
 /** The element itself and all below it. */
-void appendElements(const QDomElement &element, QList<QDomElement> &elements)
-{
-    elements.append(element);
-    for (QDomElement child = element.firstChildElement(); !child.isNull();
-         child = child.nextSiblingElement())
-        appendElements(child, elements);
-}
-
 QList<QDomElement> elementsOf(const QDomElement &root)
 {
-    QList<QDomElement> elements;
-    appendElements(root, elements);
-    return elements;
+    return QList<QDomElement>{root} + elementsBelow(root);
 }
 
 } // namespace

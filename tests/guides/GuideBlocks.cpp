@@ -1,5 +1,7 @@
 #include "GuideBlocks.h"
 
+#include "tests/support/Elements.h"
+
 #include <QDirIterator>
 #include <QFile>
 
@@ -51,16 +53,15 @@ QList<GuideBlock> guideBlocks(const QString &folder)
     return blocks;
 }
 
-QStringList controlNames(const QDomElement &parent)
+QStringList controlNames(const QDomElement &description)
 {
     QStringList names;
-    for (QDomElement element = parent.firstChildElement(); !element.isNull();
-         element = element.nextSiblingElement()) {
+    const QList<QDomElement> elements = elementsBelow(description);
+    for (const QDomElement &element : elements) {
         const QString name =
             element.attribute(QStringLiteral("action"), element.attribute(QStringLiteral("name")));
         if (!name.isEmpty() && !frames.contains(element.tagName()))
             names.append(name);
-        names += controlNames(element);
     }
     return names;
 }

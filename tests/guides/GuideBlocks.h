@@ -17,4 +17,4 @@ struct GuideBlock
 QList<GuideBlock> guideBlocks(const QString &folder);
 
 /** The object names of the controls in a description, without tabs and what only holds others. */
-QStringList controlNames(const QDomElement &parent);
+QStringList controlNames(const QDomElement &description);

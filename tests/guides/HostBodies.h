@@ -12,9 +12,11 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLabel>
+#include <QLocale>
 #include <QMainWindow>
 #include <QSet>
 #include <QSettings>
 #include <QSlider>
 #include <QThread>
 #include <QToolBar>
+#include <QTranslator>

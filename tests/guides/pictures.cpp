@@ -3,18 +3,17 @@
 #include "GuideBlocks.h"
 #include "SkinMaps.h"
 
-#include <toolbar/MRToolBar.h>
-#include <toolbar/NewToolBar.h>
+#include "tests/support/Elements.h"
+#include "tests/support/TestDocuments.h"
+#include "tests/support/TestHost.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QDir>
-#include <QFile>
 #include <QLabel>
-#include <QMainWindow>
 #include <QPixmap>
-#include <QTest>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace {
@@ -30,16 +29,13 @@ struct Look
 };
 
 /** Whether the description says of a command that it is not usable. */
-bool isUnusable(const QDomElement &parent, const QString &name)
+bool isUnusable(const QDomElement &description, const QString &name)
 {
-    for (QDomElement element = parent.firstChildElement(); !element.isNull();
-         element = element.nextSiblingElement()) {
-        const bool isDescribed = element.attribute(QStringLiteral("action")) == name
-                                 && element.attribute(QStringLiteral("usable")) == "false";
-        if (isDescribed || isUnusable(element, name))
-            return true;
-    }
-    return false;
+    const QList<QDomElement> elements = elementsBelow(description);
+    return std::any_of(elements.begin(), elements.end(), [&name](const QDomElement &element) {
+        return element.attribute(QStringLiteral("action")) == name
+               && element.attribute(QStringLiteral("usable")) == "false";
+    });
 }
 
 bool takePicture(QDomDocument description, const Look &look, const QDir &folder, QSize size)
@@ -66,16 +62,6 @@ bool takePicture(QDomDocument description, const Look &look, const QDir &folder,
     return window.grab().save(path) && std::printf("%s\n", qPrintable(path)) > 0;
 }
 
-QDomDocument shipped(int skin)
-{
-    QFile file(QStringLiteral(":/mr_toolbar/Resources/%1/mr_toolbar.release.xml")
-                   .arg(skin == 1 ? QStringLiteral("lum") : QStringLiteral("marodi")));
-    QDomDocument document;
-    if (file.open(QIODevice::ReadOnly))
-        document.setContent(file.readAll());
-    return document;
-}
-
 } // namespace
 
 int main(int argc, char *argv[])
@@ -89,14 +75,17 @@ int main(int argc, char *argv[])
     const QList<GuideBlock> blocks = guideBlocks(QString::fromLocal8Bit(argv[1]));
     for (const GuideBlock &block : blocks) {
         if (!block.picture.isEmpty())
-            isComplete &= takePicture(block.description, {block.picture, 0, {}}, folder,
+            isComplete &= takePicture(block.description, {block.picture, marodi, {}}, folder,
                                       {descriptionWidth, 100});
     }
-    const QList<Look> looks{{QStringLiteral("dark-marodi"), 0, darkMarodi},
-                            {QStringLiteral("dark-lum"), 1, darkLum},
-                            {QStringLiteral("green-marodi"), 0, greenMarodi},
-                            {QStringLiteral("green-lum"), 1, greenLum}};
-    for (const Look &look : looks)
-        isComplete &= takePicture(shipped(look.skin), look, folder, {skinWidth, 130});
+    const QList<Look> looks{{QStringLiteral("dark-marodi"), marodi, darkMarodi},
+                            {QStringLiteral("dark-lum"), lum, darkLum},
+                            {QStringLiteral("green-marodi"), marodi, greenMarodi},
+                            {QStringLiteral("green-lum"), lum, greenLum}};
+    for (const Look &look : looks) {
+        const QString path = look.picture.section(QLatin1Char('-'), 1) + "/mr_toolbar.release.xml";
+        isComplete &= takePicture(TestDocuments::read(TestDocuments::shippedPath(path)), look,
+                                  folder, {skinWidth, 130});
+    }
     return isComplete ? 0 : 1;
 }

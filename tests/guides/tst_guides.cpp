@@ -1,6 +1,8 @@
 #include "GuideBlocks.h"
 #include "SkinMaps.h"
 
+#include "examples/reader/SkinMaps.h"
+#include "tests/support/Elements.h"
 #include "tests/support/TestHost.h"
 #include "toolbar/description/Controller.h"
 #include "toolbar/description/DescriptionParser.h"
@@ -75,18 +77,17 @@ bool isKnownAttribute(const QString &name)
     return false;
 }
 
-QStringList unknownAttributes(const QDomElement &parent)
+QStringList unknownAttributes(const QDomElement &description)
 {
     QStringList unknown;
-    for (QDomElement element = parent.firstChildElement(); !element.isNull();
-         element = element.nextSiblingElement()) {
+    const QList<QDomElement> elements = elementsBelow(description);
+    for (const QDomElement &element : elements) {
         const QDomNamedNodeMap attributes = element.attributes();
         for (int i = 0; i < attributes.count(); ++i) {
             const QString name = attributes.item(i).nodeName();
             if (!isKnownAttribute(name))
                 unknown.append(element.tagName() + ' ' + name);
         }
-        unknown += unknownAttributes(element);
     }
     return unknown;
 }
@@ -258,6 +259,15 @@ private Q_SLOTS:
         QVERIFY(isReadable(fixed.row, fixed.text, 4.5));
         for (const QString &icon : fixed.icons)
             QVERIFY(isReadable(fixed.rest, icon, 3.0));
+    }
+
+    void theReaderShouldOfferTheSameSkins()
+    {
+        for (const int skin : {marodi, lum}) {
+            const SkinChoice choice(skin);
+            QCOMPARE(SkinMaps::dark(), skin == lum ? darkLum : darkMarodi);
+            QCOMPARE(SkinMaps::green(), skin == lum ? greenLum : greenMarodi);
+        }
     }
 
     void shouldRelyOnTheColoursOfTheSheets()

@@ -1,8 +1,8 @@
 #include "tests/monkey/DescribedNames.h"
 
-#include <QDomDocument>
+#include "tests/support/Elements.h"
 
-#include <utility>
+#include <QDomDocument>
 
 namespace {
 
@@ -17,22 +17,12 @@ QString without(const QString &name, const char *prefix)
     return name.startsWith(start) ? name.mid(start.size()) : name;
 }
 
-void appendElements(const QDomElement &parent, QList<QDomElement> &elements)
-{
-    for (QDomElement child = parent.firstChildElement(); !child.isNull();
-         child = child.nextSiblingElement()) {
-        elements.append(child);
-        appendElements(child, elements);
-    }
-}
-
 } // namespace
 
 DescribedNames::DescribedNames(const QDomDocument &document)
 {
-    QList<QDomElement> elements;
-    appendElements(document.documentElement(), elements);
-    for (const QDomElement &element : std::as_const(elements)) {
+    const QList<QDomElement> elements = elementsBelow(document.documentElement());
+    for (const QDomElement &element : elements) {
         const QString name = nameOf(element);
         if (name.isEmpty())
             continue;

@@ -1,6 +1,7 @@
 #include "tests/monkey/RandomHost.h"
 
 #include "tests/monkey/Witness.h"
+#include "tests/support/Words.h"
 #include "toolbar/MRToolBar.h"
 
 #include <QMainWindow>
@@ -9,38 +10,20 @@ namespace {
 
 const QStringList &reservedNames()
 {
-    static const QStringList names{"toolbar_appbutton",      "toolbar_toptoolbar",
-                                   "toolbar_quickaccessbar", "toolbar_searchbar",
-                                   "toolbar_addtional",      "toolbar_maintoolbar",
-                                   "toolbar_tabbar",         "toolbar_quickaccessbar/set"};
+    static const QStringList names =
+        words("toolbar_appbutton toolbar_toptoolbar toolbar_quickaccessbar toolbar_searchbar "
+              "toolbar_addtional toolbar_maintoolbar toolbar_tabbar toolbar_quickaccessbar/set");
     return names;
 }
 
 const QStringList &hostileNames()
 {
-    static const QStringList names{"",
-                                   " ",
-                                   "/",
-                                   ":",
-                                   "a:b:c",
-                                   "no such control",
-                                   "menu_",
-                                   "menu_menu_file",
-                                   "toolbar_",
-                                   "toolbar_none",
-                                   "toolbar_quickaccessbar/",
-                                   "toolbar_quickaccessbar/a/b",
-                                   "v_zoom",
-                                   "d_gotopage",
-                                   "f_",
-                                   "%1%2",
-                                   "\"};QWidget{",
-                                   "<b>",
-                                   "mrtoolbar",
-                                   "tabwidget",
-                                   "top_widget",
-                                   QString(5000, QLatin1Char('x')),
-                                   QString(3, QChar(QChar::Null))};
+    static const QStringList names =
+        QStringList{"", " ", "no such control", QString(5000, QLatin1Char('x')),
+                    QString(3, QChar(QChar::Null))}
+        + words("/ : a:b:c menu_ menu_menu_file toolbar_ toolbar_none toolbar_quickaccessbar/ "
+                "toolbar_quickaccessbar/a/b v_zoom d_gotopage f_ %1%2 \"};QWidget{ <b> mrtoolbar "
+                "tabwidget top_widget");
     return names;
 }
 
@@ -142,21 +125,10 @@ QString RandomHost::setPages(MRToolBar &facade)
 
 QString RandomHost::setZoom(MRToolBar &facade)
 {
-    static const QStringList modes{"vzmode_original",
-                                   "vzmode_fitpage",
-                                   "vzmode_fitwidth",
-                                   "vzmode_100p",
-                                   "vzmode_37p",
-                                   "vzmode_37.5p",
-                                   "vzmode_6400p",
-                                   "vzmode_99999p",
-                                   "vzmode_-3p",
-                                   "vzmode_",
-                                   "vzmode",
-                                   "p",
-                                   "",
-                                   "vzmode_xp",
-                                   "VZMODE_100P"};
+    static const QStringList modes =
+        words("vzmode_original vzmode_fitpage vzmode_fitwidth vzmode_100p vzmode_37p vzmode_37.5p "
+              "vzmode_6400p vzmode_99999p vzmode_-3p vzmode_ vzmode p vzmode_xp VZMODE_100P")
+        << QString();
     const QString mode = m_random.oneOf<QString>(modes);
     facade.DoSetZoomModeSlot(mode);
     return QStringLiteral("zoom ") + mode;
@@ -164,16 +136,10 @@ QString RandomHost::setZoom(MRToolBar &facade)
 
 QString RandomHost::setRecentFiles(MRToolBar &facade)
 {
-    static const QStringList paths{"/a/b.ofd",
-                                   "b.ofd",
-                                   "",
-                                   "/",
-                                   "..",
-                                   "/a/&b%1%2.ofd",
-                                   "/a/<b>;c.ofd",
-                                   "/a/\n.ofd",
-                                   "/文件/报告.ofd",
-                                   QLatin1Char('/') + QString(3000, QLatin1Char('y'))};
+    static const QStringList paths =
+        words("/a/b.ofd b.ofd / .. /a/&b%1%2.ofd /a/<b>;c.ofd /a/\n.ofd")
+        << QString() << QStringLiteral("/文件/报告.ofd")
+        << QLatin1Char('/') + QString(3000, QLatin1Char('y'));
     QStringList list;
     for (int i = m_random.below(6); i > 0; --i)
         list.append(m_random.oneOf<QString>(paths));

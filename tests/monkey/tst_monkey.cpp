@@ -1,10 +1,10 @@
 #include "tests/monkey/RandomHost.h"
 #include "tests/monkey/RandomUser.h"
 #include "tests/monkey/Witness.h"
+#include "tests/support/TestDocuments.h"
 #include "tests/support/TestHost.h"
 
 #include <QApplication>
-#include <QFile>
 #include <QTimer>
 
 namespace {
@@ -12,15 +12,6 @@ namespace {
 constexpr int stepsOfShortRun = 1500;
 constexpr int stepsBetweenReports = 5000;
 constexpr int movesTold = 12;
-
-QDomDocument described(const QString &path)
-{
-    QFile file(path);
-    QDomDocument document;
-    if (!file.open(QIODevice::ReadOnly) || !document.setContent(file.readAll()))
-        qFatal("No description %s", qPrintable(path));
-    return document;
-}
 
 /** Toolbars, one after the other, between a random host and a random user. */
 class Monkey
@@ -159,17 +150,7 @@ class MonkeyTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void shouldKeepItsPromises_data()
-    {
-        QTest::addColumn<int>("skin");
-        QTest::addColumn<QString>("path");
-        const QString resources = QStringLiteral(":/mr_toolbar/Resources/");
-        const QString showcase = QFINDTESTDATA("../../examples/reader/showcase.xml");
-        QTest::newRow("marodi") << marodi << resources + "marodi/mr_toolbar.debug.xml";
-        QTest::newRow("lum") << lum << resources + "lum/mr_toolbar.release.xml";
-        QTest::newRow("marodi showcase") << marodi << showcase;
-        QTest::newRow("lum showcase") << lum << showcase;
-    }
+    void shouldKeepItsPromises_data() { TestDocuments::addAll(); }
 
     void shouldKeepItsPromises()
     {
@@ -181,7 +162,7 @@ private Q_SLOTS:
                               : qEnvironmentVariableIntValue("MONKEY_STEPS");
         const auto seed = static_cast<unsigned int>(qEnvironmentVariableIntValue("MONKEY_SEED"));
 
-        Monkey monkey(seed, described(path));
+        Monkey monkey(seed, TestDocuments::read(path));
         for (int i = 0; i < steps; ++i) {
             monkey.step();
             if (i > 0 && i % stepsBetweenReports == 0)

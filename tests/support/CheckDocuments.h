@@ -1,9 +1,6 @@
 #pragma once
 
 #include <QByteArray>
-#include <QFile>
-#include <QString>
-#include <QTest>
 
 /** Small descriptions for the tests of the description check, and the shipped ones. */
 namespace CheckDocuments {
@@ -29,27 +26,5 @@ inline QByteArray menu(const QByteArray &entries)
 }
 
 inline constexpr char scalable[] = "scalable='true'";
-
-inline QByteArray content(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-inline QString shippedPath(const QString &skin, const QString &variant)
-{
-    return QStringLiteral(":/mr_toolbar/Resources/%1/mr_toolbar.%2.xml").arg(skin, variant);
-}
-
-inline void addShipped()
-{
-    QTest::addColumn<QString>("skin");
-    QTest::addColumn<QString>("path");
-    for (const QString skin : {"marodi", "lum"}) {
-        for (const QString variant : {"release", "debug"})
-            QTest::addRow("%s %s", qPrintable(skin), qPrintable(variant))
-                << skin << shippedPath(skin, variant);
-    }
-}
 
 } // namespace CheckDocuments

@@ -1,4 +1,5 @@
-# Compares the classes that LIBRARY exports, as NM tells them, with those listed in LIST.
+# Compares the classes that LIBRARY exports, as NM tells them, with those listed in LIST, and looks
+# for code that LIBRARY would run on loading.
 file(STRINGS ${LIST} listed REGEX "^[^#]")
 
 execute_process(COMMAND ${NM} --dynamic --demangle --defined-only ${LIBRARY}
@@ -34,4 +35,15 @@ if(NOT exported STREQUAL listed)
     list(JOIN exported "\n  " exported)
     list(JOIN listed "\n  " listed)
     message(FATAL_ERROR "The library exports\n  ${exported}\nand not\n  ${listed}")
+endif()
+
+# The resources register themselves. A constant that has to be set up costs every program that is
+# linked with the library, whether it makes a toolbar or not.
+execute_process(COMMAND ${NM} --defined-only ${LIBRARY}
+    OUTPUT_VARIABLE output ERROR_QUIET COMMAND_ERROR_IS_FATAL ANY)
+string(REGEX MATCHALL "_GLOBAL__sub_I_[^\n]+" initialisers "${output}")
+list(FILTER initialisers EXCLUDE REGEX "_sub_I_(qrc_|[^\n]*translations|00099)")
+if(initialisers)
+    list(JOIN initialisers "\n  " initialisers)
+    message(FATAL_ERROR "On loading, the library runs\n  ${initialisers}")
 endif()

@@ -1,9 +1,6 @@
 #include "tests/support/TestHost.h"
 
-#include <QApplication>
-#include <QFile>
-#include <QMenu>
-#include <QTimer>
+#include "tests/support/TestDocuments.h"
 
 namespace {
 
@@ -34,15 +31,12 @@ TestHost::TestHost(const QDomDocument &document, const SkinMap &skin, ToolBarAli
 
 std::unique_ptr<TestHost> TestHost::withShipped(const QString &path, const SkinMap &skin)
 {
-    return withFile(QStringLiteral(":/mr_toolbar/Resources/") + path, skin);
+    return withFile(TestDocuments::shippedPath(path), skin);
 }
 
 std::unique_ptr<TestHost> TestHost::withFile(const QString &path, const SkinMap &skin)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        qFatal("No description %s", qPrintable(path));
-    return std::unique_ptr<TestHost>(new TestHost(parsed(file.readAll()), skin, ToolBarLeft));
+    return std::unique_ptr<TestHost>(new TestHost(TestDocuments::read(path), skin, ToolBarLeft));
 }
 
 void TestHost::show()
@@ -50,6 +44,42 @@ void TestHost::show()
     m_window->show();
     m_window->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+}
+
+void TestHost::showEnabled()
+{
+    enableRows();
+    show();
+}
+
+void TestHost::enableEverything()
+{
+    const QList<QAction *> actions = m_window->findChildren<QAction *>();
+    for (const QAction *action : actions) {
+        if (!action->objectName().isEmpty())
+            setUsable(action->objectName(), true);
+    }
+}
+
+QList<QPushButton *> TestHost::shownTabs() const
+{
+    QList<QPushButton *> tabs;
+    const QList<QPushButton *> buttons = toolBar()->findChildren<QPushButton *>();
+    for (QPushButton *button : buttons) {
+        if (button->property("module") == "tabbutton" && !button->isHidden())
+            tabs.append(button);
+    }
+    return tabs;
+}
+
+void TestHost::openEachTab(const std::function<void(const QString &)> &look)
+{
+    const QList<QPushButton *> tabs = shownTabs();
+    for (QPushButton *tab : tabs) {
+        if (!tab->isChecked())
+            QTest::mouseClick(tab, Qt::LeftButton);
+        look(tab->objectName());
+    }
 }
 
 int TestHost::scaled(double designPixels) const
@@ -88,19 +118,8 @@ QStringList TestHost::texts(const QSignalSpy &spy)
     return texts;
 }
 
-void whenMenuPops(const std::function<void(QMenu *)> &action)
+void runDeferredDeletes()
 {
-    auto *timer = new QTimer(qApp);
-    QObject::connect(timer, &QTimer::timeout, timer, [timer, action] {
-        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
-        if (!menu)
-            return;
-        timer->stop();
-        timer->deleteLater();
-        const QPointer<QMenu> guarded(menu);
-        action(menu);
-        if (guarded)
-            guarded->close();
-    });
-    timer->start(20);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCoreApplication::processEvents();
 }

@@ -3,12 +3,14 @@
 #include "toolbar/MRToolBar.h"
 #include "toolbar/NewToolBar.h"
 
+#include <QAction>
 #include <QDomDocument>
 #include <QMainWindow>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
 
+#include <functional>
 #include <memory>
 
 /** Chooses a skin for the time of one test. */
@@ -46,12 +48,22 @@ public:
 
     /** Shows the window and waits until it is on the screen and active. */
     void show();
+    /** The rows stay disabled until the host has reported a first state. */
+    void enableRows() { setUsable(QStringLiteral("no control"), true); }
+    void showEnabled();
+    /** What a decent host does when it is asked for the states of its controls. */
+    void enableEverything();
 
     QMainWindow &window() { return *m_window; }
     void deleteWindow() { m_window.reset(); }
     MRToolBar &facade() { return *m_facade; }
     void deleteFacade() { m_facade.reset(); }
     NewToolBar *toolBar() const { return m_window->findChild<NewToolBar *>(); }
+    /** The command of that name; null if there is none. */
+    QAction *action(const QString &name) const { return toolBar()->GetActionInTotal(name); }
+    QList<QPushButton *> shownTabs() const;
+    /** Opens each tab that is shown and hands its name over. */
+    void openEachTab(const std::function<void(const QString &)> &look);
     /** Device-independent pixels of a length given in pixels at 96 dpi. */
     int scaled(double designPixels) const;
 
@@ -79,5 +91,5 @@ private:
     std::unique_ptr<MRToolBar> m_facade;
 };
 
-/** Runs @p action when a menu has popped up, then closes whatever is left of it. */
-void whenMenuPops(const std::function<void(class QMenu *)> &action);
+/** Lets what is due happen, and what is to be deleted go. */
+void runDeferredDeletes();

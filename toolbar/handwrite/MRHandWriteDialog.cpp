@@ -8,6 +8,7 @@
 #include <QPainterPath>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -237,8 +238,14 @@ void MRHandWriteDialog::dressSwatch(QPushButton *button, const QColor &colour)
     button->setCheckable(true);
 
     button->setProperty(colourProperty, colour);
-    button->setAccessibleName(colourName(colour));
-    button->setToolTip(colourName(colour));
+    nameSwatch(button);
+}
+
+void MRHandWriteDialog::nameSwatch(QPushButton *button)
+{
+    const QString name = colourName(button->property(colourProperty).value<QColor>());
+    button->setAccessibleName(name);
+    button->setToolTip(name);
 }
 
 void MRHandWriteDialog::SetCommonTrackInfo(QList<Track *> &tracks)
@@ -369,4 +376,24 @@ bool MRHandWriteDialog::eventFilter(QObject *watched, QEvent *event)
     if (watched == m_ui->labelPreview && event->type() == QEvent::Resize)
         updatePreview();
     return QDialog::eventFilter(watched, event);
+}
+
+void MRHandWriteDialog::changeEvent(QEvent *event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() != QEvent::LanguageChange)
+        return;
+
+    // The form would write its texts beside the pictures of tracks.
+    QList<QPushButton *> pictured;
+    for (QPushButton *button : std::as_const(m_trackButtons)) {
+        if (button->text().isEmpty())
+            pictured.append(button);
+    }
+    m_ui->retranslateUi(this);
+    for (QPushButton *button : std::as_const(pictured))
+        button->setText(QString());
+    for (QPushButton *button : std::as_const(m_colourButtons))
+        nameSwatch(button);
+    updatePreview();
 }

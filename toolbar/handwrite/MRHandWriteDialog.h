@@ -40,6 +40,9 @@ typedef Track HandTrack;
  * back. What the user changes is drawn in the preview; it is not written to the records, which are
  * the host's own. The user moves the dialog by dragging it and closes it with Escape.
  *
+ * When a translator is installed or removed, the dialog's texts follow, those that the host has
+ * set itself included.
+ *
  * What depends on the host has no effect of its own. The host finds these widgets by object name
  * and connects what it offers: the label "labelOtherSelect" (QLabel::linkActivated) and the buttons
  * "pushButtonFetch", "pushButtonRegionWrite" and "pushButtonRegionWriteSet".
@@ -91,11 +94,14 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     /** Keeps the preview in step with its size. */
     bool eventFilter(QObject *watched, QEvent *event) override;
+    /** Takes over another language. */
+    void changeEvent(QEvent *event) override;
 
 private:
     void collectButtons();
     void connectControls();
     void dressSwatch(QPushButton *button, const QColor &colour);
+    void nameSwatch(QPushButton *button);
     void dressTrackButtons();
     void showTrack(int index);
     QColor inkColour() const;

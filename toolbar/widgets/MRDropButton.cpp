@@ -34,11 +34,6 @@ constexpr char menuCopyMarodi[] =
 
 constexpr char positionProperty[] = "position";
 
-double dpiScale(const QWidget *widget)
-{
-    return ScreenDensity::dpiX(widget) / 96.0;
-}
-
 QString extendMenuSheet(double scale)
 {
     constexpr int paddingInPixels = 40;
@@ -209,7 +204,8 @@ void MRDropButton::mouseMoveEvent(QMouseEvent *)
     QStyleOptionToolButton option;
     initStyleOption(&option);
     const bool overArrow = HoverSheets::isCursorOverArrow(*this, option);
-    setStyleSheet(HoverSheets::dropButton(m_inHide, overArrow, Skin::isLum(), dpiScale(this)));
+    setStyleSheet(
+        HoverSheets::dropButton(m_inHide, overArrow, Skin::isLum(), ScreenDensity::scale(this)));
 }
 
 void MRDropButton::enterEvent(QtCompat::EnterEvent *)
@@ -259,7 +255,7 @@ void MRDropButtonAction::adoptExtendMenu(QWidget *parent)
     if (!m_extendMenu)
         m_extendMenu = qobject_cast<QMenu *>(parent);
     if (m_extendMenu)
-        m_extendMenu->setStyleSheet(extendMenuSheet(dpiScale(m_extendMenu)));
+        m_extendMenu->setStyleSheet(extendMenuSheet(ScreenDensity::scale(m_extendMenu)));
 }
 
 void MRDropButtonAction::setUpMenu(MRDropButton *button)
@@ -293,7 +289,7 @@ void MRDropButtonAction::setUpMenuCopy(MRDropButton *copy)
                 Qt::UniqueConnection);
     }
     copy->setVisible(m_visible);
-    copy->setStyleSheet(menuCopySheet(dpiScale(copy)));
+    copy->setStyleSheet(menuCopySheet(ScreenDensity::scale(copy)));
     copy->SetInHideFlag(true);
     linkCopy(copy);
 }

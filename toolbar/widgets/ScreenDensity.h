@@ -23,4 +23,10 @@ inline int dpiX(const QWidget *widget)
     return credible(widget->physicalDpiX());
 }
 
+/** By how much longer than at 96 dpi the lengths on the widget's screen are. */
+inline double scale(const QWidget *widget)
+{
+    return static_cast<double>(dpiX(widget)) / designDpi;
+}
+
 } // namespace ScreenDensity

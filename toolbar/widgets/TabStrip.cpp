@@ -16,14 +16,9 @@ namespace {
 constexpr double arrowDesignWidth = 10.0;
 constexpr double chevronHeight = 8.0;
 
-double dpiScale(const QWidget *widget)
-{
-    return ScreenDensity::dpiX(widget) / 96.0;
-}
-
 int arrowWidth(const QWidget *widget)
 {
-    return static_cast<int>(arrowDesignWidth * dpiScale(widget));
+    return static_cast<int>(arrowDesignWidth * ScreenDensity::scale(widget));
 }
 
 } // namespace
@@ -36,8 +31,7 @@ TabStripArrow::TabStripArrow(Qt::ArrowType direction, QWidget *parent)
     setFlat(true);
     // The keyboard goes to the tabs themselves, and the strip follows.
     setFocusPolicy(Qt::NoFocus);
-    setAccessibleName(direction == Qt::LeftArrow ? QStringLiteral("向左滚动")
-                                                 : QStringLiteral("向右滚动"));
+    setAccessibleName(direction == Qt::LeftArrow ? tr("向左滚动") : tr("向右滚动"));
     hide();
 }
 
@@ -48,13 +42,14 @@ void TabStripArrow::paintEvent(QPaintEvent *event)
     // Drawn in the colour of the skin's texts, which the host may choose.
     QStyleOptionButton option;
     initStyleOption(&option);
-    const double half = chevronHeight / 2 * dpiScale(this);
+    const double half = chevronHeight / 2 * ScreenDensity::scale(this);
     const double tip = m_direction == Qt::LeftArrow ? -half / 2 : half / 2;
     const QPointF middle = QRectF(rect()).center();
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(option.palette.color(QPalette::ButtonText), 1.5 * dpiScale(this),
-                        Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(QPen(option.palette.color(QPalette::ButtonText),
+                        1.5 * ScreenDensity::scale(this), Qt::SolidLine, Qt::RoundCap,
+                        Qt::RoundJoin));
     const QPointF chevron[]{middle + QPointF(-tip, -half), middle + QPointF(tip, 0),
                             middle + QPointF(-tip, half)};
     painter.drawPolyline(chevron, static_cast<int>(std::size(chevron)));

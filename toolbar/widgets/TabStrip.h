@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QPushButton>
 
 class QHBoxLayout;
@@ -7,6 +8,8 @@ class QHBoxLayout;
 /** The arrow at one end of a strip of tabs that has no room for all of them. */
 class TabStripArrow : public QPushButton
 {
+    Q_DECLARE_TR_FUNCTIONS(TabStripArrow)
+
 public:
     TabStripArrow(Qt::ArrowType direction, QWidget *parent);
 

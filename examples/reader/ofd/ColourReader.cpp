@@ -1,6 +1,7 @@
 #include "ColourReader.h"
 
 #include "Values.h"
+#include "Wording.h"
 
 #include <algorithm>
 #include <cmath>
@@ -46,7 +47,7 @@ std::optional<QBrush> ColourReader::read(const XmlElement &parent, const char *n
         return gradientOf(*shade, true);
     if (!colour->children.empty()) {
         const QString kind =
-            colour->child("Pattern") ? QStringLiteral("图案填充") : QStringLiteral("网格渐变");
+            colour->child("Pattern") ? Wording::tr("图案填充") : Wording::tr("网格渐变");
         ++m_unsupported[kind];
         if (colour->attribute("Value").isEmpty())
             return QBrush(Qt::NoBrush);

@@ -19,22 +19,12 @@ struct Font
     QString file; ///< Its entry in the package; empty for a font that is not embedded.
 };
 
-struct Media
-{
-    QString file; ///< Its entry in the package.
-};
-
-struct CompositeGraphic
-{
-    std::shared_ptr<const Objects> objects;
-};
-
 /** What pages refer to by identifier; one space of names for the whole document. */
 struct Resources
 {
     QHash<QString, Font> fonts;
-    QHash<QString, Media> media;
-    QHash<QString, CompositeGraphic> composites;
+    QHash<QString, QString> images; ///< Their entries in the package.
+    QHash<QString, std::shared_ptr<const Objects>> composites;
 };
 
 struct Page

@@ -4,6 +4,7 @@
 #include "Fault.h"
 #include "Limits.h"
 #include "PageReader.h"
+#include "Wording.h"
 
 namespace Ofd {
 
@@ -27,13 +28,13 @@ public:
     {
         const Package &package = *m_document->package;
         if (!package.has(entryPoint))
-            throw Fault{QStringLiteral("这不是 OFD 文件：包内没有 OFD.xml。")};
+            throw Fault{Wording::tr("这不是 OFD 文件：包内没有 OFD.xml。")};
         const XmlElement root = XmlElement::parse(package.read(entryPoint), entryPoint);
         const XmlElement *body = root.child("DocBody");
         const QString path =
             body ? package.find(entryPoint, body->childText("DocRoot")) : QString();
         if (path.isEmpty())
-            throw Fault{QStringLiteral("文件不完整：没有文档入口 Document.xml。")};
+            throw Fault{Wording::tr("文件不完整：没有文档入口 Document.xml。")};
         if (const XmlElement *information = body->child("DocInfo"))
             Extras::readInformation(*information, *m_document);
         Extras::countSeals(*body, entryPoint, *m_document);
@@ -64,9 +65,9 @@ private:
     {
         const XmlElement *list = root.child("Pages");
         if (!list || list->children.empty())
-            throw Fault{QStringLiteral("文档没有页面。")};
+            throw Fault{Wording::tr("文档没有页面。")};
         if (list->children.size() > Limits::pages)
-            throw Fault{QStringLiteral("文档的页面过多，超过 %1 页。").arg(Limits::pages)};
+            throw Fault{Wording::tr("文档的页面过多，超过 %1 页。").arg(Limits::pages)};
         for (const XmlElement &page : list->children) {
             m_pageIndexes.insert(page.attribute("ID"), int(m_document->pages.size()));
             m_document->pages.append(m_pages->read(page, path));
@@ -79,7 +80,7 @@ private:
         for (const XmlElement &child : root.children)
             bodies += child.is("DocBody") ? 1 : 0;
         if (bodies > 1)
-            m_document->unsupported[QStringLiteral("同一文件中的其他文档")] = bodies - 1;
+            m_document->unsupported[Wording::tr("同一文件中的其他文档")] = bodies - 1;
     }
 
     std::shared_ptr<Document> m_document;

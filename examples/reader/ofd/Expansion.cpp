@@ -2,6 +2,7 @@
 
 #include "Fault.h"
 #include "Limits.h"
+#include "Wording.h"
 
 #include <QSet>
 
@@ -52,14 +53,14 @@ public:
         if (m_counts.contains(composite))
             return m_counts.value(composite);
         if (m_open.contains(composite))
-            throw Fault{QStringLiteral("复合图元“%1”循环引用。").arg(composite)};
-        const auto graphic = m_resources.composites.constFind(composite);
-        if (graphic == m_resources.composites.cend())
+            throw Fault{Wording::tr("复合图元“%1”循环引用。").arg(composite)};
+        const auto objects = m_resources.composites.value(composite);
+        if (!objects)
             return 0;
         if (m_open.size() >= Limits::xmlDepth)
-            throw Fault{QStringLiteral("复合图元“%1”嵌套过深。").arg(composite)};
+            throw Fault{Wording::tr("复合图元“%1”嵌套过深。").arg(composite)};
         m_open.insert(composite);
-        const qint64 total = count(*graphic->objects);
+        const qint64 total = count(*objects);
         m_open.remove(composite);
         m_counts.insert(composite, total);
         return total;
@@ -90,7 +91,7 @@ void checkExpansion(const Document &document)
         }
         all += total;
         if (total > Limits::marksPerPage || all > Limits::marks)
-            throw Fault{QStringLiteral("文档的内容展开后过多，无法显示。")};
+            throw Fault{Wording::tr("文档的内容展开后过多，无法显示。")};
     }
 }
 

@@ -1,6 +1,7 @@
 #include "Extras.h"
 
 #include "Values.h"
+#include "Wording.h"
 
 namespace Ofd {
 
@@ -73,26 +74,26 @@ Objects appearancesOf(const XmlElement &list, ObjectReader &objects)
 
 void Extras::readInformation(const XmlElement &information, Document &document)
 {
-    static const QVector<QPair<const char *, QString>> names = {
-        {"Title", QStringLiteral("标题")},
-        {"Author", QStringLiteral("作者")},
-        {"Subject", QStringLiteral("主题")},
-        {"Abstract", QStringLiteral("摘要")},
-        {"DocUsage", QStringLiteral("用途")},
-        {"CreationDate", QStringLiteral("创建日期")},
-        {"ModDate", QStringLiteral("修改日期")},
-        {"Creator", QStringLiteral("创建程序")},
-        {"CreatorVersion", QStringLiteral("程序版本")},
-        {"DocID", QStringLiteral("文档标识")},
+    static constexpr std::pair<const char *, const char *> names[] = {
+        {"Title", QT_TRANSLATE_NOOP("Ofd", "标题")},
+        {"Author", QT_TRANSLATE_NOOP("Ofd", "作者")},
+        {"Subject", QT_TRANSLATE_NOOP("Ofd", "主题")},
+        {"Abstract", QT_TRANSLATE_NOOP("Ofd", "摘要")},
+        {"DocUsage", QT_TRANSLATE_NOOP("Ofd", "用途")},
+        {"CreationDate", QT_TRANSLATE_NOOP("Ofd", "创建日期")},
+        {"ModDate", QT_TRANSLATE_NOOP("Ofd", "修改日期")},
+        {"Creator", QT_TRANSLATE_NOOP("Ofd", "创建程序")},
+        {"CreatorVersion", QT_TRANSLATE_NOOP("Ofd", "程序版本")},
+        {"DocID", QT_TRANSLATE_NOOP("Ofd", "文档标识")},
     };
     document.title = information.childText("Title");
     for (const auto &name : names)
-        add(document, name.second, information.childText(name.first));
+        add(document, Wording::tr(name.second), information.childText(name.first));
     if (const XmlElement *keywords = information.child("Keywords")) {
         QStringList words;
         for (const XmlElement &word : keywords->children)
             words.append(word.text.trimmed());
-        add(document, QStringLiteral("关键词"), words.join(QStringLiteral("、")));
+        add(document, Wording::tr("关键词"), words.join(Wording::tr("、")));
     }
     if (const XmlElement *custom = information.child("CustomDatas")) {
         for (const XmlElement &item : custom->children)
@@ -151,7 +152,7 @@ void Extras::countSeals(const XmlElement &body, const QString &from, Document &d
         return;
     for (const XmlElement &signature : list->children) {
         if (signature.is("Signature"))
-            ++document.unsupported[QStringLiteral("电子签章")];
+            ++document.unsupported[Wording::tr("电子签章")];
     }
 }
 

@@ -69,7 +69,7 @@ QImage ImageStore::decoded(const QString &resource)
     if (const QImage *known = m_cache.object(resource))
         return *known;
     QImage image;
-    const QString file = m_document.resources.media.value(resource).file;
+    const QString file = m_document.resources.images.value(resource);
     try {
         if (!file.isEmpty())
             image = decode(m_document.package->read(file));

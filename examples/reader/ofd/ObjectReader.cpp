@@ -4,6 +4,7 @@
 #include "Limits.h"
 #include "PathData.h"
 #include "Values.h"
+#include "Wording.h"
 
 #include <algorithm>
 #include <cmath>
@@ -67,7 +68,7 @@ void ObjectReader::readOne(Objects &objects, const XmlElement &element, const St
     if (!element.name.endsWith(QLatin1String("Object")) || !element.flag("Visible", true))
         return;
     if (++m_count > Limits::objects)
-        throw Fault{QStringLiteral("文档中的图元过多，超过 %1 个。").arg(Limits::objects)};
+        throw Fault{Wording::tr("文档中的图元过多，超过 %1 个。").arg(Limits::objects)};
     Object object = common(element, wider);
     if (element.is("TextObject"))
         object.content = textOf(element);
@@ -80,7 +81,7 @@ void ObjectReader::readOne(Objects &objects, const XmlElement &element, const St
     else
         ++m_unsupported[element.name];
     if (element.is("ImageObject") && !element.attribute("ImageMask").isEmpty())
-        ++m_unsupported[QStringLiteral("图像蒙版")];
+        ++m_unsupported[Wording::tr("图像蒙版")];
     objects.append(object);
 }
 
@@ -101,7 +102,7 @@ Text ObjectReader::textOf(const XmlElement &element)
     text.font = element.attribute("Font");
     text.size = Values::number(element.attribute("Size"), 0);
     if (text.size < 0 || text.size > Limits::fontSize)
-        throw Fault{QStringLiteral("字号 %1 超出范围。").arg(text.size)};
+        throw Fault{Wording::tr("字号 %1 超出范围。").arg(text.size)};
     text.horizontalScale = Values::number(element.attribute("HScale"), 1);
     text.readDirection = quarterTurns(element, "ReadDirection");
     text.charDirection = quarterTurns(element, "CharDirection");
@@ -147,7 +148,7 @@ QVector<QPainterPath> ObjectReader::clipsOf(const XmlElement &element)
         for (const XmlElement &area : clip.children) {
             const XmlElement *shape = area.child("Path");
             if (!shape) {
-                ++m_unsupported[QStringLiteral("文字裁剪")];
+                ++m_unsupported[Wording::tr("文字裁剪")];
                 continue;
             }
             const QRectF boundary = Values::box(shape->attribute("Boundary"));

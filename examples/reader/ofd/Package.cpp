@@ -2,6 +2,7 @@
 
 #include "Fault.h"
 #include "Limits.h"
+#include "Wording.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -19,13 +20,13 @@ QByteArray bytesOf(const QString &fileName)
 {
     QFile file(fileName);
     if (!file.exists())
-        throw Fault{QStringLiteral("文件不存在。")};
+        throw Fault{Wording::tr("文件不存在。")};
     if (QFileInfo(fileName).isDir())
-        throw Fault{QStringLiteral("这是一个文件夹，不是 OFD 文件。")};
+        throw Fault{Wording::tr("这是一个文件夹，不是 OFD 文件。")};
     if (!file.open(QIODevice::ReadOnly))
-        throw Fault{QStringLiteral("无法读取文件：%1。").arg(file.errorString())};
+        throw Fault{Wording::tr("无法读取文件：%1。").arg(file.errorString())};
     if (file.size() > Limits::archiveBytes)
-        throw Fault{QStringLiteral("文件过大，超过 %1 MB。").arg(Limits::archiveBytes >> 20)};
+        throw Fault{Wording::tr("文件过大，超过 %1 MB。").arg(Limits::archiveBytes >> 20)};
     return file.readAll();
 }
 
@@ -43,26 +44,26 @@ Package::Package(const QString &fileName)
     , m_zip(&m_buffer)
 {
     if (!m_archive.startsWith(zipSignature))
-        throw Fault{QStringLiteral("这不是 OFD 文件：它不是 ZIP 包。")};
+        throw Fault{Wording::tr("这不是 OFD 文件：它不是 ZIP 包。")};
     if (!m_zip.open(QuaZip::mdUnzip))
-        throw Fault{QStringLiteral("文件不完整：ZIP 包的目录缺失或已损坏。")};
+        throw Fault{Wording::tr("文件不完整：ZIP 包的目录缺失或已损坏。")};
     list();
 }
 
 void Package::list()
 {
     if (m_zip.getEntriesCount() > Limits::entries)
-        throw Fault{QStringLiteral("包内文件过多，超过 %1 个。").arg(Limits::entries)};
+        throw Fault{Wording::tr("包内文件过多，超过 %1 个。").arg(Limits::entries)};
     const QList<QuaZipFileInfo64> entries = m_zip.getFileInfoList64();
     if (entries.size() != m_zip.getEntriesCount())
-        throw Fault{QStringLiteral("文件不完整：ZIP 包的目录缺失或已损坏。")};
+        throw Fault{Wording::tr("文件不完整：ZIP 包的目录缺失或已损坏。")};
     quint64 total = 0;
     for (const QuaZipFileInfo64 &entry : entries) {
         check(entry);
         total += entry.uncompressedSize;
         if (total > quint64(Limits::unpackedBytes))
-            throw Fault{QStringLiteral("包内文件解压后过大，超过 %1 MB。")
-                            .arg(Limits::unpackedBytes >> 20)};
+            throw Fault{
+                Wording::tr("包内文件解压后过大，超过 %1 MB。").arg(Limits::unpackedBytes >> 20)};
         if (!entry.name.endsWith(QChar(u'/')))
             m_sizes.insert(entry.name, qint64(entry.uncompressedSize));
     }
@@ -71,19 +72,19 @@ void Package::list()
 void Package::check(const QuaZipFileInfo64 &entry) const
 {
     if (leavesArchive(entry.name))
-        throw Fault{QStringLiteral("包内路径“%1”指向包外。").arg(entry.name)};
+        throw Fault{Wording::tr("包内路径“%1”指向包外。").arg(entry.name)};
     if (entry.isEncrypted())
-        throw Fault{QStringLiteral("文件已加密，无法打开。")};
+        throw Fault{Wording::tr("文件已加密，无法打开。")};
     const bool isLarge = entry.uncompressedSize > quint64(Limits::harmlessBytes);
     const quint64 packed = qMax(entry.compressedSize, quint64(1));
     if (entry.uncompressedSize > quint64(Limits::entryBytes)
         || (isLarge && entry.uncompressedSize / packed > quint64(Limits::packingRatio)))
-        throw Fault{QStringLiteral("包内文件“%1”解压后异常巨大。").arg(entry.name)};
+        throw Fault{Wording::tr("包内文件“%1”解压后异常巨大。").arg(entry.name)};
 }
 
 QByteArray Package::read(const QString &path) const
 {
-    const Fault damage{QStringLiteral("包内文件“%1”缺失或已损坏。").arg(path)};
+    const Fault damage{Wording::tr("包内文件“%1”缺失或已损坏。").arg(path)};
     const qint64 size = m_sizes.value(path, -1);
     if (size < 0 || !m_zip.setCurrentFile(path, QuaZip::csSensitive))
         throw damage;
@@ -125,7 +126,7 @@ QString Package::normalised(const QString &location)
             continue;
         }
         if (way.isEmpty())
-            throw Fault{QStringLiteral("文档中的路径“%1”指向包外。").arg(location)};
+            throw Fault{Wording::tr("文档中的路径“%1”指向包外。").arg(location)};
         way.removeLast();
     }
     return way.join(QChar(u'/'));

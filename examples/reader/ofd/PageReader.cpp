@@ -3,6 +3,7 @@
 #include "Fault.h"
 #include "Limits.h"
 #include "Values.h"
+#include "Wording.h"
 
 namespace Ofd {
 
@@ -23,7 +24,7 @@ QRectF sheetOf(const XmlElement &area)
     const QRectF box = Values::box(text);
     const qreal longest = std::max(box.width(), box.height());
     if (box.width() <= 0 || box.height() <= 0 || longest > Limits::pageSide)
-        throw Fault{QStringLiteral("页面尺寸“%1”超出范围。").arg(text.left(48))};
+        throw Fault{Wording::tr("页面尺寸“%1”超出范围。").arg(text.left(48))};
     return box;
 }
 
@@ -59,7 +60,7 @@ Page PageReader::read(const XmlElement &element, const QString &from)
     page.area = m_commonArea;
     const QString path = m_package.find(from, element.attribute("BaseLoc"));
     if (path.isEmpty()) {
-        ++m_unsupported[QStringLiteral("缺失的页面")];
+        ++m_unsupported[Wording::tr("缺失的页面")];
         return page;
     }
     if (m_read.contains(path))
@@ -81,7 +82,7 @@ PageReader::Layers PageReader::layersOf(const XmlElement &page)
     const Layers layers = templatesOf(page, backgroundOrder) + templatesOf(page, bodyOrder)
                           + ownLayersOf(page) + templatesOf(page, foregroundOrder);
     if (layers.size() > mostLayers)
-        throw Fault{QStringLiteral("页面的图层过多，超过 %1 个。").arg(mostLayers)};
+        throw Fault{Wording::tr("页面的图层过多，超过 %1 个。").arg(mostLayers)};
     return layers;
 }
 
@@ -126,20 +127,19 @@ const PageReader::Layers &PageReader::layersOfTemplate(const QString &id)
     Template &page = m_templates[id];
     if (page.isRead)
         return page.layers;
-    if (m_openTemplates.contains(id))
-        throw Fault{QStringLiteral("模板页“%1”循环引用。").arg(id)};
+    if (page.isBegun)
+        throw Fault{Wording::tr("模板页“%1”循环引用。").arg(id)};
     if (page.path.isEmpty()) {
-        ++m_unsupported[QStringLiteral("缺失的模板页")];
+        ++m_unsupported[Wording::tr("缺失的模板页")];
         page.isRead = true;
         return page.layers;
     }
-    m_openTemplates.insert(id);
+    page.isBegun = true;
     const QString path = page.path;
     const XmlElement content = XmlElement::parse(m_package.read(path), path);
     m_resources.addLists(content, "PageRes", path);
     m_resources.finish();
     const Layers layers = layersOf(content);
-    m_openTemplates.remove(id);
     // Reading may have brought other templates in, and with them have moved this one.
     Template &done = m_templates[id];
     done.layers = layers;

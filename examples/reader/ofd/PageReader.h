@@ -2,8 +2,6 @@
 
 #include "ResourceReader.h"
 
-#include <QSet>
-
 namespace Ofd {
 
 /** Reads pages with the templates below and above them. */
@@ -31,6 +29,7 @@ private:
         QString order;
         Layers layers;
         bool isRead = false;
+        bool isBegun = false; ///< Being read, or read.
     };
 
     Layers layersOf(const XmlElement &page);
@@ -43,7 +42,6 @@ private:
     QMap<QString, int> &m_unsupported;
     QRectF m_commonArea;
     QHash<QString, Template> m_templates;
-    QSet<QString> m_openTemplates;
     QHash<QString, Page> m_read; ///< By path: a file that many pages name is read once.
 };
 

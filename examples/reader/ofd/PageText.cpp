@@ -37,18 +37,17 @@ public:
             else if (const auto *group = std::get_if<Group>(&object.content))
                 addAll(*group->objects, place);
             else if (const auto *composite = std::get_if<Composite>(&object.content))
-                addComposite(*composite, place);
+                addComposite(composite->resource, place);
         }
     }
 
     PageText take() { return std::move(m_result); }
 
 private:
-    void addComposite(const Composite &composite, const QTransform &place)
+    void addComposite(const QString &resource, const QTransform &place)
     {
-        const auto graphic = m_document.resources.composites.constFind(composite.resource);
-        if (graphic != m_document.resources.composites.cend())
-            addAll(*graphic->objects, place);
+        if (const auto objects = m_document.resources.composites.value(resource))
+            addAll(*objects, place);
     }
 
     void addText(const Text &text, const QTransform &place)

@@ -3,6 +3,7 @@
 #include "Fault.h"
 #include "Limits.h"
 #include "TextLayout.h"
+#include "Wording.h"
 
 #include <QPainter>
 
@@ -103,9 +104,9 @@ QMap<QString, int> Painter::unpaintable() const
         }
     };
     for (const Font &font : m_document->resources.fonts)
-        test(font.file, QStringLiteral("嵌入字体"), Face::isReadable);
-    for (const Media &media : m_document->resources.media)
-        test(media.file, QStringLiteral("图像"), ImageStore::isReadable);
+        test(font.file, Wording::tr("嵌入字体"), Face::isReadable);
+    for (const QString &file : m_document->resources.images)
+        test(file, Wording::tr("图像"), ImageStore::isReadable);
     return counts;
 }
 
@@ -191,9 +192,8 @@ void Painter::paintContent(QPainter &painter, const Object &object, const Image 
 
 void Painter::paintContent(QPainter &painter, const Object &, const Composite &composite)
 {
-    const auto graphic = m_document->resources.composites.constFind(composite.resource);
-    if (graphic != m_document->resources.composites.cend())
-        paintAll(painter, *graphic->objects);
+    if (const auto objects = m_document->resources.composites.value(composite.resource))
+        paintAll(painter, *objects);
 }
 
 void Painter::paintContent(QPainter &painter, const Object &, const Group &group)

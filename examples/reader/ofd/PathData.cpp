@@ -2,6 +2,7 @@
 
 #include "Values.h"
 
+#include <QHash>
 #include <QTransform>
 #include <QVector>
 #include <QtMath>
@@ -15,22 +16,9 @@ namespace {
 /** How many numbers a command takes; -1 for a letter that is none. */
 int countOfNumbers(QChar command)
 {
-    switch (command.unicode()) {
-    case u'M':
-    case u'S':
-    case u'L':
-        return 2;
-    case u'Q':
-        return 4;
-    case u'B':
-        return 6;
-    case u'A':
-        return 7;
-    case u'C':
-        return 0;
-    default:
-        return -1;
-    }
+    static const QHash<QChar, int> counts{{'M', 2}, {'S', 2}, {'L', 2}, {'Q', 4},
+                                          {'B', 6}, {'A', 7}, {'C', 0}};
+    return counts.value(command, -1);
 }
 
 struct Arc

@@ -1,10 +1,15 @@
 #include "ResourceReader.h"
 
+#include "Wording.h"
+
 namespace Ofd {
 
 namespace {
 
-const QString missing = QStringLiteral("缺失的文件");
+QString missing()
+{
+    return Wording::tr("缺失的文件");
+}
 
 } // namespace
 
@@ -15,7 +20,7 @@ void ResourceReader::addLists(const XmlElement &parent, const char *name, const 
             continue;
         const QString path = m_package.find(from, element.text);
         if (path.isEmpty())
-            ++m_unsupported[missing];
+            ++m_unsupported[missing()];
         else
             addList(path);
     }
@@ -61,7 +66,7 @@ void ResourceReader::addFont(const XmlElement &element, const QString &folder)
     const QString location = element.childText("FontFile");
     font.file = m_package.find(folder, location);
     if (font.file.isEmpty() && !location.isEmpty())
-        ++m_unsupported[missing];
+        ++m_unsupported[missing()];
     m_resources.fonts.insert(element.attribute("ID"), font);
 }
 
@@ -69,26 +74,24 @@ void ResourceReader::addMedia(const XmlElement &element, const QString &folder)
 {
     const QString type = element.attribute("Type");
     if (!type.isEmpty() && type != QLatin1String("Image")) {
-        ++m_unsupported[QStringLiteral("音频和视频")];
+        ++m_unsupported[Wording::tr("音频和视频")];
         return;
     }
-    Media media;
-    media.file = m_package.find(folder, element.childText("MediaFile"));
-    if (media.file.isEmpty())
-        ++m_unsupported[missing];
-    m_resources.media.insert(element.attribute("ID"), media);
+    const QString file = m_package.find(folder, element.childText("MediaFile"));
+    if (file.isEmpty())
+        ++m_unsupported[missing()];
+    m_resources.images.insert(element.attribute("ID"), file);
 }
 
 void ResourceReader::finish()
 {
     m_styles.resolve();
     for (const XmlElement &element : m_composites) {
-        CompositeGraphic graphic;
         Objects objects;
         if (const XmlElement *content = element.child("Content"))
             objects = m_objects.readAll(*content, Style());
-        graphic.objects = std::make_shared<const Objects>(objects);
-        m_resources.composites.insert(element.attribute("ID"), graphic);
+        m_resources.composites.insert(element.attribute("ID"),
+                                      std::make_shared<const Objects>(objects));
     }
     m_composites.clear();
 }

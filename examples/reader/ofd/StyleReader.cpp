@@ -3,6 +3,7 @@
 #include "Fault.h"
 #include "Limits.h"
 #include "Values.h"
+#include "Wording.h"
 
 #include <QSet>
 
@@ -50,7 +51,7 @@ std::optional<QVector<qreal>> dashes(const QString &text)
         isNegative = isNegative || value < 0;
     }
     if (values.size() > Limits::dashes || isNegative || (period > 0 && period < Limits::dashPeriod))
-        throw Fault{QStringLiteral("虚线样式“%1”超出范围。").arg(text.left(24))};
+        throw Fault{Wording::tr("虚线样式“%1”超出范围。").arg(text.left(24))};
     // Dashes without any length are a solid line.
     return period > 0 ? values : QVector<qreal>();
 }
@@ -69,7 +70,7 @@ void StyleReader::resolve()
         QSet<QString> visited = {parameters.key()};
         for (QString &next = parameters->relative; m_parameters.contains(next);) {
             if (visited.contains(next))
-                throw Fault{QStringLiteral("绘制参数“%1”循环引用。").arg(next)};
+                throw Fault{Wording::tr("绘制参数“%1”循环引用。").arg(next)};
             visited.insert(next);
             const Parameters wider = m_parameters.value(next);
             parameters->style = parameters->style.over(wider.style);

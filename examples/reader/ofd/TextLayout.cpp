@@ -16,39 +16,11 @@ bool isShown(uint character)
     return character >= 0x20 && character != 0x7F;
 }
 
-/** The way from one character to the next, where the run tells it. */
-class Steps
+/** The last distance goes on for characters that have none. */
+qreal distanceAt(const QVector<qreal> &deltas, int index)
 {
-public:
-    Steps(const Text &text, const TextRun &run)
-        : m_run(run)
-        , m_isGiven(!run.deltaX.isEmpty() || !run.deltaY.isEmpty())
-    {
-        m_forward.rotate(text.readDirection);
-    }
-
-    bool areGiven() const { return m_isGiven; }
-
-    QPointF step(int index, qreal advance) const
-    {
-        if (!m_isGiven)
-            return m_forward.map(QPointF(advance, 0));
-        return QPointF(at(m_run.deltaX, index), at(m_run.deltaY, index));
-    }
-
-private:
-    static qreal at(const QVector<qreal> &deltas, int index)
-    {
-        if (deltas.isEmpty())
-            return 0;
-        // The last distance goes on for characters that have none.
-        return deltas.at(std::min(index, int(deltas.size()) - 1));
-    }
-
-    const TextRun &m_run;
-    bool m_isGiven;
-    QTransform m_forward;
-};
+    return deltas.isEmpty() ? 0 : deltas.at(std::min(index, int(deltas.size()) - 1));
+}
 
 /** How much narrower a glyph must become to fit; 1 for one that fits. */
 qreal squeezeFor(qreal advance, qreal room)
@@ -99,10 +71,11 @@ public:
         : m_text(text)
         , m_run(run)
         , m_face(face)
-        , m_steps(text, run)
+        , m_areStepsGiven(!run.deltaX.isEmpty() || !run.deltaY.isEmpty())
         , m_em(text.size * text.horizontalScale)
         , m_origin(run.start)
     {
+        m_forward.rotate(text.readDirection);
     }
 
     QVector<PlacedGlyph> walk()
@@ -118,9 +91,9 @@ private:
     {
         const QVector<const Glyph *> glyphs = glyphsOf(m_run, index, code, m_face);
         const qreal advance = glyphs.isEmpty() ? 0 : glyphs.first()->advance;
-        const QPointF step = m_steps.step(index, advance * m_em);
+        const QPointF step = stepAt(index, advance * m_em);
         const qreal room = roomFor(code, step, hasNext);
-        const bool mayTouch = !m_steps.areGiven() || m_face.isEmbedded() || step.y() != 0;
+        const bool mayTouch = !m_areStepsGiven || m_face.isEmbedded() || step.y() != 0;
         const qreal squeeze = mayTouch ? 1 : squeezeFor(advance * m_em, room);
         PlacedGlyph next;
         next.text = QString::fromUcs4(reinterpret_cast<const char32_t *>(&code), 1);
@@ -129,6 +102,14 @@ private:
         next.width = std::min(own, std::max(1.0, advance));
         append(next, glyphs);
         m_origin += step;
+    }
+
+    /** The way from one character to the next: as the run tells it, else by the advance. */
+    QPointF stepAt(int index, qreal advance) const
+    {
+        if (!m_areStepsGiven)
+            return m_forward.map(QPointF(advance, 0));
+        return QPointF(distanceAt(m_run.deltaX, index), distanceAt(m_run.deltaY, index));
     }
 
     /** The last character has no next one: a letter gets what other letters have. */
@@ -157,7 +138,8 @@ private:
     const Text &m_text;
     const TextRun &m_run;
     Face &m_face;
-    Steps m_steps;
+    bool m_areStepsGiven;
+    QTransform m_forward;
     qreal m_em;
     QPointF m_origin;
     qreal m_letterRoom = 0;

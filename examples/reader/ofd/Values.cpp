@@ -2,6 +2,7 @@
 
 #include "Fault.h"
 #include "Limits.h"
+#include "Wording.h"
 
 #include <QRegularExpression>
 #include <QStringList>
@@ -26,7 +27,7 @@ bool toNumber(const QString &word, qreal *value)
     if (!isNumber || std::isnan(*value))
         return false;
     if (std::abs(*value) > Limits::number)
-        throw Fault{QStringLiteral("文档中的数值“%1”超出范围。").arg(word.left(24))};
+        throw Fault{Wording::tr("文档中的数值“%1”超出范围。").arg(word.left(24))};
     return true;
 }
 

@@ -2,6 +2,7 @@
 
 #include "Fault.h"
 #include "Limits.h"
+#include "Wording.h"
 
 #include <QXmlStreamReader>
 
@@ -34,7 +35,7 @@ public:
         while (!m_reader.atEnd())
             take(m_reader.readNext());
         if (m_reader.hasError() || m_root.name.isEmpty())
-            throw Fault{QStringLiteral("包内文件“%1”第 %2 行不是正确的 XML。")
+            throw Fault{Wording::tr("包内文件“%1”第 %2 行不是正确的 XML。")
                             .arg(m_path)
                             .arg(m_reader.lineNumber())};
         return std::move(m_root);
@@ -44,7 +45,7 @@ private:
     void take(QXmlStreamReader::TokenType token)
     {
         if (token == QXmlStreamReader::DTD)
-            throw Fault{QStringLiteral("包内文件“%1”含有不允许的 DTD。").arg(m_path)};
+            throw Fault{Wording::tr("包内文件“%1”含有不允许的 DTD。").arg(m_path)};
         if (token == QXmlStreamReader::StartElement)
             begin();
         else if (token == QXmlStreamReader::EndElement)
@@ -56,9 +57,9 @@ private:
     void begin()
     {
         if (m_open.size() >= Limits::xmlDepth)
-            throw Fault{QStringLiteral("包内文件“%1”嵌套过深。").arg(m_path)};
+            throw Fault{Wording::tr("包内文件“%1”嵌套过深。").arg(m_path)};
         if (++m_count > Limits::xmlElements)
-            throw Fault{QStringLiteral("包内文件“%1”的元素过多。").arg(m_path)};
+            throw Fault{Wording::tr("包内文件“%1”的元素过多。").arg(m_path)};
         m_open.push_back(startOf(m_reader));
     }
 

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <tools/check/DescriptionCheck.h>
+
+#include <QDockWidget>
+
+class QStackedWidget;
+class QTableWidget;
+
+/** Lists what is wrong with a description: where, how bad, and what to do about it. */
+class FindingsPanel : public QDockWidget
+{
+    Q_OBJECT
+
+public:
+    /** @param emptyNotice is shown in place of an empty list. */
+    explicit FindingsPanel(const QString &emptyNotice, QWidget *parent = nullptr);
+
+    /** @param subject what was checked, for the title. */
+    void setFindings(const QString &subject, const QVector<Finding> &findings);
+
+private:
+    void buildTable();
+    void addRow(const Finding &finding);
+
+    QStackedWidget *m_stack;
+    QTableWidget *m_table;
+};

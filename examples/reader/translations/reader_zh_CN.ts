@@ -1,0 +1,855 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="zh_CN">
+<context>
+    <name>Description</name>
+    <message>
+        <source>根元素是“%1”，而不是“uiconfig”</source>
+        <translation>根元素是“%1”，而不是“uiconfig”</translation>
+    </message>
+    <message>
+        <source>清除历史记录</source>
+        <translation>清除历史记录</translation>
+    </message>
+</context>
+<context>
+    <name>EditCommands</name>
+    <message>
+        <source>%1：第 %2 页</source>
+        <translation>%1：第 %2 页</translation>
+    </message>
+    <message>
+        <source>空白页</source>
+        <translation>空白页</translation>
+    </message>
+    <message>
+        <source>插入空白页</source>
+        <translation>插入空白页</translation>
+    </message>
+    <message>
+        <source>插入页面</source>
+        <translation>插入页面</translation>
+    </message>
+    <message>
+        <source>按住鼠标左键在页面上书写</source>
+        <translation>按住鼠标左键在页面上书写</translation>
+    </message>
+    <message>
+        <source>文字</source>
+        <translation>文字</translation>
+    </message>
+    <message>
+        <source>%1：每一页</source>
+        <translation>%1：每一页</translation>
+    </message>
+    <message>
+        <source>水印的文字</source>
+        <translation>水印的文字</translation>
+    </message>
+    <message>
+        <source>内部资料</source>
+        <translation>内部资料</translation>
+    </message>
+    <message>
+        <source>已选择 %1 个字</source>
+        <translation>已选择 %1 个字</translation>
+    </message>
+</context>
+<context>
+    <name>FileCommands</name>
+    <message>
+        <source>OFD 文件 (*.ofd)</source>
+        <translation>OFD 文件 (*.ofd)</translation>
+    </message>
+    <message>
+        <source>PDF 文件 (*.pdf)</source>
+        <translation>PDF 文件 (*.pdf)</translation>
+    </message>
+    <message>
+        <source>文本文件 (*.txt)</source>
+        <translation>文本文件 (*.txt)</translation>
+    </message>
+    <message>
+        <source>保存信封：示例不生成数字信封</source>
+        <translation>保存信封：示例不生成数字信封</translation>
+    </message>
+    <message>
+        <source>检查更新：示例不连接网络</source>
+        <translation>检查更新：示例不连接网络</translation>
+    </message>
+    <message>
+        <source>已打开：%1</source>
+        <translation>已打开：%1</translation>
+    </message>
+    <message>
+        <source>无法打开</source>
+        <translation>无法打开</translation>
+    </message>
+    <message>
+        <source>无法打开“%1”：%2</source>
+        <translation>无法打开“%1”：%2</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>“%1”有未保存的修改，要放弃吗？</source>
+        <translation>“%1”有未保存的修改，要放弃吗？</translation>
+    </message>
+    <message>
+        <source>放弃修改</source>
+        <translation>放弃修改</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>打开</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>所有文件 (*)</source>
+        <translation>所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>无法写入：%1</source>
+        <translation>无法写入：%1</translation>
+    </message>
+    <message>
+        <source>已保存，但不含批注；另存为 PDF 可保留批注：%1</source>
+        <translation>已保存，但不含批注；另存为 PDF 可保留批注：%1</translation>
+    </message>
+    <message>
+        <source>已保存：%1</source>
+        <translation>已保存：%1</translation>
+    </message>
+    <message>
+        <source>已打印</source>
+        <translation>已打印</translation>
+    </message>
+    <message>
+        <source>没有打印</source>
+        <translation>没有打印</translation>
+    </message>
+    <message>
+        <source>另存为</source>
+        <translation>另存为</translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>最近打开的文件的数量</source>
+        <translation>最近打开的文件的数量</translation>
+    </message>
+    <message>
+        <source>关于OFD阅读器</source>
+        <translation>关于OFD阅读器</translation>
+    </message>
+    <message>
+        <source>工具栏的示例阅读器，可打开 OFD 文件。
+
+Qt %1</source>
+        <translation>工具栏的示例阅读器，可打开 OFD 文件。
+
+Qt %1</translation>
+    </message>
+</context>
+<context>
+    <name>FindingsPanel</name>
+    <message>
+        <source>提示</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>警告</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>错误</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>，</source>
+        <translation>，</translation>
+    </message>
+    <message>
+        <source>检查结果</source>
+        <translation>检查结果</translation>
+    </message>
+    <message>
+        <source>行</source>
+        <translation>行</translation>
+    </message>
+    <message>
+        <source>列</source>
+        <translation>列</translation>
+    </message>
+    <message>
+        <source>级别</source>
+        <translation>级别</translation>
+    </message>
+    <message>
+        <source>说明</source>
+        <translation>说明</translation>
+    </message>
+    <message>
+        <source>检查结果：%1</source>
+        <translation>检查结果：%1</translation>
+    </message>
+    <message>
+        <source>检查结果：%1（%2）</source>
+        <translation>检查结果：%1（%2）</translation>
+    </message>
+</context>
+<context>
+    <name>HandwritingSettings</name>
+    <message>
+        <source>区域手写</source>
+        <translation>区域手写</translation>
+    </message>
+    <message>
+        <source>区域的大小（像素）</source>
+        <translation>区域的大小（像素）</translation>
+    </message>
+</context>
+<context>
+    <name>HostPanel</name>
+    <message>
+        <source>皮肤颜色</source>
+        <translation>皮肤颜色</translation>
+    </message>
+    <message>
+        <source>蓝</source>
+        <translation>蓝</translation>
+    </message>
+    <message>
+        <source>绿</source>
+        <translation>绿</translation>
+    </message>
+    <message>
+        <source>暗</source>
+        <translation>暗</translation>
+    </message>
+    <message>
+        <source>手写设置…</source>
+        <translation>手写设置…</translation>
+    </message>
+</context>
+<context>
+    <name>LivePreview</name>
+    <message>
+        <source>没有发现问题</source>
+        <translation>没有发现问题</translation>
+    </message>
+    <message>
+        <source>文件可以读取；未编入描述检查器，不作进一步检查</source>
+        <translation>文件可以读取；未编入描述检查器，不作进一步检查</translation>
+    </message>
+    <message>
+        <source>无法读取文件：%1</source>
+        <translation>无法读取文件：%1</translation>
+    </message>
+    <message>
+        <source>%1，工具栏未更新</source>
+        <translation>%1，工具栏未更新</translation>
+    </message>
+</context>
+<context>
+    <name>Mark</name>
+    <message>
+        <source>高亮</source>
+        <translation>高亮</translation>
+    </message>
+    <message>
+        <source>下划线</source>
+        <translation>下划线</translation>
+    </message>
+    <message>
+        <source>波浪线</source>
+        <translation>波浪线</translation>
+    </message>
+    <message>
+        <source>删除线</source>
+        <translation>删除线</translation>
+    </message>
+    <message>
+        <source>修订</source>
+        <translation>修订</translation>
+    </message>
+    <message>
+        <source>直线</source>
+        <translation>直线</translation>
+    </message>
+    <message>
+        <source>箭头</source>
+        <translation>箭头</translation>
+    </message>
+    <message>
+        <source>矩形</source>
+        <translation>矩形</translation>
+    </message>
+    <message>
+        <source>椭圆</source>
+        <translation>椭圆</translation>
+    </message>
+    <message>
+        <source>多边形</source>
+        <translation>多边形</translation>
+    </message>
+    <message>
+        <source>折线</source>
+        <translation>折线</translation>
+    </message>
+    <message>
+        <source>云线</source>
+        <translation>云线</translation>
+    </message>
+    <message>
+        <source>笔迹</source>
+        <translation>笔迹</translation>
+    </message>
+    <message>
+        <source>显示遮罩</source>
+        <translation>显示遮罩</translation>
+    </message>
+    <message>
+        <source>打印遮罩</source>
+        <translation>打印遮罩</translation>
+    </message>
+    <message>
+        <source>文本框</source>
+        <translation>文本框</translation>
+    </message>
+    <message>
+        <source>便签</source>
+        <translation>便签</translation>
+    </message>
+    <message>
+        <source>电子签章</source>
+        <translation>电子签章</translation>
+    </message>
+    <message>
+        <source>骑缝章</source>
+        <translation>骑缝章</translation>
+    </message>
+    <message>
+        <source>印章</source>
+        <translation>印章</translation>
+    </message>
+    <message>
+        <source>签章标记</source>
+        <translation>签章标记</translation>
+    </message>
+    <message>
+        <source>图章</source>
+        <translation>图章</translation>
+    </message>
+    <message>
+        <source>贴图</source>
+        <translation>贴图</translation>
+    </message>
+    <message>
+        <source>水印</source>
+        <translation>水印</translation>
+    </message>
+</context>
+<context>
+    <name>NavigationPanel</name>
+    <message>
+        <source>大纲</source>
+        <translation>大纲</translation>
+    </message>
+    <message>
+        <source>缩略图</source>
+        <translation>缩略图</translation>
+    </message>
+    <message>
+        <source>自定义标引</source>
+        <translation>自定义标引</translation>
+    </message>
+    <message>
+        <source>书签</source>
+        <translation>书签</translation>
+    </message>
+    <message>
+        <source>批注</source>
+        <translation>批注</translation>
+    </message>
+    <message>
+        <source>附件</source>
+        <translation>附件</translation>
+    </message>
+    <message>
+        <source>为当前页添加书签</source>
+        <translation>为当前页添加书签</translation>
+    </message>
+    <message>
+        <source>没有打开的文档</source>
+        <translation>没有打开的文档</translation>
+    </message>
+    <message>
+        <source>本文档没有大纲</source>
+        <translation>本文档没有大纲</translation>
+    </message>
+    <message>
+        <source>%1（%2 处）</source>
+        <translation>%1（%2 处）</translation>
+    </message>
+    <message>
+        <source>第 %1 页</source>
+        <translation>第 %1 页</translation>
+    </message>
+    <message>
+        <source>还没有书签</source>
+        <translation>还没有书签</translation>
+    </message>
+    <message>
+        <source>每一页</source>
+        <translation>每一页</translation>
+    </message>
+    <message>
+        <source>：%1</source>
+        <translation>：%1</translation>
+    </message>
+    <message>
+        <source>还没有批注</source>
+        <translation>还没有批注</translation>
+    </message>
+    <message>
+        <source>本文档没有附件</source>
+        <translation>本文档没有附件</translation>
+    </message>
+</context>
+<context>
+    <name>Ofd</name>
+    <message>
+        <source>图案填充</source>
+        <translation>图案填充</translation>
+    </message>
+    <message>
+        <source>网格渐变</source>
+        <translation>网格渐变</translation>
+    </message>
+    <message>
+        <source>这不是 OFD 文件：包内没有 OFD.xml。</source>
+        <translation>这不是 OFD 文件：包内没有 OFD.xml。</translation>
+    </message>
+    <message>
+        <source>文件不完整：没有文档入口 Document.xml。</source>
+        <translation>文件不完整：没有文档入口 Document.xml。</translation>
+    </message>
+    <message>
+        <source>文档没有页面。</source>
+        <translation>文档没有页面。</translation>
+    </message>
+    <message>
+        <source>文档的页面过多，超过 %1 页。</source>
+        <translation>文档的页面过多，超过 %1 页。</translation>
+    </message>
+    <message>
+        <source>同一文件中的其他文档</source>
+        <translation>同一文件中的其他文档</translation>
+    </message>
+    <message>
+        <source>复合图元“%1”循环引用。</source>
+        <translation>复合图元“%1”循环引用。</translation>
+    </message>
+    <message>
+        <source>复合图元“%1”嵌套过深。</source>
+        <translation>复合图元“%1”嵌套过深。</translation>
+    </message>
+    <message>
+        <source>文档的内容展开后过多，无法显示。</source>
+        <translation>文档的内容展开后过多，无法显示。</translation>
+    </message>
+    <message>
+        <source>标题</source>
+        <translation>标题</translation>
+    </message>
+    <message>
+        <source>作者</source>
+        <translation>作者</translation>
+    </message>
+    <message>
+        <source>主题</source>
+        <translation>主题</translation>
+    </message>
+    <message>
+        <source>摘要</source>
+        <translation>摘要</translation>
+    </message>
+    <message>
+        <source>用途</source>
+        <translation>用途</translation>
+    </message>
+    <message>
+        <source>创建日期</source>
+        <translation>创建日期</translation>
+    </message>
+    <message>
+        <source>修改日期</source>
+        <translation>修改日期</translation>
+    </message>
+    <message>
+        <source>创建程序</source>
+        <translation>创建程序</translation>
+    </message>
+    <message>
+        <source>程序版本</source>
+        <translation>程序版本</translation>
+    </message>
+    <message>
+        <source>文档标识</source>
+        <translation>文档标识</translation>
+    </message>
+    <message>
+        <source>关键词</source>
+        <translation>关键词</translation>
+    </message>
+    <message>
+        <source>、</source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>电子签章</source>
+        <translation>电子签章</translation>
+    </message>
+    <message>
+        <source>文档中的图元过多，超过 %1 个。</source>
+        <translation>文档中的图元过多，超过 %1 个。</translation>
+    </message>
+    <message>
+        <source>图像蒙版</source>
+        <translation>图像蒙版</translation>
+    </message>
+    <message>
+        <source>字号 %1 超出范围。</source>
+        <translation>字号 %1 超出范围。</translation>
+    </message>
+    <message>
+        <source>文字裁剪</source>
+        <translation>文字裁剪</translation>
+    </message>
+    <message>
+        <source>文件不存在。</source>
+        <translation>文件不存在。</translation>
+    </message>
+    <message>
+        <source>这是一个文件夹，不是 OFD 文件。</source>
+        <translation>这是一个文件夹，不是 OFD 文件。</translation>
+    </message>
+    <message>
+        <source>无法读取文件：%1。</source>
+        <translation>无法读取文件：%1。</translation>
+    </message>
+    <message>
+        <source>文件过大，超过 %1 MB。</source>
+        <translation>文件过大，超过 %1 MB。</translation>
+    </message>
+    <message>
+        <source>这不是 OFD 文件：它不是 ZIP 包。</source>
+        <translation>这不是 OFD 文件：它不是 ZIP 包。</translation>
+    </message>
+    <message>
+        <source>文件不完整：ZIP 包的目录缺失或已损坏。</source>
+        <translation>文件不完整：ZIP 包的目录缺失或已损坏。</translation>
+    </message>
+    <message>
+        <source>包内文件过多，超过 %1 个。</source>
+        <translation>包内文件过多，超过 %1 个。</translation>
+    </message>
+    <message>
+        <source>包内文件解压后过大，超过 %1 MB。</source>
+        <translation>包内文件解压后过大，超过 %1 MB。</translation>
+    </message>
+    <message>
+        <source>包内路径“%1”指向包外。</source>
+        <translation>包内路径“%1”指向包外。</translation>
+    </message>
+    <message>
+        <source>文件已加密，无法打开。</source>
+        <translation>文件已加密，无法打开。</translation>
+    </message>
+    <message>
+        <source>包内文件“%1”解压后异常巨大。</source>
+        <translation>包内文件“%1”解压后异常巨大。</translation>
+    </message>
+    <message>
+        <source>包内文件“%1”缺失或已损坏。</source>
+        <translation>包内文件“%1”缺失或已损坏。</translation>
+    </message>
+    <message>
+        <source>文档中的路径“%1”指向包外。</source>
+        <translation>文档中的路径“%1”指向包外。</translation>
+    </message>
+    <message>
+        <source>页面尺寸“%1”超出范围。</source>
+        <translation>页面尺寸“%1”超出范围。</translation>
+    </message>
+    <message>
+        <source>缺失的页面</source>
+        <translation>缺失的页面</translation>
+    </message>
+    <message>
+        <source>页面的图层过多，超过 %1 个。</source>
+        <translation>页面的图层过多，超过 %1 个。</translation>
+    </message>
+    <message>
+        <source>模板页“%1”循环引用。</source>
+        <translation>模板页“%1”循环引用。</translation>
+    </message>
+    <message>
+        <source>缺失的模板页</source>
+        <translation>缺失的模板页</translation>
+    </message>
+    <message>
+        <source>嵌入字体</source>
+        <translation>嵌入字体</translation>
+    </message>
+    <message>
+        <source>图像</source>
+        <translation>图像</translation>
+    </message>
+    <message>
+        <source>缺失的文件</source>
+        <translation>缺失的文件</translation>
+    </message>
+    <message>
+        <source>音频和视频</source>
+        <translation>音频和视频</translation>
+    </message>
+    <message>
+        <source>虚线样式“%1”超出范围。</source>
+        <translation>虚线样式“%1”超出范围。</translation>
+    </message>
+    <message>
+        <source>绘制参数“%1”循环引用。</source>
+        <translation>绘制参数“%1”循环引用。</translation>
+    </message>
+    <message>
+        <source>文档中的数值“%1”超出范围。</source>
+        <translation>文档中的数值“%1”超出范围。</translation>
+    </message>
+    <message>
+        <source>包内文件“%1”第 %2 行不是正确的 XML。</source>
+        <translation>包内文件“%1”第 %2 行不是正确的 XML。</translation>
+    </message>
+    <message>
+        <source>包内文件“%1”含有不允许的 DTD。</source>
+        <translation>包内文件“%1”含有不允许的 DTD。</translation>
+    </message>
+    <message>
+        <source>包内文件“%1”嵌套过深。</source>
+        <translation>包内文件“%1”嵌套过深。</translation>
+    </message>
+    <message>
+        <source>包内文件“%1”的元素过多。</source>
+        <translation>包内文件“%1”的元素过多。</translation>
+    </message>
+</context>
+<context>
+    <name>OfdFile</name>
+    <message>
+        <source>%1 %2 处</source>
+        <translation>%1 %2 处</translation>
+    </message>
+    <message>
+        <source>未显示：%1</source>
+        <translation>未显示：%1</translation>
+    </message>
+    <message>
+        <source>，</source>
+        <translation>，</translation>
+    </message>
+    <message>
+        <source>第 %1 页</source>
+        <translation>第 %1 页</translation>
+    </message>
+</context>
+<context>
+    <name>PageView</name>
+    <message>
+        <source>没有打开的文档
+按 Ctrl+O 打开一个文件</source>
+        <translation>没有打开的文档
+按 Ctrl+O 打开一个文件</translation>
+    </message>
+</context>
+<context>
+    <name>Printing</name>
+    <message>
+        <source>打印</source>
+        <translation>打印</translation>
+    </message>
+</context>
+<context>
+    <name>PropertiesDialog</name>
+    <message>
+        <source>%1：</source>
+        <translation>%1：</translation>
+    </message>
+    <message>
+        <source>%1 × %2 毫米（第 %3 页）</source>
+        <translation>%1 × %2 毫米（第 %3 页）</translation>
+    </message>
+    <message>
+        <source>文档</source>
+        <translation>文档</translation>
+    </message>
+    <message>
+        <source>来源</source>
+        <translation>来源</translation>
+    </message>
+    <message>
+        <source>页面由程序生成</source>
+        <translation>页面由程序生成</translation>
+    </message>
+    <message>
+        <source>文件</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>大小</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>属性</source>
+        <translation>属性</translation>
+    </message>
+    <message>
+        <source>页数</source>
+        <translation>页数</translation>
+    </message>
+    <message>
+        <source>页面尺寸</source>
+        <translation>页面尺寸</translation>
+    </message>
+    <message>
+        <source>字数</source>
+        <translation>字数</translation>
+    </message>
+    <message>
+        <source>批注</source>
+        <translation>批注</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+<context>
+    <name>ReaderWindow</name>
+    <message>
+        <source>宿主</source>
+        <translation>宿主</translation>
+    </message>
+    <message>
+        <source>没有实现的命令：%1</source>
+        <translation>没有实现的命令：%1</translation>
+    </message>
+    <message>
+        <source>OFD阅读器</source>
+        <translation>OFD阅读器</translation>
+    </message>
+    <message>
+        <source>（生成的页面）</source>
+        <translation>（生成的页面）</translation>
+    </message>
+    <message>
+        <source>第 %1 / %2 页&#x3000;%3%</source>
+        <translation>第 %1 / %2 页&#x3000;%3%</translation>
+    </message>
+</context>
+<context>
+    <name>RemoveMarkEdit</name>
+    <message>
+        <source>擦除笔迹</source>
+        <translation>擦除笔迹</translation>
+    </message>
+</context>
+<context>
+    <name>SearchPanel</name>
+    <message>
+        <source>高级搜索</source>
+        <translation>高级搜索</translation>
+    </message>
+    <message>
+        <source>输入要查找的文字</source>
+        <translation>输入要查找的文字</translation>
+    </message>
+    <message>
+        <source>搜索结果</source>
+        <translation>搜索结果</translation>
+    </message>
+    <message>
+        <source>“%1”：第 %2 处，共 %3 处</source>
+        <translation>“%1”：第 %2 处，共 %3 处</translation>
+    </message>
+    <message>
+        <source>没有找到“%1”</source>
+        <translation>没有找到“%1”</translation>
+    </message>
+</context>
+<context>
+    <name>SignalLog</name>
+    <message>
+        <source>工具栏信号</source>
+        <translation>工具栏信号</translation>
+    </message>
+    <message>
+        <source>清空</source>
+        <translation>清空</translation>
+    </message>
+    <message>
+        <source>收到的信号</source>
+        <translation>收到的信号</translation>
+    </message>
+</context>
+<context>
+    <name>ViewCommands</name>
+    <message>
+        <source>顺时针旋转</source>
+        <translation>顺时针旋转</translation>
+    </message>
+    <message>
+        <source>逆时针旋转</source>
+        <translation>逆时针旋转</translation>
+    </message>
+    <message>
+        <source>按 Esc 退出全屏</source>
+        <translation>按 Esc 退出全屏</translation>
+    </message>
+    <message>
+        <source>显示修订标记</source>
+        <translation>显示修订标记</translation>
+    </message>
+    <message>
+        <source>隐藏修订标记</source>
+        <translation>隐藏修订标记</translation>
+    </message>
+    <message>
+        <source>第 %1 页：%2 个点，线宽 %3，颜色 %4</source>
+        <translation>第 %1 页：%2 个点，线宽 %3，颜色 %4</translation>
+    </message>
+    <message>
+        <source>还没有手写痕迹</source>
+        <translation>还没有手写痕迹</translation>
+    </message>
+    <message>
+        <source>痕迹信息</source>
+        <translation>痕迹信息</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,27 @@
+#include "tests/support/Pointer.h"
+
+#include <QApplication>
+#include <QCursor>
+#include <QTest>
+#include <QWheelEvent>
+#include <QWidget>
+#include <qtestspontaneevent.h>
+
+void movePointerAway()
+{
+    QCursor::setPos(1500, 1100);
+}
+
+void turnWheel(QWidget *target, const QPoint &delta)
+{
+    const QPoint centre = target->rect().center();
+    const QPoint global = target->mapToGlobal(centre);
+    QCursor::setPos(global);
+    QTRY_COMPARE(QCursor::pos(), global);
+    QWidget *window = target->window();
+    QWheelEvent event(target->mapTo(window, centre), global, QPoint(), delta, Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    // Only what comes from the window system is passed on to the parents.
+    QSpontaneKeyEvent::setSpontaneous(&event);
+    qApp->notify(window->windowHandle(), &event);
+}

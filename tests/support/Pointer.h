@@ -1,0 +1,10 @@
+#pragma once
+
+class QPoint;
+class QWidget;
+
+/** Away from every window, so that nothing is hovered over before a test says so. */
+void movePointerAway();
+
+/** Turns the wheel over the middle of a widget, as the windowing system would report it. */
+void turnWheel(QWidget *target, const QPoint &delta);

@@ -1,0 +1,184 @@
+#include "tests/support/Describe.h"
+#include "tests/support/TestHost.h"
+#include "toolbar/handwrite/MRHandWriteDialog.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QMenu>
+#include <QRegularExpression>
+#include <QSlider>
+#include <QToolButton>
+#include <QTranslator>
+
+using namespace Describe;
+
+namespace {
+
+/** Has the library speak a language for the time of one test, as a host would. */
+class Language
+{
+public:
+    explicit Language(const QLocale &locale)
+    {
+        if (m_translator.load(locale, "mrtoolbar", "_", ":/mr_toolbar/translations"))
+            QCoreApplication::installTranslator(&m_translator);
+    }
+    void remove() { QCoreApplication::removeTranslator(&m_translator); }
+
+private:
+    QTranslator m_translator; // Removes itself.
+};
+
+const QLocale english(QLocale::English);
+const QLocale chinese(QLocale::Chinese, QLocale::China);
+
+QString textOf(const QWidget &dialog, const QString &name)
+{
+    return dialog.findChild<QWidget *>(name)->property("text").toString();
+}
+
+/** All that a widget shows or that a screen reader says of it. */
+QStringList textsOf(const QWidget *widget)
+{
+    return {widget->windowTitle(), widget->toolTip(), widget->accessibleName(),
+            widget->accessibleDescription(), widget->property("text").toString()};
+}
+
+QStringList chineseTexts(const QWidget &dialog)
+{
+    static const QRegularExpression han(QStringLiteral("\\p{Han}"));
+    QStringList found = textsOf(&dialog).filter(han);
+    const QList<QWidget *> parts = dialog.findChildren<QWidget *>();
+    for (const QWidget *part : parts)
+        found += textsOf(part).filter(han);
+    return found;
+}
+
+QString zoomHint()
+{
+    TestHost host(row("<combobox name='v_zoom' index='1' editable='true'>"
+                      "<item action='vzmode_100p' text='100%'/></combobox>"));
+    return host.find<QComboBox>("v_zoom")->toolTip();
+}
+
+/** The names of the arrows beside the tabs and beside the row. */
+QStringList arrowNames()
+{
+    static const QRegularExpression scrolling(QStringLiteral("滚动|[Ss]croll"));
+    TestHost host(row(button("one")));
+    QStringList names;
+    const QList<QPushButton *> buttons = host.toolBar()->findChildren<QPushButton *>();
+    for (const QPushButton *part : buttons)
+        names += QStringList(part->accessibleName()).filter(scrolling);
+    names.sort();
+    return names;
+}
+
+} // namespace
+
+class TestLanguages : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aHostFindsTheCatalogueOfItsLocale_data()
+    {
+        QTest::addColumn<QLocale>("locale");
+        QTest::addColumn<QString>("title");
+        QTest::newRow("English") << english << "Handwriting settings";
+        QTest::newRow("British") << QLocale("en_GB") << "Handwriting settings";
+        QTest::newRow("Chinese") << chinese << "手写设置";
+        QTest::newRow("one that there is none for") << QLocale("fr_FR") << "手写设置";
+    }
+
+    void aHostFindsTheCatalogueOfItsLocale()
+    {
+        QFETCH(QLocale, locale);
+        const Language language(locale);
+        QTEST(MRHandWriteDialog().windowTitle(), "title");
+    }
+
+    void theDialogSpeaksEnglish()
+    {
+        const Language language(english);
+        const MRHandWriteDialog dialog;
+        QCOMPARE(chineseTexts(dialog), QStringList());
+        QCOMPARE(dialog.windowTitle(), QStringLiteral("Handwriting settings"));
+        QCOMPARE(textOf(dialog, "labelTitle"), QStringLiteral("Handwriting settings"));
+        QCOMPARE(textOf(dialog, "labelOpacity"), QStringLiteral("Opacity"));
+        QCOMPARE(textOf(dialog, "pushButtonRegionWrite"), QStringLiteral("Write in region"));
+        QCOMPARE(textOf(dialog, "pushButtonTrack6"), QStringLiteral("Pen 6"));
+        QCOMPARE(dialog.findChild<QToolButton *>("toolButtonClose")->accessibleName(),
+                 QStringLiteral("Close"));
+        QCOMPARE(dialog.findChild<QPushButton *>("pushButtonColor7")->accessibleName(),
+                 QStringLiteral("Dark red"));
+    }
+
+    void theDialogFollowsAChangeOfLanguage()
+    {
+        MRHandWriteDialog dialog;
+        const QStringList before = chineseTexts(dialog);
+        QVERIFY(before.size() > 40);
+        Language language(english);
+        QTRY_COMPARE(chineseTexts(dialog), QStringList());
+        language.remove();
+        QTRY_COMPARE(chineseTexts(dialog), before);
+        QCOMPARE(dialog.windowTitle(), QStringLiteral("手写设置"));
+    }
+
+    void aChangeOfLanguageKeepsWhatIsShown()
+    {
+        QPixmap picture(60, 40);
+        picture.fill(Qt::darkGray);
+        const QTemporaryDir folder;
+        const QString path = folder.filePath("pen.png");
+        QVERIFY(picture.save(path));
+        Track track{1, QColor(1, 2, 3), 5, 12, 2, true, path};
+        QList<Track *> tracks{&track};
+        MRHandWriteDialog dialog;
+        dialog.SetCommonTrackInfo(tracks);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        QTRY_COMPARE(textOf(dialog, "labelPreview"), QString()); // The picture of a line.
+
+        const Language language(english);
+        QTRY_COMPARE(dialog.windowTitle(), QStringLiteral("Handwriting settings"));
+        QCOMPARE(textOf(dialog, "labelPreview"), QString());
+        QCOMPARE(textOf(dialog, "labelThickness"), QStringLiteral("5"));
+        QCOMPARE(textOf(dialog, "pushButtonTrack1"), QString());
+        QCOMPARE(textOf(dialog, "pushButtonTrack2"), QStringLiteral("Pen 2"));
+        QCOMPARE(textOf(dialog, "pushButtonColor1"), QString());
+        QVERIFY(dialog.findChild<QPushButton *>("pushButtonOpacity75p")->isChecked());
+    }
+
+    void theHintOfTheZoomBoxIsTranslated()
+    {
+        const QString untranslated = zoomHint();
+        QVERIFY(untranslated.contains(">Invalid Char<"));
+        QVERIFY(untranslated.contains(">Please Input a Number or Point<"));
+        {
+            const Language language(english);
+            QCOMPARE(zoomHint(), untranslated);
+        }
+        {
+            const Language language(chinese);
+            QVERIFY(zoomHint().contains(">无效字符<"));
+            QVERIFY(zoomHint().contains(">请输入数字或小数点<"));
+        }
+        QCOMPARE(zoomHint(), untranslated);
+    }
+
+    void theArrowsAreCalledByTranslatedNames()
+    {
+        const QStringList chineseNames{"向右滚动", "向右滚动", "向左滚动", "向左滚动"};
+        QCOMPARE(arrowNames(), chineseNames);
+        Language language(english);
+        QCOMPARE(arrowNames(),
+                 QStringList({"Scroll left", "Scroll left", "Scroll right", "Scroll right"}));
+        language.remove();
+        QCOMPARE(arrowNames(), chineseNames);
+    }
+};
+
+QTEST_MAIN(TestLanguages)
+#include "tst_languages.moc"

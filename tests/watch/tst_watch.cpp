@@ -1,0 +1,149 @@
+#include "LivePreview.h"
+#include "PageView.h"
+#include "ReaderWindow.h"
+#include "SearchPanel.h"
+
+#include <QDomDocument>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTableWidget>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <filesystem>
+
+namespace {
+
+/** A description with a command on each of two tabs, the first on show. */
+QByteArray describing(const QByteArray &name, const QByteArray &more = {})
+{
+    QByteArray text = R"(<uiconfig prefix=""><toolbar_tabbar>
+<tabbutton name="first" text="First" checkable="true" checked="true">
+<button action="NAME" text="One" MORE/></tabbutton>
+<tabbutton name="second" text="Second" checkable="true"><button action="NAME_too" text="Two"/>
+<lineedit action="d_gotopage" text="Page"/></tabbutton></toolbar_tabbar></uiconfig>)";
+    return text.replace("NAME", name).replace("MORE", more);
+}
+
+/** A window that follows a file. */
+struct Preview
+{
+    Preview()
+    {
+        save(describing("x_old"));
+        Options options;
+        options.description = QString::fromStdString(path);
+        preview.emplace(window, options);
+        window.openSample();
+        window.show();
+        QVERIFY(has("x_old") && findings().isEmpty());
+    }
+    void save(const QByteArray &content, const char *suffix = "") const
+    {
+        QFile file(QString::fromStdString(path) + suffix);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+    }
+    bool has(const QString &name) const { return window.findChild<QObject *>(name) != nullptr; }
+    QStringList findings() const // The line and the rule of each.
+    {
+        QStringList list;
+        const auto *table = window.findChild<QTableWidget *>();
+        for (int row = 0; row < table->rowCount(); ++row)
+            list.append(table->item(row, 0)->text() + ' ' + table->item(row, 3)->toolTip());
+        return list;
+    }
+
+    const QTemporaryDir folder;
+    const std::string path = folder.filePath("bar.xml").toStdString();
+    ReaderWindow window{QDomDocument(), QString()};
+    std::optional<LivePreview> preview;
+};
+
+} // namespace
+
+class TestWatch : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void initTestCase() { qputenv("XDG_CONFIG_HOME", "/nowhere"); } // Not the user's own settings.
+
+    void shouldFollowTheFileHoweverItIsSaved_data()
+    {
+        QTest::addColumn<QString>("way");
+        for (const char *way : {"overwritten", "in steps", "replaced", "moved aside", "linked"})
+            QTest::addRow("%s", way) << way;
+    }
+    void shouldFollowTheFileHoweverItIsSaved()
+    {
+        QFETCH(const QString, way);
+        Preview preview;
+        for (const QByteArray name : {"x_second", "x_third"}) { // The watch must outlive a save.
+            const std::string backup = preview.path + '~' + name.toStdString();
+            if (way == "in steps")
+                preview.save(describing(name).chopped(20));
+            else if (way == "moved aside")
+                std::filesystem::rename(preview.path, backup);
+            else if (way == "linked") // What was watched lives on under another name.
+                std::filesystem::create_hard_link(preview.path, backup);
+            const bool isReplaced = way == "replaced" || way == "linked";
+            preview.save(describing(name), isReplaced ? ".new" : "");
+            if (isReplaced)
+                std::filesystem::rename(preview.path + ".new", preview.path);
+            QTRY_VERIFY2(preview.has(name), name);
+            QVERIFY(!preview.has("x_old") && preview.has("x_second") == (name == "x_second"));
+        }
+    }
+
+    void shouldKeepTheToolBarAndSayWhatIsWrong_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QString>("finding");
+        QTest::newRow("not well-formed") << describing("x_new").chopped(20) << "5 xml-syntax";
+        QTest::newRow("something else") << QByteArray("<html/>") << "1 wrong-root";
+        QTest::newRow("empty") << QByteArray("") << "1 xml-syntax";
+        QTest::newRow("gone") << QByteArray() << " unreadable";
+    }
+    void shouldKeepTheToolBarAndSayWhatIsWrong()
+    {
+        QFETCH(const QByteArray, content);
+        QFETCH(const QString, finding);
+        Preview preview;
+        content.isNull() ? void(std::filesystem::remove(preview.path)) : preview.save(content);
+        QTRY_COMPARE(preview.findings(), QStringList(finding));
+        QVERIFY(preview.has("x_old"));
+        preview.save(describing("x_new", "colour='red'"));
+        QTRY_VERIFY(preview.has("x_new"));
+        QCOMPARE(preview.findings(), QStringList("3 unknown-attribute"));
+    }
+
+    void shouldLeaveTheDocumentAsItIsLookedAt()
+    {
+        Preview preview;
+        auto *view = preview.window.findChild<PageView *>();
+        auto *search = preview.window.findChild<SearchPanel *>();
+        preview.window.findChild<QPushButton *>("second")->click();
+        view->setZoomMode(ZoomMode::fromName("vzmode_125p"));
+        view->setCurrentPage(2);
+        search->searchWord(QStringLiteral("文档"));
+        QVERIFY(QTest::qWaitForWindowExposed(&preview.window));
+        view->verticalScrollBar()->setValue(view->verticalScrollBar()->maximum() / 2);
+        const auto *hits = search->findChild<QListWidget *>();
+        const auto look = [view, hits] {
+            return QList<int>{view->currentPage(), qRound(view->percent()), hits->count(),
+                              view->verticalScrollBar()->value()};
+        };
+        const QList<int> before = look();
+        QVERIFY(!before.contains(0));
+        preview.save(describing("x_new"));
+        QTRY_VERIFY(preview.has("x_new_too")); // It is on the tab that was on show.
+        QCOMPARE(look(), before);
+        const auto *field = preview.window.findChild<QLineEdit *>("d_gotopage");
+        QCOMPARE(field->text(), QString::number(before.at(0) + 1));
+        QTRY_VERIFY(field->isVisible() && field->isEnabled());
+    }
+};
+
+QTEST_MAIN(TestWatch)
+#include "tst_watch.moc"

@@ -1,0 +1,211 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="zh_CN">
+<context>
+    <name>HandWriteDialog</name>
+    <message>
+        <source>手写设置</source>
+        <translation>手写设置</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>颜色</source>
+        <translation>颜色</translation>
+    </message>
+    <message>
+        <source>取色</source>
+        <translation>取色</translation>
+    </message>
+    <message>
+        <source>其他颜色</source>
+        <translation>其他颜色</translation>
+    </message>
+    <message>
+        <source>&lt;a href=&quot;#otherColour&quot;&gt;&lt;u&gt;其他颜色&lt;/u&gt;&lt;/a&gt;</source>
+        <translation>&lt;a href=&quot;#otherColour&quot;&gt;&lt;u&gt;其他颜色&lt;/u&gt;&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>粗细</source>
+        <translation>粗细</translation>
+    </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
+    <message>
+        <source>不透明度</source>
+        <translation>不透明度</translation>
+    </message>
+    <message>
+        <source>不透明度 25%</source>
+        <translation>不透明度 25%</translation>
+    </message>
+    <message>
+        <source>25%</source>
+        <translation>25%</translation>
+    </message>
+    <message>
+        <source>不透明度 50%</source>
+        <translation>不透明度 50%</translation>
+    </message>
+    <message>
+        <source>50%</source>
+        <translation>50%</translation>
+    </message>
+    <message>
+        <source>不透明度 75%</source>
+        <translation>不透明度 75%</translation>
+    </message>
+    <message>
+        <source>75%</source>
+        <translation>75%</translation>
+    </message>
+    <message>
+        <source>不透明度 100%</source>
+        <translation>不透明度 100%</translation>
+    </message>
+    <message>
+        <source>100%</source>
+        <translation>100%</translation>
+    </message>
+    <message>
+        <source>笔型</source>
+        <translation>笔型</translation>
+    </message>
+    <message>
+        <source>笔型一</source>
+        <translation>笔型一</translation>
+    </message>
+    <message>
+        <source>笔型二</source>
+        <translation>笔型二</translation>
+    </message>
+    <message>
+        <source>笔型三</source>
+        <translation>笔型三</translation>
+    </message>
+    <message>
+        <source>笔型四</source>
+        <translation>笔型四</translation>
+    </message>
+    <message>
+        <source>笔型五</source>
+        <translation>笔型五</translation>
+    </message>
+    <message>
+        <source>笔型六</source>
+        <translation>笔型六</translation>
+    </message>
+    <message>
+        <source>预览</source>
+        <translation>预览</translation>
+    </message>
+    <message>
+        <source>图片预览区域</source>
+        <translation>图片预览区域</translation>
+    </message>
+    <message>
+        <source>区域</source>
+        <translation>区域</translation>
+    </message>
+    <message>
+        <source>区域手写</source>
+        <translation>区域手写</translation>
+    </message>
+    <message>
+        <source>区域手写设置</source>
+        <translation>区域手写设置</translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation>设置</translation>
+    </message>
+</context>
+<context>
+    <name>MRExtendButton</name>
+    <message>
+        <source>向左滚动</source>
+        <translation>向左滚动</translation>
+    </message>
+    <message>
+        <source>向右滚动</source>
+        <translation>向右滚动</translation>
+    </message>
+</context>
+<context>
+    <name>MRHandWriteDialog</name>
+    <message>
+        <source>红色</source>
+        <translation>红色</translation>
+    </message>
+    <message>
+        <source>绿色</source>
+        <translation>绿色</translation>
+    </message>
+    <message>
+        <source>黄色</source>
+        <translation>黄色</translation>
+    </message>
+    <message>
+        <source>黑色</source>
+        <translation>黑色</translation>
+    </message>
+    <message>
+        <source>白色</source>
+        <translation>白色</translation>
+    </message>
+    <message>
+        <source>蓝色</source>
+        <translation>蓝色</translation>
+    </message>
+    <message>
+        <source>深红色</source>
+        <translation>深红色</translation>
+    </message>
+    <message>
+        <source>品红色</source>
+        <translation>品红色</translation>
+    </message>
+    <message>
+        <source>深绿色</source>
+        <translation>深绿色</translation>
+    </message>
+    <message>
+        <source>青色</source>
+        <translation>青色</translation>
+    </message>
+    <message>
+        <source>图片预览区域</source>
+        <translation>图片预览区域</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Invalid Char</source>
+        <translation>无效字符</translation>
+    </message>
+    <message>
+        <source>Please Input a Number or Point</source>
+        <translation>请输入数字或小数点</translation>
+    </message>
+    <message>
+        <source>&amp;%1 %2</source>
+        <translation>&amp;%1 %2</translation>
+    </message>
+</context>
+<context>
+    <name>TabStripArrow</name>
+    <message>
+        <source>向左滚动</source>
+        <translation>向左滚动</translation>
+    </message>
+    <message>
+        <source>向右滚动</source>
+        <translation>向右滚动</translation>
+    </message>
+</context>
+</TS>
