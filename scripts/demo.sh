@@ -7,6 +7,7 @@ source "$(dirname -- "${BASH_SOURCE[0]}")/common.sh"
 example=mrtoolbar-reader
 qt=5
 skin=marodi
+language=zh_CN
 description=
 dpi=
 screenshot=
@@ -20,6 +21,7 @@ Without a display it opens on one of its own, and a picture of the window is sav
 
   --qt 5|6            version of Qt to build with (5)
   --skin marodi|lum   skin to show (marodi)
+  --language NAME     texts of the reader itself: zh_CN or en (zh_CN)
   --description FILE  toolbar description to show: a file, or release or debug for the
                       skin's own (release)
   --dpi N             density of a display of its own, 48 to 384 (96); no window on yours
@@ -54,6 +56,7 @@ read_options()
         case $1 in
             --qt) require_one_of "$1" "${2-}" 5 6 && qt=$2 ;;
             --skin) require_one_of "$1" "${2-}" marodi lum && skin=$2 ;;
+            --language) require_one_of "$1" "${2-}" zh_CN en && language=$2 ;;
             --description) require_description "${2-}" && description=$2 ;;
             --dpi) require_dpi "${2-}" && dpi=$2 ;;
             --screenshot) require_screenshot "${2-}" && screenshot=$2 ;;
@@ -86,7 +89,7 @@ need_display()
 
 open_example()
 {
-    local arguments=(--skin "$skin")
+    local arguments=(--skin "$skin" --language "$language")
     if needs_own_display; then
         : "${screenshot:=$build/$example-$skin-${dpi:-96}dpi.png}"
         start_xvfb "${dpi:-96}"

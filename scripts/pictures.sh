@@ -45,7 +45,7 @@ take_sheet()
 
 take_all()
 {
-    local skin map
+    local skin
     for skin in marodi lum; do
         take_sheet "$skin-release" "$skin" release 1280
         take_sheet "$skin-showcase" "$skin" "$showcase" 1000
@@ -80,7 +80,7 @@ take_reader()
 take_example()
 {
     local program=$1 picture=$folder/guide/$2.png example window
-    local WINDOW X Y WIDTH HEIGHT SCREEN
+    local X Y WIDTH HEIGHT
     "$build/bin/mrtoolbar-$program" 2>/dev/null &
     example=$!
     window=$(timeout 20 xdotool search --sync --onlyvisible --pid "$example" | tail -n 1)

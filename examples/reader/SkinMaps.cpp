@@ -41,15 +41,24 @@ ToolBarSkinStyle SkinMaps::dark()
 {
     if (isLum()) {
         return {
-            {"[MainColor.checked]", "#20262C"}, {"[ToolBarBgColor]", "#BBC0C6"},
-            {"[Color.checked]", "#E4E8EC"},     {"[MainColor.hover]", "#CFD3D8"},
-            {"[MainColor.pressed]", "#92989F"}, {"rgb(195, 198, 202)", "#E4E8EC"},
+            {"[MainColor.checked]", "#20262C"},
+            {"[ToolBarBgColor]", "#BBC0C6"},
+            {"[Color.checked]", "#E4E8EC"},
+            {"[MainColor.hover]", "#CFD3D8"},
+            {"[MainColor.pressed]", "#92989F"},
+            {"rgb(195, 198, 202)", "#E4E8EC"},
+            {"#a0a0a0", "#7A8189"},
         };
     }
     return {
-        {"[MainColor]", "#20262C"},          {"[MainColor.checked]", "#3D4853"},
-        {"[ToolBarBgColor]", "#CFD4DA"},     {"[MainToolHoverColor]", "#DDE1E6"},
-        {"[MainToolCheckColor]", "#F0F3F6"}, {"[MainToolPressColor]", "#B4BBC3"},
-        {"[MainColor.hover]", "#DDE1E6"},    {"[MainColor.pressed]", "#B4BBC3"},
+        {"[MainColor]", "#20262C"},
+        {"[MainColor.checked]", "#3D4853"},
+        {"[ToolBarBgColor]", "#CFD4DA"},
+        {"[MainToolHoverColor]", "#DDE1E6"},
+        {"[MainToolCheckColor]", "#F0F3F6"},
+        {"[MainToolPressColor]", "#B4BBC3"},
+        {"[MainColor.hover]", "#DDE1E6"},
+        {"[MainColor.pressed]", "#B4BBC3"},
+        {"#a0a0a0", "#858B93"},
     };
 }
