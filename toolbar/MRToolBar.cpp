@@ -8,7 +8,10 @@
 namespace {
 
 /** What the page slots take for "no document is open". */
-const QString clearedText = QStringLiteral(" ");
+QString clearedText()
+{
+    return QStringLiteral(" ");
+}
 
 void registerBoundaryTypes()
 {
@@ -154,8 +157,8 @@ void MRToolBar::DoSetPageInfoSlot(int pageNum, int totalPage)
 {
     const bool isDocumentOpen = pageNum != 0 && totalPage != 0;
     Q_EMIT Inner_DoSetTotalPage(isDocumentOpen ? QStringLiteral("/ %1").arg(totalPage)
-                                               : clearedText);
-    Q_EMIT Inner_DoSetPageNum(isDocumentOpen ? QString::number(pageNum) : clearedText);
+                                               : clearedText());
+    Q_EMIT Inner_DoSetPageNum(isDocumentOpen ? QString::number(pageNum) : clearedText());
 }
 
 void MRToolBar::DoUpdateRecentFileSlot(QStringList list)

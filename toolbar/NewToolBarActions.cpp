@@ -6,9 +6,9 @@
 #include "toolbar/description/DescriptionParser.h"
 #include "toolbar/skin/Skin.h"
 #include "toolbar/widgets/DropMenuIndex.h"
+#include "toolbar/widgets/FieldKeyFilter.h"
 #include "toolbar/widgets/MRDropButton.h"
 #include "toolbar/widgets/MRGroupButton.h"
-#include "toolbar/widgets/FieldKeyFilter.h"
 #include "toolbar/widgets/ToolTipCard.h"
 
 #include <QAction>
@@ -26,8 +26,15 @@
 
 namespace {
 
-const QString promptName = QStringLiteral("prompt");
-const QString totalPageLabelName = QStringLiteral("d_totalpagelabel");
+QString promptName()
+{
+    return QStringLiteral("prompt");
+}
+
+QString totalPageLabelName()
+{
+    return QStringLiteral("d_totalpagelabel");
+}
 
 bool isTag(const Controller &record, const char *tag)
 {
@@ -59,7 +66,7 @@ QWidget *createCaptionedContainer(QWidget *control)
 QLabel *addCaption(QWidget *container, const QString &text)
 {
     auto *caption = new QLabel(text);
-    caption->setObjectName(promptName);
+    caption->setObjectName(promptName());
     caption->setAlignment(Qt::AlignCenter);
     container->layout()->addWidget(caption);
     return caption;
@@ -297,7 +304,7 @@ void NewToolBar::addLabel(const Controller &record, QToolBar *row)
 {
     auto *label = new QLabel(record.text);
     label->setObjectName(record.name);
-    if (record.name == totalPageLabelName)
+    if (record.name == totalPageLabelName())
         m_totalPageLabel = label;
     addRowWidget(label, record, row);
 }

@@ -14,9 +14,20 @@
 
 namespace {
 
-const QString zoomGroupName = QStringLiteral("zmode");
-const QString actualSizeName = QStringLiteral("vzmode_original");
-const QString customZoomName = QStringLiteral("vzmode_custom");
+QString zoomGroupName()
+{
+    return QStringLiteral("zmode");
+}
+
+QString actualSizeName()
+{
+    return QStringLiteral("vzmode_original");
+}
+
+QString customZoomName()
+{
+    return QStringLiteral("vzmode_custom");
+}
 
 QString backgroundName(BackgroundStyle style)
 {
@@ -129,18 +140,18 @@ void NewToolBar::showCustomZoom(const QString &text)
 void NewToolBar::checkZoomButton(const QString &mode)
 {
     const auto percent = ZoomText::percentage(mode);
-    const QActionGroup *group = GetActionGroup(zoomGroupName);
+    const QActionGroup *group = GetActionGroup(zoomGroupName());
     if (!percent || !group || group->actions().isEmpty())
         return;
 
     const QList<QAction *> actions = group->actions();
     if (*percent != 100.0F) {
-        if (actions.last()->objectName() == customZoomName)
+        if (actions.last()->objectName() == customZoomName())
             actions.last()->setChecked(true);
         return;
     }
     for (QAction *action : actions) {
-        if (action->objectName() == actualSizeName)
+        if (action->objectName() == actualSizeName())
             action->setChecked(true);
     }
 }

@@ -7,7 +7,10 @@ namespace {
 constexpr float leastPercent = 10.0F;
 constexpr float mostPercent = 6400.0F;
 
-const QString modePrefix = QStringLiteral("vzmode_");
+QString modePrefix()
+{
+    return QStringLiteral("vzmode_");
+}
 
 bool isDigit(const QString &text, qsizetype position)
 {
@@ -52,12 +55,12 @@ QString ZoomText::entry(const QString &number)
 
 QString ZoomText::mode(const QString &number)
 {
-    return modePrefix + number + QLatin1Char('p');
+    return modePrefix() + number + QLatin1Char('p');
 }
 
 QString ZoomText::numberOfMode(const QString &mode)
 {
-    return mode.mid(modePrefix.size()).chopped(mode.size() > modePrefix.size() ? 1 : 0);
+    return mode.mid(modePrefix().size()).chopped(mode.size() > modePrefix().size() ? 1 : 0);
 }
 
 std::optional<float> ZoomText::percentage(const QString &mode)

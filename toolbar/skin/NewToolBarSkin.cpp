@@ -3,16 +3,20 @@
 #include "toolbar/skin/Skin.h"
 #include "toolbar/skin/SkinIcon.h"
 #include "toolbar/skin/StyleSheet.h"
+#include "toolbar/widgets/MRMainToolBar.h"
 
 #include <QApplication>
 #include <QFile>
+#include <QFileInfo>
 #include <QToolBar>
 
 namespace {
 
 /** Takes away what the platform's style would draw around the library's own tool bars. */
-const QString plainToolBarRule =
-    QStringLiteral("QToolBar[intoolbar=\"true\"]{border:none;padding:0px 0px 0px 0px;}");
+QString plainToolBarRule()
+{
+    return QStringLiteral("QToolBar[intoolbar=\"true\"]{border:none;padding:0px 0px 0px 0px;}");
+}
 
 /**
  * Under a sheet of the application, a tool bar keeps the margins of that sheet for good unless it
@@ -29,6 +33,35 @@ void leaveApplicationSheet(QToolBar *hostToolBar)
         bar->ensurePolished();
 }
 
+/**
+ * A button that gets its first sheet before it is polished looks up its rules twice: its answer to
+ * the change of style needs them, and the polishing after it discards them.
+ */
+void polishFilledRows(const QToolBar *hostToolBar)
+{
+    const auto rows = hostToolBar->findChildren<MRMainToolBar *>();
+    for (const MRMainToolBar *row : rows) {
+        if (!row->isFilled())
+            continue;
+        const auto controls = row->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+        for (const QWidget *control : controls)
+            control->ensurePolished();
+    }
+}
+
+void applySheet(QToolBar *hostToolBar, const QString &sheet)
+{
+    const QString current = hostToolBar->styleSheet();
+    // The toolkit would style every control anew, and each one twice.
+    if (sheet == current)
+        return;
+
+    leaveApplicationSheet(hostToolBar);
+    if (current.isEmpty())
+        polishFilledRows(hostToolBar);
+    hostToolBar->setStyleSheet(sheet);
+}
+
 } // namespace
 
 QString NewToolBar::GetResourceDir()
@@ -38,7 +71,6 @@ QString NewToolBar::GetResourceDir()
 
 QString NewToolBar::GetIconPath(QString name)
 {
-    // The directory itself exists, and an icon made of it would take up room.
     if (name.isEmpty())
         return QString();
 
@@ -48,7 +80,9 @@ QString NewToolBar::GetIconPath(QString name)
 
 QIcon NewToolBar::icon(const QString &name)
 {
-    return skinIcon(GetIconPath(name));
+    // A directory exists, too, and an icon made of it would take up room.
+    const QString path = GetIconPath(name);
+    return QFileInfo(path).isFile() ? skinIcon(path) : QIcon();
 }
 
 QString NewToolBar::ScaleSheet(QString const &sheet, float factor)
@@ -83,14 +117,12 @@ bool NewToolBar::ResetSkinStyle()
         LoadQss(GetResourceDir() + QStringLiteral("qssfile.qss")), m_skinMap, Skin::isLum());
     if (m_externalQss) {
         // The host scales and applies it.
-        m_toolBarStyleSheet = sheet + plainToolBarRule;
+        m_toolBarStyleSheet = sheet + plainToolBarRule();
         return true;
     }
-    if (m_hostToolBar) {
-        leaveApplicationSheet(m_hostToolBar);
-        m_hostToolBar->setStyleSheet(
-            ScaleSheet(sheet + QLatin1Char(' ') + plainToolBarRule, m_scale));
-    }
+    if (m_hostToolBar)
+        applySheet(m_hostToolBar,
+                   ScaleSheet(sheet + QLatin1Char(' ') + plainToolBarRule(), m_scale));
     return true;
 }
 

@@ -48,7 +48,7 @@ public:
 protected:
     void paintEvent(QPaintEvent *) override
     {
-        const double scale = ScreenDensity::dpiX(this) / 96.0;
+        const double scale = ScreenDensity::scale(this);
         const double inset = lineWidth * scale / 2;
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
