@@ -29,6 +29,9 @@ bool isShipped(const QString &name);
 /** Reads a description from the content of a file; @p fault is set if it is none. */
 QDomDocument parse(const QByteArray &content, std::optional<DescriptionFault> *fault);
 
+/** Whether a button, an entry of a menu or one of a list bears the name. */
+bool offers(const QDomDocument &description, const QString &name);
+
 /** Lets a toolbar begin with the tab of that name, if it has one, whichever is described so. */
 void beginWithTab(QDomDocument &description, const QString &name);
 

@@ -253,11 +253,13 @@ void PageView::layOut()
         m_layout = PageLayout::of(m_layoutMode, sizes, m_currentPage, view);
     };
     const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+    // A fitted page may be larger than its room by a rounding.
+    constexpr qreal hair = 0.5;
     QSizeF view = maximumViewportSize();
     layOutIn(view);
-    if (m_layout.desk.height() > view.height())
+    if (m_layout.desk.height() > view.height() + hair)
         view.rwidth() -= bar;
-    if (m_layout.desk.width() > view.width())
+    if (m_layout.desk.width() > view.width() + hair)
         view.rheight() -= bar;
     layOutIn(view);
     horizontalScrollBar()->setPageStep(int(view.width()));

@@ -110,7 +110,8 @@ void ReaderWindow::createToolBar(const QDomDocument &description)
     const QString buttons = m_skin.isEmpty() ? QString() : m_settings.quickAccessButtons(m_skin);
     if (!buttons.isEmpty())
         skin.insert(quickAccessKey, buttons);
-    QDomNode root = description.documentElement();
+    m_description = description;
+    QDomNode root = m_description.documentElement();
     m_toolBar = std::make_unique<MRToolBar>(this, root, skin, ToolBarLeft);
     m_report.emplace(*m_toolBar, m_commands);
     m_log->listenTo(*m_toolBar);
@@ -288,6 +289,16 @@ void ReaderWindow::openSample()
     m_view->setCurrentPage(0);
 }
 
+ZoomMode ReaderWindow::shownZoom() const
+{
+    // A zoom box would show parts of the name of a mode that it does not offer.
+    const ZoomMode mode = m_view->zoomMode();
+    const bool isFitted = mode.isValid() && mode.kind() != ZoomMode::Percent;
+    return isFitted && !Description::offers(m_description, mode.name())
+               ? ZoomMode(qRound(m_view->percent()))
+               : mode;
+}
+
 ReaderState ReaderWindow::state() const
 {
     ReaderState state;
@@ -298,7 +309,7 @@ ReaderState ReaderWindow::state() const
     state.hasSelection = !m_view->selection().isEmpty();
     state.page = m_document.isOpen() ? m_view->currentPage() + 1 : 0;
     state.pageCount = m_document.pageCount();
-    state.zoomMode = m_view->zoomMode().name();
+    state.zoomMode = shownZoom().name();
     state.layoutMode = ViewCommands::nameOf(m_view->layoutMode());
     state.tool = m_view->tool().name;
     state.panel = m_navigation->shownPanel();

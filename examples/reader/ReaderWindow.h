@@ -7,7 +7,9 @@
 #include "ReaderSettings.h"
 #include "ToolBarReport.h"
 #include "ViewCommands.h"
+#include "ZoomMode.h"
 
+#include <QDomDocument>
 #include <QMainWindow>
 #include <QTimer>
 
@@ -18,7 +20,6 @@ class HostPanel;
 class MRToolBar;
 class NavigationPanel;
 class PageView;
-class QDomDocument;
 class QLabel;
 class SearchPanel;
 class SignalLog;
@@ -55,6 +56,7 @@ private:
     void createToolBar(const QDomDocument &description);
     void removeToolBar();
     QString shownTab() const;
+    ZoomMode shownZoom() const;
     void createCommands();
     void createShortcuts();
     void connectToolBar();
@@ -70,6 +72,7 @@ private:
 
     const QString m_skin;
     ToolBarSkinStyle m_colours;
+    QDomDocument m_description;
     ReaderSettings m_settings;
     Document m_document;
     PageView *m_view;
