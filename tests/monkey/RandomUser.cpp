@@ -22,6 +22,13 @@ QList<QWidget *> shown(const QWidget &window)
     return widgets;
 }
 
+int modifierKey(Qt::KeyboardModifier modifier)
+{
+    if (modifier == Qt::AltModifier)
+        return Qt::Key_Alt;
+    return modifier == Qt::ControlModifier ? Qt::Key_Control : 0;
+}
+
 } // namespace
 
 RandomUser::RandomUser(RandomSource &random)
@@ -133,8 +140,12 @@ QString RandomUser::pressKey(QWidget &window)
     const Qt::Key key = m_random.oneOf(keys);
     const Qt::KeyboardModifier modifier = m_random.oneOf(modifiers);
     QTest::keyPress(focused.data(), key, modifier);
-    if (focused)
-        QTest::keyRelease(focused.data(), key, modifier);
+    // QTest would go on to release the modifier on a widget that the key has ended.
+    for (const int released : {int(key), modifierKey(modifier)}) {
+        QKeyEvent event(QEvent::KeyRelease, released, modifier);
+        if (focused && released != 0)
+            QApplication::sendEvent(focused, &event);
+    }
     return QStringLiteral("key %1 %2").arg(key).arg(modifier);
 }
 
