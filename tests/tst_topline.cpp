@@ -49,7 +49,7 @@ class TestTopLine : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void everythingStaysInReachInANarrowWindow_data() { TestDocuments::addShipped(); }
+    void everythingStaysInReachInANarrowWindow_data() { TestDocuments::addAll(); }
 
     void everythingStaysInReachInANarrowWindow()
     {
@@ -64,10 +64,15 @@ private Q_SLOTS:
         const QWidget *line = host->find<QWidget>(QStringLiteral("top_widget"));
         const QList<QPushButton *> buttons =
             line->findChildren<QPushButton *>(QString(), Qt::FindDirectChildrenOnly);
-        for (const QPushButton *button : buttons)
-            QVERIFY2(!button->isVisible() || isReachable(button), qPrintable(button->objectName()));
+        for (const QPushButton *button : buttons) {
+            const bool isWhole = button->width() >= button->sizeHint().width();
+            QVERIFY2(!button->isVisible() || (isReachable(button) && isWhole),
+                     qPrintable(button->objectName()));
+        }
 
         const QList<QPushButton *> tabs = host->shownTabs();
+        for (int i = 0; i < tabs.size() && arrow(*host, true); ++i)
+            QTest::mouseClick(arrow(*host, true), Qt::LeftButton);
         for (int i = 0; i < tabs.size(); ++i) {
             while (!isReachable(tabs.at(i)) && arrow(*host, false))
                 QTest::mouseClick(arrow(*host, false), Qt::LeftButton);
