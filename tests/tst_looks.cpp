@@ -207,6 +207,19 @@ private Q_SLOTS:
             seen.append(image);
         }
     }
+
+    void theTabOnShowIsRoundInTheCompactSkin()
+    {
+        // The toolkit draws no round corner that is larger than half of the height.
+        const SkinChoice choice(lum);
+        const auto host = TestHost::withShipped("lum/mr_toolbar.release.xml");
+        host->show();
+        const QPushButton *tab = host->shownTabs().first();
+        auto *line = host->find<QWidget>("top_widget");
+        const QRect place(tab->mapTo(line, QPoint()), tab->size());
+        const QImage image = line->grab(place).toImage();
+        QVERIFY(image.pixel(0, 0) != image.pixel(0, image.height() / 2));
+    }
 };
 
 QTEST_MAIN(TestLooks)
