@@ -8,10 +8,7 @@
 namespace {
 
 /** What the page slots take for "no document is open". */
-QString clearedText()
-{
-    return QStringLiteral(" ");
-}
+constexpr QLatin1String clearedText(" ");
 
 void registerBoundaryTypes()
 {
@@ -157,8 +154,8 @@ void MRToolBar::DoSetPageInfoSlot(int pageNum, int totalPage)
 {
     const bool isDocumentOpen = pageNum != 0 && totalPage != 0;
     Q_EMIT Inner_DoSetTotalPage(isDocumentOpen ? QStringLiteral("/ %1").arg(totalPage)
-                                               : clearedText());
-    Q_EMIT Inner_DoSetPageNum(isDocumentOpen ? QString::number(pageNum) : clearedText());
+                                               : clearedText);
+    Q_EMIT Inner_DoSetPageNum(isDocumentOpen ? QString::number(pageNum) : clearedText);
 }
 
 void MRToolBar::DoUpdateRecentFileSlot(QStringList list)

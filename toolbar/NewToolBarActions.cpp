@@ -26,15 +26,8 @@
 
 namespace {
 
-QString promptName()
-{
-    return QStringLiteral("prompt");
-}
-
-QString totalPageLabelName()
-{
-    return QStringLiteral("d_totalpagelabel");
-}
+constexpr QLatin1String promptName("prompt");
+constexpr QLatin1String totalPageLabelName("d_totalpagelabel");
 
 bool isTag(const Controller &record, const char *tag)
 {
@@ -66,7 +59,7 @@ QWidget *createCaptionedContainer(QWidget *control)
 QLabel *addCaption(QWidget *container, const QString &text)
 {
     auto *caption = new QLabel(text);
-    caption->setObjectName(promptName());
+    caption->setObjectName(promptName);
     caption->setAlignment(Qt::AlignCenter);
     container->layout()->addWidget(caption);
     return caption;
@@ -304,7 +297,7 @@ void NewToolBar::addLabel(const Controller &record, QToolBar *row)
 {
     auto *label = new QLabel(record.text);
     label->setObjectName(record.name);
-    if (record.name == totalPageLabelName())
+    if (record.name == totalPageLabelName)
         m_totalPageLabel = label;
     addRowWidget(label, record, row);
 }

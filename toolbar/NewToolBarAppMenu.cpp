@@ -18,30 +18,12 @@ constexpr int usedAppRecords = 2;
 constexpr int appMenuIconSize = 20;
 constexpr int setMenuIconSize = 16;
 
-QString setButtonName()
-{
-    return QStringLiteral("ab_set");
-}
-
-QString recentFileName()
-{
-    return QStringLiteral("f_openrecentfile");
-}
-
-QString noFileName()
-{
-    return QStringLiteral("no_file");
-}
-
-QString clearHistoryName()
-{
-    return QStringLiteral("f_clearhistory");
-}
-
-QString noIndicatorSheet()
-{
-    return QStringLiteral("QPushButton::menu-indicator{image:none;height:0px;width:0px;}");
-}
+constexpr QLatin1String setButtonName("ab_set");
+constexpr QLatin1String recentFileName("f_openrecentfile");
+constexpr QLatin1String noFileName("no_file");
+constexpr QLatin1String clearHistoryName("f_clearhistory");
+constexpr QLatin1String
+    noIndicatorSheet("QPushButton::menu-indicator{image:none;height:0px;width:0px;}");
 
 /** Where a recent file's item keeps the path that the host gets: a tooltip may be a card. */
 constexpr char absolutePathProperty[] = "absolutepath";
@@ -70,7 +52,7 @@ bool NewToolBar::CreateAppButton()
 
     auto *setButton = new MRMenuButton(this, 0, 0, appButton);
     setButton->setFlat(true);
-    setButton->setObjectName(setButtonName());
+    setButton->setObjectName(setButtonName);
 
     const QList<Controller *> records = sectionRecords(Section::appButton).mid(0, usedAppRecords);
     if (!records.isEmpty())
@@ -90,7 +72,7 @@ void NewToolBar::setUpAppButton(MRMenuButton *button, const Controller &record)
     button->setObjectName(record.name);
     SetWidgetToolTip(button, record.tooltip);
     button->setProperty("loaded", "false");
-    button->setStyleSheet(noIndicatorSheet());
+    button->setStyleSheet(noIndicatorSheet);
     button->setText(record.text);
     if (record.text.isEmpty())
         button->setAccessibleName(toolTipTitle(record.tooltip));
@@ -115,7 +97,7 @@ void NewToolBar::setUpSetButton(MRMenuButton *button, MRMenuButton *appButton,
     }
     // Without a menu of its own it is a second face of the application button.
     button->setCheckable(true);
-    button->setStyleSheet(noIndicatorSheet());
+    button->setStyleSheet(noIndicatorSheet);
     connect(button, &QPushButton::clicked, appButton, &QPushButton::click);
     connect(button, &QPushButton::pressed, this, &NewToolBar::Inner_SetCheckedAppButtonSlot);
 }
@@ -210,7 +192,7 @@ void NewToolBar::appendMenuItem(QMenu *menu, const Controller &record)
     connectMenuAction(action, record, isNew);
 
     // Both the menu and the item would report a cleared history; the menu's slot does it.
-    if (menu == m_recentFilesMenu && isCommand(record.name, clearHistoryName()))
+    if (menu == m_recentFilesMenu && isCommand(record.name, clearHistoryName))
         disconnect(action, &QAction::triggered, this, nullptr);
 }
 
@@ -246,8 +228,8 @@ void NewToolBar::DoUpdateRecentFileSlot(QStringList paths)
 {
     const QList<QAction *> actions =
         m_recentFilesMenu ? m_recentFilesMenu->actions() : QList<QAction *>();
-    if (actions.size() < 2 || actions.first()->objectName() != noFileName()
-        || !actions.last()->objectName().contains(clearHistoryName()))
+    if (actions.size() < 2 || actions.first()->objectName() != noFileName
+        || !actions.last()->objectName().contains(clearHistoryName))
         return;
 
     removeRecentFiles();
@@ -268,7 +250,7 @@ QAction *NewToolBar::createRecentFileAction(int position, const QString &path)
     const QFileInfo file(path);
     auto *action = new QAction(this);
     action->setIconVisibleInMenu(true);
-    action->setObjectName(recentFileName());
+    action->setObjectName(recentFileName);
     action->setText(QObject::tr("&%1 %2").arg(QString::number(position), file.fileName()));
     action->setData(path);
     action->setProperty(absolutePathProperty, file.absoluteFilePath());
@@ -282,11 +264,11 @@ void NewToolBar::Inner_DoOpenRecentFileSlot(QAction *action)
         return;
 
     const QString name = action->objectName();
-    if (name == recentFileName()) {
+    if (name == recentFileName) {
         Q_EMIT DoOpenFile(action->property(absolutePathProperty).toString());
         return;
     }
-    if (!isCommand(name, clearHistoryName()))
+    if (!isCommand(name, clearHistoryName))
         return;
 
     const QPointer<NewToolBar> self(this);

@@ -14,15 +14,8 @@ namespace {
 
 constexpr std::chrono::milliseconds doubleClickWait(250);
 
-QString menuPrefix()
-{
-    return QStringLiteral("menu_");
-}
-
-QString annotationGroup()
-{
-    return QStringLiteral("annotgroup");
-}
+constexpr QLatin1String menuPrefix("menu_");
+constexpr QLatin1String annotationGroup("annotgroup");
 
 /** Whether a name is a background's; any name with the word in it is, deliberately. */
 bool isBackground(const QString &name)
@@ -89,7 +82,7 @@ void NewToolBar::dispatchAction(QAction *action)
 void NewToolBar::releaseOtherDropButtons(QAction *action)
 {
     const QActionGroup *group = action->actionGroup();
-    if (!group || group->objectName() != annotationGroup())
+    if (!group || group->objectName() != annotationGroup)
         return;
 
     for (MRDropButton *button : std::as_const(m_dropButtons)) {
@@ -102,8 +95,8 @@ void NewToolBar::dispatchPlainAction(QString name)
 {
     const QPointer<NewToolBar> self(this);
     QAction *target = nullptr;
-    if (name.startsWith(menuPrefix())) {
-        name.remove(0, menuPrefix().size());
+    if (name.startsWith(menuPrefix)) {
+        name.remove(0, menuPrefix.size());
         target = GetActionInTotal(name);
     }
     // The target comes back through dispatchAction() and reports itself.

@@ -14,20 +14,9 @@
 
 namespace {
 
-QString zoomGroupName()
-{
-    return QStringLiteral("zmode");
-}
-
-QString actualSizeName()
-{
-    return QStringLiteral("vzmode_original");
-}
-
-QString customZoomName()
-{
-    return QStringLiteral("vzmode_custom");
-}
+constexpr QLatin1String zoomGroupName("zmode");
+constexpr QLatin1String actualSizeName("vzmode_original");
+constexpr QLatin1String customZoomName("vzmode_custom");
 
 QString backgroundName(BackgroundStyle style)
 {
@@ -140,18 +129,18 @@ void NewToolBar::showCustomZoom(const QString &text)
 void NewToolBar::checkZoomButton(const QString &mode)
 {
     const auto percent = ZoomText::percentage(mode);
-    const QActionGroup *group = GetActionGroup(zoomGroupName());
+    const QActionGroup *group = GetActionGroup(zoomGroupName);
     if (!percent || !group || group->actions().isEmpty())
         return;
 
     const QList<QAction *> actions = group->actions();
     if (*percent != 100.0F) {
-        if (actions.last()->objectName() == customZoomName())
+        if (actions.last()->objectName() == customZoomName)
             actions.last()->setChecked(true);
         return;
     }
     for (QAction *action : actions) {
-        if (action->objectName() == actualSizeName())
+        if (action->objectName() == actualSizeName)
             action->setChecked(true);
     }
 }

@@ -17,15 +17,8 @@
 
 namespace {
 
-QString customiseName()
-{
-    return QStringLiteral("qt_set");
-}
-
-QString commandPrefix()
-{
-    return QStringLiteral("qbar_");
-}
+constexpr QLatin1String customiseName("qt_set");
+constexpr QLatin1String commandPrefix("qbar_");
 
 } // namespace
 
@@ -41,7 +34,7 @@ QToolBar *NewToolBar::CreateQuickAccessBar()
     const QuickAccessSetting setting(m_quickAccessButtons);
     const QList<Controller *> records = sectionRecords(Section::quickAccessBar);
     for (const Controller *record : records) {
-        if (record->name == customiseName())
+        if (record->name == customiseName)
             continue;
         QAction *action = createQuickAction(bar, *record);
         action->setVisible(setting.isShown(record->name, record->visible));
@@ -87,18 +80,18 @@ QAction *NewToolBar::createQuickAction(QToolBar *bar, const Controller &record)
 QPushButton *NewToolBar::CreateQuickAccessSet(bool &visible)
 {
     auto *menu = new QMenu(this);
-    menu->setObjectName(customiseName());
+    menu->setObjectName(customiseName);
     menu->setProperty("intoolbar", "true");
     menu->setProperty("toolbar", "true");
     menu->setProperty("module", "toolbarmenu");
 
     const QList<Controller *> records = sectionRecords(Section::quickAccessBar);
     for (const Controller *record : records) {
-        if (record->name != customiseName())
+        if (record->name != customiseName)
             appendCustomiseEntry(menu, *record);
     }
     for (const Controller *record : records) {
-        if (record->name == customiseName()) {
+        if (record->name == customiseName) {
             m_quickAccessSetButton = createCustomiseButton(menu, *record);
             visible = record->visible;
         }
@@ -145,9 +138,9 @@ void NewToolBar::Inner_DoQuickAccessBarActionSlot()
 
     // The host hears the command's own name (f_open), while the setting keeps the short name.
     QString command = action->objectName();
-    const auto prefix = command.indexOf(commandPrefix());
+    const auto prefix = command.indexOf(commandPrefix);
     if (prefix >= 0)
-        command = command.mid(prefix + commandPrefix().size());
+        command = command.mid(prefix + commandPrefix.size());
     if (!command.isEmpty())
         Q_EMIT DoActive(command);
 }

@@ -18,20 +18,9 @@ namespace {
 constexpr int backwards = 0;
 constexpr int forwards = 1;
 
-QString foldName()
-{
-    return QStringLiteral("t_fold");
-}
-
-QString unfoldName()
-{
-    return QStringLiteral("t_extend");
-}
-
-QString noIndicatorRule()
-{
-    return QStringLiteral("QPushButton::menu-indicator{image:none;}");
-}
+constexpr QLatin1String foldName("t_fold");
+constexpr QLatin1String unfoldName("t_extend");
+constexpr QLatin1String noIndicatorRule("QPushButton::menu-indicator{image:none;}");
 
 /** Gives a button that shows only an icon its tooltip and, from it, its accessible name. */
 void setTip(QPushButton *button, const QString &tip)
@@ -49,7 +38,7 @@ bool mentions(const QString &name, const char *word)
 
 QString activeSetButtonSheet(const QString &textColour, const QString &ground)
 {
-    return noIndicatorRule()
+    return noIndicatorRule
            + QStringLiteral(
                  "QPushButton{color:%1;background-color:%2;border: none;border-radius:4px;}")
                  .arg(textColour, ground);
@@ -57,7 +46,7 @@ QString activeSetButtonSheet(const QString &textColour, const QString &ground)
 
 QString idleSetButtonSheet(const QString &textColour, const QString &hover, const QString &pressed)
 {
-    return noIndicatorRule()
+    return noIndicatorRule
            + QStringLiteral("QPushButton{   background:transparent;}"
                             "QPushButton:hover{ background-color:%2;}"
                             "QPushButton:pressed{color:%1;background-color:%3;border: "
@@ -153,7 +142,7 @@ QPushButton *NewToolBar::CreateSearchSetButton()
     menu->setProperty("module", "toolbarmenu");
     menu->setObjectName(record.name);
     button->setMenu(menu);
-    button->setStyleSheet(noIndicatorRule());
+    button->setStyleSheet(noIndicatorRule);
     return button;
 }
 
@@ -241,7 +230,7 @@ QList<QWidget *> NewToolBar::CreateAddtionalControl()
             continue;
         QPushButton *button = createAdditionalButton(*record);
         controls.append(button);
-        if (record->name == foldName()) {
+        if (record->name == foldName) {
             m_foldButton = button;
             m_unfoldButton = createUnfoldButton(button, *record);
             controls.append(m_unfoldButton);
@@ -263,7 +252,7 @@ QPushButton *NewToolBar::createAdditionalButton(const Controller &record)
 QPushButton *NewToolBar::createUnfoldButton(QPushButton *foldButton, const Controller &record)
 {
     QPushButton *button = createAdditionalButton(record);
-    button->setObjectName(unfoldName());
+    button->setObjectName(unfoldName);
     const QPixmap foldPixmap = foldButton->icon().pixmap(foldButton->iconSize());
     if (!foldPixmap.isNull())
         button->setIcon(QIcon(foldPixmap.transformed(QTransform().rotate(180))));

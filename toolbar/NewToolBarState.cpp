@@ -19,20 +19,9 @@
 
 namespace {
 
-QString rowsArea()
-{
-    return QStringLiteral("toolbar_maintoolbar");
-}
-
-QString additionalArea()
-{
-    return QStringLiteral("toolbar_addtional");
-}
-
-QString quickAccessArea()
-{
-    return QStringLiteral("toolbar_quickaccessbar");
-}
+constexpr QLatin1String rowsArea("toolbar_maintoolbar");
+constexpr QLatin1String additionalArea("toolbar_addtional");
+constexpr QLatin1String quickAccessArea("toolbar_quickaccessbar");
 
 /** Names with this in them are looked up as areas, never as single controls. */
 bool isAreaName(const QString &name)
@@ -137,7 +126,7 @@ void NewToolBar::enableArea(const QString &name, bool usable)
     const QList<QWidget *> widgets = areaWidgets(name);
     for (QWidget *widget : widgets)
         widget->setEnabled(usable);
-    if (name == rowsArea())
+    if (name == rowsArea)
         SetExtraGroupEnable(usable);
 }
 
@@ -163,11 +152,11 @@ void NewToolBar::DoSetControlVisibleStateSlot(QString &objName, bool visible)
 
 void NewToolBar::showArea(const QString &name, bool visible)
 {
-    if (name == rowsArea()) {
+    if (name == rowsArea) {
         showToolRows(visible);
-    } else if (name == additionalArea()) {
+    } else if (name == additionalArea) {
         showAdditionalControls(visible);
-    } else if (name.startsWith(quickAccessArea()) && name != quickAccessArea()) {
+    } else if (name.startsWith(quickAccessArea) && name != quickAccessArea) {
         showQuickAccess(name, visible);
     } else {
         const QList<QWidget *> widgets = areaWidgets(name);

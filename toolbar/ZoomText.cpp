@@ -7,10 +7,7 @@ namespace {
 constexpr float leastPercent = 10.0F;
 constexpr float mostPercent = 6400.0F;
 
-QString modePrefix()
-{
-    return QStringLiteral("vzmode_");
-}
+constexpr QLatin1String modePrefix("vzmode_");
 
 bool isDigit(const QString &text, qsizetype position)
 {
@@ -55,12 +52,12 @@ QString ZoomText::entry(const QString &number)
 
 QString ZoomText::mode(const QString &number)
 {
-    return modePrefix() + number + QLatin1Char('p');
+    return modePrefix + number + QLatin1Char('p');
 }
 
 QString ZoomText::numberOfMode(const QString &mode)
 {
-    return mode.mid(modePrefix().size()).chopped(mode.size() > modePrefix().size() ? 1 : 0);
+    return mode.mid(modePrefix.size()).chopped(mode.size() > modePrefix.size() ? 1 : 0);
 }
 
 std::optional<float> ZoomText::percentage(const QString &mode)

@@ -7,16 +7,13 @@
 
 #include <QApplication>
 #include <QFile>
-#include <QFileInfo>
 #include <QToolBar>
 
 namespace {
 
 /** Takes away what the platform's style would draw around the library's own tool bars. */
-QString plainToolBarRule()
-{
-    return QStringLiteral("QToolBar[intoolbar=\"true\"]{border:none;padding:0px 0px 0px 0px;}");
-}
+constexpr QLatin1String
+    plainToolBarRule("QToolBar[intoolbar=\"true\"]{border:none;padding:0px 0px 0px 0px;}");
 
 /**
  * Under a sheet of the application, a tool bar keeps the margins of that sheet for good unless it
@@ -80,9 +77,7 @@ QString NewToolBar::GetIconPath(QString name)
 
 QIcon NewToolBar::icon(const QString &name)
 {
-    // A directory exists, too, and an icon made of it would take up room.
-    const QString path = GetIconPath(name);
-    return QFileInfo(path).isFile() ? skinIcon(path) : QIcon();
+    return skinIcon(GetIconPath(name));
 }
 
 QString NewToolBar::ScaleSheet(QString const &sheet, float factor)
@@ -117,12 +112,11 @@ bool NewToolBar::ResetSkinStyle()
         LoadQss(GetResourceDir() + QStringLiteral("qssfile.qss")), m_skinMap, Skin::isLum());
     if (m_externalQss) {
         // The host scales and applies it.
-        m_toolBarStyleSheet = sheet + plainToolBarRule();
+        m_toolBarStyleSheet = sheet + plainToolBarRule;
         return true;
     }
     if (m_hostToolBar)
-        applySheet(m_hostToolBar,
-                   ScaleSheet(sheet + QLatin1Char(' ') + plainToolBarRule(), m_scale));
+        applySheet(m_hostToolBar, ScaleSheet(sheet + QLatin1Char(' ') + plainToolBarRule, m_scale));
     return true;
 }
 

@@ -4,15 +4,8 @@
 
 namespace {
 
-QString hoverKey()
-{
-    return QStringLiteral("[MainColor.hover]");
-}
-
-QString pressedKey()
-{
-    return QStringLiteral("[MainColor.pressed]");
-}
+constexpr QLatin1String hoverKey("[MainColor.hover]");
+constexpr QLatin1String pressedKey("[MainColor.pressed]");
 
 using SkinMap = QMap<QString, QString>;
 
@@ -33,8 +26,8 @@ const SkinMap &defaults()
         {QStringLiteral("[MainColor.checked]"), QStringLiteral("#1368AD")},
         {QStringLiteral("[ToolBarBgColor]"), QStringLiteral("#F4F4F4")},
         {QStringLiteral("[Color.checked]"), QStringLiteral("rgb(195,198,202)")},
-        {hoverKey(), QStringLiteral("rgb(219,222,227)")},
-        {pressedKey(), QStringLiteral("rgb(183,185,190)")},
+        {hoverKey, QStringLiteral("rgb(219,222,227)")},
+        {pressedKey, QStringLiteral("rgb(183,185,190)")},
     };
     return Skin::isLum() ? lum : marodi;
 }
@@ -64,10 +57,10 @@ QMap<QString, QString> Skin::initialMap(const QMap<QString, QString> &hostMap)
         return defaults();
 
     SkinMap map = switchedMap(hostMap);
-    if (isLum() && !hostMap.contains(pressedKey())) {
+    if (isLum() && !hostMap.contains(pressedKey)) {
         // At construction the pressed grey goes under the hover key, deliberately: hosts have
         // matched their own colours to the result. A later switch fills in each key by itself.
-        map.insert(hoverKey(), map.take(pressedKey()));
+        map.insert(hoverKey, map.take(pressedKey));
     }
     return map;
 }

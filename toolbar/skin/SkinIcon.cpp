@@ -1,6 +1,7 @@
 #include "toolbar/skin/SkinIcon.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QHash>
 #include <QIconEngine>
 #include <QPainter>
@@ -56,15 +57,16 @@ QHash<QString, QIcon> &iconCache()
 
 QIcon skinIcon(const QString &path)
 {
-    if (path.isEmpty())
+    QHash<QString, QIcon> &cache = iconCache();
+    const auto cached = cache.constFind(path);
+    if (cached != cache.cend())
+        return *cached;
+    // A directory exists, too, and an icon made of it would take up room.
+    if (!QFileInfo(path).isFile())
         return QIcon();
 
-    QHash<QString, QIcon> &cache = iconCache();
     // Icons must not outlive the application; a process may have several, one after the other.
     if (cache.isEmpty())
         qAddPostRoutine([] { iconCache().clear(); });
-    QIcon &icon = cache[path];
-    if (icon.isNull())
-        icon = QIcon(new SkinIconEngine(path));
-    return icon;
+    return *cache.insert(path, QIcon(new SkinIconEngine(path)));
 }

@@ -78,30 +78,11 @@ constexpr char groupBodyMarodi[] =
     "QToolButton{background:%1;border:2px solid %2;}";
 
 // The colours are fixed; they do not come from the skin map.
-QString white()
-{
-    return QStringLiteral("#FFFFFF");
-}
-
-QString grey()
-{
-    return QStringLiteral("#EAEAEA");
-}
-
-QString hovered()
-{
-    return QStringLiteral("rgb(219,222,227)");
-}
-
-QString pressed()
-{
-    return QStringLiteral("rgb(183,185,190)");
-}
-
-QString checked()
-{
-    return QStringLiteral("rgb(195,198,202)");
-}
+constexpr QLatin1String white("#FFFFFF");
+constexpr QLatin1String grey("#EAEAEA");
+constexpr QLatin1String hovered("rgb(219,222,227)");
+constexpr QLatin1String pressed("rgb(183,185,190)");
+constexpr QLatin1String checked("rgb(195,198,202)");
 
 QString filled(const char *sheet, const QStringList &values)
 {
@@ -114,19 +95,19 @@ QString filled(const char *sheet, const QStringList &values)
 /** What a button on a tool row shows in the skin lum, drop button or group button. */
 QString lumRowSheet(bool overArrow)
 {
-    return overArrow ? filled(rowArrowLum, {hovered(), pressed()})
-                     : filled(rowBodyLum, {hovered(), pressed(), checked()});
+    return overArrow ? filled(rowArrowLum, {hovered, pressed})
+                     : filled(rowBodyLum, {hovered, pressed, checked});
 }
 
 QString menuSheet(bool overArrow, bool isLum, double scale)
 {
     if (isLum) {
-        return overArrow ? filled(menuArrowLum, {checked(), pressed(), hovered()})
-                         : filled(menuBodyLum, {hovered(), pressed(), checked()});
+        return overArrow ? filled(menuArrowLum, {checked, pressed, hovered})
+                         : filled(menuBodyLum, {hovered, pressed, checked});
     }
     constexpr double heightInEms = 2.0;
     const QString height = QStringLiteral("%1").arg(heightInEms * scale);
-    return filled(overArrow ? menuArrowMarodi : menuBodyMarodi, {white(), grey(), height});
+    return filled(overArrow ? menuArrowMarodi : menuBodyMarodi, {white, grey, height});
 }
 
 } // namespace
@@ -137,14 +118,14 @@ QString HoverSheets::dropButton(bool inExtendMenu, bool overArrow, bool isLum, d
         return menuSheet(overArrow, isLum, scale);
     if (isLum)
         return lumRowSheet(overArrow);
-    return filled(overArrow ? rowArrowMarodi : rowBodyMarodi, {white(), grey()});
+    return filled(overArrow ? rowArrowMarodi : rowBodyMarodi, {white, grey});
 }
 
 QString HoverSheets::groupButton(bool overArrow, bool isLum)
 {
     if (isLum)
         return lumRowSheet(overArrow);
-    return filled(overArrow ? groupArrowMarodi : groupBodyMarodi, {white(), grey()});
+    return filled(overArrow ? groupArrowMarodi : groupBodyMarodi, {white, grey});
 }
 
 bool HoverSheets::isCursorOverArrow(const QToolButton &button, const QStyleOptionToolButton &option)

@@ -14,15 +14,8 @@
 
 namespace {
 
-QString leftSide()
-{
-    return QStringLiteral("left");
-}
-
-QString rightSide()
-{
-    return QStringLiteral("right");
-}
+constexpr QLatin1String leftSide("left");
+constexpr QLatin1String rightSide("right");
 
 constexpr int scrollStep = 180;
 constexpr int scrollDuration = 300;
@@ -104,8 +97,8 @@ void MRExtendButton::SetObjectName(QString name)
     const int side = arrowSide(this);
     m_arrow->setIconSize(QSize(side, side));
 
-    const bool isLeft = name.contains(leftSide());
-    m_arrow->setObjectName(isLeft ? leftSide() : rightSide());
+    const bool isLeft = name.contains(leftSide);
+    m_arrow->setObjectName(isLeft ? leftSide : rightSide);
     m_arrow->setAccessibleName(isLeft ? tr("向左滚动") : tr("向右滚动"));
     updateArrow();
 }
@@ -113,7 +106,7 @@ void MRExtendButton::SetObjectName(QString name)
 void MRExtendButton::updateArrow()
 {
     // Where everything is mirrored, the button named "left" stands on the right.
-    const bool pointsLeft = objectName().contains(leftSide()) != isRightToLeft();
+    const bool pointsLeft = objectName().contains(leftSide) != isRightToLeft();
     const QString file =
         pointsLeft ? QStringLiteral("extendLeft.svg") : QStringLiteral("extendRight.svg");
     m_arrow->setIcon(skinIcon(Skin::resourceDirectory() + file));
@@ -181,8 +174,8 @@ void MRScrollArea::animate(int from, int to)
 void MRScrollArea::UpdateExtendButton()
 {
     const int value = horizontalScrollBar()->value();
-    Q_EMIT SetExtendButtonVisible(leftSide(), value >= 1);
-    Q_EMIT SetExtendButtonVisible(rightSide(), value < hiddenWidth());
+    Q_EMIT SetExtendButtonVisible(leftSide, value >= 1);
+    Q_EMIT SetExtendButtonVisible(rightSide, value < hiddenWidth());
 }
 
 void MRScrollArea::DoScrollAction()
@@ -197,7 +190,7 @@ void MRScrollArea::DoScrollAction()
         // From the start either arrow leads to the far end, where the scroll bar stops.
         animate(0, widget()->width());
     } else if (const auto *arrow = qobject_cast<QPushButton *>(sender())) {
-        const bool toLeft = arrow->objectName().contains(leftSide());
+        const bool toLeft = arrow->objectName().contains(leftSide);
         animate(value, toLeft ? value - scrollStep : value + scrollStep);
     }
 }
@@ -269,6 +262,6 @@ void MRScrollWidget::SetWidget(QWidget *widget, Qt::Alignment alignment)
 
 void MRScrollWidget::DoSetExtendButtonVisible(QString side, bool visible)
 {
-    MRExtendButton *button = side == leftSide() ? m_left : m_right;
+    MRExtendButton *button = side == leftSide ? m_left : m_right;
     button->SetExtendButtonVisible(visible);
 }
