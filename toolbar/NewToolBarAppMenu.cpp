@@ -59,6 +59,8 @@ bool NewToolBar::CreateAppButton()
         setUpAppButton(appButton, *records.first());
     if (records.size() == usedAppRecords)
         setUpSetButton(setButton, appButton, *records.last());
+    else
+        setButton->setFocusPolicy(Qt::NoFocus); // There is nothing to see of it, or to do.
 
     m_appButtonWidgets.append(appButton);
     m_appButtonWidgets.append(setButton);

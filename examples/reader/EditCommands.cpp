@@ -216,5 +216,7 @@ void EditCommands::selectPages(int first, int last)
             selection.append({page, 0, length});
     }
     m_parts.view->setSelection(selection);
+    // The key that copies belongs to the pages.
+    m_parts.view->setFocus();
     m_parts.say(tr("已选择 %1 个字").arg(m_parts.view->selectedText().size()));
 }

@@ -78,6 +78,7 @@ void FileCommands::open(const QString &fileName)
     m_savedFile.clear();
     m_parts.settings->addRecentFile(fileName);
     m_parts.view->setCurrentPage(0);
+    m_parts.view->setFocus();
     const QString leftOut = m_parts.document->file().leftOut;
     m_parts.say(leftOut.isEmpty() ? tr("已打开：%1").arg(QDir::toNativeSeparators(fileName))
                                   : leftOut);
@@ -197,7 +198,10 @@ void FileCommands::showPreferences()
 
 void FileCommands::showAbout() const
 {
-    QMessageBox::about(
-        m_parts.window, tr("关于OFD阅读器"),
-        tr("工具栏的示例阅读器，可打开 OFD 文件。\n\nQt %1").arg(QLatin1String(qVersion())));
+    const QString version = QLatin1String(qVersion());
+    const QString keys = tr("F10：工具栏\nEsc：回到页面\nCtrl+F：查找\nCtrl+G：页码框\n"
+                            "Ctrl+M：缩放框\nF11：全屏");
+    QMessageBox::about(m_parts.window, tr("关于OFD阅读器"),
+                       tr("工具栏的示例阅读器，可打开 OFD 文件。\n\nQt %1").arg(version)
+                           + QStringLiteral("\n\n") + keys);
 }

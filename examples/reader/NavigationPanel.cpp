@@ -127,6 +127,7 @@ QListWidget *NavigationPanel::addPanel(const QString &name)
 
 void NavigationPanel::addBookmarkButton()
 {
+    setTabOrder(m_lists.value(bookmarks), m_bookmarkButton);
     connect(m_bookmarkButton, &QPushButton::clicked, this, [this] {
         if (!m_document.isOpen() || m_bookmarks.contains(m_currentPage))
             return;

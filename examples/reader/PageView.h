@@ -114,6 +114,8 @@ private:
     void extendDrawing(const PagePoint &to);
     void finishDrag();
     bool turnPage(int direction);
+    bool turnPageBy(const QKeyEvent &event);
+    void scrollBy(QKeyEvent *event);
 
     const Document &m_document;
     PageLayout m_layout;

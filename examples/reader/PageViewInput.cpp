@@ -24,6 +24,25 @@ QPolygonF cornersOf(const QList<QRectF> &rects)
     return corners;
 }
 
+/** Where a key moves in the document: 1 on, -1 back, 0 for any other key. */
+int directionOf(const QKeyEvent &event)
+{
+    switch (event.key()) {
+    case Qt::Key_Down:
+    case Qt::Key_Right:
+    case Qt::Key_PageDown:
+        return 1;
+    case Qt::Key_Up:
+    case Qt::Key_Left:
+    case Qt::Key_PageUp:
+        return -1;
+    case Qt::Key_Space:
+        return event.modifiers() & Qt::ShiftModifier ? -1 : 1;
+    default:
+        return 0;
+    }
+}
+
 } // namespace
 
 void PageView::mousePressEvent(QMouseEvent *event)
@@ -202,18 +221,32 @@ bool PageView::turnPage(int direction)
 
 void PageView::keyPressEvent(QKeyEvent *event)
 {
-    const QScrollBar *bar = verticalScrollBar();
-    if (event->matches(QKeySequence::Copy)) {
+    if (event->matches(QKeySequence::Copy))
         QApplication::clipboard()->setText(selectedText());
-    } else if (event->key() == Qt::Key_Home) {
+    else if (event->key() == Qt::Key_Home)
         setCurrentPage(0);
-    } else if (event->key() == Qt::Key_End) {
+    else if (event->key() == Qt::Key_End)
         setCurrentPage(m_document.pageCount() - 1);
-    } else if (event->key() == Qt::Key_PageDown && bar->value() == bar->maximum()) {
-        turnPage(1);
-    } else if (event->key() == Qt::Key_PageUp && bar->value() == bar->minimum()) {
-        turnPage(-1);
-    } else {
+    else if (!turnPageBy(*event))
+        scrollBy(event);
+}
+
+bool PageView::turnPageBy(const QKeyEvent &event)
+{
+    const int direction = directionOf(event);
+    const bool isSideways = event.key() == Qt::Key_Left || event.key() == Qt::Key_Right;
+    const QScrollBar *bar = isSideways ? horizontalScrollBar() : verticalScrollBar();
+    const int end = direction > 0 ? bar->maximum() : bar->minimum();
+    return direction != 0 && bar->value() == end && turnPage(direction);
+}
+
+void PageView::scrollBy(QKeyEvent *event)
+{
+    if (event->key() != Qt::Key_Space) {
         QAbstractScrollArea::keyPressEvent(event);
+        return;
     }
+    verticalScrollBar()->triggerAction(directionOf(*event) > 0
+                                           ? QAbstractSlider::SliderPageStepAdd
+                                           : QAbstractSlider::SliderPageStepSub);
 }

@@ -3,6 +3,7 @@
 #include "Description.h"
 #include "HandwritingSettings.h"
 #include "HostPanel.h"
+#include "KeyboardReach.h"
 #include "NavigationPanel.h"
 #include "PageView.h"
 #include "SearchPanel.h"
@@ -16,7 +17,6 @@
 #include <QLabel>
 #include <QMimeData>
 #include <QPushButton>
-#include <QShortcut>
 #include <QStatusBar>
 #include <QToolBar>
 #include <QUrl>
@@ -65,7 +65,7 @@ ReaderWindow::ReaderWindow(const QDomDocument &description, const QString &skin)
     createDocks();
     createToolBar(description);
     createCommands();
-    createShortcuts();
+    connectKeys();
     connectToolBar();
     connectParts();
     updateTitle();
@@ -155,32 +155,25 @@ void ReaderWindow::createCommands()
     m_editCommands.addTo(m_commands);
 }
 
-void ReaderWindow::createShortcuts()
+void ReaderWindow::connectKeys()
 {
-    // The keys that the tooltips of the shipped descriptions promise, and what readers expect.
-    const QMap<QString, QString> keys = {
-        {QStringLiteral("Ctrl+O"), QStringLiteral("f_open")},
-        {QStringLiteral("Ctrl+S"), QStringLiteral("f_save")},
-        {QStringLiteral("Ctrl+P"), QStringLiteral("f_print")},
-        {QStringLiteral("Ctrl+Z"), QStringLiteral("e_undo")},
-        {QStringLiteral("Ctrl+Y"), QStringLiteral("e_redo")},
-        {QStringLiteral("Ctrl+F"), QStringLiteral("e_find")},
-        {QStringLiteral("F11"), QStringLiteral("v_fullscreen")},
-    };
-    for (auto key = keys.cbegin(); key != keys.cend(); ++key) {
-        auto *shortcut = new QShortcut(QKeySequence(key.key()), this);
-        const QString &name = key.value();
-        connect(shortcut, &QShortcut::activated, this, [this, name] {
-            if (m_commands.isUsable(name, state()))
-                runCommand(name);
-        });
-    }
-    auto *escape = new QShortcut(QKeySequence(Qt::Key_Escape), this);
-    connect(escape, &QShortcut::activated, this, [this] {
-        if (isFullScreen())
-            m_viewCommands.toggleFullScreen();
-        m_view->setFocus();
+    const auto *keys = new KeyboardReach(this);
+    connect(keys, &KeyboardReach::commandAsked, this, [this](const QString &name) {
+        if (m_commands.isUsable(name, state()))
+            runCommand(name);
     });
+    connect(keys, &KeyboardReach::escapePressed, this, &ReaderWindow::returnToPages);
+}
+
+void ReaderWindow::returnToPages()
+{
+    if (isFullScreen() && !KeyboardReach::isField(focusWidget()))
+        m_viewCommands.toggleFullScreen();
+    // Its title bar has no button for the keyboard.
+    if (m_search->isAncestorOf(focusWidget()))
+        m_search->hide();
+    m_report->tellFields();
+    m_view->setFocus();
 }
 
 void ReaderWindow::connectToolBar()
@@ -260,7 +253,8 @@ void ReaderWindow::followZoomBox()
     // A typed percentage that is one of the box's entries is not reported by the toolbar: the box
     // only moves to that entry. The reader looks at the box itself, an ordinary child of its
     // window.
-    for (const QString &name : {QStringLiteral("v_zoom"), QStringLiteral("v_zoomlist")}) {
+    const QStringList names = KeyboardReach::zoomBoxNames();
+    for (const QString &name : names) {
         const auto *box = findChild<QComboBox *>(name);
         if (!box)
             continue;

@@ -58,7 +58,8 @@ private:
     QString shownTab() const;
     ZoomMode shownZoom() const;
     void createCommands();
-    void createShortcuts();
+    void connectKeys();
+    void returnToPages();
     void connectToolBar();
     void connectParts();
     void runCommand(const QString &name);

@@ -55,6 +55,12 @@ void ToolBarReport::tellChanges(const ReaderState &state)
     tellChecked(state);
 }
 
+void ToolBarReport::tellFields()
+{
+    tellPage();
+    tellZoom();
+}
+
 void ToolBarReport::tellUsable(const ReaderState &state)
 {
     const QStringList names = m_commands.names();

@@ -15,6 +15,8 @@ public:
     void tellAll(const ReaderState &state);
     /** Something happened: what is shown in fields is told only where it changed. */
     void tellChanges(const ReaderState &state);
+    /** What the user has begun to type gives way to how the reader stands. */
+    void tellFields();
 
 private:
     void tellUsable(const ReaderState &state);

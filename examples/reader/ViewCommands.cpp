@@ -10,6 +10,7 @@
 #include <QMainWindow>
 #include <QMap>
 #include <QMessageBox>
+#include <QStatusBar>
 
 namespace {
 
@@ -128,6 +129,8 @@ void ViewCommands::toggleFullScreen()
     window->setWindowState(window->windowState() ^ Qt::WindowFullScreen);
     if (window->isFullScreen())
         m_parts.say(tr("按 Esc 退出全屏"));
+    else
+        window->statusBar()->clearMessage();
 }
 
 void ViewCommands::showRevisions()

@@ -157,6 +157,20 @@ Qt %1</source>
 
 Qt %1</translation>
     </message>
+    <message>
+        <source>F10：工具栏
+Esc：回到页面
+Ctrl+F：查找
+Ctrl+G：页码框
+Ctrl+M：缩放框
+F11：全屏</source>
+        <translation>F10：工具栏
+Esc：回到页面
+Ctrl+F：查找
+Ctrl+G：页码框
+Ctrl+M：缩放框
+F11：全屏</translation>
+    </message>
 </context>
 <context>
     <name>FindingsPanel</name>
@@ -241,6 +255,17 @@ Qt %1</translation>
     <message>
         <source>手写设置…</source>
         <translation>手写设置…</translation>
+    </message>
+</context>
+<context>
+    <name>KeyboardReach</name>
+    <message>
+        <source>工具栏现在没有可用的页码框</source>
+        <translation>工具栏现在没有可用的页码框</translation>
+    </message>
+    <message>
+        <source>工具栏现在没有可用的缩放框</source>
+        <translation>工具栏现在没有可用的缩放框</translation>
     </message>
 </context>
 <context>
