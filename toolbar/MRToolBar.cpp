@@ -1,6 +1,7 @@
 #include "toolbar/MRToolBar.h"
 
 #include "toolbar/NewToolBar.h"
+#include "toolbar/QtCompat.h"
 
 #include <QDomNode>
 #include <QMainWindow>
@@ -8,7 +9,7 @@
 namespace {
 
 /** What the page slots take for "no document is open". */
-constexpr QLatin1String clearedText(" ");
+constexpr QLatin1String clearedText = QtCompat::latin1(" ");
 
 void registerBoundaryTypes()
 {

@@ -2,6 +2,7 @@
 
 #include "toolbar/ActionData.h"
 #include "toolbar/ControlWidth.h"
+#include "toolbar/QtCompat.h"
 #include "toolbar/description/Controller.h"
 #include "toolbar/description/DescriptionParser.h"
 #include "toolbar/skin/Skin.h"
@@ -26,8 +27,8 @@
 
 namespace {
 
-constexpr QLatin1String promptName("prompt");
-constexpr QLatin1String totalPageLabelName("d_totalpagelabel");
+constexpr QLatin1String promptName = QtCompat::latin1("prompt");
+constexpr QLatin1String totalPageLabelName = QtCompat::latin1("d_totalpagelabel");
 
 bool isTag(const Controller &record, const char *tag)
 {

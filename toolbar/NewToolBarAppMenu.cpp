@@ -1,6 +1,7 @@
 #include "toolbar/NewToolBar.h"
 
 #include "toolbar/ActionData.h"
+#include "toolbar/QtCompat.h"
 #include "toolbar/description/Controller.h"
 #include "toolbar/description/DescriptionParser.h"
 #include "toolbar/widgets/CustomMenuStyle.h"
@@ -18,12 +19,12 @@ constexpr int usedAppRecords = 2;
 constexpr int appMenuIconSize = 20;
 constexpr int setMenuIconSize = 16;
 
-constexpr QLatin1String setButtonName("ab_set");
-constexpr QLatin1String recentFileName("f_openrecentfile");
-constexpr QLatin1String noFileName("no_file");
-constexpr QLatin1String clearHistoryName("f_clearhistory");
-constexpr QLatin1String
-    noIndicatorSheet("QPushButton::menu-indicator{image:none;height:0px;width:0px;}");
+constexpr QLatin1String setButtonName = QtCompat::latin1("ab_set");
+constexpr QLatin1String recentFileName = QtCompat::latin1("f_openrecentfile");
+constexpr QLatin1String noFileName = QtCompat::latin1("no_file");
+constexpr QLatin1String clearHistoryName = QtCompat::latin1("f_clearhistory");
+constexpr QLatin1String noIndicatorSheet =
+    QtCompat::latin1("QPushButton::menu-indicator{image:none;height:0px;width:0px;}");
 
 /** Where a recent file's item keeps the path that the host gets: a tooltip may be a card. */
 constexpr char absolutePathProperty[] = "absolutepath";

@@ -2,6 +2,7 @@
 
 #include "toolbar/ActionData.h"
 #include "toolbar/ActionTrigger.h"
+#include "toolbar/QtCompat.h"
 #include "toolbar/widgets/MRDropButton.h"
 
 #include <QAction>
@@ -14,8 +15,8 @@ namespace {
 
 constexpr std::chrono::milliseconds doubleClickWait(250);
 
-constexpr QLatin1String menuPrefix("menu_");
-constexpr QLatin1String annotationGroup("annotgroup");
+constexpr QLatin1String menuPrefix = QtCompat::latin1("menu_");
+constexpr QLatin1String annotationGroup = QtCompat::latin1("annotgroup");
 
 /** Whether a name is a background's; any name with the word in it is, deliberately. */
 bool isBackground(const QString &name)

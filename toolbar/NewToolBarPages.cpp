@@ -1,6 +1,7 @@
 #include "toolbar/NewToolBar.h"
 
 #include "toolbar/PageText.h"
+#include "toolbar/QtCompat.h"
 #include "toolbar/ZoomText.h"
 
 #include <QAction>
@@ -14,9 +15,9 @@
 
 namespace {
 
-constexpr QLatin1String zoomGroupName("zmode");
-constexpr QLatin1String actualSizeName("vzmode_original");
-constexpr QLatin1String customZoomName("vzmode_custom");
+constexpr QLatin1String zoomGroupName = QtCompat::latin1("zmode");
+constexpr QLatin1String actualSizeName = QtCompat::latin1("vzmode_original");
+constexpr QLatin1String customZoomName = QtCompat::latin1("vzmode_custom");
 
 QString backgroundName(BackgroundStyle style)
 {

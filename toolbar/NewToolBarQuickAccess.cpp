@@ -1,6 +1,7 @@
 #include "toolbar/NewToolBar.h"
 
 #include "toolbar/ActionData.h"
+#include "toolbar/QtCompat.h"
 #include "toolbar/QuickAccessSetting.h"
 #include "toolbar/description/Controller.h"
 #include "toolbar/description/DescriptionParser.h"
@@ -17,8 +18,8 @@
 
 namespace {
 
-constexpr QLatin1String customiseName("qt_set");
-constexpr QLatin1String commandPrefix("qbar_");
+constexpr QLatin1String customiseName = QtCompat::latin1("qt_set");
+constexpr QLatin1String commandPrefix = QtCompat::latin1("qbar_");
 
 } // namespace
 

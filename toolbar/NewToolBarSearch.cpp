@@ -1,5 +1,6 @@
 #include "toolbar/NewToolBar.h"
 
+#include "toolbar/QtCompat.h"
 #include "toolbar/description/Controller.h"
 #include "toolbar/description/DescriptionParser.h"
 #include "toolbar/skin/Skin.h"
@@ -18,9 +19,10 @@ namespace {
 constexpr int backwards = 0;
 constexpr int forwards = 1;
 
-constexpr QLatin1String foldName("t_fold");
-constexpr QLatin1String unfoldName("t_extend");
-constexpr QLatin1String noIndicatorRule("QPushButton::menu-indicator{image:none;}");
+constexpr QLatin1String foldName = QtCompat::latin1("t_fold");
+constexpr QLatin1String unfoldName = QtCompat::latin1("t_extend");
+constexpr QLatin1String noIndicatorRule =
+    QtCompat::latin1("QPushButton::menu-indicator{image:none;}");
 
 /** Gives a button that shows only an icon its tooltip and, from it, its accessible name. */
 void setTip(QPushButton *button, const QString &tip)

@@ -3,6 +3,7 @@
 #include "toolbar/ActionData.h"
 #include "toolbar/ActionTrigger.h"
 #include "toolbar/ControlVisitor.h"
+#include "toolbar/QtCompat.h"
 #include "toolbar/widgets/DropMenuIndex.h"
 #include "toolbar/widgets/MRDropButton.h"
 #include "toolbar/widgets/MRScrollWidget.h"
@@ -19,9 +20,9 @@
 
 namespace {
 
-constexpr QLatin1String rowsArea("toolbar_maintoolbar");
-constexpr QLatin1String additionalArea("toolbar_addtional");
-constexpr QLatin1String quickAccessArea("toolbar_quickaccessbar");
+constexpr QLatin1String rowsArea = QtCompat::latin1("toolbar_maintoolbar");
+constexpr QLatin1String additionalArea = QtCompat::latin1("toolbar_addtional");
+constexpr QLatin1String quickAccessArea = QtCompat::latin1("toolbar_quickaccessbar");
 
 /** Names with this in them are looked up as areas, never as single controls. */
 bool isAreaName(const QString &name)

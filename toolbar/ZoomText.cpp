@@ -1,5 +1,7 @@
 #include "toolbar/ZoomText.h"
 
+#include "toolbar/QtCompat.h"
+
 #include <QRegularExpression>
 
 namespace {
@@ -7,7 +9,7 @@ namespace {
 constexpr float leastPercent = 10.0F;
 constexpr float mostPercent = 6400.0F;
 
-constexpr QLatin1String modePrefix("vzmode_");
+constexpr QLatin1String modePrefix = QtCompat::latin1("vzmode_");
 
 bool isDigit(const QString &text, qsizetype position)
 {

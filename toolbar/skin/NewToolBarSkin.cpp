@@ -1,5 +1,6 @@
 #include "toolbar/NewToolBar.h"
 
+#include "toolbar/QtCompat.h"
 #include "toolbar/skin/Skin.h"
 #include "toolbar/skin/SkinIcon.h"
 #include "toolbar/skin/StyleSheet.h"
@@ -12,8 +13,8 @@
 namespace {
 
 /** Takes away what the platform's style would draw around the library's own tool bars. */
-constexpr QLatin1String
-    plainToolBarRule("QToolBar[intoolbar=\"true\"]{border:none;padding:0px 0px 0px 0px;}");
+constexpr QLatin1String plainToolBarRule =
+    QtCompat::latin1("QToolBar[intoolbar=\"true\"]{border:none;padding:0px 0px 0px 0px;}");
 
 /**
  * Under a sheet of the application, a tool bar keeps the margins of that sheet for good unless it

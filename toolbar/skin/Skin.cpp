@@ -1,11 +1,12 @@
 #include "toolbar/skin/Skin.h"
 
 #include "toolbar/NewToolBar.h"
+#include "toolbar/QtCompat.h"
 
 namespace {
 
-constexpr QLatin1String hoverKey("[MainColor.hover]");
-constexpr QLatin1String pressedKey("[MainColor.pressed]");
+constexpr QLatin1String hoverKey = QtCompat::latin1("[MainColor.hover]");
+constexpr QLatin1String pressedKey = QtCompat::latin1("[MainColor.pressed]");
 
 using SkinMap = QMap<QString, QString>;
 

@@ -68,8 +68,8 @@ void CustomMenuStyle::DrawCustomMenuItem(const QStyleOption *option, QPainter *p
     QStyleOptionMenuItem arrow = *item;
     arrow.rect = subMenuArrowRect(*item);
     arrow.state = item->state & State_Enabled;
-    const PrimitiveElement direction = item->direction == Qt::RightToLeft ? PE_IndicatorArrowLeft
-                                                                          : PE_IndicatorArrowRight;
+    const PrimitiveElement direction =
+        item->direction == Qt::RightToLeft ? PE_IndicatorArrowLeft : PE_IndicatorArrowRight;
     proxy()->drawPrimitive(direction, &arrow, painter, widget);
     painter->restore();
 }

@@ -1,5 +1,7 @@
 #include "toolbar/widgets/HoverSheets.h"
 
+#include "toolbar/QtCompat.h"
+
 #include <QCursor>
 #include <QStringList>
 #include <QStyle>
@@ -78,11 +80,11 @@ constexpr char groupBodyMarodi[] =
     "QToolButton{background:%1;border:2px solid %2;}";
 
 // The colours are fixed; they do not come from the skin map.
-constexpr QLatin1String white("#FFFFFF");
-constexpr QLatin1String grey("#EAEAEA");
-constexpr QLatin1String hovered("rgb(219,222,227)");
-constexpr QLatin1String pressed("rgb(183,185,190)");
-constexpr QLatin1String checked("rgb(195,198,202)");
+constexpr QLatin1String white = QtCompat::latin1("#FFFFFF");
+constexpr QLatin1String grey = QtCompat::latin1("#EAEAEA");
+constexpr QLatin1String hovered = QtCompat::latin1("rgb(219,222,227)");
+constexpr QLatin1String pressed = QtCompat::latin1("rgb(183,185,190)");
+constexpr QLatin1String checked = QtCompat::latin1("rgb(195,198,202)");
 
 QString filled(const char *sheet, const QStringList &values)
 {

@@ -1,5 +1,6 @@
 #include "toolbar/widgets/MRScrollWidget.h"
 
+#include "toolbar/QtCompat.h"
 #include "toolbar/skin/Skin.h"
 #include "toolbar/skin/SkinIcon.h"
 #include "toolbar/widgets/ObjectTree.h"
@@ -14,8 +15,8 @@
 
 namespace {
 
-constexpr QLatin1String leftSide("left");
-constexpr QLatin1String rightSide("right");
+constexpr QLatin1String leftSide = QtCompat::latin1("left");
+constexpr QLatin1String rightSide = QtCompat::latin1("right");
 
 constexpr int scrollStep = 180;
 constexpr int scrollDuration = 300;

@@ -12,9 +12,9 @@ QString toolTipCard(const QString &tip)
     const QString &title = parts.at(0);
     const QString &description = parts.at(1);
 
-    QString card = QStringLiteral(
-                       "<html><head/><body><p><span style=\"font-weight:600;\">%1</span></p>")
-                       .arg(title);
+    QString card =
+        QStringLiteral("<html><head/><body><p><span style=\"font-weight:600;\">%1</span></p>")
+            .arg(title);
     for (int start = 0; start < description.size(); start += lineLength) {
         // The missing blank in "<pstyle" and the order of the closing tags are part of the format.
         card += QStringLiteral("<pstyle=\"line-height:16px\">%1</p>")
