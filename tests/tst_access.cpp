@@ -2,12 +2,10 @@
 #include "tests/support/TestHost.h"
 
 #include <QAccessible>
-#include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QStackedWidget>
-#include <QToolButton>
 
 namespace {
 

@@ -3,12 +3,19 @@
 #include "toolbar/widgets/MRDropButton.h"
 
 #include <QElapsedTimer>
+#include <QLabel>
+#include <QLineEdit>
 
 #include <array>
 
 using namespace Describe;
 
 namespace {
+
+QString tool(const QString &name)
+{
+    return item(name, "checkable='true'");
+}
 
 void trigger(const TestHost &host, const QString &name)
 {
@@ -17,43 +24,35 @@ void trigger(const TestHost &host, const QString &name)
 
 } // namespace
 
-/** What the host hears when a command is triggered. */
+/** What the host hears of a command, and checking by name, of which it hears nothing. */
 class DispatchTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void shouldReportACommand_data()
+    void shouldReportACommand()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("reported"); // After two triggers: commands and backgrounds.
-        const QList<std::pair<const char *, const char *>> rows{
+        // What two triggers report: commands, and a background as its number.
+        const QList<std::pair<QString, QString>> rows{
             {"f_print", "f_print f_print"},  {"menu_f_open", "f_open f_open"},
             {"menu_none", "none none"},      {"menuf_open", "menuf_open menuf_open"},
-            {"menu_x_tool", "x_tool"}, // Unavailable, so that the first trigger is swallowed.
             {"background_default", "0 0"},   {"background_daytime", "1 1"},
             {"background_nighttime", "2 2"}, {"background_eyeguard", "3 3"},
             {"background_parchment", "4 4"}, {"menu_background_daytime", "0 0"}};
-        for (const auto &[name, reported] : rows)
-            QTest::newRow(name) << name << reported;
-    }
-
-    void shouldReportACommand()
-    {
-        QFETCH(QString, name);
-        QFETCH(QString, reported);
-        // No background waits for a second click, whatever its description says.
-        const bool isBackground = name.contains("background");
-        TestHost host(row(button("f_open") + button("x_tool", "available='false'")
-                          + button(name, isBackground ? "doubleclick='true'" : "")));
-        QStringList heard;
-        connect(&host.facade(), &MRToolBar::DoActive, this,
-                [&heard](const QString &objName) { heard.append(objName); });
-        connect(&host.facade(), &MRToolBar::DoSetBackground, this,
-                [&heard](BackgroundStyle style) { heard.append(QString::number(style)); });
-        trigger(host, name);
-        trigger(host, name);
-        QCOMPARE(heard.join(' '), reported);
+        for (const auto &[name, reported] : rows) {
+            // No background waits for a second click, whatever its description says.
+            const bool isBackground = name.contains("background");
+            TestHost host(
+                row(button("f_open") + button(name, isBackground ? "doubleclick='true'" : "")));
+            QStringList heard;
+            connect(&host.facade(), &MRToolBar::DoActive, this,
+                    [&heard](const QString &command) { heard.append(command); });
+            connect(&host.facade(), &MRToolBar::DoSetBackground, this,
+                    [&heard](BackgroundStyle style) { heard.append(QString::number(style)); });
+            trigger(host, name);
+            trigger(host, name);
+            QCOMPARE(name + ": " + heard.join(' '), name + ": " + reported);
+        }
     }
 
     void shouldEndTheFlowModeWithAPageLayout()
@@ -67,39 +66,29 @@ private Q_SLOTS:
         }
     }
 
-    void shouldTellSingleFromDoubleClicks_data()
-    {
-        QTest::addColumn<QString>("clicks");
-        QTest::addColumn<QString>("single");
-        QTest::addColumn<QString>("twice");
-        const QList<std::array<const char *, 3>> rows{{"a", "a", ""},    {"aa", "", "a"},
-                                                      {"aaa", "a", "a"}, {"ab", "b", ""},
-                                                      {"abb", "", "b"},  {"aba", "a", ""}};
-        for (const auto &[clicks, single, twice] : rows)
-            QTest::newRow(clicks) << clicks << single << twice;
-    }
-
     void shouldTellSingleFromDoubleClicks()
     {
-        QFETCH(QString, clicks);
-        QFETCH(QString, single);
-        QFETCH(QString, twice);
-        TestHost host(row(button("a", "doubleclick='true'") + button("b", "doubleclick='true'")));
-        const QSignalSpy active(&host.facade(), &MRToolBar::DoActive);
-        const QSignalSpy doubleActive(&host.facade(), &MRToolBar::DoDoubleActive);
-        QElapsedTimer clock;
-        clock.start();
-        for (const QChar name : clicks)
-            trigger(host, name);
-        QCOMPARE(TestHost::texts(doubleActive).join(""), twice);
-        QCOMPARE(active.count(), 0);
-        if (!single.isEmpty()) {
-            QTRY_COMPARE_WITH_TIMEOUT(active.count(), 1, 2000);
-            QVERIFY2(clock.elapsed() >= 230, "The wait for a second click was too short");
+        using Clicks = std::array<QString, 3>;
+        for (const auto &[clicks, single, twice] :
+             {Clicks{"a", "a", ""}, {"aaa", "a", "a"}, {"abb", "", "b"}, {"aba", "a", ""}}) {
+            TestHost host(
+                row(button("a", "doubleclick='true'") + button("b", "doubleclick='true'")));
+            const QSignalSpy active(&host.facade(), &MRToolBar::DoActive);
+            const QSignalSpy doubleActive(&host.facade(), &MRToolBar::DoDoubleActive);
+            QElapsedTimer clock;
+            clock.start();
+            for (const QChar name : clicks)
+                trigger(host, name);
+            QCOMPARE(TestHost::texts(doubleActive).join(""), twice);
+            QVERIFY2(active.isEmpty(), qPrintable(clicks));
+            if (!single.isEmpty()) {
+                QTRY_COMPARE_WITH_TIMEOUT(active.count(), 1, 2000);
+                QVERIFY2(clock.elapsed() >= 230, "The wait for a second click was too short");
+            }
+            QTest::qWait(300);
+            QCOMPARE(clicks + ": " + TestHost::texts(active).join(""), clicks + ": " + single);
+            QCOMPARE(doubleActive.count(), twice.isEmpty() ? 0 : 1);
         }
-        QTest::qWait(300);
-        QCOMPARE(TestHost::texts(active).join(""), single);
-        QCOMPARE(doubleActive.count(), twice.isEmpty() ? 0 : 1);
     }
 
     void shouldReleaseTheOtherDropButtonsForAnAnnotationTool()
@@ -123,6 +112,116 @@ private Q_SLOTS:
             }
             QCOMPARE(checked.join(' '), held);
         }
+    }
+
+    void checkingByNameIsSilent()
+    {
+        const QString tool = "group='tools' checkable='true'";
+        TestHost host(row(button("pen", tool + " checked='true'") + button("ink", tool)
+                          + button("off", tool + " usable='false'")
+                          + button("hid", tool + " visible='false'")));
+        QSignalSpy active(&host.facade(), &MRToolBar::DoActive);
+        QString name = "ink:red:thick";
+        host.facade().DoSetControlCheckedStateSlot(name, true);
+        QCOMPARE(name, QStringLiteral("ink"));
+        QVERIFY(host.action("ink")->isChecked() && !host.action("pen")->isChecked());
+        for (const char *refusing : {"off", "hid"}) {
+            host.setChecked(refusing, true);
+            QVERIFY(host.facade().GetControlCheckedState(refusing));
+        }
+        QVERIFY(!host.action("off")->isEnabled() && !host.action("ink")->isChecked());
+        QVERIFY(active.isEmpty());
+        host.action("ink")->trigger();
+        QCOMPARE(TestHost::texts(active), QStringList("ink"));
+    }
+
+    void aStateSetByNameLeavesAControlToItsNextStates()
+    {
+        TestHost host(row("<menu name='m' text='M' checkable='true'>" + tool("one") + "</menu>"));
+        host.setChecked("m", true);
+        for (const bool usable : {false, true}) {
+            host.setUsable("m", usable);
+            QCOMPARE(host.facade().GetCompositeEnable("m"), usable);
+        }
+    }
+
+    void anUnavailableControlReportsNothingAtFirst()
+    {
+        TestHost host(row(button("c", "available='false' checkable='true'") + button("menu_c")));
+        host.setUsable("nothing", true);
+        QSignalSpy active(&host.facade(), &MRToolBar::DoActive);
+        host.action("menu_c")->trigger();
+        QVERIFY(active.isEmpty());
+        QVERIFY(host.action("c")->isChecked());
+        host.action("menu_c")->trigger();
+        QCOMPARE(TestHost::texts(active), QStringList("c"));
+        QVERIFY(!host.action("c")->isChecked());
+        host.setUsable("c", true); // From now on it is like any other.
+        QVERIFY(host.action("c")->isEnabled());
+    }
+
+    void anyOtherStateEndsTheShapeTool()
+    {
+        const QString menu = "<menu name='%1' text='%1' checkable='true' switchable='true'>";
+        TestHost host(row(menu.arg("tp_shape") + tool("tp_arrow") + "</menu>" + menu.arg("pens")
+                          + tool("tool") + "</menu>"));
+        const auto *shapes = host.find<MRDropButton>("tp_shape");
+        const auto *pens = host.find<MRDropButton>("pens");
+        for (const QString name : {"tw_watermark_add", "tp_else", "my tp_tool:x", "tool"}) {
+            for (const bool checked : {true, false}) {
+                host.setChecked("tp_arrow", true);
+                QVERIFY(shapes->isChecked()); // In line with its menu.
+                host.setChecked(name, checked);
+                QVERIFY2(shapes->isChecked() == (name != "tool"), qPrintable(name));
+                QCOMPARE(pens->isChecked(), host.action("tool")->isChecked());
+            }
+        }
+    }
+
+    void aDropButtonPassesOnFromAHiddenEntry()
+    {
+        // Which entries are hidden one after the other, and the one that the button then has.
+        const QList<std::tuple<QString, QString, QString>> rows{
+            {"index='2'", "1", "2"}, // Another one.
+            {"index='2'", "2", "3"},
+            {"index='3'", "3", "1"},
+            {"index='1'", "21", "3"},
+            {"index='1'", "231", "1"}, // There is no other one.
+            {"index='2' withaction='true'", "2", "1"},
+            {"index='2' withaction='true'", "12", "3"}};
+        for (const auto &[attributes, hidden, current] : rows) {
+            TestHost host(row("<menu name='m' checkable='true' " + attributes + ">" + tool("1")
+                              + tool("2") + tool("3") + "</menu>"));
+            for (const QChar name : hidden)
+                host.setVisible(name, false);
+            const QString story = attributes + " without " + hidden + ": ";
+            QCOMPARE(story + host.find<MRDropButton>("m")->GetCurrentAction()->objectName(),
+                     story + current);
+        }
+    }
+
+    void resettingLeavesEnabledAndVisibleStatesAlone()
+    {
+        TestHost host(row(button("on", "checkable='true' checked='true'") + button("off")
+                          + "<menu name='m' text='M' checkable='true' switchable='true'>"
+                          + tool("one")
+                          + "</menu><lineedit name='d_gotopage'/>"
+                            "<label name='d_totalpagelabel' text='/'/>"));
+        host.setUsable("off", false);
+        host.setVisible("off", false);
+        host.setUsable("d_gotopage", false);
+        host.facade().DoSetPageInfoSlot(3, 12);
+        host.setChecked("one", true);
+        QSignalSpy active(&host.facade(), &MRToolBar::DoActive);
+        host.facade().DoResetToolbarSlot();
+        QVERIFY(!host.action("on")->isChecked() && !host.action("one")->isChecked());
+        QVERIFY(!host.find<MRDropButton>("m")->isChecked());
+        QVERIFY(active.isEmpty());
+        QVERIFY(!host.action("off")->isVisible() && host.action("on")->isEnabled());
+        QVERIFY(!host.facade().GetCompositeEnable("off"));
+        QVERIFY(!host.facade().GetCompositeEnable("d_gotopage"));
+        QCOMPARE(host.find<QLineEdit>("d_gotopage")->text(), QString());
+        QCOMPARE(host.find<QLabel>("d_totalpagelabel")->text(), QStringLiteral("/ "));
     }
 };
 

@@ -9,9 +9,21 @@ struct Bare
     MRToolBar facade{nullptr, description, {}, ToolBarLeft};
 };
 
-QVariantList fields(const SearchOption &option)
+/** Asks and tells a facade that has no toolbar, or none any more. */
+void verifyIsNeutral(MRToolBar &facade)
 {
-    return {option.content, option.direction, option.wholeWord, option.noCase, option.newSearch};
+    QString name = "a";
+    QVERIFY(!facade.GetCompositeVisible(name) && !facade.GetCompositeEnable(name));
+    QVERIFY(!facade.IsSupportByToolBar(name) && !facade.GetControlCheckedState(name));
+    QCOMPARE(facade.GetQuickAccessButtonList() + facade.GetToolBarStyleSheet(), QString());
+    QCOMPARE(facade.GetControlGeometry(name), QRect(QPoint(0, 0), QPoint(-1, -1)));
+
+    facade.DoSetControlUsableStateSlot(name, true);
+    facade.DoSetControlCheckedStateSlot(name, true);
+    facade.DoSetControlVisibleStateSlot(name, true);
+    facade.DoSetPageInfoSlot(1, 2);
+    facade.DoSetSkinStyleSlot({{"[MainColor]", "red"}});
+    facade.DoResetToolbarSlot();
 }
 
 } // namespace
@@ -22,16 +34,8 @@ class FacadeTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void shouldAnswerNeutrallyWithoutAToolBar_data()
-    {
-        QTest::addColumn<bool>("hadWindow");
-        QTest::newRow("there never was a window") << false;
-        QTest::newRow("the window has died") << true;
-    }
-
     void shouldAnswerNeutrallyWithoutAToolBar()
     {
-        QFETCH(bool, hadWindow);
         TestHost host("<toolbar_tabbar><tabbutton name='t' checked='true'><button text='nameless'/>"
                       "<button action='a' checkable='true' checked='true'/></tabbutton>"
                       "</toolbar_tabbar>");
@@ -39,48 +43,28 @@ private Q_SLOTS:
         QVERIFY(host.toolBar()->IsSupportByToolBar(""));
         QVERIFY2(!host.facade().IsSupportByToolBar(""), "An empty name is nobody's");
         host.deleteWindow();
-        Bare bare;
-        MRToolBar &facade = hadWindow ? host.facade() : bare.facade;
-
-        QString name = "a";
-        QVERIFY(!facade.GetCompositeVisible(name) && !facade.GetCompositeEnable(name));
-        QVERIFY(!facade.IsSupportByToolBar(name) && !facade.GetControlCheckedState(name));
-        QCOMPARE(facade.GetQuickAccessButtonList() + facade.GetToolBarStyleSheet(), QString());
-        QCOMPARE(facade.GetControlGeometry(name), QRect(QPoint(0, 0), QPoint(-1, -1)));
-
-        facade.DoSetControlUsableStateSlot(name, true);
-        facade.DoSetControlCheckedStateSlot(name, true);
-        facade.DoSetControlVisibleStateSlot(name, true);
-        facade.DoSetPageInfoSlot(1, 2);
-        facade.DoSetSkinStyleSlot({{"[MainColor]", "red"}});
-        facade.DoResetToolbarSlot();
-    }
-
-    void shouldSendTheTotalBeforeThePage_data()
-    {
-        QTest::addColumn<int>("page");
-        QTest::addColumn<int>("total");
-        QTest::addColumn<QStringList>("sent");
-        QTest::newRow("page and total") << 3 << 12 << QStringList{"/ 12", "3"};
-        QTest::newRow("no total") << 3 << 0 << QStringList{" ", " "};
-        QTest::newRow("no page") << 0 << 7 << QStringList{" ", " "};
-        QTest::newRow("negative numbers") << -1 << -2 << QStringList{"/ -2", "-1"};
+        verifyIsNeutral(host.facade());
+        Bare thereNeverWasAWindow;
+        verifyIsNeutral(thereNeverWasAWindow.facade);
     }
 
     void shouldSendTheTotalBeforeThePage()
     {
-        QFETCH(int, page);
-        QFETCH(int, total);
-        QFETCH(QStringList, sent);
         Bare from;
         // Two spies would not show the order; a second facade brings both into one signal.
         Bare recorder;
-        const QSignalSpy heard(&recorder.facade, &MRToolBar::DoActive);
         for (const char *signal :
              {SIGNAL(Inner_DoSetTotalPage(QString)), SIGNAL(Inner_DoSetPageNum(QString))})
             connect(&from.facade, signal, &recorder.facade, SLOT(Inner_DoActiveSlot(QString)));
-        from.facade.DoSetPageInfoSlot(page, total);
-        QCOMPARE(TestHost::texts(heard), sent);
+        const QList<std::tuple<int, int, QStringList>> calls{{3, 12, {"/ 12", "3"}},
+                                                             {3, 0, {" ", " "}},
+                                                             {0, 7, {" ", " "}},
+                                                             {-1, -2, {"/ -2", "-1"}}};
+        for (const auto &[page, total, sent] : calls) {
+            const QSignalSpy heard(&recorder.facade, &MRToolBar::DoActive);
+            from.facade.DoSetPageInfoSlot(page, total);
+            QCOMPARE(TestHost::texts(heard), sent);
+        }
     }
 
     void shouldDeclareWhatHostsConnectToByText()
@@ -128,16 +112,17 @@ private Q_SLOTS:
         QSignalSpy skins(&to.facade, SIGNAL(Inner_DoSetSkinStyle(ToolBarSkinStyle)));
 
         const ToolBarSkinStyle skin{{"[MainColor]", "#123456"}};
-        const SearchOption search{"ofd", 0, true, true, true};
-        from.facade.Inner_DoSearchContentSlot(search);
+        from.facade.Inner_DoSearchContentSlot({"ofd", 0, true, false, true});
         from.facade.Inner_DoSetBackgroundSlot(Background_Eyeguard);
         from.facade.DoSetSkinStyleSlot(skin);
-        QCOMPARE(searches.count(), 0);
+        QVERIFY(searches.isEmpty());
 
         QTRY_COMPARE(skins.count(), 1);
         QCOMPARE(skins.first().first().value<ToolBarSkinStyle>(), skin);
         QCOMPARE(searches.count(), 1);
-        QCOMPARE(fields(searches.first().first().value<SearchOption>()), fields(search));
+        const auto search = searches.first().first().value<SearchOption>();
+        QCOMPARE(search.content, QString("ofd"));
+        QVERIFY(search.direction == 0 && search.wholeWord && !search.noCase && search.newSearch);
         QCOMPARE(backgrounds.count(), 1);
         QCOMPARE(backgrounds.first().first().value<BackgroundStyle>(), Background_Eyeguard);
     }

@@ -1,44 +1,105 @@
-#include "tests/support/HandWriting.h"
+#include "toolbar/handwrite/MRHandWriteDialog.h"
 
+#include <QAbstractButton>
+#include <QApplication>
+#include <QButtonGroup>
 #include <QLabel>
+#include <QMouseEvent>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QSlider>
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <vector>
+
 namespace {
 
-const char sheet[] = "QPushButton:checked{border:1px DotLine lightgray;} "
-                     "QDialog{border:1px solid lightgray;}";
-constexpr int colourButtonCount = 10;
-constexpr int trackButtonCount = 6;
-
-const QList<QColor> &defaultColours()
+/** Track records as a host would own them. */
+struct Tracks
 {
-    static const QList<QColor> colours{Qt::red,  Qt::green,   Qt::yellow,  Qt::black,     Qt::white,
-                                       Qt::blue, Qt::darkRed, Qt::magenta, Qt::darkGreen, Qt::cyan};
-    return colours;
+    explicit Tracks(int count, int selected = -1)
+        : records(size_t(count))
+    {
+        for (int i = 0; i < count; ++i) {
+            Track &track = (*this)[i];
+            track = {i, Qt::blue, 3, 10, 0, i == selected, QString()};
+            list.append(&track);
+        }
+    }
+    Track &operator[](int index) { return records.at(size_t(index)); }
+
+    std::vector<Track> records;
+    QList<Track *> list;
+};
+
+class Dialog : public MRHandWriteDialog
+{
+public:
+    using MRHandWriteDialog::MRHandWriteDialog;
+
+    void appear()
+    {
+        show();
+        activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(this));
+    }
+    template <typename Part = QWidget>
+    Part *find(const QString &name) const
+    {
+        return findChild<Part *>(name);
+    }
+    /** Counted from 0, as tracks and colours are. */
+    QPushButton *colourButton(int i) const { return numbered("pushButtonColor", i); }
+    QPushButton *trackButton(int i) const { return numbered("pushButtonTrack", i); }
+    QSlider *slider() const { return find<QSlider>("spliderThickness"); }
+    QString thickness() const { return find<QLabel>("labelThickness")->text(); }
+
+    QColor swatchColour(int i) const
+    {
+        return colourButton(i)->icon().pixmap(QSize(35, 35)).toImage().pixelColor(17, 17);
+    }
+    /** The place of the checked button of a group, from 0; -1 for none, or for more than one. */
+    int checkedIn(const char *group) const
+    {
+        QList<int> checked;
+        const QList<QAbstractButton *> buttons = find<QButtonGroup>(group)->buttons();
+        for (int i = 0; i < buttons.size(); ++i) {
+            if (buttons.at(i)->isChecked())
+                checked.append(i);
+        }
+        return checked.size() == 1 ? checked.first() : -1;
+    }
+
+private:
+    QPushButton *numbered(const char *name, int i) const
+    {
+        return find<QPushButton>(name + QString::number(i + 1));
+    }
+};
+
+int pixelsOf(QWidget *widget, const QColor &colour)
+{
+    const QImage image = widget->grab().toImage();
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            count += image.pixelColor(x, y) == colour ? 1 : 0;
+    }
+    return count;
 }
 
-QColor swatchColour(const QDialog &dialog, int index)
+void sendMouse(QWidget *widget, QEvent::Type type, const QPoint &global, Qt::MouseButton button)
 {
-    const QIcon icon = colourButton(dialog, index)->icon();
-    return icon.pixmap(QSize(35, 35)).toImage().pixelColor(17, 17);
-}
-
-QString pictureFile(const QTemporaryDir &folder)
-{
-    QPixmap picture(60, 40);
-    picture.fill(Qt::darkGray);
-    const QString path = folder.filePath(QStringLiteral("pen.png"));
-    return picture.save(path) ? path : QString();
+    const bool isMove = type == QEvent::MouseMove;
+    QMouseEvent event(type, widget->mapFromGlobal(global), global, isMove ? Qt::NoButton : button,
+                      type == QEvent::MouseButtonRelease ? Qt::NoButton : button, Qt::NoModifier);
+    QApplication::sendEvent(widget, &event);
 }
 
 } // namespace
 
-Q_DECLARE_METATYPE(Track *)
-
-/** What the dialog of handwriting shows of what its host sets. */
+/** The dialog of handwriting: what it shows of what its host sets, and under the user's hands. */
 class HandWriteDialogTest : public QObject
 {
     Q_OBJECT
@@ -46,67 +107,52 @@ class HandWriteDialogTest : public QObject
 private Q_SLOTS:
     void newDialogShowsDefaults()
     {
-        const MRHandWriteDialog dialog;
-        QCOMPARE(dialog.objectName(), QStringLiteral("HandWriteDialog"));
-        QCOMPARE(dialog.styleSheet(), QLatin1String(sheet));
-        for (int i = 0; i < colourButtonCount; ++i) {
-            const QPushButton *button = colourButton(dialog, i);
-            QCOMPARE(swatchColour(dialog, i), defaultColours().at(i));
-            QCOMPARE(button->icon().availableSizes(QIcon::Normal, QIcon::Off),
-                     QList<QSize>{QSize(35, 35)});
+        const QList<QColor> colours{Qt::red,  Qt::green,   Qt::yellow,  Qt::black,     Qt::white,
+                                    Qt::blue, Qt::darkRed, Qt::magenta, Qt::darkGreen, Qt::cyan};
+        QWidget parent;
+        const Dialog dialog(&parent);
+        QVERIFY(dialog.isWindow());
+        QCOMPARE(dialog.windowFlags() & ~Qt::WindowType_Mask,
+                 Qt::WindowFlags(Qt::FramelessWindowHint));
+        for (int i = 0; i < 10; ++i) {
+            const QPushButton *button = dialog.colourButton(i);
+            QCOMPARE(dialog.swatchColour(i), colours.at(i));
             QCOMPARE(button->iconSize(), QSize(35, 35));
             QCOMPARE(button->minimumSize(), QSize(38, 38));
             QCOMPARE(button->maximumSize(), QSize(38, 38));
             QVERIFY(button->isFlat() && button->isCheckable() && !button->isChecked());
-            QCOMPARE(button->text(), QString());
-            QVERIFY(dialog.findChild<QWidget *>("widgetColorSelect")->isAncestorOf(button));
         }
-        const auto *slider = dialog.findChild<QSlider *>("spliderThickness");
-        QCOMPARE(slider->maximum(), 10);
-        QCOMPARE(slider->value(), 8);
-        QCOMPARE(dialog.findChild<QLabel *>("labelThickness")->text(), QStringLiteral("8"));
+        QCOMPARE(dialog.slider()->maximum(), 10);
+        QCOMPARE(dialog.slider()->value(), 8);
+        QCOMPARE(dialog.thickness(), QString("8"));
     }
 
     void everyPictureButtonHasAnAccessibleName()
     {
-        MRHandWriteDialog dialog;
+        Dialog dialog;
         const QList<QAbstractButton *> buttons = dialog.findChildren<QAbstractButton *>();
         for (const QAbstractButton *button : buttons) {
             const bool isNamed = !button->accessibleName().isEmpty() || button->text().size() > 1;
             QVERIFY2(isNamed, qPrintable(button->objectName()));
         }
-        QCOMPARE(colourButton(dialog, 5)->accessibleName(), QString::fromUtf8("蓝色"));
+        QCOMPARE(dialog.colourButton(5)->accessibleName(), QString("蓝色"));
         QList<QColor> colours{QColor(0x12, 0x34, 0x56)};
         dialog.SetCommonColor(colours);
-        QCOMPARE(colourButton(dialog, 0)->accessibleName(), QStringLiteral("#123456"));
-    }
-
-    void isAFramelessWindowEvenWithAParent()
-    {
-        QWidget parent;
-        const MRHandWriteDialog dialog(&parent);
-        QVERIFY(dialog.isWindow());
-        QCOMPARE(dialog.windowFlags() & ~Qt::WindowType_Mask,
-                 Qt::WindowFlags(Qt::FramelessWindowHint));
-    }
-
-    void colourListsOfAnyLengthDressTheFirstSwatches_data()
-    {
-        QTest::addColumn<int>("count");
-        for (const int count : {0, 1, 3, 10, 12})
-            QTest::addRow("%d colours", count) << count;
+        QCOMPARE(dialog.colourButton(0)->accessibleName(), QString("#123456"));
     }
 
     void colourListsOfAnyLengthDressTheFirstSwatches()
     {
-        QFETCH(int, count);
-        MRHandWriteDialog dialog;
-        QList<QColor> colours;
-        for (int i = 0; i < count; ++i)
-            colours.append(QColor(10 * i, 100, 200));
-        dialog.SetCommonColor(colours);
-        for (int i = 0; i < colourButtonCount; ++i)
-            QCOMPARE(swatchColour(dialog, i), i < count ? colours.at(i) : defaultColours().at(i));
+        for (const int count : {0, 3, 12}) {
+            Dialog dialog;
+            QList<QColor> colours;
+            for (int i = 0; i < count; ++i)
+                colours.append(QColor(10 * i, 100, 200));
+            dialog.SetCommonColor(colours);
+            const Dialog untouched;
+            for (int i = 0; i < 10; ++i)
+                QCOMPARE(dialog.swatchColour(i), colours.value(i, untouched.swatchColour(i)));
+        }
     }
 
     void selectedTrackIsShown_data()
@@ -136,123 +182,210 @@ private Q_SLOTS:
         QFETCH(int, selected);
         QFETCH(QColor, colour);
         QFETCH(int, opacity);
-        MRHandWriteDialog dialog;
+        Dialog dialog;
         Tracks tracks(count, selected);
-        tracks[selected].colour = colour;
-        tracks[selected].opacity = opacity;
-        tracks[selected].thickness = 17;
-        tracks[selected].maximumThickness = 25;
+        tracks[selected] = {selected, colour, 17, 25, opacity, true, QString()};
         dialog.SetCommonTrackInfo(tracks.list);
 
-        QTEST(checkedIn(dialog, "buttonTrackGroup").value(0, -1), "checkedTrack");
-        QTEST(checkedIn(dialog, "buttonColorGroup").value(0, -1), "checkedColour");
-        QTEST(checkedIn(dialog, "buttonOpacityGroup").value(0, -1), "checkedOpacity");
-        QCOMPARE(dialog.findChild<QSlider *>("spliderThickness")->maximum(), 25);
-        QCOMPARE(dialog.findChild<QLabel *>("labelThickness")->text(), QStringLiteral("17"));
-    }
-
-    void onlyASingleTrackGetsItsPicture_data()
-    {
-        QTest::addColumn<int>("count");
-        for (const int count : {0, 1, 2, 6, 9})
-            QTest::addRow("%d tracks", count) << count;
+        QTEST(dialog.checkedIn("buttonTrackGroup"), "checkedTrack");
+        QTEST(dialog.checkedIn("buttonColorGroup"), "checkedColour");
+        QTEST(dialog.checkedIn("buttonOpacityGroup"), "checkedOpacity");
+        QCOMPARE(dialog.slider()->maximum(), 25);
+        QCOMPARE(dialog.thickness(), QString("17"));
     }
 
     void onlyASingleTrackGetsItsPicture()
     {
-        QFETCH(int, count);
         const QTemporaryDir folder;
-        const QString picture = pictureFile(folder);
-        QVERIFY(!picture.isEmpty());
-        Tracks tracks(count);
-        for (int i = 0; i < count; ++i)
-            tracks[i].icon = picture;
-
-        MRHandWriteDialog dialog;
-        dialog.SetCommonTrackInfo(tracks.list);
-        for (int i = 0; i < trackButtonCount; ++i) {
-            const bool isDressed = count == 1 && i == 0;
-            const QPushButton *button = trackButton(dialog, i);
-            QCOMPARE(button->icon().isNull(), !isDressed);
-            QCOMPARE(button->text().isEmpty(), isDressed);
-            QCOMPARE(button->iconSize() == QSize(60, 40), isDressed);
-            QVERIFY(button->isCheckable() && button->isFlat());
+        const QString picture = folder.filePath("pen.png");
+        QVERIFY(QImage(60, 40, QImage::Format_RGB32).save(picture));
+        for (const int count : {0, 1, 2, 9}) {
+            Tracks tracks(count);
+            for (Track *track : std::as_const(tracks.list))
+                track->icon = picture;
+            Dialog dialog;
+            dialog.SetCommonTrackInfo(tracks.list);
+            for (int i = 0; i < 6; ++i) {
+                const bool isDressed = count == 1 && i == 0;
+                const QPushButton *button = dialog.trackButton(i);
+                QCOMPARE(button->icon().isNull(), !isDressed);
+                QCOMPARE(button->text().isEmpty(), isDressed);
+                QCOMPARE(button->iconSize() == QSize(60, 40), isDressed);
+                QVERIFY(button->isCheckable() && button->isFlat());
+            }
         }
-    }
-
-    void noSelectedTrackLeavesTheSettings_data()
-    {
-        QTest::addColumn<QList<Track *>>("tracks");
-        static Track unselected;
-        QTest::newRow("empty list") << QList<Track *>();
-        QTest::newRow("none selected") << QList<Track *>{&unselected, &unselected};
-        QTest::newRow("null entries") << QList<Track *>{nullptr, &unselected, nullptr};
-        QTest::newRow("a single null entry") << QList<Track *>{nullptr};
     }
 
     void noSelectedTrackLeavesTheSettings()
     {
-        QFETCH(QList<Track *>, tracks);
-        MRHandWriteDialog dialog;
+        Dialog dialog;
         Tracks first(6, 2);
-        dialog.SetCommonTrackInfo(first.list);
-        dialog.SetCommonTrackInfo(tracks);
-        QCOMPARE(dialog.GetCommonTrackInfo(), tracks);
-        QCOMPARE(checkedIn(dialog, "buttonTrackGroup"), only(2));
-        QCOMPARE(checkedIn(dialog, "buttonOpacityGroup"), only(0));
-        QCOMPARE(dialog.findChild<QSlider *>("spliderThickness")->value(), 3);
+        Track unselected;
+        using List = QList<Track *>;
+        for (List tracks : {List(), List{&unselected, &unselected},
+                            List{nullptr, &unselected, nullptr}, List{nullptr}}) {
+            dialog.SetCommonTrackInfo(first.list);
+            dialog.SetCommonTrackInfo(tracks);
+            QCOMPARE(dialog.GetCommonTrackInfo(), tracks);
+            QCOMPARE(dialog.checkedIn("buttonTrackGroup"), 2);
+            QCOMPARE(dialog.checkedIn("buttonOpacityGroup"), 0);
+            QCOMPARE(dialog.slider()->value(), 3);
+        }
     }
 
     void laterTrackReplacesTheEarlierOne()
     {
-        MRHandWriteDialog dialog;
+        Dialog dialog;
         Tracks tracks(6, 3);
         tracks[3].maximumThickness = -5;
         dialog.SetCommonTrackInfo(tracks.list);
-        const auto *slider = dialog.findChild<QSlider *>("spliderThickness");
-        QCOMPARE(slider->value(), 0);
+        QCOMPARE(dialog.slider()->value(), 0);
 
         Tracks later(6, 0);
         later[0].colour = QColor(1, 2, 3);
         later[0].opacity = 9;
         dialog.SetCommonTrackInfo(later.list);
         for (const char *group : {"buttonTrackGroup", "buttonColorGroup", "buttonOpacityGroup"})
-            QCOMPARE(checkedIn(dialog, group), only(-1));
-        QCOMPARE(slider->minimum(), 0);
-        QCOMPARE(slider->value(), 3);
+            QCOMPARE(dialog.checkedIn(group), -1);
+        QCOMPARE(dialog.slider()->minimum(), 0);
+        QCOMPARE(dialog.slider()->value(), 3);
 
         later.list.prepend(nullptr);
         dialog.SetCommonTrackInfo(later.list);
-        QCOMPARE(checkedIn(dialog, "buttonTrackGroup"), only(1));
+        QCOMPARE(dialog.checkedIn("buttonTrackGroup"), 1);
     }
 
-    void trackListIsHandedBackAndRecordsStayUntouched()
+    void whatTheHostSetsStaysItsOwn()
     {
-        MRHandWriteDialog dialog;
+        Dialog dialog;
+        const QSignalSpy updated(&dialog, SIGNAL(DoUpdateRegionDefaultSize(int)));
+        const QSignalSpy changed(&dialog, SIGNAL(DoUpdateCommonTrackInfo(QList<HandTrack *> &)));
+        QVERIFY(updated.isValid() && changed.isValid());
+        QCOMPARE(dialog.GetRegionSize(), 0);
         QVERIFY(dialog.GetCommonTrackInfo().isEmpty());
         Tracks tracks(6, 2);
+        dialog.SetRegionSize(42);
         dialog.SetCommonTrackInfo(tracks.list);
-        colourButton(dialog, 0)->click();
-        trackButton(dialog, 4)->click();
-        dialog.findChild<QSlider *>("spliderThickness")->setValue(9);
+        dialog.colourButton(0)->click();
+        dialog.trackButton(4)->click();
+        dialog.slider()->setValue(9);
 
+        QCOMPARE(dialog.GetRegionSize(), 42);
         QCOMPARE(dialog.GetCommonTrackInfo(), tracks.list);
         QCOMPARE(tracks[2].colour, QColor(Qt::blue));
         QCOMPARE(tracks[2].thickness, 3);
         QVERIFY(tracks[2].selected && !tracks[4].selected);
+        QVERIFY(updated.isEmpty() && changed.isEmpty());
     }
 
-    void regionSizeAndSignalsAreTheHosts()
+    void clicksKeepOneButtonOfAGroupChecked()
     {
-        MRHandWriteDialog dialog;
-        QSignalSpy updated(&dialog, SIGNAL(DoUpdateRegionDefaultSize(int)));
-        QVERIFY(updated.isValid());
-        QVERIFY(dialog.metaObject()->indexOfSignal("DoUpdateCommonTrackInfo(QList<HandTrack*>&)")
-                >= 0);
-        QCOMPARE(dialog.GetRegionSize(), 0);
-        dialog.SetRegionSize(42);
-        QCOMPARE(dialog.GetRegionSize(), 42);
-        QCOMPARE(updated.count(), 0);
+        Dialog dialog;
+        Tracks tracks(6, 2);
+        dialog.SetCommonTrackInfo(tracks.list);
+        dialog.appear();
+        for (const char *name : {"buttonColorGroup", "buttonOpacityGroup", "buttonTrackGroup"}) {
+            const QList<QAbstractButton *> buttons = dialog.find<QButtonGroup>(name)->buttons();
+            for (int click = 0; click < 2 * buttons.size(); ++click) {
+                QTest::mouseClick(buttons.at(click / 2), Qt::LeftButton);
+                QCOMPARE(dialog.checkedIn(name), click / 2);
+            }
+        }
+    }
+
+    void keyboardMovesTheSlider()
+    {
+        Dialog dialog;
+        dialog.appear();
+        QTest::keyClick(dialog.slider(), Qt::Key_Right);
+        QCOMPARE(dialog.thickness(), QString("9"));
+        QTest::keyClick(dialog.slider(), Qt::Key_Home);
+        QCOMPARE(dialog.thickness(), QString("0"));
+        // Enter on a control must not press some button that happens to be the default.
+        QTest::keyClick(dialog.slider(), Qt::Key_Return);
+        QCOMPARE(dialog.checkedIn("buttonColorGroup"), -1);
+        QVERIFY(dialog.isVisible());
+    }
+
+    void tabKeyFollowsTheEye()
+    {
+        Dialog dialog;
+        Tracks tracks(6, 2);
+        dialog.SetCommonTrackInfo(tracks.list);
+        dialog.appear();
+        QStringList visited;
+        dialog.colourButton(2)->setFocus();
+        do {
+            visited.append(dialog.focusWidget()->objectName());
+            QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
+        } while (dialog.focusWidget() != dialog.colourButton(2) && visited.size() < 50);
+        // A label takes the focus before its link does.
+        visited.removeDuplicates();
+        QCOMPARE(visited.join(' '),
+                 QString("pushButtonColor3 pushButtonFetch labelOtherSelect spliderThickness "
+                         "pushButtonOpacity25p pushButtonTrack3 pushButtonRegionWrite "
+                         "pushButtonRegionWriteSet toolButtonClose"));
+    }
+
+    void previewFollowsTheSettings()
+    {
+        Dialog dialog;
+        dialog.appear();
+        auto *preview = dialog.find<QLabel>("labelPreview");
+        const QString placeholder = "图片预览区域";
+        QCOMPARE(preview->text(), placeholder);
+
+        QTest::mouseClick(dialog.colourButton(0), Qt::LeftButton);
+        const int thick = pixelsOf(preview, Qt::red);
+        dialog.slider()->setValue(4);
+        const int thin = pixelsOf(preview, Qt::red);
+        QVERIFY2(thin > 100 && thick > thin * 3 / 2, qPrintable(QString::number(thin)));
+        QTest::mouseClick(dialog.find("pushButtonOpacity25p"), Qt::LeftButton);
+        QCOMPARE(pixelsOf(preview, Qt::red), 0);
+
+        Tracks tracks(6, 2);
+        tracks[2].opacity = 3;
+        dialog.SetCommonTrackInfo(tracks.list);
+        QVERIFY(pixelsOf(preview, Qt::blue) > 100);
+        dialog.slider()->setValue(0);
+        QCOMPARE(preview->text(), placeholder);
+    }
+
+    void draggingMovesTheDialogUnlessAControlIsPressed()
+    {
+        Dialog dialog;
+        dialog.move(100, 120);
+        dialog.appear();
+        for (const char *name :
+             {"widgetColorSelect", "labelPreview", "spliderThickness", "pushButtonTrack2"}) {
+            auto *widget = dialog.find(name);
+            const bool drags =
+                !qobject_cast<QAbstractButton *>(widget) && widget != dialog.slider();
+            const QPoint before = dialog.pos();
+            const QPoint press = widget->mapToGlobal(QPoint(3, 3));
+            sendMouse(widget, QEvent::MouseButtonPress, press, Qt::LeftButton);
+            QVERIFY2(dialog.pos() == before, name);
+            for (const QPoint &step : {QPoint(7, -4), QPoint(60, 45), QPoint(-30, 20)}) {
+                sendMouse(widget, QEvent::MouseMove, press + step, Qt::LeftButton);
+                QVERIFY2(dialog.pos() == (drags ? before + step : before), name);
+            }
+            sendMouse(widget, QEvent::MouseButtonRelease, press, Qt::LeftButton);
+            const QPoint after = dialog.pos();
+            // A move that belongs to no press on the dialog, as one that a control lets through.
+            sendMouse(widget, QEvent::MouseMove, press + QPoint(9, 9), Qt::LeftButton);
+            QVERIFY2(dialog.pos() == after, name);
+        }
+    }
+
+    void closesByEscapeAndByItsButton()
+    {
+        Dialog dialog;
+        dialog.appear();
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+        QVERIFY(!dialog.isVisible());
+        dialog.appear();
+        QTest::mouseClick(dialog.find("toolButtonClose"), Qt::LeftButton);
+        QVERIFY(!dialog.isVisible());
     }
 };
 

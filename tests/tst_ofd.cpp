@@ -66,6 +66,11 @@ bool isNear(const QColor &a, const QColor &b)
            && qAbs(a.blue() - b.blue()) < most;
 }
 
+QRect inHundredths(const QRectF &place)
+{
+    return QRectF(place.topLeft() * 100, place.size() * 100).toRect();
+}
+
 } // namespace
 
 /** Opening, understanding, painting and refusing OFD files. */
@@ -207,23 +212,18 @@ private Q_SLOTS:
         QVERIFY(document.isModified());
     }
 
-    void distancesAreUnfolded_data()
-    {
-        QTest::addColumn<int>("most");
-        QTest::addColumn<QVector<qreal>>("distances");
-        QTest::newRow("1 2 3") << 9 << QVector<qreal>{1, 2, 3};
-        QTest::newRow("g 3 5") << 9 << QVector<qreal>{5, 5, 5};
-        QTest::newRow("1 g 2 5 7") << 9 << QVector<qreal>{1, 5, 5, 7};
-        QTest::newRow("g 1000000 5") << 2 << QVector<qreal>{5, 5};
-        QTest::newRow("g 2") << 9 << QVector<qreal>{};
-        QTest::newRow("1 x 3") << 9 << QVector<qreal>{1};
-        QTest::newRow("g -4 5 1") << 9 << QVector<qreal>{1};
-    }
-
     void distancesAreUnfolded()
     {
-        QFETCH(int, most);
-        QTEST(Ofd::Values::deltas(QTest::currentDataTag(), most), "distances");
+        constexpr int most = 4;
+        const QList<std::pair<const char *, QVector<qreal>>> unfolded{{"1 2 3", {1, 2, 3}},
+                                                                      {"g 3 5", {5, 5, 5}},
+                                                                      {"1 g 2 5 7", {1, 5, 5, 7}},
+                                                                      {"g 1000000 5", {5, 5, 5, 5}},
+                                                                      {"g 2", {}},
+                                                                      {"1 x 3", {1}},
+                                                                      {"g -4 5 1", {1}}};
+        for (const auto &[text, distances] : unfolded)
+            QVERIFY2(Ofd::Values::deltas(text, most) == distances, text);
     }
 
     void pathsFollowTheirCommands_data()
@@ -248,16 +248,7 @@ private Q_SLOTS:
     {
         QFETCH(QRectF, bounds);
         const QRectF found = Ofd::pathFromData(QTest::currentDataTag()).boundingRect();
-        constexpr qreal most = 0.01;
-        QVERIFY2(qAbs(found.left() - bounds.left()) < most
-                     && qAbs(found.top() - bounds.top()) < most
-                     && qAbs(found.right() - bounds.right()) < most
-                     && qAbs(found.bottom() - bounds.bottom()) < most,
-                 qPrintable(QString("%1 %2 %3 %4")
-                                .arg(found.left())
-                                .arg(found.top())
-                                .arg(found.width())
-                                .arg(found.height())));
+        QCOMPARE(inHundredths(found), inHundredths(bounds));
     }
 
     void inkIsWhereItBelongs_data()

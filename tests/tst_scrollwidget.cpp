@@ -97,7 +97,7 @@ private Q_SLOTS:
         }
     }
 
-    void clicksGoToTheFarEndAndBack()
+    void clicksGoToTheFarEndAndBackOrAStep()
     {
         const ScrolledRow fixture(400);
         fixture.click("right");
@@ -105,16 +105,11 @@ private Q_SLOTS:
         QTRY_COMPARE(fixture.bar()->value(), fixture.end());
         QTRY_VERIFY(fixture.arrow("left")->isVisible());
         QVERIFY(!fixture.arrow("right")->isVisible());
-
         fixture.click("left");
         QTRY_COMPARE(fixture.bar()->value(), 0);
         QTRY_VERIFY(!fixture.arrow("left")->isVisible());
-    }
 
-    void clicksInTheMiddleGoAStepToTheirSide()
-    {
-        const ScrolledRow fixture(400);
-        fixture.bar()->setValue(200);
+        fixture.bar()->setValue(200); // In the middle, to their side.
         fixture.click("right");
         QTRY_VERIFY(fixture.bar()->value() > 200);
         fixture.click("right"); // Still moving.
@@ -125,51 +120,38 @@ private Q_SLOTS:
         QCOMPARE(fixture.bar()->value(), 200);
     }
 
-    void theWheelGoesAStep_data()
-    {
-        QTest::addColumn<QPoint>("delta");
-        QTest::addColumn<int>("value");
-        QTest::newRow("away from the user") << QPoint(0, 120) << 380;
-        QTest::newRow("towards the user") << QPoint(0, -15) << 20;
-        QTest::newRow("sideways") << QPoint(120, 0) << 200;
-    }
-
     void theWheelGoesAStep()
     {
-        QFETCH(QPoint, delta);
-        QFETCH(int, value);
         const ScrolledRow fixture(400);
-        for (QWidget *target :
-             {static_cast<QWidget *>(fixture.label), fixture.area()->viewport()}) {
-            fixture.bar()->setValue(200);
-            turnWheel(target, delta);
-            QTRY_VERIFY(!fixture.isMoving() || fixture.bar()->value() != 200);
-            turnWheel(target, delta); // Ignored while it moves.
-            QTRY_VERIFY(!fixture.isMoving());
-            QCOMPARE(fixture.bar()->value(), value);
+        const QList<std::pair<QPoint, int>> turns{
+            {{0, 120}, 380}, {{0, -15}, 20}, {{120, 0}, 200}}; // The last one is sideways.
+        for (const auto &[delta, value] : turns) {
+            for (QWidget *target :
+                 {static_cast<QWidget *>(fixture.label), fixture.area()->viewport()}) {
+                fixture.bar()->setValue(200);
+                turnWheel(target, delta);
+                QTRY_VERIFY(!fixture.isMoving() || fixture.bar()->value() != 200);
+                turnWheel(target, delta); // Ignored while it moves.
+                QTRY_VERIFY(!fixture.isMoving());
+                QCOMPARE(fixture.bar()->value(), value);
+            }
         }
-    }
-
-    void theWheelOverAComboBoxIsTheComboBoxsOwn_data()
-    {
-        QTest::addColumn<bool>("isEditable");
-        QTest::newRow("field") << false;
-        QTest::newRow("line edit") << true;
     }
 
     void theWheelOverAComboBoxIsTheComboBoxsOwn()
     {
-        QFETCH(bool, isEditable);
         const ScrolledRow fixture(400);
-        fixture.combo->setEditable(isEditable);
-        QWidget *target =
-            isEditable ? static_cast<QWidget *>(fixture.combo->lineEdit()) : fixture.combo;
-        // At the last entry, too, where the combo box itself has nothing left to do.
-        fixture.combo->setCurrentIndex(28);
-        for (int turn = 0; turn < 2; ++turn) {
-            turnWheel(target, QPoint(0, -120));
-            QVERIFY(!fixture.isMoving());
-            QCOMPARE(fixture.combo->currentIndex(), 29);
+        for (const bool isEditable : {false, true}) {
+            fixture.combo->setEditable(isEditable);
+            QWidget *target =
+                isEditable ? static_cast<QWidget *>(fixture.combo->lineEdit()) : fixture.combo;
+            // At the last entry, too, where the combo box itself has nothing left to do.
+            fixture.combo->setCurrentIndex(28);
+            for (int turn = 0; turn < 2; ++turn) {
+                turnWheel(target, QPoint(0, -120));
+                QVERIFY(!fixture.isMoving());
+                QCOMPARE(fixture.combo->currentIndex(), 29);
+            }
         }
     }
 
@@ -209,16 +191,6 @@ private Q_SLOTS:
         fixture.label->setAttribute(Qt::WA_NoMousePropagation);
         QApplication::sendEvent(fixture.label, &stray);
         QVERIFY(!fixture.isMoving());
-    }
-
-    void anAreaThatIsGoneWatchesNothing()
-    {
-        auto *doomed = new ScrolledRow(400);
-        doomed->click("right");
-        delete doomed;
-        const ScrolledRow fixture(400);
-        turnWheel(fixture.label, QPoint(0, 120));
-        QVERIFY(fixture.isMoving());
     }
 };
 

@@ -1,9 +1,8 @@
 #include "tests/support/Menus.h"
 #include "tests/support/TestHost.h"
-#include "toolbar/widgets/MRSearchBar.h"
 
+#include <QLineEdit>
 #include <QMenu>
-#include <QVBoxLayout>
 
 #include <array>
 
@@ -43,47 +42,6 @@ SearchOption lastOf(const QSignalSpy &spy)
     return spy.last().first().value<SearchOption>();
 }
 
-/** A search field of its own, beside another widget that can take the focus. */
-struct Field
-{
-    explicit Field(bool mainBar)
-        : bar(new MRSearchBar(&window, nullptr, previous, next, mainBar))
-    {
-        previous->setFixedSize(20, 20);
-        next->setFixedSize(24, 20);
-        auto *layout = new QVBoxLayout(&window);
-        layout->addWidget(other);
-        layout->addWidget(bar, 0, Qt::AlignLeft);
-        window.resize(900, 200);
-    }
-
-    void show()
-    {
-        window.show();
-        window.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&window));
-        moveFocus(other);
-    }
-
-    static void moveFocus(QWidget *to)
-    {
-        to->setFocus();
-        QTRY_VERIFY(to->hasFocus());
-    }
-
-    int scaled(int length) const
-    {
-        return static_cast<int>(static_cast<float>(length)
-                                * (static_cast<float>(bar->physicalDpiX()) / 96.0F));
-    }
-
-    QWidget window;
-    QLineEdit *other = new QLineEdit(&window);
-    QPushButton *previous = new QPushButton("<");
-    QPushButton *next = new QPushButton(">");
-    MRSearchBar *bar;
-};
-
 } // namespace
 
 /** The search fields and the additional controls at the right end. */
@@ -98,18 +56,33 @@ private Q_SLOTS:
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("button");
         QTest::addColumn<int>("direction"); // -1: no search at all.
-        const QList<std::tuple<const char *, const char *, const char *, const char *, int>> rows{
-            {"Return", "st_input", "abc", "", 1},
-            {"next", "st_input", "abc", "st_next", 1},
-            {"previous", "st_input", "abc", "st_prev", 0},
-            {"Return, empty", "st_input", "", "", -1},
-            {"next, empty", "st_input", "", "st_next", -1},
-            {"second field, Return", "gis_input", "abc", "", 1},
-            {"second field, next", "gis_input", "abc", "gis_next", 1},
-            {"second field, previous", "gis_input", "abc", "gis_prev", 0},
-            {"second field, empty", "gis_input", "", "gis_next", -1}};
-        for (const auto &[name, field, text, button, direction] : rows)
-            QTest::newRow(name) << field << text << button << direction;
+        QTest::newRow("Return") << "st_input"
+                                << "abc"
+                                << "" << 1;
+        QTest::newRow("next") << "st_input"
+                              << "abc"
+                              << "st_next" << 1;
+        QTest::newRow("previous") << "st_input"
+                                  << "abc"
+                                  << "st_prev" << 0;
+        QTest::newRow("Return, empty") << "st_input"
+                                       << ""
+                                       << "" << -1;
+        QTest::newRow("next, empty") << "st_input"
+                                     << ""
+                                     << "st_next" << -1;
+        QTest::newRow("second field, Return") << "gis_input"
+                                              << "abc"
+                                              << "" << 1;
+        QTest::newRow("second field, next") << "gis_input"
+                                            << "abc"
+                                            << "gis_next" << 1;
+        QTest::newRow("second field, previous") << "gis_input"
+                                                << "abc"
+                                                << "gis_prev" << 0;
+        QTest::newRow("second field, empty") << "gis_input"
+                                             << ""
+                                             << "gis_next" << -1;
     }
 
     void shouldSearchFromItsFields()
@@ -193,79 +166,60 @@ private Q_SLOTS:
         }
     }
 
-    void shouldFollowItsPlaceholderInWidth_data()
+    void shouldWidenAndShowItsButtonsInUse_data()
     {
         QTest::addColumn<int>("skin");
-        QTest::addColumn<QString>("placeholder");
-        QTest::addColumn<bool>("resizable");
-        QTest::addColumn<int>("resting"); // At 96 dpi; 0: the layout may choose.
-        QTest::newRow("marodi") << marodi << "点此查找文本" << true << 108;
-        QTest::newRow("lum") << lum << "点此查找文本" << true << 0;
-        QTest::newRow("empty") << marodi << "" << true << 0;
-        QTest::newRow("not resizable") << marodi << "点此查找文本" << false << 0;
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("prompt");
+        QTest::addColumn<int>("resting"); // At 96 dpi; 0: by the sheet, and for good.
+        QTest::newRow("marodi") << marodi << "st_input"
+                                << "点此查找文本" << 108;
+        QTest::newRow("lum") << lum << "st_input"
+                             << "点此查找文本" << 0;
+        QTest::newRow("no prompt") << marodi << "st_input"
+                                   << "" << 0;
+        QTest::newRow("field of a row") << marodi << "gis_input"
+                                        << "" << 0;
     }
 
-    void shouldFollowItsPlaceholderInWidth()
+    void shouldWidenAndShowItsButtonsInUse()
     {
         QFETCH(int, skin);
-        QFETCH(QString, placeholder);
-        QFETCH(bool, resizable);
+        QFETCH(QString, name);
+        QFETCH(QString, prompt);
         QFETCH(int, resting);
         const SkinChoice choice(skin);
-        Field field(true);
-        field.bar->SetResizable(resizable);
-        field.bar->setPlaceholderText(placeholder);
-        field.show();
-        const auto isFixedTo = [&field](int length) {
-            return field.bar->maximumWidth()
-                   == (length > 0 ? field.scaled(length) : QWIDGETSIZE_MAX);
+        TestHost host(QString(sections).replace("Find", prompt));
+        auto *document = new QLineEdit;
+        host.window().setCentralWidget(document);
+        host.showEnabled();
+        document->setFocus();
+        const bool isOnRow = name == "gis_input";
+        auto *previous = host.find<QPushButton>(isOnRow ? "gis_prev" : "st_prev");
+        const auto *next = host.find<QPushButton>(isOnRow ? "gis_next" : "st_next");
+        previous->setFixedWidth(20);
+        auto *field = host.find<QLineEdit>(name);
+        const int rest = resting > 0 ? host.scaled(resting) : field->maximumWidth();
+        const int widened = resting > 0 ? 2 * rest : rest;
+        const auto isSo = [&](int width, bool areButtonsShown) {
+            return field->maximumWidth() == width && previous->isVisible() == areButtonsShown
+                   && next->isVisible() == areButtonsShown;
         };
-        QVERIFY(isFixedTo(resting));
-        QTest::mouseClick(field.bar, Qt::LeftButton, {}, QPoint(5, 5));
-        QVERIFY(isFixedTo(2 * resting));
-        field.bar->setText("kept");
-        field.moveFocus(field.other);
-        QVERIFY(isFixedTo(2 * resting));
-        field.moveFocus(field.bar);
-        field.bar->clear();
-        field.moveFocus(field.other);
-        QVERIFY(isFixedTo(resting));
-    }
 
-    void shouldShowItsButtonsWithTheFocusOrText_data()
-    {
-        QTest::addColumn<int>("skin");
-        QTest::addColumn<bool>("isMainBar");
-        QTest::newRow("main bar of marodi") << marodi << true;
-        QTest::newRow("main bar of lum") << lum << true;
-        QTest::newRow("field of fixed width") << marodi << false;
-    }
-
-    void shouldShowItsButtonsWithTheFocusOrText()
-    {
-        QFETCH(int, skin);
-        QFETCH(bool, isMainBar);
-        const SkinChoice choice(skin);
-        Field field(isMainBar);
-        field.bar->SetResizable(isMainBar);
-        field.bar->setPlaceholderText("Find");
-        field.show();
-        const auto areShown = [&field](bool shown) {
-            return field.previous->isVisible() == shown && field.next->isVisible() == shown;
-        };
-        QVERIFY(areShown(!isMainBar));
-        field.moveFocus(field.bar);
-        QVERIFY(areShown(true));
-        QCOMPARE(field.bar->textMargins(), QMargins(0, 0, 2 * 20, 0));
-        field.bar->setText("kept");
-        field.moveFocus(field.other);
-        QVERIFY(areShown(true));
-        field.moveFocus(field.bar);
-        field.bar->clear();
-        field.moveFocus(field.other);
-        QVERIFY(areShown(!isMainBar));
-        if (isMainBar && skin == marodi)
-            QCOMPARE(field.bar->textMargins(), QMargins(0, 0, 0, field.scaled(3)));
+        QVERIFY(isSo(rest, isOnRow));
+        QTest::mouseClick(field, Qt::LeftButton, {}, QPoint(5, 5));
+        QTRY_VERIFY(field->hasFocus());
+        QVERIFY(isSo(widened, true));
+        QCOMPARE(field->textMargins(), QMargins(0, 0, 2 * 20, 0));
+        QTest::keyClicks(field, "kept");
+        document->setFocus();
+        QVERIFY(isSo(widened, true));
+        field->setFocus();
+        field->clear();
+        document->setFocus();
+        QVERIFY(isSo(rest, isOnRow));
+        if (resting > 0)
+            QCOMPARE(field->textMargins(), QMargins(0, 0, 0, host.scaled(3)));
     }
 };
 

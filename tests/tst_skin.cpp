@@ -1,6 +1,5 @@
 #include "tests/support/TestHost.h"
 #include "tests/support/WarningTrap.h"
-#include "toolbar/skin/Skin.h"
 #include "toolbar/skin/StyleSheet.h"
 
 #include <QRegularExpression>
@@ -10,6 +9,7 @@ using SkinMap = QMap<QString, QString>;
 
 namespace {
 
+const QString external = "externalqss";
 const SkinMap marodiDefaults{
     {"[MainColor]", "#008AD9"},          {"[LightColor]", "#FFFFFF"},
     {"[MainColor.checked]", "#1460AB"},  {"[ToolBarBgColor]", "#F5F5F5"},
@@ -71,109 +71,64 @@ private Q_SLOTS:
         }
     }
 
-    void shouldFillInTheOrderOfTheKeys_data()
+    void shouldFillInTheOrderOfTheKeys()
     {
-        QTest::addColumn<SkinMap>("map");
-        QTest::addColumn<bool>("isCompact");
-        QTest::addColumn<QString>("sheet");
-        QTest::addColumn<QString>("filled");
         const QString sizes = "[DefaultFontSize] [MenuItemHeight] [MenuItemPaddingLeft]";
-        const QList<std::tuple<const char *, SkinMap, bool, QString, const char *>> rows{
+        const QList<std::tuple<const char *, SkinMap, bool, QString, QString>> rows{
             {"every occurrence", SkinMap{{"[A]", "x"}}, false, "[A][A]", "xx"},
             {"by a later key", SkinMap{{"[A]", "[B]"}, {"[B]", "x"}}, false, "[A]", "x"},
             {"not by an earlier key", SkinMap{{"[A]", "x"}, {"[B]", "[A]"}}, false, "[B]", "[A]"},
             {"by a size", SkinMap{{"[A]", "[DefaultFontSize]"}}, false, "[A]", "12"},
             {"any text is a key", SkinMap{{"QMenu", "X"}}, false, "QMenu{}", "X{}"},
             {"no pattern", SkinMap{{"[a].", "x"}}, false, "[A]. a", "[A]. a"},
-            {"no value", SkinMap{}, false, "[MainColor]", "[MainColor]"},
             {"sizes", SkinMap{}, false, sizes, "12 4 4"},
             {"sizes, compact", SkinMap{}, true, sizes, "12 3.5 4"}};
         for (const auto &[name, map, isCompact, sheet, filled] : rows)
-            QTest::newRow(name) << map << isCompact << sheet << filled;
+            QVERIFY2(StyleSheet::filled(sheet, map, isCompact) == filled, name);
     }
 
-    void shouldFillInTheOrderOfTheKeys()
+    void shouldScaleEveryLengthInPixels()
     {
-        QFETCH(SkinMap, map);
-        QFETCH(bool, isCompact);
-        QFETCH(QString, sheet);
-        QFETCH(QString, filled);
-        QCOMPARE(StyleSheet::filled(sheet, map, isCompact), filled);
-    }
-
-    void shouldCompleteTheMapOfTheHost_data()
-    {
-        QTest::addColumn<int>("skin");
-        QTest::addColumn<SkinMap>("given");
-        QTest::addColumn<SkinMap>(
-            "deviation"); // Of the map at the start from the one after a switch.
-        const SkinMap hoverIsPressed{{"[MainColor.hover]", "rgb(183,185,190)"},
-                                     {"[MainColor.pressed]", QString()}};
-        const SkinMap other{{"[MainColor]", "red"}, {"more", "text"}};
-        QTest::newRow("marodi, nothing") << marodi << SkinMap{} << SkinMap{};
-        QTest::newRow("lum, nothing") << lum << SkinMap{} << SkinMap{};
-        QTest::newRow("marodi, some") << marodi << other << SkinMap{};
-        QTest::newRow("lum, some") << lum << other << hoverIsPressed;
-        QTest::newRow("lum, hover")
-            << lum << SkinMap{{"[MainColor.hover]", "blue"}} << hoverIsPressed;
-        QTest::newRow("lum, pressed")
-            << lum << SkinMap{{"[MainColor.pressed]", "red"}} << SkinMap{};
-    }
-
-    void shouldCompleteTheMapOfTheHost()
-    {
-        QFETCH(int, skin);
-        QFETCH(SkinMap, given);
-        QFETCH(SkinMap, deviation);
-        const SkinChoice choice(skin);
-        const SkinMap completed = with(skin == lum ? lumDefaults : marodiDefaults, given);
-        QCOMPARE(Skin::switchedMap(given), completed);
-        QCOMPARE(Skin::initialMap(given), with(completed, deviation));
-    }
-
-    void shouldScaleEveryLengthInPixels_data()
-    {
-        QTest::addColumn<QString>("sheet");
-        QTest::addColumn<float>("factor");
-        QTest::addColumn<QString>("scaled");
         const QList<std::tuple<const char *, const char *, float, const char *>> rows{
             {"nothing to do", "width:7px 007px", 1.0F, "width:7px 007px"},
-            {"rounded down", "border:1px solid", 1.25F, "border:1px solid"},
-            {"half is rounded up", "height:38px", 1.25F, "height:48px"},
-            {"several", "size:33px 11px", 1.25F, "size:41px 14px"},
+            {"half is rounded up, less down", "38px 1px 33px", 1.25F, "48px 1px 41px"},
             {"smaller", "10px 0px", 0.5F, "5px 0px"},
             {"capitals, comments", "/* 3PX */4Px", 2.0F, "/* 6PX */8Px"},
             {"signs and points stay", "-5px 1.5px", 2.0F, "-10px 1.10px"},
             {"other units", "2em 50% #123456 12 px", 2.0F, "2em 50% #123456 12 px"},
             {"no blank between", "1px2px", 2.0F, "2px4px"}};
         for (const auto &[name, sheet, factor, scaled] : rows)
-            QTest::newRow(name) << sheet << factor << scaled;
-    }
-
-    void shouldScaleEveryLengthInPixels()
-    {
-        QFETCH(QString, sheet);
-        QFETCH(float, factor);
-        QFETCH(QString, scaled);
-        QCOMPARE(NewToolBar::ScaleSheet(sheet, factor), scaled);
+            QVERIFY2(NewToolBar::ScaleSheet(sheet, factor) == QLatin1String(scaled), name);
     }
 
     void shouldWearTheSheetOfItsSkin_data()
     {
         QTest::addColumn<int>("skin");
-        QTest::addColumn<bool>("isExternal");
-        QTest::newRow("lum") << lum << false;
-        QTest::newRow("any other") << -1 << false;
-        QTest::newRow("left to the host") << marodi << true;
+        QTest::addColumn<SkinMap>("given");
+        // Of the colours at the start from those after a switch.
+        QTest::addColumn<SkinMap>("deviation");
+        const SkinMap hoverIsPressed{{"[MainColor.hover]", "rgb(183,185,190)"},
+                                     {"[MainColor.pressed]", QString()}};
+        const SkinMap hover{{"[MainColor.hover]", "blue"}};
+        // No sheet has the light colour itself.
+        const SkinMap pressed{{"[MainColor.pressed]", "red"}, {"[Color.checked]", "[LightColor]"}};
+        const SkinMap fontSize{{"[DefaultFontSize]", "[LightColor]"}};
+        QTest::newRow("lum") << lum << SkinMap{} << SkinMap{};
+        QTest::newRow("any other") << -1 << SkinMap{} << SkinMap{};
+        QTest::newRow("any other, some") << -1 << fontSize << SkinMap{};
+        QTest::newRow("lum, hover") << lum << hover << hoverIsPressed;
+        QTest::newRow("lum, pressed") << lum << pressed << SkinMap{};
+        QTest::newRow("left to the host") << marodi << SkinMap{{external, ""}} << SkinMap{};
     }
 
     void shouldWearTheSheetOfItsSkin()
     {
         QFETCH(int, skin);
-        QFETCH(bool, isExternal);
+        QFETCH(SkinMap, given);
+        QFETCH(SkinMap, deviation);
         const SkinChoice choice(skin);
-        const SkinMap external{{"externalqss", ""}};
-        TestHost host("", isExternal ? external : SkinMap{});
+        const bool isExternal = given.contains(external);
+        TestHost host("", given);
         const auto expected = [&](const SkinMap &map) {
             const QString rule =
                 "QToolBar[intoolbar=\"true\"]{border:none;padding:0px 0px 0px 0px;}";
@@ -187,11 +142,12 @@ private Q_SLOTS:
             return isExternal ? kept == sheet && worn.isEmpty() : worn == sheet && kept.isEmpty();
         };
         const SkinMap &defaults = skin == lum ? lumDefaults : marodiDefaults;
-        QVERIFY(isWorn(expected(defaults)));
+        QVERIFY(isWorn(expected(with(with(defaults, given), deviation))));
 
         // Where the sheet goes is settled: the key is one like any other by now.
-        const SkinMap colours =
-            with({{"[ToolBarBgColor]", "#ABCDEF"}}, isExternal ? SkinMap{} : external);
+        SkinMap colours = with(given, {{"[ToolBarBgColor]", "#ABCDEF"}});
+        if (colours.remove(external) == 0)
+            colours.insert(external, QString(""));
         host.facade().DoSetSkinStyleSlot(colours);
         const QString switched = expected(with(defaults, colours));
         QVERIFY(switched.contains("#ABCDEF") && isWorn(switched));
@@ -199,31 +155,20 @@ private Q_SLOTS:
         QVERIFY(isWorn(switched));
     }
 
-    void shouldFindTheIconsOfItsOwnSkinOnly_data()
-    {
-        QTest::addColumn<int>("skin");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("path"); // Below the resources.
-        const QList<std::tuple<const char *, int, const char *, const char *>> rows{
-            {"marodi", marodi, "icon16/Print.svg", "marodi/icons/icon16/Print.svg"},
-            {"lum", lum, "icon16/Print.svg", "lum/icons/icon16/Print.svg"},
-            {"slash", lum, "/icon16/Print.svg", "lum/icons//icon16/Print.svg"},
-            {"no size directory", marodi, "h_software.svg", "marodi/icons/h_software.svg"},
-            {"the other skin's", lum, "h_software.svg", ""},
-            {"in a size directory", marodi, "Print.svg", ""},
-            {"no name", marodi, "", ""}};
-        for (const auto &[title, skin, name, path] : rows)
-            QTest::newRow(title) << skin << name << path;
-    }
-
     void shouldFindTheIconsOfItsOwnSkinOnly()
     {
-        QFETCH(int, skin);
-        QFETCH(QString, name);
-        QFETCH(QString, path);
-        const SkinChoice choice(skin);
-        QCOMPARE(TestHost("").toolBar()->GetIconPath(name),
-                 path.isEmpty() ? path : ":/mr_toolbar/Resources/" + path);
+        const QList<std::tuple<int, QString, QString>> rows{
+            {marodi, "icon16/Print.svg", "marodi/icons/icon16/Print.svg"},
+            {lum, "/icon16/Print.svg", "lum/icons//icon16/Print.svg"},
+            {marodi, "h_software.svg", "marodi/icons/h_software.svg"},
+            {lum, "h_software.svg", ""}, // The other skin's.
+            {marodi, "Print.svg", ""},   // In a directory of its size.
+            {marodi, "", ""}};
+        for (const auto &[skin, name, path] : rows) {
+            const SkinChoice choice(skin);
+            QCOMPARE(TestHost("").toolBar()->GetIconPath(name),
+                     path.isEmpty() ? path : ":/mr_toolbar/Resources/" + path);
+        }
     }
 
     void shouldGiveTheToolkitNoReasonToWarn_data()

@@ -2,11 +2,11 @@
 #include "tests/support/TestHost.h"
 #include "toolbar/widgets/MRGroupButton.h"
 #include "toolbar/widgets/MRMainToolBar.h"
-#include "toolbar/widgets/MRSearchBar.h"
+#include "toolbar/widgets/MRMenuButton.h"
 
-#include <QAction>
 #include <QGridLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMap>
 #include <QStackedWidget>
 
@@ -25,11 +25,13 @@ QString oneTab(const QString &controls, const QString &more = {})
     return tabBar(tab(QStringLiteral("only"), controls, QStringLiteral("checked='true' ") + more));
 }
 
-/** Three tabs with a button each, the first of them on show. */
-QString threeTabs()
+/** Tabs "0" to "2" with a button each. */
+QString threeTabs(const QString &shown = QStringLiteral("0"))
 {
-    return tabBar(tab("a", button("a_command"), "checked='true'") + tab("b", button("b_command"))
-                  + tab("c", button("c_command")));
+    QString tabs;
+    for (const QString name : {"0", "1", "2"})
+        tabs += tab(name, button("command" + name), name == shown ? "checked='true'" : "");
+    return tabBar(tabs);
 }
 
 QStackedWidget *stack(const TestHost &host)
@@ -46,19 +48,14 @@ class TestTabs : public QObject
 private Q_SLOTS:
     void theCheckedTabIsOnShowWhateverItsPosition()
     {
-        for (int checked = 0; checked < 3; ++checked) {
-            QString tabs;
-            for (int i = 0; i < 3; ++i) {
-                const QString name = QString::number(i);
-                tabs += tab(name, button("command" + name), i == checked ? "checked='true'" : "");
-            }
-            TestHost host(tabBar(tabs));
+        for (const QString shown : {"0", "1", "2"}) {
+            TestHost host(threeTabs(shown));
             host.show();
-            for (int i = 0; i < 3; ++i) {
-                const auto *row = host.find<MRMainToolBar>(QString::number(i));
-                QCOMPARE(row->isVisible(), i == checked);
-                QCOMPARE(row->isFilled(), i == checked);
-                QCOMPARE(row->actions().size(), i == checked ? 1 : 0);
+            for (const QString name : {"0", "1", "2"}) {
+                const auto *row = host.find<MRMainToolBar>(name);
+                QCOMPARE(row->isVisible(), name == shown);
+                QCOMPARE(row->isFilled(), name == shown);
+                QCOMPARE(row->actions().size(), name == shown ? 1 : 0);
             }
         }
     }
@@ -69,13 +66,13 @@ private Q_SLOTS:
         host.show();
         QList<bool> isKnownWhenAsked;
         connect(&host.facade(), &MRToolBar::DoRequestAuthority, &host.facade(),
-                [&] { isKnownWhenAsked.append(host.facade().IsSupportByToolBar("b_command")); });
-        for (const char *name : {"b", "a", "b"})
+                [&] { isKnownWhenAsked.append(host.facade().IsSupportByToolBar("command1")); });
+        for (const char *name : {"1", "0", "1"})
             host.click(name);
         QCOMPARE(isKnownWhenAsked, QList<bool>{true});
-        QCOMPARE(host.find<MRMainToolBar>("b")->actions().size(), 1);
-        QVERIFY(host.find<MRMainToolBar>("b")->isVisible());
-        QVERIFY(!host.facade().IsSupportByToolBar("c_command"));
+        QCOMPARE(host.find<MRMainToolBar>("1")->actions().size(), 1);
+        QVERIFY(host.find<MRMainToolBar>("1")->isVisible());
+        QVERIFY(!host.facade().IsSupportByToolBar("command2"));
     }
 
     void theRowsFoldAndUnfold()
@@ -93,7 +90,7 @@ private Q_SLOTS:
             }
         };
         // By the tab on show, another tab, and the buttons.
-        for (const char *clicked : {"a", "a", "a", "b", "b", "t_extend", "t_fold"}) {
+        for (const char *clicked : {"0", "0", "0", "1", "1", "t_extend", "t_fold"}) {
             isShown = !isShown;
             host.click(clicked);
             QCOMPARE(stack(host)->isVisible(), isShown);
@@ -164,38 +161,24 @@ private Q_SLOTS:
         QVERIFY(!panel->isVisible());
     }
 
-    void anExtraSearchFieldTakesOneButtonOrTwo_data()
-    {
-        QTest::addColumn<QStringList>("buttons");
-        QTest::addColumn<int>("direction"); // Of the first button.
-        QTest::newRow("three") << QStringList{"gis_prev", "gis_next", "gis_more"} << -1;
-        QTest::newRow("one") << QStringList{"gis_next"} << 1;
-        QTest::newRow("two") << QStringList{"gis_prev", "gis_next"} << 0;
-    }
-
     void anExtraSearchFieldTakesOneButtonOrTwo()
     {
-        QFETCH(QStringList, buttons);
-        QFETCH(int, direction);
-        QString children;
-        for (const QString &name : std::as_const(buttons))
-            children += button(name);
-        TestHost host(oneTab("<extra scalable='true'><lineedit name='gis_input'>" + children
-                                 + "</lineedit></extra>",
-                             "scalable='true'"));
+        const QString next = button("gis_next");
+        const QString extra =
+            "<extra usable='true'><lineedit name='gis_input'>%1</lineedit></extra>";
+        const QString three = next + button("gis_prev") + button("gis_more");
+        QVERIFY(
+            !TestHost(oneTab(extra.arg(three), "scalable='true'")).find<QLineEdit>("gis_input"));
+
+        TestHost host(oneTab(extra.arg(next), "scalable='true'"));
         host.showEnabled();
-        auto *field = host.find<MRSearchBar>("gis_input");
-        QCOMPARE(field != nullptr, direction >= 0);
-        if (!field)
-            return;
         QSignalSpy found(&host.facade(), &MRToolBar::DoSearchContent);
-        QTest::keyClicks(field, "Oslo");
-        host.click(buttons.first());
+        QTest::keyClicks(host.find<QLineEdit>("gis_input"), "Oslo");
+        host.click("gis_next");
         QCOMPARE(found.size(), 1);
         const auto option = found.first().first().value<SearchOption>();
         QCOMPARE(option.content, QStringLiteral("Oslo"));
-        QCOMPARE(option.direction, direction);
-        QVERIFY(option.newSearch);
+        QCOMPARE(option.direction, 1);
     }
 
     void buttonGroupsStandTwoToAColumn()
@@ -261,6 +244,64 @@ private Q_SLOTS:
         host.action("one")->trigger();
         texts.append(pick->text());
         QTEST(texts, "texts");
+    }
+
+    void theTabOnShowFoldsAndMovesOn_data()
+    {
+        QTest::addColumn<int>("current"); // Of three tabs.
+        QTest::addColumn<QStringList>("disabled");
+        QTest::addColumn<int>("shown");
+        QTest::newRow("the next one") << 0 << QStringList() << 1;
+        QTest::newRow("wraps around") << 2 << QStringList() << 0;
+        QTest::newRow("the next one is disabled") << 0 << QStringList("1") << 0;
+        QTest::newRow("no other one is usable") << 1 << QStringList{"0", "2"} << 1;
+    }
+
+    void theTabOnShowFoldsAndMovesOn()
+    {
+        QFETCH(int, current);
+        QFETCH(QStringList, disabled);
+        const QString name = QString::number(current);
+        for (const bool hides : {false, true}) {
+            TestHost host(threeTabs(name));
+            host.showEnabled();
+            for (const QString &other : std::as_const(disabled))
+                host.find<QPushButton>(other)->setEnabled(false);
+            hides ? host.setVisible(name, false) : host.setUsable(name, false);
+            QTEST(stack(host)->currentIndex(), "shown");
+            QVERIFY(!host.find<MRMainToolBar>(name)->isVisible());
+            const auto *tabButton = host.find<QPushButton>(name);
+            QVERIFY(hides ? !tabButton->isVisible() : !tabButton->isEnabled());
+            QVERIFY(!host.find<QPushButton>("t_fold")->isVisible());
+            QVERIFY(host.find<QPushButton>("t_extend")->isVisible());
+            if (hides || stack(host)->currentIndex() == current)
+                continue;
+            host.find<QPushButton>(name)->setEnabled(true);
+            host.click(name);
+            QVERIFY2(host.find<MRMainToolBar>(name)->isVisible(), "The row has not come back");
+        }
+    }
+
+    void enablingTheTabOnShowMovesOnToo()
+    {
+        TestHost host(threeTabs() + section("appbutton", "<menu name='0' text='App'/>"));
+        host.find<MRMenuButton>("0")->setEnabled(false);
+        for (const bool isFurther : {false, true}) { // Moving on ends the search for the name.
+            host.setUsable("0", true);
+            QCOMPARE(stack(host)->currentIndex(), 1);
+            QCOMPARE(host.find<MRMenuButton>("0")->isEnabled(), isFurther);
+        }
+    }
+
+    void aHostThatSendsAllStatesAgainStillMovesOn()
+    {
+        TestHost host(threeTabs());
+        host.show();
+        connect(&host.facade(), &MRToolBar::DoRequestAuthority, &host.facade(),
+                [&host] { host.setUsable("0", false); });
+        host.setUsable("0", false);
+        QCOMPARE(stack(host)->currentIndex(), 1);
+        QVERIFY(host.find<MRMainToolBar>("1")->isVisible());
     }
 };
 

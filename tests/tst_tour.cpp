@@ -1,4 +1,6 @@
 #include "tests/support/Menus.h"
+#include "tests/support/Pointer.h"
+#include "tests/support/TestDocuments.h"
 #include "tests/support/TestHost.h"
 #include "toolbar/ActionData.h"
 #include "toolbar/widgets/MRMainToolBar.h"
@@ -7,7 +9,6 @@
 #include <QAction>
 #include <QCursor>
 #include <QMenu>
-#include <QStyleOptionToolButton>
 #include <QToolButton>
 
 namespace {
@@ -21,8 +22,8 @@ public:
         , m_active(&m_host->facade(), &MRToolBar::DoActive)
     {
         QObject::connect(&m_host->facade(), &MRToolBar::DoRequestAuthority, &m_host->facade(),
-                         [this] { enableEverything(); });
-        enableEverything();
+                         [this] { m_host->enableEverything(); });
+        m_host->enableEverything();
         m_host->show();
     }
 
@@ -32,27 +33,17 @@ public:
         const QList<QPointer<QPushButton>> buttons = shown<QPushButton>(line);
         for (const QPointer<QPushButton> &button : buttons) {
             hover(button);
-            if (button->menu())
-                popMenu(button, [button] { QTest::mouseClick(button, Qt::LeftButton); });
-        }
-        // The application menus belong to no button of the toolkit's kind.
-        for (const char *name : {"menu_file", "ab_set"}) {
-            auto *button = m_host->find<MRMenuButton>(QLatin1String(name));
-            if (button && button->isVisible() && button->GetMenu())
-                popMenu(button, [button] { QTest::mouseClick(button, Qt::LeftButton); });
+            // The application menus belong to no button of the toolkit's kind.
+            const auto *menuButton = qobject_cast<MRMenuButton *>(button);
+            if (button->menu() || (menuButton && menuButton->GetMenu()))
+                popMenu(button, button->rect().center());
         }
     }
 
     void seeEveryTab()
     {
-        const QList<QPushButton *> buttons = m_host->toolBar()->findChildren<QPushButton *>();
-        for (QPushButton *tab : buttons) {
-            if (tab->property("module") != "tabbutton" || !tab->isVisible())
-                continue;
-            if (!tab->isChecked())
-                QTest::mouseClick(tab, Qt::LeftButton);
-            seeTheRow(m_host->find<MRMainToolBar>(tab->objectName()));
-        }
+        m_host->openEachTab(
+            [this](const QString &tab) { seeTheRow(m_host->find<MRMainToolBar>(tab)); });
     }
 
     int menusSeen() const { return m_menusSeen; }
@@ -71,15 +62,6 @@ private:
         return widgets;
     }
 
-    void enableEverything()
-    {
-        const QList<QAction *> actions = m_host->window().findChildren<QAction *>();
-        for (const QAction *action : actions) {
-            if (!action->objectName().isEmpty())
-                m_host->setUsable(action->objectName(), true);
-        }
-    }
-
     void seeTheRow(const MRMainToolBar *row)
     {
         if (!row)
@@ -91,7 +73,7 @@ private:
                 continue;
             hover(button);
             if (button->menu())
-                popMenu(button, [button] { clickArrow(button); });
+                popMenu(button, arrowOf(button));
             else if (button->isEnabled() && button->defaultAction())
                 useCommand(button);
         }
@@ -107,25 +89,11 @@ private:
         QTest::mouseMove(&m_host->window(), m_host->window().rect().bottomLeft());
     }
 
-    static void clickArrow(QToolButton *button)
-    {
-        QStyleOptionToolButton option;
-        option.initFrom(button);
-        option.subControls = QStyle::SC_All;
-        option.features = button->popupMode() == QToolButton::MenuButtonPopup
-                              ? QStyleOptionToolButton::MenuButtonPopup
-                              : QStyleOptionToolButton::None;
-        const QRect arrow = button->style()->subControlRect(QStyle::CC_ToolButton, &option,
-                                                            QStyle::SC_ToolButtonMenu, button);
-        QTest::mouseClick(button, Qt::LeftButton, {},
-                          arrow.isValid() ? arrow.center() : button->rect().center());
-    }
-
-    void popMenu(const QWidget *button, const std::function<void()> &open)
+    void popMenu(QWidget *button, const QPoint &place)
     {
         const int before = m_menusSeen;
         whenMenuPops([this](QMenu *menu) { seeMenu(menu); });
-        open();
+        QTest::mouseClick(button, Qt::LeftButton, {}, place);
         QTRY_VERIFY2(m_menusSeen > before, qPrintable(button->objectName() + " popped no menu"));
     }
 
@@ -175,19 +143,7 @@ class TestTour : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void everyTabMenuAndButtonCanBeSeenAndUsed_data()
-    {
-        QTest::addColumn<int>("skin");
-        QTest::addColumn<QString>("path");
-        const QString resources = QStringLiteral(":/mr_toolbar/Resources/");
-        QTest::newRow("marodi release") << marodi << resources + "marodi/mr_toolbar.release.xml";
-        QTest::newRow("marodi debug") << marodi << resources + "marodi/mr_toolbar.debug.xml";
-        QTest::newRow("lum release") << lum << resources + "lum/mr_toolbar.release.xml";
-        QTest::newRow("lum debug") << lum << resources + "lum/mr_toolbar.debug.xml";
-        const QString showcase = QFINDTESTDATA("../examples/reader/showcase.xml");
-        QTest::newRow("marodi showcase") << marodi << showcase;
-        QTest::newRow("lum showcase") << lum << showcase;
-    }
+    void everyTabMenuAndButtonCanBeSeenAndUsed_data() { TestDocuments::addAll(); }
 
     void everyTabMenuAndButtonCanBeSeenAndUsed()
     {

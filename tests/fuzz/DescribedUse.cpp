@@ -39,10 +39,9 @@ public:
     {
         QDomElement root = document.documentElement();
         m_window.resize(700, 300);
-        m_facade =
-            std::make_unique<MRToolBar>(&m_window, root, QMap<QString, QString>(), alignment);
+        m_facade = std::make_unique<MRToolBar>(&m_window, root, ToolBarSkinStyle(), alignment);
         m_toolBar = m_window.findChild<NewToolBar *>();
-        setUsable(QStringLiteral("any"), true);
+        setUsable("any", true);
         m_window.show();
         QCoreApplication::processEvents();
     }
@@ -50,7 +49,7 @@ public:
     void use()
     {
         m_toolBar->Inner_DoDelayLoadMenuSlot();
-        m_facade->DoUpdateRecentFileSlot({QStringLiteral("/a/b.ofd"), QString()});
+        m_facade->DoUpdateRecentFileSlot({"/a/b.ofd", QString()});
         m_facade->DoSetPageInfoSlot(2, 30);
         click();
         openMenus();
@@ -58,7 +57,7 @@ public:
         type();
         setStates();
         m_window.resize(1, 1);
-        m_facade->DoSetSkinStyleSlot({{QStringLiteral("[MainColor]"), QStringLiteral("#123456")}});
+        m_facade->DoSetSkinStyleSlot({{"[MainColor]", "#123456"}});
         QCoreApplication::processEvents();
         m_facade->DoResetToolbarSlot();
     }
@@ -105,7 +104,7 @@ private:
     {
         for (const auto &field : guarded<QLineEdit>(m_toolBar)) {
             for (const char *text : {"", "7", "37.5%", "99999999999999999999"}) {
-                field->setText(QLatin1String(text));
+                field->setText(text);
                 QTest::keyClick(field, Qt::Key_Return);
                 if (!field)
                     break;

@@ -1,9 +1,136 @@
 #include "tests/fuzz/DescribedUse.h"
-#include "tests/fuzz/DescriptionMutator.h"
+#include "tests/monkey/RandomSource.h"
+#include "tests/support/Elements.h"
+#include "tests/support/Words.h"
 
 #include <QApplication>
+#include <QDomDocument>
 
 #include <algorithm>
+
+namespace {
+
+constexpr int mostElements = 250;
+
+const QStringList tags =
+    words("toolbar_appbutton toolbar_quickaccessbar toolbar_tabbar toolbar_searchbar "
+          "toolbar_addtional tabbutton menu menuitem button buttongroup combobox item label "
+          "lineedit extra sperator unknown");
+
+const QStringList attributes =
+    words("text icon name action tooltip disabletip shortcut output layout group arrow dropicon "
+          "visible usable available doubleclick checkable editable switchable withaction scalable "
+          "check checked index");
+
+const QStringList values =
+    QStringList{"", " "}
+    + words("true false 0 1 2 -1 2147483647 a;b 100% / menu_ annotgroup zmode v_zoom d_gotopage "
+            "d_totalpagelabel vzmode_original vzmode_custom vzmode_37p background_nighttime "
+            "vpmode_singlepage vmode_flow tp_shape qbar_f_open qt_set st_input st_prev st_next "
+            "st_set st_option_nocase st_option_wholeword gis_next t_fold t_extend f_openrecent "
+            "f_openrecentfile no_file f_clearhistory ab_set menu_file toolbar_whole mrtoolbar "
+            "tabwidget top_widget ../../.. icon16/Set.svg <b>&amp; Ctrl+O");
+
+/** The element itself and all below it. */
+QList<QDomElement> elementsOf(const QDomElement &root)
+{
+    return QList<QDomElement>{root} + elementsBelow(root);
+}
+
+/** Changes descriptions so that they stay well-formed: by elements and attributes, not by bytes. */
+class DescriptionMutator
+{
+public:
+    explicit DescriptionMutator(unsigned int seed)
+        : m_random(seed)
+    {
+    }
+
+    /** A few changes later; empty if @p xml is not well-formed. */
+    QByteArray mutated(const QByteArray &xml)
+    {
+        constexpr int mostChanges = 4;
+        QDomDocument document;
+        if (!document.setContent(xml))
+            return {};
+
+        for (int changes = 1 + m_random.below(mostChanges); changes > 0; --changes)
+            change(document);
+        return document.toByteArray(0);
+    }
+
+private:
+    QDomElement anyElement(const QDomDocument &document)
+    {
+        return m_random.oneOf(elementsOf(document.documentElement()));
+    }
+
+    QString anyValue(const QDomDocument &document)
+    {
+        // Controls meet by their names, so a value that is in the document is worth as much as any.
+        const QDomNamedNodeMap known = anyElement(document).attributes();
+        if (known.isEmpty() || m_random.below(2) == 0)
+            return m_random.oneOf<QString>(values);
+        return known.item(m_random.below(known.count())).nodeValue();
+    }
+
+    void change(QDomDocument &document)
+    {
+        QDomElement element = anyElement(document);
+        switch (m_random.below(6)) {
+        case 0:
+            addElement(document, element);
+            break;
+        case 1:
+            removeElement(document, element);
+            break;
+        case 2:
+            copyElement(element, anyElement(document));
+            break;
+        default:
+            setAttribute(document, element);
+        }
+    }
+
+    void setAttribute(QDomDocument &document, QDomElement element)
+    {
+        const QDomNamedNodeMap known = element.attributes();
+        if (!known.isEmpty() && m_random.below(5) == 0 && element != document.documentElement())
+            element.removeAttribute(known.item(m_random.below(known.count())).nodeName());
+        else
+            element.setAttribute(m_random.oneOf<QString>(attributes), anyValue(document));
+    }
+
+    void addElement(QDomDocument &document, QDomElement parent)
+    {
+        QDomElement child = document.createElement(m_random.oneOf<QString>(tags));
+        for (int i = m_random.below(4); i > 0; --i)
+            child.setAttribute(m_random.oneOf<QString>(attributes), anyValue(document));
+        parent.appendChild(child);
+    }
+
+    void removeElement(const QDomDocument &document, QDomElement element)
+    {
+        if (element == document.documentElement())
+            return;
+        // Half of the times what is below it moves up.
+        for (QDomNode parent = element.parentNode();
+             m_random.below(2) == 0 && element.hasChildNodes();)
+            parent.insertBefore(element.firstChild(), element);
+        element.parentNode().removeChild(element);
+    }
+
+    void copyElement(QDomElement element, QDomElement target)
+    {
+        const auto present = elementsOf(element.ownerDocument().documentElement()).size();
+        if (elementsOf(element).size() + present < mostElements)
+            target.appendChild(element.cloneNode());
+    }
+
+    RandomSource m_random;
+};
+
+} // namespace
 
 extern "C" {
 

@@ -12,14 +12,14 @@ private Q_SLOTS:
     void shouldSurviveEveryUse_data()
     {
         QTest::addColumn<QString>("path");
-        QStringList paths = QStringLiteral(SEEDS).split(QLatin1Char(':'));
-        const QDir corpus(QStringLiteral(CORPUS));
-        const QStringList files = corpus.entryList({QStringLiteral("*.xml")}, QDir::Files);
+        QStringList paths = QString(SEEDS).split(':');
+        const QDir corpus(CORPUS);
+        const QStringList files = corpus.entryList({"*.xml"}, QDir::Files);
         QVERIFY(!files.isEmpty());
         for (const QString &file : files)
             paths.append(corpus.filePath(file));
         for (const QString &path : std::as_const(paths))
-            QTest::newRow(qPrintable(path.section(QLatin1Char('/'), -2))) << path;
+            QTest::newRow(qPrintable(path.section('/', -2))) << path;
     }
 
     void shouldSurviveEveryUse()

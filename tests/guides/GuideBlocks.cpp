@@ -8,12 +8,11 @@
 namespace {
 
 /** Tags of what is no command, or no widget or action of its own. */
-const QStringList frames{QStringLiteral("tabbutton"), QStringLiteral("buttongroup"),
-                         QStringLiteral("extra"), QStringLiteral("item")};
+const QStringList frames{"tabbutton", "buttongroup", "extra", "item"};
 
 QByteArray wholeDocument(const QByteArray &code, const QString &kind)
 {
-    if (kind == QLatin1String("row")) {
+    if (kind == "row") {
         return "<uiconfig prefix=''><toolbar_tabbar><tabbutton name='tb_row' text='Tools' "
                "checkable='true' checked='true'>"
                + code + "</tabbutton></toolbar_tabbar></uiconfig>";
@@ -24,7 +23,7 @@ QByteArray wholeDocument(const QByteArray &code, const QString &kind)
 GuideBlock readBlock(const QString &path)
 {
     // <name>.<kind>.<picture>.xml
-    const QStringList parts = path.section(QLatin1Char('/'), -1).split(QLatin1Char('.'));
+    const QStringList parts = path.section('/', -1).split('.');
     GuideBlock block;
     block.name = parts.at(0);
     block.picture = parts.at(2);
@@ -41,8 +40,7 @@ GuideBlock readBlock(const QString &path)
 QList<GuideBlock> guideBlocks(const QString &folder)
 {
     QStringList paths;
-    QDirIterator files(folder, {QStringLiteral("*.xml")}, QDir::Files,
-                       QDirIterator::Subdirectories);
+    QDirIterator files(folder, {"*.xml"}, QDir::Files, QDirIterator::Subdirectories);
     while (files.hasNext())
         paths.append(files.next());
     paths.sort();
@@ -58,8 +56,7 @@ QStringList controlNames(const QDomElement &description)
     QStringList names;
     const QList<QDomElement> elements = elementsBelow(description);
     for (const QDomElement &element : elements) {
-        const QString name =
-            element.attribute(QStringLiteral("action"), element.attribute(QStringLiteral("name")));
+        const QString name = element.attribute("action", element.attribute("name"));
         if (!name.isEmpty() && !frames.contains(element.tagName()))
             names.append(name);
     }

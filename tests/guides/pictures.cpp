@@ -7,7 +7,6 @@
 #include "tests/support/TestDocuments.h"
 #include "tests/support/TestHost.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QDir>
 #include <QLabel>
@@ -33,8 +32,7 @@ bool isUnusable(const QDomElement &description, const QString &name)
 {
     const QList<QDomElement> elements = elementsBelow(description);
     return std::any_of(elements.begin(), elements.end(), [&name](const QDomElement &element) {
-        return element.attribute(QStringLiteral("action")) == name
-               && element.attribute(QStringLiteral("usable")) == "false";
+        return element.attribute("action") == name && element.attribute("usable") == "false";
     });
 }
 
@@ -44,7 +42,7 @@ bool takePicture(QDomDocument description, const Look &look, const QDir &folder,
     QMainWindow window;
     window.resize(size);
     auto *page = new QLabel;
-    page->setStyleSheet(QStringLiteral("background:#ffffff"));
+    page->setStyleSheet("background:#ffffff");
     window.setCentralWidget(page);
     QDomElement root = description.documentElement();
     MRToolBar toolBar(&window, root, look.map, ToolBarLeft);
@@ -52,13 +50,13 @@ bool takePicture(QDomDocument description, const Look &look, const QDir &folder,
     for (QString name : names)
         toolBar.DoSetControlUsableStateSlot(name, !isUnusable(root, name));
     toolBar.DoSetPageInfoSlot(3, 12);
-    for (QString name : {QStringLiteral("t_handtool"), QStringLiteral("vzmode_fitwidth")})
+    for (QString name : {"t_handtool", "vzmode_fitwidth"})
         toolBar.DoSetControlCheckedStateSlot(name, true);
     window.show();
     if (!QTest::qWaitForWindowExposed(&window))
         return false;
     QTest::qWait(200);
-    const QString path = folder.filePath(look.picture + QStringLiteral(".png"));
+    const QString path = folder.filePath(look.picture + ".png");
     return window.grab().save(path) && std::printf("%s\n", qPrintable(path)) > 0;
 }
 
@@ -78,12 +76,12 @@ int main(int argc, char *argv[])
             isComplete &= takePicture(block.description, {block.picture, marodi, {}}, folder,
                                       {descriptionWidth, 100});
     }
-    const QList<Look> looks{{QStringLiteral("dark-marodi"), marodi, darkMarodi},
-                            {QStringLiteral("dark-lum"), lum, darkLum},
-                            {QStringLiteral("green-marodi"), marodi, greenMarodi},
-                            {QStringLiteral("green-lum"), lum, greenLum}};
+    const QList<Look> looks{{"dark-marodi", marodi, darkMarodi},
+                            {"dark-lum", lum, darkLum},
+                            {"green-marodi", marodi, greenMarodi},
+                            {"green-lum", lum, greenLum}};
     for (const Look &look : looks) {
-        const QString path = look.picture.section(QLatin1Char('-'), 1) + "/mr_toolbar.release.xml";
+        const QString path = look.picture.section('-', 1) + "/mr_toolbar.release.xml";
         isComplete &= takePicture(TestDocuments::read(TestDocuments::shippedPath(path)), look,
                                   folder, {skinWidth, 130});
     }

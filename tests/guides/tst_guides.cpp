@@ -9,7 +9,6 @@
 #include "toolbar/skin/Skin.h"
 #include "toolbar/skin/StyleSheet.h"
 
-#include <QAction>
 #include <QColor>
 #include <QFileInfo>
 #include <QMetaMethod>
@@ -47,19 +46,15 @@ QStringList anchorsOf(const QString &name)
     return anchors;
 }
 
-/** Everything of a record that comes from an attribute, as one text. */
-QString attributesOf(const Controller &record)
+/** Everything of a record that comes from an attribute. */
+QVariantList valuesOf(const Controller &record)
 {
-    const QStringList texts{record.text,     record.name,       record.icon,
-                            record.arrow,    record.layout,     record.output,
-                            record.tooltip,  record.disabletip, record.group,
-                            record.shortcut, record.dropicon,   QString::number(record.index)};
-    QString flags;
-    for (const bool flag : {record.checkable, record.checked, record.check, record.usable,
-                            record.available, record.visible, record.editable, record.switchable,
-                            record.withaction, record.scalable, record.doubleclick})
-        flags += flag ? '1' : '0';
-    return texts.join('|') + flags;
+    return {record.text,     record.name,       record.icon,       record.arrow,
+            record.layout,   record.output,     record.tooltip,    record.disabletip,
+            record.group,    record.shortcut,   record.dropicon,   record.index,
+            record.check,    record.checkable,  record.checked,    record.usable,
+            record.visible,  record.available,  record.editable,   record.switchable,
+            record.scalable, record.withaction, record.doubleclick};
 }
 
 /** Whether the parser stores an attribute: one of these values then leaves its default. */
@@ -71,7 +66,7 @@ bool isKnownAttribute(const QString &name)
         element.setAttribute(name, value);
         Controller record;
         GetElementAttributes(&element, &record);
-        if (attributesOf(record) != attributesOf(Controller()))
+        if (valuesOf(record) != valuesOf(Controller()))
             return true;
     }
     return false;

@@ -1,36 +1,184 @@
 #pragma once
 
 #include "tests/monkey/RandomSource.h"
+#include "tests/monkey/Witness.h"
+#include "tests/support/Words.h"
+#include "toolbar/MRToolBar.h"
 
+#include <QMainWindow>
 #include <QStringList>
 
-class MRToolBar;
-class QMainWindow;
-class Witness;
+inline const QStringList reservedNames =
+    words("toolbar_appbutton toolbar_toptoolbar toolbar_quickaccessbar toolbar_searchbar "
+          "toolbar_addtional toolbar_maintoolbar toolbar_tabbar toolbar_quickaccessbar/set");
+
+inline const QStringList hostileNames =
+    QStringList{"", " ", "no such control", QString(5000, 'x'), QString(3, QChar(QChar::Null))}
+    + words("/ : a:b:c menu_ menu_menu_file toolbar_ toolbar_none toolbar_quickaccessbar/ "
+            "toolbar_quickaccessbar/a/b v_zoom d_gotopage f_ %1%2 \"};QWidget{ <b> mrtoolbar "
+            "tabwidget top_widget");
 
 /** A host that says anything at any time. */
 class RandomHost
 {
 public:
-    RandomHost(RandomSource &random, QStringList names, Witness &witness);
+    RandomHost(RandomSource &random, QStringList names, Witness &witness)
+        : m_random(random)
+        , m_names(std::move(names))
+        , m_witness(witness)
+    {
+    }
+
+    /** From now on this host has another window. */
+    void setWindow(MRToolBar *facade, QMainWindow *window)
+    {
+        m_facade = facade;
+        m_window = window;
+    }
 
     /** One call of the facade; the name of it. */
-    QString step(MRToolBar &facade, QMainWindow &window);
+    QString step()
+    {
+        using Act = QString (RandomHost::*)();
+        static const QList<Act> acts{&RandomHost::setPages,       &RandomHost::setZoom,
+                                     &RandomHost::setRecentFiles, &RandomHost::setSkin,
+                                     &RandomHost::setBackground,  &RandomHost::reset,
+                                     &RandomHost::resize,         &RandomHost::enableEverything};
+        const int kind = m_random.below(16);
+        if (kind < acts.size())
+            return (this->*acts.at(kind))();
+        return kind < 11 ? ask() : setState();
+    }
 
     /** What a decent host does when it is asked for the states of its controls. */
-    void enableEverything(MRToolBar &facade) const;
+    QString enableEverything()
+    {
+        for (QString name : std::as_const(m_names))
+            m_facade->DoSetControlUsableStateSlot(name, true);
+        return "enable everything";
+    }
 
 private:
-    QString anyName();
-    QString setState(MRToolBar &facade);
-    QString setPages(MRToolBar &facade);
-    QString setZoom(MRToolBar &facade);
-    QString setRecentFiles(MRToolBar &facade);
-    QString setSkin(MRToolBar &facade);
-    QString ask(MRToolBar &facade);
-    QString resize(QMainWindow &window);
+    QString anyName()
+    {
+        const QString known = m_random.oneOf<QString>(m_names);
+        switch (m_random.below(12)) {
+        case 0:
+            return m_random.oneOf<QString>(hostileNames);
+        case 1:
+            return m_random.oneOf<QString>(reservedNames);
+        case 2:
+            return "toolbar_quickaccessbar/" + known;
+        case 3:
+            return known + ":1";
+        default:
+            return known;
+        }
+    }
+
+    QString setState()
+    {
+        // Nothing comes back from a toolbar that has been disabled as a whole.
+        QString name = m_random.oneIn(120) ? "toolbar_whole" : anyName();
+        // More is given than is taken, or little would be left to use.
+        const bool state = m_random.below(3) > 0;
+        const QString told = QStringLiteral(" %1 %2").arg(name.left(40)).arg(state);
+        switch (m_random.below(3)) {
+        case 0:
+            m_facade->DoSetControlUsableStateSlot(name, state);
+            return "usable" + told;
+        case 1:
+            m_witness.noteVisibleCall(name);
+            m_facade->DoSetControlVisibleStateSlot(name, state);
+            return "visible" + told;
+        default:
+            m_witness.expectChecked(*m_facade, name, state);
+            return "checked" + told;
+        }
+    }
+
+    QString setPages()
+    {
+        static const QList<int> numbers{0, 1, 2, 7, 25, 120, -1, 2147483647};
+        const int page = m_random.oneOf(numbers);
+        const int total = m_random.oneOf(numbers);
+        m_witness.notePages(page, total);
+        m_facade->DoSetPageInfoSlot(page, total);
+        return QStringLiteral("pages %1 %2").arg(page).arg(total);
+    }
+
+    QString setZoom()
+    {
+        static const QStringList modes =
+            words("vzmode_original vzmode_fitpage vzmode_fitwidth vzmode_100p vzmode_37p "
+                  "vzmode_37.5p "
+                  "vzmode_6400p vzmode_99999p vzmode_-3p vzmode_ vzmode p vzmode_xp VZMODE_100P")
+            << QString();
+        const QString mode = m_random.oneOf<QString>(modes);
+        m_facade->DoSetZoomModeSlot(mode);
+        return "zoom " + mode;
+    }
+
+    QString setRecentFiles()
+    {
+        static const QStringList paths =
+            words("/a/b.ofd b.ofd / .. /a/&b%1%2.ofd /a/<b>;c.ofd /a/\n.ofd /文件/报告.ofd")
+            << QString() << '/' + QString(3000, 'y');
+        QStringList list;
+        for (int i = m_random.below(6); i > 0; --i)
+            list.append(m_random.oneOf<QString>(paths));
+        m_witness.noteRecentFiles(list);
+        m_facade->DoUpdateRecentFileSlot(list);
+        return QStringLiteral("%1 recent files").arg(list.size());
+    }
+
+    QString setSkin()
+    {
+        static const QStringList keys{"[MainColor]", "[LightColor]", "[ToolBarBgColor]",     "",
+                                      "unknown",     "externalqss",  "quickaccessbarbuttons"};
+        static const QStringList values{"#102030", "red", "", "no colour", "}", "url(nowhere.png)"};
+        ToolBarSkinStyle skin;
+        for (int i = m_random.below(3); i > 0; --i)
+            skin.insert(m_random.oneOf<QString>(keys), m_random.oneOf<QString>(values));
+        m_facade->DoSetSkinStyleSlot(skin);
+        return "skin";
+    }
+
+    QString setBackground()
+    {
+        m_facade->DoSetBackgroundSlot(static_cast<BackgroundStyle>(m_random.between(-1, 5)));
+        return "background";
+    }
+
+    QString reset()
+    {
+        m_witness.expectReset(*m_facade);
+        return "reset";
+    }
+
+    QString ask()
+    {
+        const QString name = anyName();
+        m_facade->GetCompositeEnable(name);
+        m_facade->GetCompositeVisible(name);
+        m_facade->GetControlCheckedState(name);
+        m_facade->GetControlGeometry(name);
+        m_facade->IsSupportByToolBar(name);
+        m_facade->GetQuickAccessButtonList();
+        m_facade->GetToolBarStyleSheet();
+        return "ask " + name.left(40);
+    }
+
+    QString resize()
+    {
+        static const QList<int> widths{1, 40, 200, 500, 900, 1300, 1600};
+        m_window->resize(m_random.oneOf(widths), m_random.between(1, 600));
+        return "resize";
+    }
 
     RandomSource &m_random;
     QStringList m_names;
     Witness &m_witness;
+    MRToolBar *m_facade = nullptr;
+    QMainWindow *m_window = nullptr;
 };

@@ -2,33 +2,199 @@
 
 #include "tests/monkey/RandomSource.h"
 
+#include <QAbstractButton>
+#include <QApplication>
+#include <QCursor>
+#include <QLineEdit>
+#include <QMenu>
 #include <QPointer>
+#include <QTest>
+#include <QWheelEvent>
 #include <QWidget>
 
-class QMenu;
+/** The children of a window that can be seen. */
+template <typename Widget>
+QList<QWidget *> shown(const QWidget &window)
+{
+    QList<QWidget *> widgets;
+    const QList<Widget *> children = window.findChildren<Widget *>();
+    for (Widget *child : children) {
+        if (child->isVisible() && !child->isWindow() && !child->size().isEmpty())
+            widgets.append(child);
+    }
+    return widgets;
+}
 
 /** A user who does anything at any time. */
 class RandomUser
 {
 public:
-    explicit RandomUser(RandomSource &random);
+    explicit RandomUser(RandomSource &random)
+        : m_random(random)
+    {
+    }
 
     /** One gesture somewhere in the window; a description of it. */
-    QString step(QWidget &window);
+    QString step(QWidget &window)
+    {
+        using Gesture = void (RandomUser::*)(QPointer<QWidget>);
+        static const QList<std::pair<QString, Gesture>> rareGestures{
+            {"drag", &RandomUser::drag},
+            {"wheel", &RandomUser::turnWheel},
+            {"hover", &RandomUser::hover}};
+        const int kind = m_random.below(10);
+        if (kind == 0)
+            return pressKey(window);
+        if (kind == 1)
+            return type(window);
+
+        QWidget *widget = anyWidget(window);
+        if (!widget)
+            return "nothing to use";
+        const QString target = QLatin1Char(' ') + widget->metaObject()->className() + ' '
+                               + widget->objectName(); // Before the widget has gone.
+        const auto &[name, gesture] = rareGestures.value(kind - 2, {"click", &RandomUser::click});
+        (this->*gesture)(widget);
+        return name + target;
+    }
 
     /** One gesture at a menu or a list that is open; most often the one that closes it. */
-    QString stepInPopup(QWidget &popup);
+    QString stepInPopup(QWidget &popup)
+    {
+        auto *menu = qobject_cast<QMenu *>(&popup);
+        if (menu)
+            return stepInMenu(*menu);
+        popup.close();
+        return "close list";
+    }
 
 private:
-    QWidget *anyWidget(const QWidget &window);
-    QPoint anyPlace(const QWidget &widget);
-    void click(QPointer<QWidget> widget);
-    void drag(QPointer<QWidget> widget);
-    void turnWheel(QWidget &widget);
-    void hover(QWidget &widget);
-    QString pressKey(QWidget &window);
-    void type(QWidget &window);
-    QString stepInMenu(QMenu &menu);
+    QWidget *anyWidget(const QWidget &window)
+    {
+        QList<QWidget *> widgets = shown<QAbstractButton>(window);
+        if (m_random.oneIn(8))
+            widgets = shown<QWidget>(window);
+        else if (m_random.oneIn(7))
+            widgets = shown<QLineEdit>(window);
+        return widgets.isEmpty() ? nullptr : m_random.oneOf(widgets);
+    }
+
+    QPoint anyPlace(const QWidget &widget)
+    {
+        return {m_random.below(widget.width()), m_random.below(widget.height())};
+    }
+
+    void click(QPointer<QWidget> widget)
+    {
+        const QPoint place = anyPlace(*widget);
+        clickOnce(widget, place);
+        if (widget && m_random.oneIn(6))
+            clickOnce(widget, place);
+    }
+
+    void clickOnce(const QPointer<QWidget> &widget, const QPoint &place)
+    {
+        // A menu may open in the first half, and the widget may be gone before the second.
+        QTest::mousePress(widget.data(), Qt::LeftButton, {}, place);
+        if (widget)
+            QTest::mouseRelease(widget.data(), Qt::LeftButton, {}, place);
+    }
+
+    void drag(QPointer<QWidget> widget)
+    {
+        QTest::mousePress(widget.data(), Qt::LeftButton, {}, anyPlace(*widget));
+        if (widget && !widget->size().isEmpty())
+            QTest::mouseMove(widget.data(), anyPlace(*widget));
+        if (widget && !widget->size().isEmpty())
+            QTest::mouseRelease(widget.data(), Qt::LeftButton, {}, anyPlace(*widget));
+    }
+
+    void turnWheel(QPointer<QWidget> widget)
+    {
+        const QPoint place = anyPlace(*widget);
+        const QPoint global = widget->mapToGlobal(place);
+        const QPoint delta = m_random.oneIn(2) ? QPoint(0, 120) : QPoint(0, -120);
+        QWheelEvent event(place, global, QPoint(), m_random.oneIn(4) ? delta.transposed() : delta,
+                          Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCursor::setPos(global);
+        QApplication::sendEvent(widget, &event);
+    }
+
+    void hover(QPointer<QWidget> widget)
+    {
+        const QPoint place = anyPlace(*widget);
+        QCursor::setPos(widget->mapToGlobal(place));
+        QTest::mouseMove(widget.data(), place);
+    }
+
+    QString pressKey(QWidget &window)
+    {
+        static const QList<Qt::Key> keys{Qt::Key_Tab,   Qt::Key_Backtab, Qt::Key_Return,
+                                         Qt::Key_Space, Qt::Key_Escape,  Qt::Key_Down,
+                                         Qt::Key_Up,    Qt::Key_Left,    Qt::Key_Right,
+                                         Qt::Key_O,     Qt::Key_F10};
+        static const QList<std::pair<Qt::KeyboardModifier, Qt::Key>> modifiers{
+            {Qt::NoModifier, Qt::Key_unknown},
+            {Qt::NoModifier, Qt::Key_unknown},
+            {Qt::AltModifier, Qt::Key_Alt},
+            {Qt::ControlModifier, Qt::Key_Control}};
+        QPointer<QWidget> focused = QApplication::focusWidget();
+        if (!focused || !window.isAncestorOf(focused))
+            focused = &window;
+        const Qt::Key key = m_random.oneOf(keys);
+        const auto [modifier, modifierKey] = m_random.oneOf(modifiers);
+        QTest::keyPress(focused.data(), key, modifier);
+        // QTest would go on to release the modifier on a widget that the key has ended.
+        for (const Qt::Key released : {key, modifierKey}) {
+            QKeyEvent event(QEvent::KeyRelease, released, modifier);
+            if (focused && released != Qt::Key_unknown)
+                QApplication::sendEvent(focused, &event);
+        }
+        return QStringLiteral("key %1 %2").arg(key).arg(modifier);
+    }
+
+    QString type(QWidget &window)
+    {
+        static const QStringList texts{"7",     "0",   "12/9", "37.5", "5",
+                                       "9000%", "abc", "..",   "文字", ""};
+        const QList<QWidget *> fields = shown<QLineEdit>(window);
+        if (fields.isEmpty())
+            return "nowhere to type";
+        const QPointer<QLineEdit> field = qobject_cast<QLineEdit *>(m_random.oneOf(fields));
+        const QString text = m_random.oneOf<QString>(texts);
+        field->setFocus();
+        field->setText(text);
+        QTest::keyPress(field.data(), Qt::Key_Return);
+        if (field)
+            QTest::keyRelease(field.data(), Qt::Key_Return);
+        return "type " + text;
+    }
+
+    QString stepInMenu(QMenu &menu)
+    {
+        static const QList<Qt::Key> keys{Qt::Key_Down, Qt::Key_Up,     Qt::Key_Right,
+                                         Qt::Key_Left, Qt::Key_Return, Qt::Key_Escape};
+        const QList<QAction *> entries = menu.actions();
+        QAction *entry = entries.isEmpty() ? nullptr : m_random.oneOf(entries);
+        const QRect place = entry ? menu.actionGeometry(entry) : QRect();
+        const int kind = m_random.below(6);
+        if (kind < 2) {
+            QTest::keyClick(&menu, m_random.oneOf(keys));
+            return "key in menu";
+        }
+        if (kind == 2 && place.isValid()) {
+            QTest::mouseMove(&menu, place.center());
+            return "hover in menu";
+        }
+        if (kind == 3 && place.isValid()) {
+            const QString name = entry->objectName();
+            // The toolkit keeps a menu alive in its own events.
+            QTest::mouseClick(&menu, Qt::LeftButton, {}, place.center());
+            return "choose " + name;
+        }
+        menu.close();
+        return "close menu";
+    }
 
     RandomSource &m_random;
 };

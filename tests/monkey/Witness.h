@@ -1,54 +1,253 @@
 #pragma once
 
 #include "tests/monkey/DescribedNames.h"
-#include "toolbar/ToolBarTypes.h"
+#include "toolbar/MRToolBar.h"
+#include "toolbar/NewToolBar.h"
 
+#include <QAction>
+#include <QActionGroup>
+#include <QApplication>
+#include <QComboBox>
+#include <QFileInfo>
+#include <QMainWindow>
+#include <QMap>
 #include <QObject>
-#include <QSet>
+#include <QPointer>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QToolBar>
 
 #include <functional>
+#include <utility>
 
-class MRToolBar;
-class NewToolBar;
-class QMainWindow;
+inline bool isTypedZoomMode(const QString &mode)
+{
+    static const QRegularExpression typed("^vzmode_([0-9.]+)p$");
+    const double percent = typed.match(mode).captured(1).toDouble();
+    return percent >= 10.0 && percent <= 6400.0;
+}
+
+/** The quick buttons and the entries that show and hide them bear one name by design. */
+inline bool belongsToQuickAccess(const QAction *action)
+{
+    const QString owner = action->parent() ? action->parent()->objectName() : QString();
+    return owner == "toolbar_quickaccessbar" || owner == "qt_set";
+}
+
+template <typename Control>
+int checkedAmong(const QList<Control *> &controls)
+{
+    int count = 0;
+    for (const Control *control : controls)
+        count += control->isChecked() ? 1 : 0;
+    return count;
+}
 
 /** Sees to it that whatever is done to a toolbar, it keeps to what it promises. */
 class Witness : public QObject
 {
-    Q_OBJECT
-
 public:
     /** @param react what the host does when it hears of something */
-    Witness(DescribedNames names, std::function<void()> react);
+    Witness(DescribedNames names, std::function<void()> react)
+        : m_names(std::move(names))
+        , m_react(std::move(react))
+    {
+    }
 
     /** A new toolbar has come up. */
-    void watch(MRToolBar &facade, QMainWindow &window);
-    void checkTree(const QMainWindow &window);
+    void watch(MRToolBar &facade, QMainWindow &window)
+    {
+        m_toolBar = window.findChild<NewToolBar *>();
+        m_total = 0;
+        m_areFoldButtonsFree = false;
+        m_recentFiles.clear();
+        listenForValues(facade);
+        connect(&facade, &MRToolBar::DoSetBackground, this, [this] { hear("DoSetBackground"); });
+        connect(&facade, &MRToolBar::DoRequestAuthority, this,
+                [this] { hear("DoRequestAuthority"); });
+    }
+
+    void checkTree(const QMainWindow &window)
+    {
+        const auto strips =
+            window.findChildren<QToolBar *>("mrtoolbar", Qt::FindDirectChildrenOnly);
+        const auto toolBars = window.findChildren<NewToolBar *>();
+        require(strips.size() == 1, QStringLiteral("%1 strips").arg(strips.size()));
+        require(toolBars.size() == 1, QStringLiteral("%1 toolbars").arg(toolBars.size()));
+        for (const NewToolBar *toolBar : toolBars) {
+            checkFoldButtons(*toolBar);
+            checkGroups(*toolBar);
+            checkTabs(*toolBar);
+            checkNames(*toolBar);
+            checkZoomBox(*toolBar);
+        }
+    }
+
     /** To be asked once a window has gone. */
-    void checkNothingIsLeft();
+    void checkNothingIsLeft()
+    {
+        const QWidgetList widgets = QApplication::allWidgets();
+        for (const QWidget *widget : widgets)
+            require(!widget->property("intoolbar").isValid(),
+                    QStringLiteral("left behind: ") + widget->metaObject()->className() + ' '
+                        + widget->objectName());
+    }
+
     /** The first broken promise; empty as long as there is none. */
     QString fault() const { return m_fault; }
     /** How often each signal has come, for the report of a run. */
-    QString heard() const;
+    QString heard() const
+    {
+        QStringList counts;
+        for (auto signal = m_heardSignals.cbegin(); signal != m_heardSignals.cend(); ++signal)
+            counts.append(QStringLiteral("%1 %2").arg(signal.value()).arg(signal.key()));
+        return counts.join(", ");
+    }
 
-    /** @name What the host says
-     *  @{ */
-    void noteVisibleCall(const QString &name);
-    void notePages(int page, int total);
-    void noteRecentFiles(const QStringList &paths);
-    void expectChecked(MRToolBar &facade, QString name, bool checked);
-    void expectReset(MRToolBar &facade);
-    /** @} */
+    // What the host says.
+
+    void noteVisibleCall(const QString &name)
+    {
+        if (name.contains("t_fold") || name.contains("t_extend") || name == "toolbar_addtional")
+            m_areFoldButtonsFree = true;
+    }
+
+    void notePages(int page, int total) { m_total = page != 0 ? total : 0; }
+
+    void noteRecentFiles(const QStringList &paths)
+    {
+        for (const QString &path : paths)
+            m_recentFiles.insert(QFileInfo(path).absoluteFilePath());
+    }
+
+    void expectChecked(MRToolBar &facade, QString name, bool checked)
+    {
+        const QString wanted = name.section(':', 0, 0);
+        const QPointer<QAction> action = m_toolBar->GetActionInTotal(wanted);
+        // The menu of recent files reports what is triggered in it, whoever triggers it.
+        const bool isReportedByMenu = wanted.contains("f_clearhistory");
+        const int heardBefore = m_heard;
+
+        const bool wasSilenceDue = std::exchange(m_isSilenceDue, !isReportedByMenu);
+        facade.DoSetControlCheckedStateSlot(name, checked);
+        m_isSilenceDue = wasSilenceDue;
+
+        require(name == wanted, "the caller's name is '" + name + '\'');
+        if (action && action->isCheckable() && m_heard == heardBefore)
+            require(action->isChecked() == checked, wanted + " has not taken the checked state");
+    }
+
+    void expectReset(MRToolBar &facade)
+    {
+        m_total = 0;
+        const int heardBefore = m_heard;
+        facade.DoResetToolbarSlot();
+        // The host may have set anything in its answer to the zoom.
+        if (m_heard != heardBefore)
+            return;
+        for (const QString &name : std::as_const(m_names.all))
+            require(!facade.GetControlCheckedState(name), name + " is checked after a reset");
+    }
 
 private:
-    void require(bool promise, const QString &fault);
-    void hear(const char *signal);
-    void hearActive(const QString &name);
-    void hearZoomMode(const QString &mode);
-    void checkFoldButtons(const NewToolBar &toolBar);
-    void checkGroups(const NewToolBar &toolBar);
-    void checkNames(const NewToolBar &toolBar);
-    void checkZoomBox(const NewToolBar &toolBar);
+    void require(bool promise, const QString &fault)
+    {
+        if (!promise && m_fault.isEmpty())
+            m_fault = fault;
+    }
+
+    void hear(const QString &signal)
+    {
+        require(!m_isSilenceDue, signal + " answers a check by name");
+        ++m_heard;
+        ++m_heardSignals[signal];
+        // What the host does now is not to be silent.
+        const bool wasSilenceDue = std::exchange(m_isSilenceDue, false);
+        m_react();
+        m_isSilenceDue = wasSilenceDue;
+    }
+
+    void listenForValues(MRToolBar &facade)
+    {
+        connect(&facade, &MRToolBar::DoActive, this, [this](const QString &name) {
+            require(m_names.commands.contains(name), "no control reports as '" + name + '\'');
+            hear("DoActive");
+        });
+        connect(&facade, &MRToolBar::DoSetZoomMode, this, [this](const QString &mode) {
+            // An entry without text has no mode either.
+            const bool isKnown = mode.isEmpty() || m_names.zoomModes.contains(mode);
+            require(isKnown || isTypedZoomMode(mode), "'" + mode + "' is no zoom mode");
+            hear("DoSetZoomMode");
+        });
+        connect(&facade, &MRToolBar::DoGotoPage, this, [this](int page) {
+            require(page >= 1 && page <= m_total,
+                    QStringLiteral("page %1 of %2 is asked for").arg(page).arg(m_total));
+            hear("DoGotoPage");
+        });
+        connect(&facade, &MRToolBar::DoDoubleActive, this, [this](const QString &name) {
+            require(m_names.doubleClick.contains(name), name + " is no double-click control");
+            hear("DoDoubleActive");
+        });
+        connect(&facade, &MRToolBar::DoOpenFile, this, [this](const QString &path) {
+            require(m_recentFiles.contains(path), path + " was never a recent file");
+            hear("DoOpenFile");
+        });
+        connect(&facade, &MRToolBar::DoSearchContent, this, [this](const SearchOption &option) {
+            require(!option.content.isEmpty(), "nothing is searched for");
+            require(option.direction == 0 || option.direction == 1, "searches nowhere");
+            hear("DoSearchContent");
+        });
+    }
+
+    void checkFoldButtons(const NewToolBar &toolBar)
+    {
+        const auto *fold = toolBar.findChild<QPushButton *>("t_fold");
+        const auto *unfold = toolBar.findChild<QPushButton *>("t_extend");
+        if (fold && unfold && !m_areFoldButtonsFree)
+            require(fold->isHidden() != unfold->isHidden(), "not one of the fold buttons is shown");
+    }
+
+    void checkGroups(const NewToolBar &toolBar)
+    {
+        const auto groups = toolBar.findChildren<QActionGroup *>();
+        for (const QActionGroup *group : groups)
+            require(!group->isExclusive() || checkedAmong(group->actions()) <= 1,
+                    "two of group " + group->objectName() + " are checked");
+    }
+
+    void checkTabs(const NewToolBar &toolBar)
+    {
+        QList<QPushButton *> tabs;
+        const auto buttons = toolBar.findChildren<QPushButton *>();
+        for (QPushButton *button : buttons) {
+            if (button->property("module") == "tabbutton")
+                tabs.append(button);
+        }
+        require(tabs.isEmpty() || checkedAmong(tabs) == 1, "not one tab is checked");
+    }
+
+    void checkNames(const NewToolBar &toolBar)
+    {
+        QSet<QString> seen;
+        const auto actions = toolBar.findChildren<QAction *>();
+        for (const QAction *action : actions) {
+            const QString name = action->objectName();
+            // Widgets on a row have actions of another kind, one a place.
+            if (name.isEmpty() || name == "f_openrecentfile"
+                || action->metaObject() != &QAction::staticMetaObject
+                || belongsToQuickAccess(action))
+                continue;
+            require(!seen.contains(name), "two actions for the command " + name);
+            seen.insert(name);
+        }
+    }
+
+    void checkZoomBox(const NewToolBar &toolBar)
+    {
+        const auto *box = toolBar.findChild<QComboBox *>("v_zoom");
+        require(!box || box->count() <= m_names.zoomModes.size() + 1,
+                "too many entries in the zoom box");
+    }
 
     DescribedNames m_names;
     std::function<void()> m_react;

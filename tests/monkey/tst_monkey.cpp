@@ -40,7 +40,7 @@ public:
             end();
             begin();
         }
-        tell(m_random.oneIn(3) ? m_host.step(*m_facade, *m_window) : m_user.step(*m_window));
+        tell(m_random.oneIn(3) ? m_host.step() : m_user.step(*m_window));
         letTimePass();
         if (isAlive())
             m_witness.checkTree(*m_window);
@@ -48,7 +48,7 @@ public:
 
     QString fault() const { return m_witness.fault(); }
     QString heard() const { return m_witness.heard(); }
-    QString lastMoves() const { return m_moves.join(QStringLiteral("\n    ")); }
+    QString lastMoves() const { return m_moves.join("\n    "); }
 
 private:
     bool isAlive() const { return m_window && m_facade && m_toolBar; }
@@ -69,11 +69,12 @@ private:
         m_facade = new MRToolBar(m_window, root, {}, alignment);
         m_toolBar = m_window->findChild<NewToolBar *>();
         m_witness.watch(*m_facade, *m_window);
+        m_host.setWindow(m_facade, m_window);
         m_window->show();
         m_window->activateWindow();
         if (!m_random.oneIn(5))
-            m_host.enableEverything(*m_facade);
-        tell(QStringLiteral("begin"));
+            m_host.enableEverything();
+        tell("begin");
     }
 
     void end()
@@ -105,11 +106,11 @@ private:
             return;
         ++m_depth;
         if (m_random.oneIn(3))
-            m_host.enableEverything(*m_facade);
+            m_host.enableEverything();
         if (m_random.oneIn(3))
-            tell("  answer: " + m_host.step(*m_facade, *m_window));
+            tell("  answer: " + m_host.step());
         if (m_random.oneIn(200)) {
-            tell(QStringLiteral("  answer: end of the window"));
+            tell("  answer: end of the window");
             m_window->deleteLater();
         }
         --m_depth;
@@ -121,7 +122,7 @@ private:
         if (!popup)
             return;
         if (isAlive() && m_random.oneIn(8))
-            tell("  with a menu open: " + m_host.step(*m_facade, *m_window));
+            tell("  with a menu open: " + m_host.step());
         else if (isAlive() && m_random.oneIn(200))
             delete m_window;
         else
@@ -176,7 +177,7 @@ private Q_SLOTS:
         qInfo("%d steps from seed %u: %s", steps, seed, qPrintable(monkey.heard()));
         // A run in which the host has heard of nothing proves nothing.
         if (steps >= stepsOfShortRun)
-            QVERIFY(monkey.heard().contains(QLatin1String("DoActive")));
+            QVERIFY(monkey.heard().contains("DoActive"));
     }
 };
 

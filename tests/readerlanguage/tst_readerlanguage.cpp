@@ -14,24 +14,7 @@
 #include <QTest>
 #include <QToolBar>
 
-#include <algorithm>
-
 namespace {
-
-QDomDocument description()
-{
-    QString error;
-    return Description::read("release", "marodi", &error);
-}
-
-bool isOfToolBar(const QWidget *widget)
-{
-    for (; widget; widget = widget->parentWidget()) {
-        if (qobject_cast<const QToolBar *>(widget))
-            return true;
-    }
-    return false;
-}
 
 QStringList textsOf(const QWidget *widget)
 {
@@ -45,20 +28,22 @@ QStringList textsOf(const QWidget *widget)
     return texts;
 }
 
+bool isOfToolBar(const QWidget *widget)
+{
+    return widget
+           && (qobject_cast<const QToolBar *>(widget) || isOfToolBar(widget->parentWidget()));
+}
+
 /** The Chinese texts of a window but for those of the toolbar, which its description gives. */
 QStringList chineseTexts(const QWidget &window)
 {
-    static const QRegularExpression chinese(
-        QStringLiteral("[\\x{3000}-\\x{9fff}\\x{ff00}-\\x{ffef}]"));
-    QList<const QWidget *> widgets{&window};
+    static const QRegularExpression chinese("[\\x{3000}-\\x{9fff}\\x{ff00}-\\x{ffef}]");
+    QStringList found = textsOf(&window).filter(chinese);
     const QList<QWidget *> parts = window.findChildren<QWidget *>();
     for (const QWidget *part : parts) {
         if (!isOfToolBar(part))
-            widgets.append(part);
+            found += textsOf(part).filter(chinese);
     }
-    QStringList found;
-    for (const QWidget *widget : widgets)
-        found += textsOf(widget).filter(chinese);
     return found;
 }
 
@@ -73,23 +58,21 @@ private Q_SLOTS:
 
     void theWindowHasNoOtherTextsThanEnglish()
     {
-        ReaderWindow window(description(), QString());
-        QCOMPARE(window.windowTitle(), QStringLiteral("OFD Reader"));
+        QString error;
+        ReaderWindow window(Description::read("release", "marodi", &error), QString());
+        QCOMPARE(window.windowTitle(), QString("OFD Reader"));
         QVERIFY(window.findChildren<QDockWidget *>().size() >= 3);
-        QCOMPARE(window.findChild<QDockWidget *>("host")->windowTitle(), QStringLiteral("Host"));
         QCOMPARE(chineseTexts(window), QStringList());
-    }
 
-    void theWindowTellsOfADocumentInEnglish()
-    {
-        ReaderWindow window(description(), QString());
         window.openSample();
         QTRY_VERIFY2(window.windowTitle().endsWith(" (generated pages) - OFD Reader"),
                      qPrintable(window.windowTitle()));
+        QStringList status;
         const QList<QLabel *> labels = window.statusBar()->findChildren<QLabel *>();
-        QVERIFY(std::any_of(labels.begin(), labels.end(), [](const QLabel *label) {
-            return label->text().startsWith("Page 1 / ");
-        }));
+        for (const QLabel *label : labels)
+            status.append(label->text());
+        QVERIFY2(!status.filter(QRegularExpression("^Page 1 / ")).isEmpty(),
+                 qPrintable(status.join('\n')));
     }
 
     void whatIsWrongWithAFileIsToldInEnglish()
@@ -97,22 +80,22 @@ private Q_SLOTS:
         Document document;
         QString error;
         QVERIFY(!document.open(OFD_SAMPLES "/broken-encrypted.ofd", &error));
-        QCOMPARE(error, QStringLiteral("The file is encrypted and cannot be opened."));
+        QCOMPARE(error, QString("The file is encrypted and cannot be opened."));
     }
 
     void theLibraryAndTheToolkitFollow()
     {
-        QCOMPARE(MRHandWriteDialog().windowTitle(), QStringLiteral("Handwriting settings"));
+        QCOMPARE(MRHandWriteDialog().windowTitle(), QString("Handwriting settings"));
         QCOMPARE(QLocale().language(), QLocale::English);
     }
 
     void theToolkitSpeaksTheLanguageAsWell()
     {
         Language::install("zh_CN");
-        if (QCoreApplication::translate("QPlatformTheme", "Cancel") == QLatin1String("Cancel"))
+        if (QCoreApplication::translate("QPlatformTheme", "Cancel") == QString("Cancel"))
             QSKIP("The toolkit's own translations are not installed.");
-        QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), QStringLiteral("取消"));
-        QCOMPARE(MRHandWriteDialog().windowTitle(), QStringLiteral("手写设置"));
+        QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), QString("取消"));
+        QCOMPARE(MRHandWriteDialog().windowTitle(), QString("手写设置"));
     }
 };
 

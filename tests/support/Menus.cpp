@@ -39,3 +39,17 @@ void clickEntry(QMenu *menu, QAction *entry)
     QTest::mouseMove(menu, place);
     QTest::mouseClick(menu, Qt::LeftButton, {}, place);
 }
+
+void clickEntries(QMenu *menu, const QStringList &names)
+{
+    for (const QString &name : names) {
+        QAction *entry = entryOf(menu, name);
+        QVERIFY2(entry, qPrintable(name));
+        const QPointer<QMenu> subMenu = entry->menu();
+        clickEntry(menu, entry); // A command may end anything that is used here.
+        if (name == names.last())
+            return;
+        QTRY_VERIFY(subMenu->isVisible());
+        menu = subMenu;
+    }
+}

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
 
 #include <functional>
 
@@ -14,3 +14,6 @@ void whenMenuPops(const std::function<void(QMenu *)> &action);
 QAction *entryOf(const QMenu *menu, const QString &name);
 
 void clickEntry(QMenu *menu, QAction *entry);
+
+/** Clicks through these entries, the last of which is a command; the others open menus. */
+void clickEntries(QMenu *menu, const QStringList &names);

@@ -25,3 +25,13 @@ void turnWheel(QWidget *target, const QPoint &delta)
     QSpontaneKeyEvent::setSpontaneous(&event);
     qApp->notify(window->windowHandle(), &event);
 }
+
+QPoint bodyOf(const QWidget *button)
+{
+    return {6, button->height() / 2};
+}
+
+QPoint arrowOf(const QWidget *button)
+{
+    return {button->width() - 4, button->height() / 2};
+}
