@@ -38,13 +38,17 @@ void bringIntoView(QWidget *field)
     }
 }
 
-void selectText(QWidget *field)
+/** Has what is typed replace the text; of a box that takes none, the list is opened. */
+void offerChoice(QWidget *field)
 {
     auto *edit = qobject_cast<QLineEdit *>(field);
-    if (const auto *box = qobject_cast<QComboBox *>(field))
+    auto *box = qobject_cast<QComboBox *>(field);
+    if (box)
         edit = box->lineEdit();
     if (edit)
         edit->selectAll();
+    else if (box)
+        box->showPopup();
 }
 
 } // namespace
@@ -118,7 +122,7 @@ void KeyboardReach::enterField(const QStringList &names, const QString &absence)
         if (QWidget *field = shownChild(m_window, name)) {
             field->setFocus(Qt::ShortcutFocusReason);
             bringIntoView(field);
-            selectText(field);
+            offerChoice(field);
             return;
         }
     }
