@@ -178,6 +178,7 @@ private Q_SLOTS:
             QTest::newRow(qPrintable(large)) << none << "6400%";
         for (const char *unchanged : {"50", "abc", ".5", "5.", "-5", " 5", "%", "\u0663\u0667"})
             QTest::newRow(unchanged) << none << "50%";
+        QTest::newRow("\b") << none << "50%"; // The key, which leaves nothing.
     }
 
     void typedZooms()
@@ -202,6 +203,8 @@ private Q_SLOTS:
             QCOMPARE(host.box->currentIndex(), predefined);
             QCOMPARE(host.box->currentText(), text);
             QCOMPARE(host.takeModes(), QStringList(QStringLiteral("vzmode_%1p").arg(number)));
+            host.enter("\b");
+            QCOMPARE(host.box->currentText(), text);
         }
         QTest::mouseClick(host.box->lineEdit(), Qt::LeftButton);
         QTest::keyClick(host.box, Qt::Key_Up); // The list is walked with the arrows, too.

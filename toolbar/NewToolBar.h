@@ -270,6 +270,7 @@ private:
     void applyTypedZoom(const QString &text);
     void keepCustomZoom(const QString &entry);
     void dropTypedZoom();
+    void showLastZoom();
     void showZoomHint();
 
     // State by name. The order in which a name is looked up stands in visitControls() alone.

@@ -7,7 +7,7 @@
 #include <QAction>
 #include <QActionGroup>
 #include <QComboBox>
-#include <QEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSignalBlocker>
@@ -34,6 +34,14 @@ QString backgroundName(BackgroundStyle style)
         break;
     }
     return QStringLiteral("background_default");
+}
+
+bool isReturn(const QEvent &event)
+{
+    if (event.type() != QEvent::KeyPress)
+        return false;
+    const int key = static_cast<const QKeyEvent &>(event).key();
+    return key == Qt::Key_Return || key == Qt::Key_Enter;
 }
 
 } // namespace
@@ -209,15 +217,28 @@ void NewToolBar::dropTypedZoom()
     const QSignalBlocker blocker(m_zoomBox);
     if (m_zoomBox->count() > m_zoomModes.size())
         m_zoomBox->removeItem(m_zoomBox->count() - 1);
-    if (m_zoomIndex < m_zoomModes.size())
-        m_zoomBox->setCurrentIndex(m_zoomIndex);
-    else
+    showLastZoom();
+}
+
+void NewToolBar::showLastZoom()
+{
+    if (m_zoomIndex >= m_zoomModes.size()) {
         showCustomZoom(m_customZoomText);
+        return;
+    }
+    const QSignalBlocker blocker(m_zoomBox);
+    m_zoomBox->setCurrentIndex(m_zoomIndex);
+    m_zoomBox->setEditText(m_zoomBox->itemText(m_zoomIndex));
 }
 
 bool NewToolBar::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == m_zoomBox) {
+        // Of nothing at all the box would make no entry, and tell nobody.
+        if (isReturn(*event) && m_zoomBox->currentText().isEmpty()) {
+            m_zoomBox->clearFocus();
+            showLastZoom();
+        }
         // Whatever was typed stands in the box by now; nothing is kept from it.
         if (event->type() == QEvent::KeyRelease)
             showZoomHint();
