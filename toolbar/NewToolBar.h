@@ -190,6 +190,7 @@ private:
     MRMenuButton *appButtonAt(int position) const;
     bool AppendSubMenu(QMenu *menu, const QList<Controller *> &items, QProxyStyle *style);
     void appendMenu(QMenu *menu, const Controller &record, QProxyStyle *style);
+    QMenu *createSubMenu(QMenu *menu, const Controller &record, QProxyStyle *style);
     void appendMenuItem(QMenu *menu, const Controller &record);
     QAction *createMenuAction(QMenu *menu, const Controller &record);
     void connectMenuAction(QAction *action, const Controller &record, bool isNew);

@@ -157,6 +157,14 @@ bool NewToolBar::AppendSubMenu(QMenu *menu, const QList<Controller *> &items, QP
 
 void NewToolBar::appendMenu(QMenu *menu, const Controller &record, QProxyStyle *style)
 {
+    QMenu *subMenu = createSubMenu(menu, record, style);
+    AppendSubMenu(subMenu, record.children, style);
+    menu->addMenu(subMenu)->setVisible(record.visible);
+}
+
+// Apart from what calls itself, which thereby needs little of the stack for each level.
+QMenu *NewToolBar::createSubMenu(QMenu *menu, const Controller &record, QProxyStyle *style)
+{
     auto *subMenu = new QMenu(record.text, menu);
     subMenu->setObjectName(record.name);
     subMenu->setProperty("intoolbar", "true");
@@ -169,8 +177,7 @@ void NewToolBar::appendMenu(QMenu *menu, const Controller &record, QProxyStyle *
         m_recentFilesMenu = subMenu;
         connect(subMenu, &QMenu::triggered, this, &NewToolBar::Inner_DoOpenRecentFileSlot);
     }
-    AppendSubMenu(subMenu, record.children, style);
-    menu->addMenu(subMenu)->setVisible(record.visible);
+    return subMenu;
 }
 
 void NewToolBar::appendMenuItem(QMenu *menu, const Controller &record)
