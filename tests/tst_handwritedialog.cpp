@@ -198,7 +198,9 @@ private Q_SLOTS:
     {
         const QTemporaryDir folder;
         const QString picture = folder.filePath("pen.png");
-        QVERIFY(QImage(60, 40, QImage::Format_RGB32).save(picture));
+        QImage pen(60, 40, QImage::Format_RGB32);
+        pen.fill(Qt::blue);
+        QVERIFY(pen.save(picture));
         for (const int count : {0, 1, 2, 9}) {
             Tracks tracks(count);
             for (Track *track : std::as_const(tracks.list))

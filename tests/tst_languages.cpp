@@ -104,7 +104,9 @@ private Q_SLOTS:
     {
         const QTemporaryDir folder;
         const QString path = folder.filePath("pen.png");
-        QVERIFY(QImage(60, 40, QImage::Format_RGB32).save(path));
+        QImage pen(60, 40, QImage::Format_RGB32);
+        pen.fill(Qt::blue);
+        QVERIFY(pen.save(path));
         Track track{1, QColor(1, 2, 3), 5, 12, 2, true, path};
         QList<Track *> tracks{&track};
         MRHandWriteDialog dialog;
