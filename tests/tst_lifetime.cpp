@@ -6,7 +6,6 @@
 #include <QMenu>
 #include <QStackedWidget>
 #include <QToolBar>
-#include <QToolButton>
 
 namespace {
 
@@ -137,45 +136,6 @@ private Q_SLOTS:
         QVERIFY2(!toolBar, "The handler was not called");
         runDeferredDeletes();
         QVERIFY(!host.find<QToolBar>("mrtoolbar"));
-    }
-
-    void shouldLetTheHostDeleteTheWindowOnAChoiceFromAMenu_data()
-    {
-        QTest::addColumn<QString>("button");
-        QTest::addColumn<QStringList>("entries");
-        QTest::newRow("row") << "drop" << QStringList{"d_one"};
-        QTest::newRow("sub-menu of a row") << "drop" << QStringList{"d_more", "d_two"};
-        QTest::newRow("application") << "menu_file" << QStringList{"f_open"};
-        QTest::newRow("sub-menu of the application")
-            << "menu_file" << QStringList{"menu_help", "h_info"};
-        QTest::newRow("set button") << "ab_set" << QStringList{"s_one"};
-    }
-
-    void shouldLetTheHostDeleteTheWindowOnAChoiceFromAMenu()
-    {
-        QFETCH(QString, button);
-        QFETCH(QStringList, entries);
-        TestHost host(everything);
-        host.showEnabled();
-        connect(&host.facade(), &MRToolBar::DoRequestAuthority, this, [&host] {
-            for (const char *name : {"f_open", "h_info", "s_one"})
-                host.setUsable(name, true);
-        });
-        bool isHeard = false;
-        connect(&host.facade(), &MRToolBar::DoActive, this, [&] {
-            isHeard = true;
-            host.deleteWindow();
-        });
-
-        whenMenuPops([&](QMenu *menu) { clickEntries(menu, entries); });
-        QPointer<QAbstractButton> opener = host.find<QAbstractButton>(button);
-        if (auto *dropButton = qobject_cast<QToolButton *>(opener))
-            dropButton->showMenu(); // It dies while it is pressed, and no click could go on.
-        else
-            QTest::mouseClick(opener, Qt::LeftButton);
-        QVERIFY(isHeard);
-        runDeferredDeletes();
-        QVERIFY(!opener);
     }
 
     void shouldWorkWithoutAUsableDescription_data()

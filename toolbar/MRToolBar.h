@@ -22,7 +22,8 @@ class QMainWindow;
  * null rectangle.
  *
  * All calls belong to the GUI thread. Set NewToolBar::uiStyle before constructing the first one. In
- * the answer to a signal, end the window, the toolbar or this object by deleteLater().
+ * the answer to a signal the host may run an event loop of its own, such as QDialog::exec(), and
+ * delete the window, the toolbar or this object in whatever way it likes.
  */
 class MRTOOLBAR_EXPORT MRToolBar : public QObject
 {
@@ -109,10 +110,7 @@ Q_SIGNALS:
     void DoDoubleActive(QString objName);
     /** The user chose a recent file; @p fileName is an absolute path. */
     void DoOpenFile(QString fileName);
-    /**
-     * The user chose a zoom mode such as "vzmode_fitpage" or "vzmode_125p" (10 to 6400 percent). It
-     * comes out of the box itself: a host that ends the toolbar on it must use deleteLater().
-     */
+    /** The user chose a zoom mode: "vzmode_fitpage" or "vzmode_125p" (10 to 6400 percent). */
     void DoSetZoomMode(QString zmode);
     /** The user searches. */
     void DoSearchContent(SearchOption opt);

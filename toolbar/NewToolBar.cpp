@@ -6,6 +6,7 @@
 #include "toolbar/widgets/CustomMenuStyle.h"
 #include "toolbar/widgets/DropMenuIndex.h"
 #include "toolbar/widgets/FocusRing.h"
+#include "toolbar/widgets/HostAnswer.h"
 #include "toolbar/widgets/MRMenuButton.h"
 #include "toolbar/widgets/MRSearchBar.h"
 #include "toolbar/widgets/ScreenDensity.h"
@@ -15,6 +16,7 @@
 
 #include <QAction>
 #include <QButtonGroup>
+#include <QComboBox>
 #include <QDomElement>
 #include <QFrame>
 #include <QHBoxLayout>
@@ -74,7 +76,7 @@ NewToolBar::~NewToolBar()
     DeleteUnitControl(&m_controllers);
     m_controllers.clear();
 
-    releaseMenus();
+    releaseWidgetsInUse();
     giveStylesToMenus();
 
     // Alone, this widget takes its strip along. A strip that is dying itself, with its window or
@@ -83,17 +85,21 @@ NewToolBar::~NewToolBar()
         strip->deleteLater();
 }
 
-void NewToolBar::releaseMenus()
+void NewToolBar::releaseWidgetsInUse()
 {
+    // Qt still uses a menu or a combo box after one of its entries made the host delete the
+    // toolbar.
     const QList<QMenu *> menus = findChildren<QMenu *>();
     for (QMenu *menu : menus) {
-        // The toolkit goes on to use a menu after the choice that made the host end this toolbar.
         const bool wasOpened = menu->testAttribute(Qt::WA_WState_ExplicitShowHide);
-        if (wasOpened && !qobject_cast<QMenu *>(menu->parentWidget())) {
-            menu->setParent(nullptr, menu->windowFlags());
-            menu->deleteLater();
-        }
+        if (wasOpened && !qobject_cast<QMenu *>(menu->parentWidget()))
+            HostAnswer::deleteWhenOver(menu);
     }
+    if (!HostAnswer::isPending())
+        return;
+    const QList<QComboBox *> boxes = findChildren<QComboBox *>();
+    for (QComboBox *box : boxes)
+        HostAnswer::deleteWhenOver(box);
 }
 
 void NewToolBar::giveStylesToMenus()

@@ -175,7 +175,7 @@ private:
     /** The Tab key goes along the top line, then down to the row. */
     void orderFocus();
     void dockIntoMainWindow();
-    void releaseMenus();
+    void releaseWidgetsInUse();
     void giveStylesToMenus();
     QList<Controller *> sectionRecords(const char *section) const;
     QSize scaledIconSize(double side) const;

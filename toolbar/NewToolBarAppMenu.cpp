@@ -5,6 +5,7 @@
 #include "toolbar/description/Controller.h"
 #include "toolbar/description/DescriptionParser.h"
 #include "toolbar/widgets/CustomMenuStyle.h"
+#include "toolbar/widgets/HostAnswer.h"
 #include "toolbar/widgets/MRMenuButton.h"
 #include "toolbar/widgets/ToolTipCard.h"
 
@@ -273,6 +274,7 @@ void NewToolBar::Inner_DoOpenRecentFileSlot(QAction *action)
     if (!action)
         return;
 
+    const HostAnswer answer;
     const QString name = action->objectName();
     if (name == recentFileName) {
         Q_EMIT DoOpenFile(action->property(absolutePathProperty).toString());

@@ -3,6 +3,7 @@
 #include "toolbar/ActionData.h"
 #include "toolbar/ActionTrigger.h"
 #include "toolbar/QtCompat.h"
+#include "toolbar/widgets/HostAnswer.h"
 #include "toolbar/widgets/MRDropButton.h"
 
 #include <QAction>
@@ -63,6 +64,7 @@ void NewToolBar::Inner_DoBarActionSlot()
 
 void NewToolBar::dispatchAction(QAction *action)
 {
+    const HostAnswer answer;
     if (ActionData::isSilent(action)) {
         // The first trigger of an action without data stays unreported, and the double-click bit
         // is lost with it, deliberately: `available` and the check by name are made of this.

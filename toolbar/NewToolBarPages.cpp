@@ -3,6 +3,7 @@
 #include "toolbar/PageText.h"
 #include "toolbar/QtCompat.h"
 #include "toolbar/ZoomText.h"
+#include "toolbar/widgets/HostAnswer.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -159,6 +160,7 @@ void NewToolBar::Inner_DoSetZoomModeSlot(QString text)
     if (!m_zoomBox)
         return;
 
+    const HostAnswer answer;
     m_zoomBox->clearFocus();
     const int index = m_zoomBox->currentIndex();
     if (index >= 0 && index < m_zoomModes.size())

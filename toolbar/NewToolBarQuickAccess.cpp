@@ -6,6 +6,7 @@
 #include "toolbar/description/Controller.h"
 #include "toolbar/description/DescriptionParser.h"
 #include "toolbar/skin/Skin.h"
+#include "toolbar/widgets/HostAnswer.h"
 #include "toolbar/widgets/ToolTipCard.h"
 
 #include <QAction>
@@ -142,6 +143,7 @@ void NewToolBar::Inner_DoQuickAccessBarActionSlot()
     const auto prefix = command.indexOf(commandPrefix);
     if (prefix >= 0)
         command = command.mid(prefix + commandPrefix.size());
+    const HostAnswer answer;
     if (!command.isEmpty())
         Q_EMIT DoActive(command);
 }

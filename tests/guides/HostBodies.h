@@ -14,6 +14,7 @@
 #include <QLabel>
 #include <QLocale>
 #include <QMainWindow>
+#include <QMessageBox>
 #include <QSet>
 #include <QSettings>
 #include <QSlider>

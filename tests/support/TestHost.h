@@ -56,6 +56,8 @@ public:
 
     QMainWindow &window() { return *m_window; }
     void deleteWindow() { m_window.reset(); }
+    /** From now on the window is its own. */
+    QMainWindow *releaseWindow() { return m_window.release(); }
     MRToolBar &facade() { return *m_facade; }
     void deleteFacade() { m_facade.reset(); }
     NewToolBar *toolBar() const { return m_window->findChild<NewToolBar *>(); }

@@ -1,0 +1,214 @@
+#include "tests/support/Describe.h"
+#include "tests/support/Menus.h"
+#include "tests/support/TestHost.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMessageBox>
+#include <QTimer>
+#include <QToolBar>
+#include <QToolButton>
+
+namespace {
+
+using namespace Describe;
+
+const QString everyMenu =
+    section("appbutton",
+            menu("menu_file", item("f_open") + menu("menu_more", item("f_more"))
+                                  + menu("f_openrecent", item("no_file") + item("f_clearhistory")))
+                + menu("set", item("s_one")))
+    + section("quickaccessbar", button("qbar_f_save") + button("qbar_f_print"))
+    + row(menu("drop", item("d_one") + menu("d_more", item("d_two")), "checkable='true'")
+          + "<buttongroup name='two'>"
+          + menu("group", item("g_one"), "checkable='true' index='1' switchable='true'")
+          + "</buttongroup>"
+          + "<combobox name='v_zoom' editable='true' index='1'>"
+            "<item text='10%' action='vzmode_10p'/><item text='50%' action='vzmode_50p'/>"
+            "</combobox>");
+
+/** How the user gets at a command: what is opened, then what is chosen. */
+struct Choice
+{
+    QString opener;
+    QStringList entries;
+};
+
+const QMap<QString, Choice> menuChoices{
+    {"row", {"drop", {"d_one"}}},
+    {"sub-menu of a row", {"drop", {"d_more", "d_two"}}},
+    {"group", {"group", {"g_one"}}},
+    {"application", {"menu_file", {"f_open"}}},
+    {"sub-menu of the application", {"menu_file", {"menu_more", "f_more"}}},
+    {"recent file", {"menu_file", {"f_openrecent", "f_openrecentfile"}}},
+    {"cleared history", {"menu_file", {"f_openrecent", "f_clearhistory"}}},
+    {"set button", {"ab_set", {"s_one"}}},
+    {"overflow of the quick access bar", {"qt_toolbar_ext_button", {"qbar_f_print"}}},
+};
+
+void pressEntries(QMenu *menu, const QStringList &names)
+{
+    for (const QString &name : names) {
+        QAction *entry = entryOf(menu, name);
+        QVERIFY2(entry, qPrintable(name));
+        menu->setActiveAction(entry);
+        const QPointer<QMenu> subMenu = entry->menu();
+        QTest::keyPress(menu, Qt::Key_Return); // The menu may be gone before the key is released.
+        if (!subMenu)
+            return;
+        QTRY_VERIFY(subMenu->isVisible());
+        menu = subMenu;
+    }
+}
+
+void chooseZoom(const QComboBox *box, bool byKeys)
+{
+    QAbstractItemView *list = box->view();
+    const QModelIndex entry = list->model()->index(1, 0);
+    list->setCurrentIndex(entry);
+    if (byKeys)
+        QTest::keyPress(list, Qt::Key_Return);
+    else
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(entry).center());
+}
+
+} // namespace
+
+/** What the host may do in its answer to a choice, also in an event loop of its own. */
+class HostAnswerTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QApplication::setQuitOnLastWindowClosed(false); }
+
+    void shouldLetTheHostEndItInItsAnswer_data()
+    {
+        QTest::addColumn<QString>("choice");
+        QTest::addColumn<bool>("byKeys");
+        QTest::addColumn<QString>("way");
+        QTest::addColumn<bool>("isAsked");
+        for (const QString &choice : menuChoices.keys() + QStringList{"zoom list", "typed zoom"}) {
+            for (const bool byKeys : {false, true}) {
+                for (const char *way :
+                     {"delete window", "delete window later", "close window", "delete toolbar",
+                      "delete strip", "delete window and facade"}) {
+                    for (const bool isAsked : {false, true})
+                        QTest::addRow("%s by %s, %s%s", qPrintable(choice),
+                                      byKeys ? "keys" : "mouse", way, isAsked ? " when asked" : "")
+                            << choice << byKeys << way << isAsked;
+                }
+            }
+        }
+    }
+
+    void shouldLetTheHostEndItInItsAnswer()
+    {
+        QFETCH(QString, choice);
+        QFETCH(bool, byKeys);
+        QFETCH(QString, way);
+        QFETCH(bool, isAsked);
+        TestHost host(everyMenu);
+        prepare(host);
+        const QPointer<NewToolBar> toolBar = host.toolBar();
+        const auto answer = [&] {
+            ++m_answers;
+            if (!isAsked) {
+                end(way, host);
+                return;
+            }
+            QMessageBox question(QMessageBox::Question, "Host", "Save changes?");
+            QTimer::singleShot(0, &question, [&] {
+                end(way, host);
+                // What is deleted later goes in the loop of the question.
+                QTimer::singleShot(20, &question, &QDialog::reject);
+            });
+            question.exec();
+            QVERIFY2(!toolBar, "It is still there when the question is answered");
+        };
+        connect(&host.facade(), &MRToolBar::DoActive, this, answer);
+        connect(&host.facade(), &MRToolBar::DoOpenFile, this, answer);
+        connect(&host.facade(), &MRToolBar::DoSetZoomMode, this, answer);
+
+        m_answers = 0;
+        use(host, choice, byKeys);
+        QTRY_COMPARE(m_answers, 1);
+        runDeferredDeletes();
+        QVERIFY(!toolBar);
+        const QWidgetList widgets = QApplication::allWidgets();
+        for (const QWidget *widget : widgets)
+            QVERIFY2(!widget->property("intoolbar").isValid() && !widget->inherits("QMenu"),
+                     qPrintable("left behind: " + widget->objectName()));
+    }
+
+private:
+    /** Shows the host with every menu made and every command enabled. */
+    static void prepare(TestHost &host)
+    {
+        host.toolBar()->Inner_DoDelayLoadMenuSlot();
+        host.facade().DoUpdateRecentFileSlot({"/one.ofd"});
+        host.showEnabled();
+        host.enableEverything();
+        auto *quickBar = host.find<QToolBar>("toolbar_quickaccessbar");
+        quickBar->setMaximumWidth(quickBar->sizeHint().width() * 2 / 3);
+        QTRY_VERIFY(quickBar->findChild<QToolButton *>("qt_toolbar_ext_button")->isVisible());
+    }
+
+    static void use(TestHost &host, const QString &choice, bool byKeys)
+    {
+        auto *box = host.find<QComboBox>("v_zoom");
+        if (choice == "typed zoom") {
+            box->setFocus();
+            box->lineEdit()->setText("37");
+            QTest::keyPress(box, byKeys ? Qt::Key_Return : Qt::Key_Enter);
+        } else if (choice == "zoom list") {
+            box->showPopup();
+            QTRY_VERIFY(box->view()->isVisible());
+            chooseZoom(box, byKeys);
+        } else {
+            const Choice path = menuChoices.value(choice);
+            whenMenuPops([path, byKeys](QMenu *menu) {
+                byKeys ? pressEntries(menu, path.entries) : clickEntries(menu, path.entries);
+            });
+            // The button may die in its own click, so none of the test's own code waits in it.
+            auto *opener = openerOf(host, path.opener);
+            const bool isSplit = qobject_cast<QToolButton *>(opener);
+            QMetaObject::invokeMethod(opener, isSplit ? "showMenu" : "click", Qt::QueuedConnection);
+        }
+    }
+
+    static QAbstractButton *openerOf(const TestHost &host, const QString &name)
+    {
+        const QString bar = "toolbar_quickaccessbar";
+        return name.startsWith("qt_toolbar")
+                   ? host.find<QToolBar>(bar)->findChild<QToolButton *>(name)
+                   : host.find<QAbstractButton>(name);
+    }
+
+    static void end(const QString &way, TestHost &host)
+    {
+        QMainWindow &window = host.window();
+        if (way == "delete window and facade")
+            host.deleteFacade();
+        if (way == "delete window later") {
+            host.releaseWindow()->deleteLater();
+        } else if (way == "close window") {
+            host.releaseWindow()->setAttribute(Qt::WA_DeleteOnClose);
+            window.close();
+        } else if (way == "delete toolbar") {
+            delete host.toolBar();
+        } else if (way == "delete strip") {
+            delete host.find<QToolBar>("mrtoolbar");
+        } else {
+            host.deleteWindow();
+        }
+    }
+
+    int m_answers = 0;
+};
+
+QTEST_MAIN(HostAnswerTest)
+#include "tst_hostanswer.moc"
