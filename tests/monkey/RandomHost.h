@@ -6,6 +6,7 @@
 #include "toolbar/MRToolBar.h"
 
 #include <QMainWindow>
+#include <QPushButton>
 #include <QStringList>
 
 inline const QStringList reservedNames =
@@ -56,6 +57,23 @@ public:
         for (QString name : std::as_const(m_names))
             m_facade->DoSetControlUsableStateSlot(name, true);
         return "enable everything";
+    }
+
+    /** Shows or hides a tab, most often the one that its own call has just opened. */
+    QString showTab()
+    {
+        const auto tabs = m_window->findChildren<QPushButton *>();
+        QStringList names;
+        for (const QPushButton *tab : tabs) {
+            if (tab->property("module") == "tabbutton" && (tab->isChecked() || m_random.oneIn(2)))
+                names.append(tab->objectName());
+        }
+        if (names.isEmpty())
+            return "no tab to show";
+        QString name = m_random.oneOf<QString>(names);
+        const bool isShown = m_random.oneIn(2);
+        m_facade->DoSetControlVisibleStateSlot(name, isShown);
+        return QStringLiteral("tab %1 %2").arg(name).arg(isShown);
     }
 
 private:

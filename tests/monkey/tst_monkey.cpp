@@ -5,6 +5,7 @@
 #include "tests/support/TestHost.h"
 
 #include <QApplication>
+#include <QEventLoop>
 #include <QTimer>
 
 namespace {
@@ -25,9 +26,7 @@ public:
         , m_host(m_random, m_names.all, m_witness)
         , m_user(m_random)
     {
-        // Menus and lists wait for the user in an event loop of their own.
-        QObject::connect(&m_popupTimer, &QTimer::timeout, &m_witness, [this] { usePopup(); });
-        m_popupTimer.start(0);
+        waitForPopups();
     }
 
     ~Monkey() { end(); }
@@ -107,13 +106,63 @@ private:
         ++m_depth;
         if (m_random.oneIn(3))
             m_host.enableEverything();
-        if (m_random.oneIn(3))
+        if (isAlive() && m_random.oneIn(3))
             tell("  answer: " + m_host.step());
-        if (m_random.oneIn(200)) {
+        if (isAlive() && m_random.oneIn(6))
+            tell("  answer: " + m_host.showTab());
+        if (isAlive() && m_random.oneIn(12))
+            answerInALoop();
+        if (isAlive() && m_random.oneIn(200)) {
             tell("  answer: end of the window");
-            m_window->deleteLater();
+            endWindow();
         }
         --m_depth;
+    }
+
+    /** A host that asks the user something: anything may happen until there is an answer. */
+    void answerInALoop()
+    {
+        QEventLoop loop;
+        QTimer::singleShot(0, &loop, [this, &loop] {
+            for (int steps = m_random.between(1, 4); steps > 0 && isAlive(); --steps) {
+                const bool isHost = m_random.oneIn(3);
+                tell("  in a loop: " + (isHost ? m_host.step() : m_user.step(*m_window)));
+            }
+            if (isAlive() && m_random.oneIn(8)) {
+                tell("  in a loop: end of the window");
+                endWindow();
+            }
+            // What is to be deleted later goes in this loop.
+            QTimer::singleShot(1, &loop, &QEventLoop::quit);
+        });
+        loop.exec();
+    }
+
+    void endWindow()
+    {
+        switch (m_random.below(4)) {
+        case 0:
+            delete m_window;
+            break;
+        case 1:
+            delete m_toolBar;
+            break;
+        case 2:
+            m_window->setAttribute(Qt::WA_DeleteOnClose);
+            m_window->close();
+            break;
+        default:
+            m_window->deleteLater();
+        }
+    }
+
+    /** Menus and lists wait for the user in an event loop of their own, and so may the host. */
+    void waitForPopups()
+    {
+        QTimer::singleShot(0, &m_witness, [this] {
+            waitForPopups(); // First, as the use of a popup may not end before the next one.
+            usePopup();
+        });
     }
 
     void usePopup()
@@ -138,7 +187,6 @@ private:
     QPointer<QMainWindow> m_window;
     QPointer<MRToolBar> m_facade;
     QPointer<NewToolBar> m_toolBar;
-    QTimer m_popupTimer;
     QStringList m_moves;
     int m_depth = 0;
 };
