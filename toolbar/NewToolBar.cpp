@@ -1,5 +1,6 @@
 #include "toolbar/NewToolBar.h"
 
+#include "toolbar/TabRequests.h"
 #include "toolbar/description/Controller.h"
 #include "toolbar/description/DescriptionParser.h"
 #include "toolbar/skin/Skin.h"
@@ -55,6 +56,7 @@ NewToolBar::NewToolBar(QMainWindow *mainWindow, QDomNode &description, QMap<QStr
     : QWidget(mainWindow)
     , m_mainWindow(mainWindow)
     , m_alignment(alignment)
+    , m_tabRequests(std::make_unique<TabRequests>())
 {
     m_scale = static_cast<float>(ScreenDensity::dpiX(this)) / 96.0F;
     m_dropMenus = new DropMenuIndex(this);

@@ -10,6 +10,8 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <memory>
+
 class CustomMenuStyle;
 class DropMenuIndex;
 class MRDropButton;
@@ -20,6 +22,7 @@ class MRMenuButton;
 class MRScrollWidget;
 class MRSearchBar;
 class ControlVisitor;
+class TabRequests;
 enum class ControlReport;
 class QAbstractButton;
 class QAction;
@@ -211,6 +214,7 @@ private:
     QWidget *createTabPage(const Controller &tab);
     MRMainToolBar *createToolRow(const Controller &tab);
     void fillToolRow(MRMainToolBar *row, const QString &tabName);
+    void openTab(int index);
     void showTabPage(int index);
     QString currentTabName() const;
     void SetExtraGroupVisible(QString tabName);
@@ -361,7 +365,7 @@ private:
     bool m_externalQss = false;
     bool m_toolRowsShown = true;
     bool m_isFirstUsableCall = true;
-    bool m_isLeavingTab = false;
+    const std::unique_ptr<TabRequests> m_tabRequests;
 
     // Last, so that it is the first to go.
     QTimer m_delayTimer;

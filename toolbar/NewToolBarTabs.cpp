@@ -1,5 +1,6 @@
 #include "toolbar/NewToolBar.h"
 
+#include "toolbar/TabRequests.h"
 #include "toolbar/description/Controller.h"
 #include "toolbar/description/DescriptionParser.h"
 #include "toolbar/widgets/MRMainToolBar.h"
@@ -10,6 +11,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenu>
+#include <QPointer>
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QVBoxLayout>
@@ -31,6 +33,22 @@ Qt::Alignment rowAlignment(ToolBarAlignment alignment)
     return Qt::AlignCenter;
 }
 
+/** Checks the tab on show, or no tab at all if that one cannot be checked. */
+void checkOnly(QAbstractButton *tab)
+{
+    const QPointer<QButtonGroup> group(tab->group());
+    QAbstractButton *checked = group->checkedButton();
+    if (tab->isCheckable() || !checked) {
+        tab->setChecked(true);
+        return;
+    }
+    // An exclusive group does not let go of its last check. Whoever hears of it may delete both.
+    group->setExclusive(false);
+    checked->setChecked(false);
+    if (group)
+        group->setExclusive(true);
+}
+
 } // namespace
 
 QButtonGroup *NewToolBar::CreateTabBar(QList<bool> &visibleTabs)
@@ -44,7 +62,7 @@ QButtonGroup *NewToolBar::CreateTabBar(QList<bool> &visibleTabs)
     if (m_controllers.isEmpty())
         return nullptr;
 
-    int checkedTab = 0;
+    int shownTab = 0;
     const QList<Controller *> tabs = sectionRecords(Section::tabBar);
     for (int index = 0; index < tabs.size(); ++index) {
         const Controller &tab = *tabs.at(index);
@@ -54,12 +72,15 @@ QButtonGroup *NewToolBar::CreateTabBar(QList<bool> &visibleTabs)
         createTabPage(tab);
         visibleTabs.append(tab.visible);
         if (tab.checked)
-            checkedTab = index;
+            shownTab = index;
     }
-    showTabPage(checkedTab);
+    showTabPage(shownTab);
+    if (tabs.isEmpty())
+        return group;
     // A stack shows one page; that of a hidden tab is hidden with it.
-    if (!tabs.isEmpty())
-        m_toolRowStack->currentWidget()->setVisible(tabs.at(checkedTab)->visible);
+    m_toolRowStack->currentWidget()->setVisible(tabs.at(shownTab)->visible);
+    if (tabs.at(shownTab)->checked)
+        checkOnly(m_tabButtons.at(shownTab));
     return group;
 }
 
@@ -136,16 +157,26 @@ void NewToolBar::Inner_DoUpdateMainToolBarSlot()
         return;
 
     const QString tabName = button->objectName();
-    const QString index = button->property(tabIndexProperty).toString();
-    const QPointer<NewToolBar> self(this);
-    if (auto *row = qobject_cast<MRMainToolBar *>(m_toolBars.value(tabName));
-        row && !row->isFilled()) {
+    const int tab = button->property(tabIndexProperty).toInt();
+    // A click on the tab on show while a tab is being opened returns to it.
+    const bool folds = tab == m_toolRowStack->currentIndex() && !m_tabRequests->isPending();
+    const int request = m_tabRequests->ask(tab);
+    auto *row = qobject_cast<MRMainToolBar *>(m_toolBars.value(tabName));
+    const bool isNew = row && !row->isFilled();
+    if (isNew) {
+        const QPointer<NewToolBar> self(this);
         fillToolRow(row, tabName);
         Q_EMIT DoRequestAuthority();
+        // In its answer the host may have deleted this toolbar or let another tab be opened.
+        if (!self || !m_tabRequests->isLast(request))
+            return;
     }
-    // The host may have deleted this toolbar in its answer.
-    if (self)
-        InitMainToolBar(index);
+    if (!folds || isNew) {
+        openTab(tab);
+        return;
+    }
+    m_tabRequests->settle(tab);
+    setRowsFolded(m_toolRowStack->isVisible());
 }
 
 void NewToolBar::fillToolRow(MRMainToolBar *row, const QString &tabName)
@@ -165,24 +196,32 @@ bool NewToolBar::InitMainToolBar(QString index)
     if (index.isEmpty() || !m_toolRowStack)
         return false;
 
-    const int page = index.toInt();
-    if (page == m_toolRowStack->currentIndex()) {
+    const int tab = index.toInt();
+    if (tab == m_toolRowStack->currentIndex())
         setRowsFolded(m_toolRowStack->isVisible());
-        return true;
-    }
-    showTabPage(page);
+    else
+        openTab(tab);
+    return true;
+}
+
+void NewToolBar::openTab(int index)
+{
+    showTabPage(index);
     // Leaving a tab by name has hidden its row; opening the tab brings it back.
     if (m_currentScrollWidget && m_toolRowsShown)
         m_currentScrollWidget->show();
     SetExtraGroupVisible(currentTabName());
     if (!m_toolRowStack->isVisible())
         setRowsFolded(false);
-    return true;
+    // Last, as the host may listen to the tabs.
+    if (m_toolRowStack->currentIndex() >= 0)
+        checkOnly(m_tabButtons.at(m_toolRowStack->currentIndex()));
 }
 
 void NewToolBar::showTabPage(int index)
 {
     m_toolRowStack->setCurrentIndex(index);
+    m_tabRequests->settle(m_toolRowStack->currentIndex());
     const QWidget *page = m_toolRowStack->currentWidget();
     m_currentScrollWidget = page ? page->findChild<MRScrollWidget *>() : nullptr;
 }
@@ -196,20 +235,23 @@ QString NewToolBar::currentTabName() const
 bool NewToolBar::leaveTab(const QAbstractButton *button)
 {
     // In its answer to the move the host may set the state of this tab once more.
-    if (m_isLeavingTab || currentTabName() != button->objectName())
+    const int shown = m_toolRowStack->currentIndex();
+    if (currentTabName() != button->objectName() || !m_tabRequests->beginLeaving(shown))
         return false;
 
     // Folded and moved on whatever the state that the host has set, deliberately.
     showFoldButtons(true);
     if (m_currentScrollWidget)
         m_currentScrollWidget->hide();
-    const QList<QAbstractButton *> buttons = m_tabButtonGroup->buttons();
-    const auto position = buttons.indexOf(const_cast<QAbstractButton *>(button));
     const QPointer<NewToolBar> self(this);
-    m_isLeavingTab = true;
-    buttons.at((position + 1) % buttons.size())->click();
+    // A tab that is being opened is the next one already.
+    if (m_tabRequests->tab() == shown) {
+        const QList<QAbstractButton *> buttons = m_tabButtonGroup->buttons();
+        const auto position = buttons.indexOf(const_cast<QAbstractButton *>(button));
+        buttons.at((position + 1) % buttons.size())->click();
+    }
     if (self)
-        m_isLeavingTab = false;
+        m_tabRequests->endLeaving(shown);
     return true;
 }
 
