@@ -130,38 +130,6 @@ private Q_SLOTS:
         QTRY_VERIFY2(host.find<QLabel>("d_pagelabel")->isVisible(), "There is room for it");
     }
 
-    void pagesAreRefusedOutsideTheDocument_data()
-    {
-        QTest::addColumn<int>("page"); // 0 when refused. What is entered names the case.
-        QTest::newRow("1") << 1;
-        QTest::newRow("25") << 25;
-        QTest::newRow("7/25") << 7;
-        for (const char *refused : {"26", "0", "-3", "x", "99999999999999"})
-            QTest::newRow(refused) << 0;
-    }
-
-    void pagesAreRefusedOutsideTheDocument()
-    {
-        QFETCH(int, page);
-        TestHost host(row("<lineedit name='d_gotopage' text='all pages'/>"));
-        host.showEnabled();
-        QSignalSpy pages(&host.facade(), &MRToolBar::DoGotoPage);
-        auto *field = host.find<QLineEdit>("d_gotopage");
-        field->setValidator(nullptr); // It lets only some of this pass.
-        const auto enter = [field](const QString &text) {
-            field->setText(text);
-            QTest::keyClick(field, Qt::Key_Return);
-        };
-        enter("1");
-        QVERIFY(pages.isEmpty()); // No document is open.
-        QCOMPARE(field->text(), QStringLiteral("0/0"));
-        host.facade().DoSetPageInfoSlot(3, 25);
-        enter(QTest::currentDataTag());
-        QCOMPARE(TestHost::texts(pages), page ? QStringList(QString::number(page)) : QStringList());
-        enter("99"); // The page entered stands as the current one without an answer of the host.
-        QCOMPARE(field->text(), QStringLiteral("%1/25").arg(page ? page : 3));
-    }
-
     void typedZooms_data()
     {
         QTest::addColumn<QString>("mode"); // Empty for none. What is typed names the case.

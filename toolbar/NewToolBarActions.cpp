@@ -5,6 +5,7 @@
 #include "toolbar/QtCompat.h"
 #include "toolbar/description/Controller.h"
 #include "toolbar/description/DescriptionParser.h"
+#include "toolbar/fields/PageValidator.h"
 #include "toolbar/skin/Skin.h"
 #include "toolbar/widgets/DropMenuIndex.h"
 #include "toolbar/widgets/FieldKeyFilter.h"
@@ -66,10 +67,10 @@ QLabel *addCaption(QWidget *container, const QString &text)
     return caption;
 }
 
-void setDigitsOnly(QLineEdit *field, const char *pattern)
+void setDigitsOnly(QLineEdit *field)
 {
-    field->setValidator(
-        new QRegularExpressionValidator(QRegularExpression(QLatin1String(pattern)), field));
+    const QRegularExpression digits(QStringLiteral("^[0-9]*$"));
+    field->setValidator(new QRegularExpressionValidator(digits, field));
 }
 
 /** What a field is called for those who cannot see where it stands. */
@@ -306,13 +307,13 @@ void NewToolBar::addLabel(const Controller &record, QToolBar *row)
 void NewToolBar::addLineEdit(const Controller &record, QToolBar *row)
 {
     auto *field = new QLineEdit;
-    setDigitsOnly(field, "^[0-9]*$");
+    setDigitsOnly(field);
     field->setProperty("module", "toolbarinput");
     field->setObjectName(record.name);
     field->setAccessibleName(spokenName(record));
     QWidget *container = createCaptionedContainer(field);
     if (record.name.contains(QLatin1String("gotopage"), Qt::CaseInsensitive)) {
-        setDigitsOnly(field, "^[0-9]*[1-9][0-9]*$");
+        field->setValidator(new PageValidator(field));
         new FieldKeyFilter(field);
         connect(field, &QLineEdit::returnPressed, this, &NewToolBar::Inner_DoGotoPageSlot);
         m_pageNumberEdit = field;
