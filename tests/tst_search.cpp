@@ -110,6 +110,49 @@ private Q_SLOTS:
                  "One search has left its mark on the next");
     }
 
+    void shouldSearchFromAnyFieldOfARow_data()
+    {
+        QTest::addColumn<QString>("field");
+        QTest::addColumn<QString>("main"); // What stands in the field that allows the search.
+        QTest::addColumn<QString>("own");
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<QString>("searched");
+        const auto row = [](const char *name, const char *field, const char *main, const char *own,
+                            const char *button, const char *searched) {
+            QTest::newRow(name) << field << main << own << button << searched;
+        };
+        row("Return", "law_input", "main", "own", "", "own");
+        row("Return, main field empty", "law_input", "", "own", "", "");
+        row("Return, empty", "law_input", "main", "", "", "");
+        row("next", "law_input", "main", "own", "law_next", "main");
+        row("earlier Return", "gis_earlier_input", "main", "own", "", "own");
+        row("earlier Return, second field empty", "gis_earlier_input", "", "own", "", "");
+        row("earlier next", "gis_earlier_input", "main", "own", "gis_earlier_next", "main");
+    }
+
+    void shouldSearchFromAnyFieldOfARow()
+    {
+        QFETCH(QString, field);
+        QFETCH(QString, main);
+        QFETCH(QString, own);
+        QFETCH(QString, button);
+        QFETCH(QString, searched);
+        const QString more = "<extra usable='true'><lineedit action='%1_input'>"
+                             "<button action='%1_next' text='&gt;'/></lineedit></extra>";
+        TestHost host(QString(sections).replace("<extra", more.arg("law") + more.arg("gis_earlier")
+                                                              + "<extra"));
+        host.show();
+        const bool isEarlier = field.startsWith("gis");
+        host.find<QLineEdit>(isEarlier ? "gis_input" : "st_input")->setText(main);
+        const QSignalSpy searches(&host.facade(), &MRToolBar::DoSearchContent);
+        searchFor(host, field, own, button);
+        QCOMPARE(searches.count(), searched.isEmpty() ? 0 : 1);
+        if (searched.isEmpty())
+            return;
+        QCOMPARE(lastOf(searches).content, searched);
+        QCOMPARE(lastOf(searches).newSearch, isEarlier);
+    }
+
     void shouldCarryTheOptionsOfItsMenu()
     {
         TestHost host(sections);

@@ -254,7 +254,8 @@ private:
     QPushButton *createDirectionButton(const Controller &record);
     QPushButton *createAdditionalButton(const Controller &record);
     QPushButton *createUnfoldButton(QPushButton *foldButton, const Controller &record);
-    void searchFrom(const QLineEdit *field, const QString &senderName);
+    void searchFrom(const QLineEdit *field, const QObject *from);
+    void searchForOwnText(const QLineEdit *field);
     void emitSearch(int direction);
     void setRowsFolded(bool folded);
     void showFoldButtons(bool folded);

@@ -181,31 +181,42 @@ void NewToolBar::Inner_DoSearchBarActionSlot()
     const auto *option = qobject_cast<const QAction *>(from);
     if (name.contains(QLatin1String("gis"))) {
         m_searchNew = true;
-        searchFrom(m_extraSearchEdit, name);
+        searchFrom(m_extraSearchEdit, from);
     } else if (mentions(name, "wholeword")) {
         m_searchWholeWord = option && option->isChecked();
     } else if (mentions(name, "nocase")) {
         m_searchNoCase = option && option->isChecked();
     } else {
-        searchFrom(m_searchBar, name);
+        searchFrom(m_searchBar, from);
     }
 }
 
-void NewToolBar::searchFrom(const QLineEdit *field, const QString &senderName)
+void NewToolBar::searchFrom(const QLineEdit *field, const QObject *from)
 {
     // The host may delete this toolbar while it searches.
     const QPointer<NewToolBar> self(this);
     if (field && !field->text().isEmpty()) {
         m_searchText = field->text();
-        if (mentions(senderName, "prev"))
+        const QString name = from->objectName();
+        const QPointer<const QObject> sender(from);
+        if (mentions(name, "prev"))
             emitSearch(backwards);
-        else if (mentions(senderName, "next"))
+        else if (mentions(name, "next"))
             emitSearch(forwards);
-        if (self && mentions(senderName, "input"))
-            emitSearch(forwards);
+        if (self && mentions(name, "input"))
+            searchForOwnText(qobject_cast<const QLineEdit *>(sender.data()));
     }
     if (self)
         m_searchNew = false;
+}
+
+void NewToolBar::searchForOwnText(const QLineEdit *field)
+{
+    // The field in which Return was pressed need not be the one that allowed the search.
+    if (field)
+        m_searchText = field->text();
+    if (!m_searchText.isEmpty())
+        emitSearch(forwards);
 }
 
 void NewToolBar::emitSearch(int direction)
