@@ -153,6 +153,46 @@ private Q_SLOTS:
         QCOMPARE(lastOf(searches).newSearch, isEarlier);
     }
 
+    void shouldTellASearchFromTheOneThatAnswersIt_data()
+    {
+        QTest::addColumn<QString>("control");
+        QTest::addColumn<QString>("answer"); // What the host presses when it hears of the first.
+        QTest::addColumn<QStringList>("searches");
+        const QStringList inner{"second 1 new", "main 0 repeated"};
+        QTest::newRow("main within second") << "gis_next"
+                                            << "st_prev" << inner;
+        QTest::newRow("second within main")
+            << "st_prev"
+            << "gis_next" << QStringList{"main 0 repeated", "second 1 new"};
+        // One control that searches twice, with another search in between.
+        QTest::newRow("main within second, which goes on")
+            << "gis_input_next"
+            << "st_prev" << inner + QStringList("second 1 new");
+    }
+
+    void shouldTellASearchFromTheOneThatAnswersIt()
+    {
+        QFETCH(QString, control);
+        QFETCH(QString, answer);
+        TestHost host(control.startsWith("gis_input")
+                          ? QString(sections).replace("gis_next", control)
+                          : sections);
+        host.showEnabled();
+        host.find<QLineEdit>("st_input")->setText("main");
+        host.find<QLineEdit>("gis_input")->setText("second");
+        QStringList heard;
+        connect(&host.facade(), &MRToolBar::DoSearchContent, this, [&](const SearchOption &option) {
+            heard.append(
+                QStringLiteral("%1 %2 %3")
+                    .arg(option.content, QString::number(option.direction),
+                         option.newSearch ? QStringLiteral("new") : QStringLiteral("repeated")));
+            if (heard.size() == 1)
+                host.find<QPushButton>(answer)->click();
+        });
+        host.find<QPushButton>(control)->click();
+        QTEST(heard, "searches");
+    }
+
     void shouldCarryTheOptionsOfItsMenu()
     {
         TestHost host(sections);

@@ -254,9 +254,8 @@ private:
     QPushButton *createDirectionButton(const Controller &record);
     QPushButton *createAdditionalButton(const Controller &record);
     QPushButton *createUnfoldButton(QPushButton *foldButton, const Controller &record);
-    void searchFrom(const QLineEdit *field, const QObject *from);
-    void searchForOwnText(const QLineEdit *field);
-    void emitSearch(int direction);
+    void searchFrom(const QLineEdit *field, const QObject *from, bool isNew);
+    void emitSearch(const QString &text, int direction, bool isNew);
     void setRowsFolded(bool folded);
     void showFoldButtons(bool folded);
 

@@ -180,58 +180,58 @@ void NewToolBar::Inner_DoSearchBarActionSlot()
     const QString name = from->objectName();
     const auto *option = qobject_cast<const QAction *>(from);
     if (name.contains(QLatin1String("gis"))) {
-        m_searchNew = true;
-        searchFrom(m_extraSearchEdit, from);
+        searchFrom(m_extraSearchEdit, from, true);
     } else if (mentions(name, "wholeword")) {
         m_searchWholeWord = option && option->isChecked();
     } else if (mentions(name, "nocase")) {
         m_searchNoCase = option && option->isChecked();
     } else {
-        searchFrom(m_searchBar, from);
+        searchFrom(m_searchBar, from, false);
     }
 }
 
-void NewToolBar::searchFrom(const QLineEdit *field, const QObject *from)
+void NewToolBar::searchFrom(const QLineEdit *field, const QObject *from, bool isNew)
 {
-    // The host may delete this toolbar while it searches.
+    if (!field || field->text().isEmpty())
+        return;
+
+    // The host may delete this toolbar while it searches, or search for something else.
     const QPointer<NewToolBar> self(this);
-    if (field && !field->text().isEmpty()) {
-        m_searchText = field->text();
-        const QString name = from->objectName();
-        const QPointer<const QObject> sender(from);
-        if (mentions(name, "prev"))
-            emitSearch(backwards);
-        else if (mentions(name, "next"))
-            emitSearch(forwards);
-        if (self && mentions(name, "input"))
-            searchForOwnText(qobject_cast<const QLineEdit *>(sender.data()));
-    }
-    if (self)
-        m_searchNew = false;
-}
+    const QPointer<const QObject> guarded(from);
+    const QString name = from->objectName();
+    QString text = field->text();
+    m_searchText = text;
+    if (mentions(name, "prev"))
+        emitSearch(text, backwards, isNew);
+    else if (mentions(name, "next"))
+        emitSearch(text, forwards, isNew);
+    if (!self || !mentions(name, "input"))
+        return;
 
-void NewToolBar::searchForOwnText(const QLineEdit *field)
-{
     // The field in which Return was pressed need not be the one that allowed the search.
-    if (field)
-        m_searchText = field->text();
-    if (!m_searchText.isEmpty())
-        emitSearch(forwards);
+    if (const auto *ownField = qobject_cast<const QLineEdit *>(guarded.data()))
+        text = ownField->text();
+    m_searchText = text;
+    if (!text.isEmpty())
+        emitSearch(text, forwards, isNew);
 }
 
-void NewToolBar::emitSearch(int direction)
+void NewToolBar::emitSearch(const QString &text, int direction, bool isNew)
 {
     const QPointer<NewToolBar> self(this);
     m_searchDirection = direction;
+    m_searchNew = isNew;
     SearchOption option;
-    option.content = m_searchText;
+    option.content = text;
     option.direction = m_searchDirection;
     option.wholeWord = m_searchWholeWord;
     option.noCase = m_searchNoCase;
     option.newSearch = m_searchNew;
     Q_EMIT DoSearchContent(option);
-    if (self)
+    if (self) {
         m_searchDirection = forwards;
+        m_searchNew = false;
+    }
 }
 
 QList<QWidget *> NewToolBar::CreateAddtionalControl()
