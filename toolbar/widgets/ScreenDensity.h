@@ -9,11 +9,12 @@ inline constexpr int designDpi = 96;
 
 /**
  * The dpi themselves, or those of the design where a screen tells nonsense: without a physical
- * size, or with that of a wall, everything would be laid out in no room at all.
+ * size, with that of a wall, or with a millimetre for every pixel, as screens that are none tell,
+ * everything would be laid out in no room at all.
  */
 constexpr int credible(int dpi)
 {
-    constexpr int least = designDpi / 4;
+    constexpr int least = designDpi / 3;
     constexpr int most = designDpi * 20;
     return dpi < least || dpi > most ? designDpi : dpi;
 }
