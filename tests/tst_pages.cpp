@@ -2,11 +2,14 @@
 #include "tests/support/TestHost.h"
 #include "toolbar/ZoomText.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QToolTip>
+
+#include <utility>
 
 using namespace Describe;
 
@@ -64,6 +67,15 @@ public:
         QTest::keyClick(box, Qt::Key_Return);
     }
 
+    /** Walks the list to the entry of that mode, as the keyboard does, and takes it. */
+    void choose(const QString &mode)
+    {
+        box->showPopup();
+        QAbstractItemView *list = box->view();
+        list->setCurrentIndex(list->model()->index(box->findData(mode), 0));
+        QTest::keyClick(list, Qt::Key_Return);
+    }
+
     /** The modes that the user has asked for since the last call. */
     QStringList takeModes()
     {
@@ -72,7 +84,13 @@ public:
         return taken;
     }
 
-    bool isChecked(const QString &name) const { return action(name)->isChecked(); }
+    QString checkedModes() const
+    {
+        QString checked;
+        for (const char *name : {"vzmode_original", "vzmode_fitpage", "vzmode_custom"})
+            checked += QString(action(name)->isChecked() ? name : "");
+        return checked;
+    }
 
     QComboBox *box;
     QSignalSpy modes;
@@ -225,10 +243,48 @@ private Q_SLOTS:
         QCOMPARE(host.box->isEditable(), shown.endsWith('%'));
         QCOMPARE(host.box->count(), predefined);
         QVERIFY(active.isEmpty());
-        QString checked;
-        for (const char *name : {"vzmode_original", "vzmode_fitpage", "vzmode_custom"})
-            checked += QString(host.isChecked(name) ? name : "");
-        QTEST(checked, "checked");
+        QTEST(host.checkedModes(), "checked");
+    }
+
+    void theLastZoomStandsInTheBoxAndOnTheButtons_data()
+    {
+        QTest::addColumn<QString>("first");
+        QTest::addColumn<QString>("answer");
+        QTest::addColumn<QString>("shown");
+        QTest::addColumn<QString>("checked");
+        const QString actualSize = "vzmode_original";
+        const QString custom = "vzmode_custom";
+        const auto row = [](const char *first, const char *answer, const char *shown,
+                            const QString &checked) {
+            QTest::newRow(qPrintable(QStringLiteral("%1, then %2").arg(first, answer)))
+                << first << answer << shown << checked;
+        };
+        row("vzmode_100p", "vzmode_87p", "87%", custom);
+        row("vzmode_100p", "vzmode_10p", "10%", custom);
+        row("vzmode_10p", "vzmode_100p", "100%", actualSize);
+        row("vzmode_original", "vzmode_87p", "87%", custom);
+        row("vzmode_fitpage", "vzmode_100p", "100%", actualSize);
+    }
+
+    void theLastZoomStandsInTheBoxAndOnTheButtons()
+    {
+        QFETCH(QString, first);
+        QFETCH(QString, answer);
+        for (const bool isUser : {false, true}) {
+            ZoomHost host;
+            bool isAnswered = false;
+            connect(&host.facade(), &MRToolBar::DoSetZoomMode, this, [&](const QString &mode) {
+                if (mode == first && !std::exchange(isAnswered, true))
+                    host.facade().DoSetZoomModeSlot(answer);
+            });
+            if (isUser)
+                host.choose(first);
+            else
+                host.facade().DoSetZoomModeSlot(first);
+            QVERIFY(isAnswered);
+            QTEST(host.box->currentText(), "shown");
+            QTEST(host.checkedModes(), "checked");
+        }
     }
 
     void afterACustomReportEveryEntryCanBeChosen()

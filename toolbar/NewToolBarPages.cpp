@@ -90,16 +90,17 @@ void NewToolBar::Inner_DoGotoPageSlot()
 void NewToolBar::DoSetZoomModeSlot(QString mode)
 {
     const QPointer<NewToolBar> self(this);
-    const auto known = m_zoomModes.indexOf(mode);
+    const int known = static_cast<int>(m_zoomModes.indexOf(mode));
     if (known >= 0) {
-        m_zoomIndex = static_cast<int>(known);
+        m_zoomIndex = known;
         if (m_zoomBox)
-            showZoomEntry(m_zoomIndex);
+            showZoomEntry(known);
     } else if (m_zoomBox) {
         setTypable(m_zoomBox, true);
         showCustomZoom(ZoomText::entry(ZoomText::numberOfMode(mode)));
     }
-    if (self)
+    // The host may have answered the move with another zoom, whose button is checked by now.
+    if (self && (known < 0 || m_zoomIndex == known))
         checkZoomButton(mode);
 }
 
