@@ -96,9 +96,24 @@ private Q_SLOTS:
         }
     }
 
+    void escapeGivesTheFocusBackToTheDocument_data()
+    {
+        QTest::addColumn<bool>("isEmbedded");
+        QTest::newRow("window of its own") << false;
+        QTest::newRow("part of another window") << true;
+    }
+
     void escapeGivesTheFocusBackToTheDocument()
     {
+        QFETCH(bool, isEmbedded);
+        QMainWindow outer;
         const auto host = TestHost::withShipped(QStringLiteral("marodi/mr_toolbar.release.xml"));
+        if (isEmbedded) {
+            outer.setCentralWidget(new QWidget);
+            host->window().setParent(outer.centralWidget());
+            outer.resize(host->window().size());
+            outer.show();
+        }
         auto *document = new QLineEdit;
         host->window().setCentralWidget(document);
         host->show();

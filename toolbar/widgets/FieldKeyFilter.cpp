@@ -5,6 +5,19 @@
 #include <QMainWindow>
 #include <QPointer>
 
+namespace {
+
+/** The nearest one, which is no window of its own where the host is part of another program. */
+const QMainWindow *mainWindowOf(const QWidget *widget)
+{
+    const QMainWindow *mainWindow = nullptr;
+    for (; widget && !mainWindow; widget = widget->parentWidget())
+        mainWindow = qobject_cast<const QMainWindow *>(widget);
+    return mainWindow;
+}
+
+} // namespace
+
 FieldKeyFilter::FieldKeyFilter(QLineEdit *field)
     : QObject(field)
 {
@@ -26,8 +39,8 @@ bool FieldKeyFilter::eventFilter(QObject *watched, QEvent *event)
 
 bool FieldKeyFilter::leave(QLineEdit *field)
 {
-    const auto *window = qobject_cast<QMainWindow *>(field->window());
-    QWidget *document = window ? window->centralWidget() : nullptr;
+    const QMainWindow *mainWindow = mainWindowOf(field);
+    QWidget *document = mainWindow ? mainWindow->centralWidget() : nullptr;
     if (!document)
         return false;
     document->setFocus(Qt::OtherFocusReason);
