@@ -11,6 +11,26 @@
 #include <QPainter>
 #include <QStyleOptionMenuItem>
 
+#include <limits>
+
+namespace {
+
+/** A bubble whose pointer begins at @p start and has that size. */
+QImage bubbleImage(int direction, int start, const QSize &pointer)
+{
+    CCR_ToolTipWidget bubble(nullptr);
+    bubble.resize(200, 100);
+    bubble.setDerection(static_cast<CCR_ToolTipWidget::Derection>(direction));
+    bubble.setStartPos(start);
+    bubble.setTriangleInfo(pointer.width(), pointer.height());
+    QImage image(bubble.size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    bubble.render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
+    return image;
+}
+
+} // namespace
+
 /** The menu button, the style of its menus, the bubble and the tooltip cards. */
 class MenuWidgetsTest : public QObject
 {
@@ -139,21 +159,31 @@ private Q_SLOTS:
     {
         QFETCH(QList<QPoint>, filled);
         QFETCH(QList<QPoint>, bare);
-        CCR_ToolTipWidget bubble(nullptr);
-        bubble.resize(200, 100);
-        const int direction = QString(QTest::currentDataTag()).toInt();
-        bubble.setDerection(static_cast<CCR_ToolTipWidget::Derection>(direction));
-        bubble.setStartPos(10);
-        bubble.setTriangleInfo(30, 20);
-        QImage image(bubble.size(), QImage::Format_ARGB32_Premultiplied);
-        image.fill(Qt::transparent);
-        bubble.render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
+        const QImage image = bubbleImage(QString(QTest::currentDataTag()).toInt(), 10, {30, 20});
         const auto at = [](const QPoint &place) { return QStringLiteral("x=%1").arg(place.x()); };
         for (const QPoint &place : std::as_const(filled))
             QVERIFY2(image.pixelColor(place) == QColor(245, 245, 245), qPrintable(at(place)));
         for (const QPoint &place : std::as_const(bare))
             QVERIFY2(image.pixelColor(place).alpha() == 0, qPrintable(at(place)));
         QVERIFY2(image.pixelColor(30, 60).lightness() < 200, "There is no outline");
+    }
+
+    void shouldPaintABubbleOfAnyMeasure()
+    {
+        constexpr int least = std::numeric_limits<int>::min();
+        constexpr int most = std::numeric_limits<int>::max();
+        for (const int direction : {least, -1, 2, 99, most})
+            QCOMPARE(bubbleImage(direction, 10, {30, 20}), bubbleImage(0, 10, {30, 20}));
+        for (const int direction : {0, 1, 4}) {
+            for (const int length : {least, -1000, 1000, most}) {
+                // Far away to the right, the pointer is nowhere beside the body.
+                const QImage image = bubbleImage(direction, length, {30, 20});
+                QCOMPARE(image.pixelColor(100, 60), QColor(245, 245, 245));
+                QVERIFY(length < 0 || image.pixelColor(12, 3).alpha() == 0);
+                bubbleImage(direction, 10, {length, length});
+                bubbleImage(direction, length, {length, length});
+            }
+        }
     }
 
     void shouldMakeACardOfATipWithADescription()

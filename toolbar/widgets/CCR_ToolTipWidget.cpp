@@ -14,13 +14,13 @@ constexpr std::chrono::milliseconds lifetime(2000);
 constexpr int cornerBox = 10; ///< Side of the box that a rounded corner is a quarter of.
 constexpr int cornerRadius = 5;
 
-void addCorner(QPainterPath &path, int x, int y, int startAngle)
+void addCorner(QPainterPath &path, qreal x, qreal y, int startAngle)
 {
     path.arcTo(x, y, cornerBox, cornerBox, startAngle, 90);
 }
 
 /** The left, lower and right edges of a body from @p left to @p right, with all four corners. */
-void addBody(QPainterPath &path, int left, int right, int bottom)
+void addBody(QPainterPath &path, qreal left, qreal right, qreal bottom)
 {
     path.lineTo(left + cornerRadius, 0);
     addCorner(path, left, 0, 90);
@@ -97,7 +97,8 @@ void CCR_ToolTipWidget::paintEvent(QPaintEvent *event)
 
 QPainterPath CCR_ToolTipWidget::slantedPath() const
 {
-    const int pointerEnd = m_triangleWidth + m_startPos;
+    // The host's measures may add up to more than an int holds.
+    const qreal pointerEnd = qreal(m_triangleWidth) + m_startPos;
     QPainterPath path(QPointF(m_startPos, m_triangleHeight));
     addBody(path, m_triangleWidth, width() - 1, height() - 1);
     path.lineTo(pointerEnd, m_triangleHeight);
@@ -109,7 +110,7 @@ QPainterPath CCR_ToolTipWidget::slantedPath() const
 QPainterPath CCR_ToolTipWidget::uprightPath() const
 {
     // The body gives way at the top, so that the triangle stands on it within the widget.
-    const int pointerStart = m_triangleWidth + m_startPos + cornerRadius;
+    const qreal pointerStart = qreal(m_triangleWidth) + m_startPos + cornerRadius;
     QPainterPath path(QPointF(pointerStart, 0));
     addBody(path, m_triangleWidth, width() - 1, height() - 1);
     path.lineTo(pointerStart + m_triangleWidth, 0);

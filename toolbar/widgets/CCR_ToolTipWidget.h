@@ -20,7 +20,7 @@ class MRTOOLBAR_EXPORT CCR_ToolTipWidget : public QWidget
 
 public:
     /** The shape of the pointer; any other value is drawn like the first. */
-    enum Derection
+    enum Derection : int
     {
         DerectionDefault = 0,  ///< Upright on its left side, slanted on its right.
         DerectionMirrored = 1, ///< Upright on its right side, slanted on its left.
