@@ -158,9 +158,9 @@ private Q_SLOTS:
             QTest::newRow(followed) << QString("vzmode_37.5p") << "37.5%";
         const QString none;
         QTest::newRow("100") << none << "100%";
-        for (const char *small : {"5", "0", "9.99", "1.2.3"})
+        for (const char *small : {"5", "0", "9.99", "9.9999999", "1.2.3"})
             QTest::newRow(small) << none << "10%";
-        for (const QString &large : {QString("9000"), QString("6400.5"), QString(400, '9')})
+        for (const QString &large : {QString("9000"), QString("6400.0002"), QString(400, '9')})
             QTest::newRow(qPrintable(large)) << none << "6400%";
         for (const char *unchanged : {"50", "abc", ".5", "5.", "-5", " 5", "%", "\u0663\u0667"})
             QTest::newRow(unchanged) << none << "50%";

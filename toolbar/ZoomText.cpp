@@ -6,8 +6,8 @@
 
 namespace {
 
-constexpr float leastPercent = 10.0F;
-constexpr float mostPercent = 6400.0F;
+constexpr int leastPercent = 10;
+constexpr int mostPercent = 6400;
 
 constexpr QLatin1String modePrefix = QtCompat::latin1("vzmode_");
 
@@ -39,11 +39,12 @@ std::optional<QString> ZoomText::number(const QString &typed)
 
 QString ZoomText::clamped(const QString &number)
 {
-    const float percent = number.toFloat();
+    // As a float, what lies just beyond a limit would be the limit itself.
+    const double percent = number.toDouble();
     if (percent > mostPercent)
-        return QString::number(static_cast<int>(mostPercent));
+        return QString::number(mostPercent);
     if (percent < leastPercent)
-        return QString::number(static_cast<int>(leastPercent));
+        return QString::number(leastPercent);
     return number;
 }
 
