@@ -2,17 +2,14 @@
 #include "tests/support/TestHost.h"
 
 #include <QApplication>
-#include <QFileInfo>
 #include <QMenu>
 
 namespace {
 
 const QString row = "<toolbar_tabbar><tabbutton name='t' checked='true'>"
                     "<button action='f_open' text='Open'/>"
-                    "<button action='f_clearhistory' text='Clear'/><menu name='tools' text='Tools'>"
+                    "<menu name='tools' text='Tools'>"
                     "<menuitem action='x_tool' text='Tool'/></menu></tabbutton></toolbar_tabbar>";
-const QString recentItems = "<menuitem action='no_file' text='None'/>"
-                            "<menuitem action='f_clearhistory' text='Clear'/>";
 const QString setWithMenu =
     "<menu name='set_menu' text='Set'><menuitem action='s_one' text='One'/></menu>";
 const QString fileItems =
@@ -24,22 +21,6 @@ QString appSection(const QString &items, const QString &otherRecords = "")
     return QString("<toolbar_appbutton><menu name='menu_file' text='File'>%1</menu>%2"
                    "</toolbar_appbutton>")
         .arg(items, otherRecords);
-}
-
-QString recentSection(const QString &items)
-{
-    return appSection("<menu name='menu_f_openrecent' text='Recent'>" + items + "</menu>");
-}
-
-QStringList shownTexts(const QMenu *menu)
-{
-    QStringList texts;
-    const QList<QAction *> entries = menu->actions();
-    for (const QAction *entry : entries) {
-        if (entry->isVisible())
-            texts.append(entry->text());
-    }
-    return texts;
 }
 
 } // namespace
@@ -107,59 +88,6 @@ private Q_SLOTS:
         const QSignalSpy requests(&host.facade(), &MRToolBar::DoRequestAuthority);
         host.click("ab_set");
         QVERIFY(requests.isEmpty() && !QApplication::activePopupWidget());
-    }
-
-    void shouldListRecentFiles()
-    {
-        TestHost host(recentSection(recentItems));
-        const QSignalSpy files(&host.facade(), &MRToolBar::DoOpenFile);
-        const QStringList paths{"/docs/a.ofd", "/docs/b;c.ofd", "relative/d.ofd"};
-        host.facade().DoUpdateRecentFileSlot(paths); // Too early, and without a consequence.
-        host.toolBar()->Inner_DoDelayLoadMenuSlot();
-        const auto *menu = host.find<QMenu>("menu_f_openrecent");
-
-        host.facade().DoUpdateRecentFileSlot({"/docs/old.ofd"});
-        host.facade().DoUpdateRecentFileSlot(paths);
-        QCOMPARE(shownTexts(menu), (QStringList{"&1 a.ofd", "&2 b;c.ofd", "&3 d.ofd", "Clear"}));
-        QVERIFY(menu->actions().last()->isEnabled());
-        for (int i = 1; i <= paths.size(); ++i)
-            menu->actions().at(i)->trigger();
-        QCOMPARE(TestHost::texts(files), (QStringList{paths.at(0), paths.at(1),
-                                                      QFileInfo(paths.at(2)).absoluteFilePath()}));
-
-        host.facade().DoUpdateRecentFileSlot({});
-        QCOMPARE(shownTexts(menu), QStringList{"None"});
-        QVERIFY(!menu->actions().last()->isEnabled());
-    }
-
-    void shouldNotListRecentFilesInAMenuWithoutBothEnds()
-    {
-        const QString another = "<menuitem action='x' text='X'/>";
-        const QString placeholder = "<menuitem action='no_file' text='None'/>";
-        for (const QString &items : {placeholder, another + recentItems, recentItems + another}) {
-            TestHost host(recentSection(items));
-            host.toolBar()->Inner_DoDelayLoadMenuSlot();
-            const auto *menu = host.find<QMenu>("menu_f_openrecent");
-            const QStringList before = shownTexts(menu);
-            host.facade().DoUpdateRecentFileSlot({"/docs/a.ofd"});
-            QCOMPARE(shownTexts(menu), before);
-        }
-    }
-
-    void shouldReportAClearedHistoryOnce()
-    {
-        // In the menu alone, and shared with a tool row.
-        for (const QString &otherPlace : {QString(), row}) {
-            TestHost host(recentSection(recentItems) + otherPlace);
-            host.toolBar()->Inner_DoDelayLoadMenuSlot();
-            host.facade().DoUpdateRecentFileSlot({"/a.ofd", "/b.ofd"});
-            const auto *menu = host.find<QMenu>("menu_f_openrecent");
-            const QSignalSpy active(&host.facade(), &MRToolBar::DoActive);
-            menu->actions().last()->trigger();
-            QCOMPARE(TestHost::texts(active), QStringList{"f_clearhistory"});
-            QCOMPARE(shownTexts(menu), QStringList{"None"});
-            QVERIFY(!menu->actions().last()->isEnabled());
-        }
     }
 };
 

@@ -21,6 +21,7 @@ class MRMainToolBar;
 class MRMenuButton;
 class MRScrollWidget;
 class MRSearchBar;
+class RecentFiles;
 class ControlVisitor;
 class TabRequests;
 enum class ControlReport;
@@ -197,8 +198,6 @@ private:
     void appendMenuItem(QMenu *menu, const Controller &record);
     QAction *createMenuAction(QMenu *menu, const Controller &record);
     void connectMenuAction(QAction *action, const Controller &record, bool isNew);
-    void removeRecentFiles();
-    QAction *createRecentFileAction(int position, const QString &path);
 
     // Quick access bar.
     QToolBar *CreateQuickAccessBar();
@@ -358,7 +357,7 @@ private:
     QString m_customZoomText;
     QLabel *m_totalPageLabel = nullptr;
     QLabel *m_pagePromptLabel = nullptr;
-    QMenu *m_recentFilesMenu = nullptr;
+    RecentFiles *m_recentFiles = nullptr;
     QPushButton *m_quickAccessSetButton = nullptr;
     QStringList m_quickAccessNames;
     QString m_toolBarStyleSheet;

@@ -4,14 +4,13 @@
 #include "toolbar/QtCompat.h"
 #include "toolbar/description/Controller.h"
 #include "toolbar/description/DescriptionParser.h"
+#include "toolbar/fields/RecentFiles.h"
 #include "toolbar/widgets/CustomMenuStyle.h"
-#include "toolbar/widgets/HostAnswer.h"
 #include "toolbar/widgets/MRMenuButton.h"
 #include "toolbar/widgets/ToolTipCard.h"
 
 #include <QAction>
 #include <QActionGroup>
-#include <QFileInfo>
 #include <QMenu>
 
 namespace {
@@ -21,32 +20,17 @@ constexpr int appMenuIconSize = 20;
 constexpr int setMenuIconSize = 16;
 
 constexpr QLatin1String setButtonName = QtCompat::latin1("ab_set");
-constexpr QLatin1String recentFileName = QtCompat::latin1("f_openrecentfile");
-constexpr QLatin1String noFileName = QtCompat::latin1("no_file");
-constexpr QLatin1String clearHistoryName = QtCompat::latin1("f_clearhistory");
 constexpr QLatin1String noIndicatorSheet =
     QtCompat::latin1("QPushButton::menu-indicator{image:none;height:0px;width:0px;}");
-
-/** Where a recent file's item keeps the path that the host gets: a tooltip may be a card. */
-constexpr char absolutePathProperty[] = "absolutepath";
-
-/** Whether an item bears that name, plain or as a menu's way to the command of that name. */
-bool isCommand(const QString &name, const QString &command)
-{
-    return name == command || name == QLatin1String("menu_") + command;
-}
-
-void showHistory(const QList<QAction *> &actions, bool hasFiles)
-{
-    actions.first()->setVisible(!hasFiles);
-    actions.last()->setEnabled(hasFiles);
-    actions.last()->setVisible(hasFiles);
-}
 
 } // namespace
 
 bool NewToolBar::CreateAppButton()
 {
+    m_recentFiles = new RecentFiles(this);
+    connect(m_recentFiles, &RecentFiles::openFile, this, &NewToolBar::DoOpenFile);
+    connect(m_recentFiles, &RecentFiles::clearing, this, &NewToolBar::DoActive);
+
     auto *appButton = new MRMenuButton(this, 0, 0, nullptr);
     appButton->setFlat(true);
     appButton->setProperty("module", "toolbarbutton");
@@ -166,7 +150,9 @@ void NewToolBar::appendMenu(QMenu *menu, const Controller &record, QProxyStyle *
 // Apart from what calls itself, which thereby needs little of the stack for each level.
 QMenu *NewToolBar::createSubMenu(QMenu *menu, const Controller &record, QProxyStyle *style)
 {
-    auto *subMenu = new QMenu(record.text, menu);
+    const bool isForRecentFiles = RecentFiles::isMenuName(record.name);
+    QMenu *subMenu = isForRecentFiles ? m_recentFiles->createMenu(record.text, menu)
+                                      : new QMenu(record.text, menu);
     subMenu->setObjectName(record.name);
     subMenu->setProperty("intoolbar", "true");
     if (menu->property("toolbar").toString() == QLatin1String("true"))
@@ -174,10 +160,8 @@ QMenu *NewToolBar::createSubMenu(QMenu *menu, const Controller &record, QProxySt
     subMenu->setIcon(icon(record.icon));
     if (style)
         subMenu->setStyle(style);
-    if (isCommand(record.name, QStringLiteral("f_openrecent"))) {
-        m_recentFilesMenu = subMenu;
+    if (isForRecentFiles)
         connect(subMenu, &QMenu::triggered, this, &NewToolBar::Inner_DoOpenRecentFileSlot);
-    }
     return subMenu;
 }
 
@@ -203,7 +187,7 @@ void NewToolBar::appendMenuItem(QMenu *menu, const Controller &record)
     connectMenuAction(action, record, isNew);
 
     // Both the menu and the item would report a cleared history; the menu's slot does it.
-    if (menu == m_recentFilesMenu && isCommand(record.name, clearHistoryName))
+    if (menu == m_recentFiles->menu() && RecentFiles::isClearName(record.name))
         disconnect(action, &QAction::triggered, this, nullptr);
 }
 
@@ -237,60 +221,12 @@ void NewToolBar::connectMenuAction(QAction *action, const Controller &record, bo
 
 void NewToolBar::DoUpdateRecentFileSlot(QStringList paths)
 {
-    const QList<QAction *> actions =
-        m_recentFilesMenu ? m_recentFilesMenu->actions() : QList<QAction *>();
-    if (actions.size() < 2 || actions.first()->objectName() != noFileName
-        || !actions.last()->objectName().contains(clearHistoryName))
-        return;
-
-    removeRecentFiles();
-    showHistory(actions, !paths.isEmpty());
-    for (int i = 0; i < paths.size(); ++i)
-        m_recentFilesMenu->insertAction(actions.last(), createRecentFileAction(i + 1, paths.at(i)));
-}
-
-void NewToolBar::removeRecentFiles()
-{
-    const QList<QAction *> actions = m_recentFilesMenu->actions();
-    for (int i = 1; i < actions.size() - 1; ++i)
-        m_recentFilesMenu->removeAction(actions.at(i));
-}
-
-QAction *NewToolBar::createRecentFileAction(int position, const QString &path)
-{
-    const QFileInfo file(path);
-    auto *action = new QAction(this);
-    action->setIconVisibleInMenu(true);
-    action->setObjectName(recentFileName);
-    action->setText(QObject::tr("&%1 %2").arg(QString::number(position), file.fileName()));
-    action->setData(path);
-    action->setProperty(absolutePathProperty, file.absoluteFilePath());
-    SetWidgetToolTip(action, file.absoluteFilePath());
-    return action;
+    m_recentFiles->show(paths);
 }
 
 void NewToolBar::Inner_DoOpenRecentFileSlot(QAction *action)
 {
-    if (!action)
-        return;
-
-    const HostAnswer answer;
-    const QString name = action->objectName();
-    if (name == recentFileName) {
-        Q_EMIT DoOpenFile(action->property(absolutePathProperty).toString());
-        return;
-    }
-    if (!isCommand(name, clearHistoryName))
-        return;
-
-    const QPointer<NewToolBar> self(this);
-    Q_EMIT DoActive(name);
-    if (!self || !m_recentFilesMenu)
-        return;
-    const QList<QAction *> actions = m_recentFilesMenu->actions();
-    if (actions.size() > 2)
-        removeRecentFiles();
-    showHistory(actions, false);
+    m_recentFiles->choose(action);
 }
 
 void NewToolBar::Inner_SetCheckedAppButtonSlot()

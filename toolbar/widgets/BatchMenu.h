@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QMenu>
+#include <QPointer>
+
+/**
+ * A menu whose entries can be changed many at a time while it is open. The toolkit lays an open
+ * menu out anew after each change, so that n changes cost n times n measured texts.
+ */
+class BatchMenu : public QMenu
+{
+public:
+    using QMenu::QMenu;
+
+    /** As long as one of these lives, the menu keeps its size; then it is laid out once. */
+    class Changes
+    {
+    public:
+        explicit Changes(BatchMenu *menu);
+        ~Changes();
+        Q_DISABLE_COPY_MOVE(Changes)
+
+    private:
+        QPointer<BatchMenu> m_menu;
+    };
+
+    /** The toolkit gives an open menu this size after each change. */
+    QSize sizeHint() const override;
+
+private:
+    int m_openChanges = 0;
+};
