@@ -4,6 +4,7 @@
 #include "toolbar/description/Controller.h"
 #include "toolbar/description/DescriptionParser.h"
 #include "toolbar/skin/Skin.h"
+#include "toolbar/widgets/ContextMenuStop.h"
 #include "toolbar/widgets/CustomMenuStyle.h"
 #include "toolbar/widgets/DropMenuIndex.h"
 #include "toolbar/widgets/FocusRing.h"
@@ -295,6 +296,9 @@ void NewToolBar::dockIntoMainWindow()
     m_hostToolBar->setObjectName(QStringLiteral("mrtoolbar"));
     m_hostToolBar->setProperty("intoolbar", "true");
     m_hostToolBar->setContextMenuPolicy(Qt::NoContextMenu);
+    // In the window's own context menu the user could only take the toolbar away for good.
+    new ContextMenuStop(m_hostToolBar);
+    m_hostToolBar->toggleViewAction()->setVisible(false);
     m_hostToolBar->setMovable(false);
     m_hostToolBar->addWidget(this);
     ResetSkinStyle();
