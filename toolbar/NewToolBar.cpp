@@ -1,6 +1,7 @@
 #include "toolbar/NewToolBar.h"
 
 #include "toolbar/TabRequests.h"
+#include "toolbar/ShownShortcuts.h"
 #include "toolbar/description/Controller.h"
 #include "toolbar/description/DescriptionParser.h"
 #include "toolbar/skin/Skin.h"
@@ -61,6 +62,7 @@ NewToolBar::NewToolBar(QMainWindow *mainWindow, QDomNode &description, QMap<QStr
 {
     m_scale = static_cast<float>(ScreenDensity::dpiX(this)) / 96.0F;
     m_dropMenus = new DropMenuIndex(this);
+    m_shortcuts = new ShownShortcuts(this);
     connect(&m_delayTimer, &QTimer::timeout, this, &NewToolBar::Inner_DoDelayActionSlot);
     m_quickAccessButtons = skin.value(QStringLiteral("quickaccessbarbuttons"));
 

@@ -22,6 +22,7 @@ class MRMenuButton;
 class MRScrollWidget;
 class MRSearchBar;
 class RecentFiles;
+class ShownShortcuts;
 class ControlVisitor;
 class TabRequests;
 enum class ControlReport;
@@ -311,6 +312,7 @@ private:
     QLineEdit *m_pageNumberEdit = nullptr;
     NamedList<MRDropButton> m_dropButtons;
     DropMenuIndex *m_dropMenus = nullptr; ///< Of the drop buttons' menus.
+    ShownShortcuts *m_shortcuts = nullptr;
     QMainWindow *m_mainWindow = nullptr;
     ToolBarAlignment m_alignment = ToolBarCenter;
     QWidget *m_foldButton = nullptr;   ///< Folds; on show while the rows are.

@@ -2,6 +2,7 @@
 
 #include "toolbar/ActionData.h"
 #include "toolbar/QtCompat.h"
+#include "toolbar/ShownShortcuts.h"
 #include "toolbar/description/Controller.h"
 #include "toolbar/description/DescriptionParser.h"
 #include "toolbar/fields/RecentFiles.h"
@@ -174,7 +175,11 @@ void NewToolBar::appendMenuItem(QMenu *menu, const Controller &record)
 
     if (QActionGroup *group = GetActionGroup(record.group))
         group->addAction(action);
-    action->setShortcut(QKeySequence(record.shortcut));
+    // These menus belong to no window: what they show does not act, elsewhere as little as here.
+    if (record.section == QLatin1String(Section::appButton))
+        m_shortcuts->show(action, QKeySequence(record.shortcut));
+    else
+        m_shortcuts->activate(action, QKeySequence(record.shortcut));
     action->setStatusTip(record.tooltip);
     action->setCheckable(record.checkable);
     action->setChecked(record.checked);
