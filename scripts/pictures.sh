@@ -1,11 +1,12 @@
 #!/usr/bin/env bash
-# Takes the pictures in docs/pictures/ anew; --help tells the options.
+# Takes the pictures of the toolbar; --help tells the options.
 set -euo pipefail
 # shellcheck source-path=SCRIPTDIR source=common.sh
 source "$(dirname -- "${BASH_SOURCE[0]}")/common.sh"
 
 version=5
-folder=$root/docs/pictures
+pages=
+folder=
 showcase=$root/examples/reader/showcase.xml
 
 show_help()
@@ -15,8 +16,9 @@ Usage: scripts/pictures.sh [OPTION]...
 Takes every tab, menu and state of the described toolbars in both skins at 96, 120, 144 and 192
 dpi, one sheet each, and the sheet of the icons, after installing what that needs (Debian 12).
 
-  --qt 5|6       version of Qt (default 5)
-  --out FOLDER   where to (default docs/pictures)
+  --pages        take the pictures that README.md and the guides show instead
+  --qt 5|6       version of Qt (5)
+  --out FOLDER   where to (build/pictures; with --pages docs/pictures)
   --help         show this text
 END
 }
@@ -25,6 +27,7 @@ read_options()
 {
     while (($#)); do
         case $1 in
+            --pages) pages=1 ;;
             --qt) require_one_of "$1" "${2-}" 5 6 && version=$2 && shift ;;
             --out) [[ -n ${2-} ]] || usage_error "--out needs a folder"; folder=$2; shift ;;
             --help) show_help && exit ;;
@@ -34,16 +37,21 @@ read_options()
     done
 }
 
-# take_sheet NAME SKIN DESCRIPTION WIDTH [OPTION]...
-take_sheet()
+# build_programs TARGET...
+build_programs()
 {
-    local name=$1-${dpi}dpi.png skin=$2 description=$3 width=$4
-    shift 4
-    "$build/bin/mrtoolbar-pictures" --skin "$skin" --description "$description" \
-        --width "$width" --out "$folder/$name" "$@" 2> >(grep -v 'parse stylesheet' >&2)
+    configure "$build" "MRTOOLBAR_QT_MAJOR=$version"
+    cmake --build "$build" --target "$@"
 }
 
-take_all()
+# take_sheet NAME SKIN DESCRIPTION WIDTH
+take_sheet()
+{
+    "$build/bin/mrtoolbar-pictures" --skin "$2" --description "$3" --width "$4" \
+        --out "$folder/$1-${dpi}dpi.png" 2> >(grep -v 'parse stylesheet' >&2)
+}
+
+take_sheets_at_density()
 {
     local skin
     for skin in marodi lum; do
@@ -55,14 +63,18 @@ take_all()
     take_sheet marodi-debug-narrow marodi debug 500
 }
 
-read_options "$@"
-need_toolkit "$version"
-needed+=(xvfb x11-xserver-utils imagemagick xdotool)
-install_needed
-build=$root/build/qt$version
-configure "$build" "MRTOOLBAR_QT_MAJOR=$version"
-cmake --build "$build" --target mrtoolbar-pictures mrtoolbar-contactsheet mrtoolbar-reader \
-    mrtoolbar-guide-pictures mrtoolbar-owndescription mrtoolbar-ownskin
+take_sheets()
+{
+    local dpi
+    build_programs mrtoolbar-pictures mrtoolbar-contactsheet
+    for dpi in 96 120 144 192; do
+        start_xvfb "$dpi"
+        take_sheets_at_density
+        stop_xvfb
+        xvfb_pid=
+    done
+    QT_QPA_PLATFORM=offscreen "$build/bin/mrtoolbar-contactsheet" --out "$folder/icons.png"
+}
 
 # The status bar tells the path that the file was given by.
 take_reader()
@@ -99,7 +111,7 @@ take_example()
 
 take_guides()
 {
-    rm -f "$folder"/guide/*.png
+    mkdir -p "$folder/guide"
     "$build/bin/mrtoolbar-guide-pictures" "$build/tests/guides/blocks" "$folder/guide" \
         2> >(grep -v 'parse stylesheet' >&2)
     take_example owndescription owndescription 35 19
@@ -107,17 +119,28 @@ take_guides()
     take_example ownskin ownskin-forest 290 65 320 180
 }
 
-mkdir -p "$folder/guide"
-rm -f "$folder"/*.png
-for dpi in 96 120 144 192; do
-    start_xvfb "$dpi"
-    take_all
-    if ((dpi == 96)); then
-        take_reader
-        take_guides
-    fi
-    stop_xvfb
-    xvfb_pid=
-done
-QT_QPA_PLATFORM=offscreen "$build/bin/mrtoolbar-contactsheet" --out "$folder/icons.png"
+take_pages()
+{
+    build_programs mrtoolbar-reader mrtoolbar-guide-pictures mrtoolbar-owndescription \
+        mrtoolbar-ownskin
+    start_xvfb 96
+    take_reader
+    take_guides
+}
+
+read_options "$@"
+if [[ $pages ]]; then
+    : "${folder:=$root/docs/pictures}"
+    needed+=(xvfb imagemagick xdotool)
+else
+    : "${folder:=$root/build/pictures}"
+    # For xrandr.
+    needed+=(xvfb x11-xserver-utils)
+fi
+mkdir -p -- "$folder"
+folder=$(cd -- "$folder" && pwd)
+need_toolkit "$version"
+install_needed
+build=$root/build/qt$version
+if [[ $pages ]]; then take_pages; else take_sheets; fi
 say "pictures: $folder"
