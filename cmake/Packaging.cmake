@@ -5,7 +5,7 @@
 set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME Development)
 
 set(CPACK_PACKAGE_NAME mrtoolbar)
-set(CPACK_PACKAGE_VENDOR "The MRToolBar developers")
+set(CPACK_PACKAGE_VENDOR "The MRToolBar authors")
 set(CPACK_PACKAGE_CONTACT "${CPACK_PACKAGE_VENDOR} <mrtoolbar@localhost>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY ${PROJECT_DESCRIPTION})
 set(CPACK_PACKAGE_DIRECTORY ${PROJECT_BINARY_DIR}/packages)
@@ -48,5 +48,14 @@ set(CPACK_COMPONENT_RUNTIME_DESCRIPTION
     "The shared library with its descriptions, style sheets and icons.")
 set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION
     "Headers, and the files by which CMake and pkg-config find the library.")
+
+# Where Debian looks for the licence of a package.
+foreach(component IN ITEMS Runtime Development)
+    string(TOUPPER ${component} name)
+    install(FILES ${PROJECT_SOURCE_DIR}/LICENSE
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${CPACK_DEBIAN_${name}_PACKAGE_NAME}
+        RENAME copyright
+        COMPONENT ${component})
+endforeach()
 
 include(CPack)

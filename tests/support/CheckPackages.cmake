@@ -49,6 +49,11 @@ expect_files(share/mrtoolbar/translations/mrtoolbar_en.qm)
 dpkg_in_root(--install ${development})
 expect_files(include/mrtoolbar/toolbar/MRToolBar.h lib/libmrtoolbar.so bin/mrtoolbar-check
     lib/cmake/MRToolBar/MRToolBarConfig.cmake lib/pkgconfig/mrtoolbar.pc)
+file(GLOB licences ${ROOT}/usr/share/doc/*/copyright)
+list(LENGTH licences count)
+if(NOT count EQUAL 2)
+    message(SEND_ERROR "Not each of the two packages has its licence: ${licences}")
+endif()
 
 file(GLOB_RECURSE lists ${ROOT}/var/lib/dpkg/info/libmrtoolbar*.list)
 set(names)
