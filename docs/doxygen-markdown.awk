@@ -1,6 +1,7 @@
 # Makes Doxygen see a guide as the host of the repository shows it: headings get the anchors that
-# links between the guides name, apart from each other by the name of their file, and blocks of code
-# keep only the language of the words behind their fence.
+# links between the guides name, apart from each other by the name of their file, blocks of code keep
+# only the language of the words behind their fence, and a link to a page that Doxygen is not given
+# becomes its text.
 
 FNR == 1 {
     guide = FILENAME
@@ -28,6 +29,15 @@ FNR == 1 {
     gsub(/\]\(host-guide\.md#/, "](#host-guide-")
     gsub(/\]\(description-format\.md#/, "](#description-format-")
     gsub(/\]\(skins\.md#/, "](#skins-")
+}
+
+!inCode {
+    other = "\\[[^]]*\\]\\((docs/(architecture|quality)\\.md|(CONTRIBUTING|CHANGELOG)\\.md|LICENSE)\\)"
+    while (match($0, other)) {
+        text = substr($0, RSTART + 1, RLENGTH)
+        sub(/\].*/, "", text)
+        $0 = substr($0, 1, RSTART - 1) text substr($0, RSTART + RLENGTH)
+    }
 }
 
 { print }
