@@ -63,7 +63,7 @@ run_tests()
 }
 
 read_options "$@"
-needed+=(xvfb python3 libxml2-utils pkg-config)
+needed+=(xvfb python3 libxml2-utils pkg-config clang-format)
 for version in "${versions[@]}"; do
     need_toolkit "$version"
 done
