@@ -1,11 +1,16 @@
 #include "tests/support/Describe.h"
 #include "tests/support/TestHost.h"
+#include "toolbar/commands/ClickClock.h"
 #include "toolbar/widgets/MRDropButton.h"
+#include "toolbar/widgets/MRMainToolBar.h"
 
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
+#include <QThread>
+#include <QWindow>
 
+#include <algorithm>
 #include <array>
 
 using namespace Describe;
@@ -20,6 +25,20 @@ QString tool(const QString &name)
 void trigger(const TestHost &host, const QString &name)
 {
     host.action(name)->trigger();
+}
+
+QWidget *rowButton(const TestHost &host, const QString &name)
+{
+    return host.find<MRMainToolBar>(QStringLiteral("row"))->widgetForAction(host.action(name));
+}
+
+/** A click that the window system reports, and tells to have happened at that time. */
+void clickAt(TestHost &host, const QString &name, int time)
+{
+    const QWidget *button = rowButton(host, name);
+    QTest::lastMouseTimestamp = time;
+    QTest::mouseClick(host.window().windowHandle(), Qt::LeftButton, {},
+                      button->mapTo(&host.window(), button->rect().center()));
 }
 
 } // namespace
@@ -88,6 +107,104 @@ private Q_SLOTS:
             QTest::qWait(300);
             QCOMPARE(clicks + ": " + TestHost::texts(active).join(""), clicks + ": " + single);
             QCOMPARE(doubleActive.count(), twice.isEmpty() ? 0 : 1);
+        }
+    }
+
+    void shouldTellClicksApartByWhenTheyHappened_data()
+    {
+        QTest::addColumn<QString>("clicks");
+        QTest::addColumn<int>("gap"); // From each click to the next, in milliseconds.
+        QTest::addColumn<QString>("single");
+        QTest::addColumn<QString>("twice");
+        const auto row = [](const char *clicks, int gap, const char *single, const char *twice) {
+            QTest::addRow("%s every %d ms", clicks, gap) << clicks << gap << single << twice;
+        };
+        row("aa", 100, "", "a");
+        row("aa", 250, "", "a");
+        row("aa", 251, "aa", "");
+        row("aa", 600, "aa", "");
+        row("aaa", 600, "aaa", "");
+        row("ab", 100, "b", "");
+        row("ab", 600, "ab", "");
+    }
+
+    void shouldTellClicksApartByWhenTheyHappened()
+    {
+        QFETCH(QString, clicks);
+        QFETCH(int, gap);
+        TestHost host(row(button("a", "doubleclick='true'") + button("b", "doubleclick='true'")));
+        host.showEnabled();
+        const QSignalSpy active(&host.facade(), &MRToolBar::DoActive);
+        const QSignalSpy doubleActive(&host.facade(), &MRToolBar::DoDoubleActive);
+        // All at once, as after a time in which the host was busy.
+        int time = 1000;
+        for (const QChar name : clicks)
+            clickAt(host, name, time += gap);
+        QTest::qWait(300);
+        QTEST(TestHost::texts(active).join(""), "single");
+        QTEST(TestHost::texts(doubleActive).join(""), "twice");
+    }
+
+    void shouldGoByTheClockWhereNoEventTellsTheTime_data()
+    {
+        QTest::addColumn<bool>("isClicked"); // By a program, which sends the event to the button.
+        QTest::addColumn<int>("busy"); // Milliseconds for which the host then does something else.
+        QTest::addColumn<QString>("heard");
+        QTest::newRow("triggers") << false << 0 << "twice";
+        QTest::newRow("clicks") << true << 0 << "twice";
+        QTest::newRow("triggers while busy") << false << 300 << "a a";
+        QTest::newRow("clicks while busy") << true << 300 << "a a";
+    }
+
+    void shouldGoByTheClockWhereNoEventTellsTheTime()
+    {
+        QFETCH(bool, isClicked);
+        QFETCH(int, busy);
+        TestHost host(row(button("a", "doubleclick='true'")));
+        host.showEnabled();
+        // An earlier click of the user has nothing to do with it.
+        clickAt(host, "a", 1000);
+        QTest::qWait(300);
+        QStringList heard;
+        connect(&host.facade(), &MRToolBar::DoActive, this,
+                [&heard](const QString &name) { heard.append(name); });
+        connect(&host.facade(), &MRToolBar::DoDoubleActive, this,
+                [&heard] { heard.append("twice"); });
+        for (int time = 0; time < 2; ++time) {
+            if (isClicked)
+                QTest::mouseClick(rowButton(host, "a"), Qt::LeftButton);
+            else
+                trigger(host, "a");
+            if (time == 0)
+                QThread::msleep(static_cast<unsigned long>(busy));
+        }
+        QTest::qWait(300);
+        QTEST(heard.join(' '), "heard");
+    }
+
+    void aLateClickShouldStandAHostThatEnds()
+    {
+        TestHost host(row(button("a", "doubleclick='true'")));
+        host.showEnabled();
+        connect(&host.facade(), &MRToolBar::DoActive, this, [&host] { host.deleteWindow(); });
+        trigger(host, "a");
+        QThread::msleep(300);
+        const QPointer<NewToolBar> toolBar = host.toolBar();
+        trigger(host, "a");
+        QVERIFY(toolBar.isNull());
+    }
+
+    void onlyDoubleClickControlsCostAWatch()
+    {
+        for (const bool reacts : {false, true}) {
+            TestHost host(row(button("a", reacts ? "doubleclick='true'" : "")));
+            host.showEnabled();
+            const QObjectList children = host.toolBar()->children();
+            const auto watches =
+                std::count_if(children.begin(), children.end(), [](const QObject *child) {
+                    return dynamic_cast<const ClickClock *>(child) != nullptr;
+                });
+            QCOMPARE(watches, reacts ? 1 : 0);
         }
     }
 

@@ -12,6 +12,7 @@
 
 #include <memory>
 
+class ClickClock;
 class CustomMenuStyle;
 class DropMenuIndex;
 class MRDropButton;
@@ -264,6 +265,7 @@ private:
     void dispatchAction(QAction *action);
     void releaseOtherDropButtons(QAction *action);
     void dispatchPlainAction(QString name);
+    void watchClicks();
     void dispatchDoubleClickAction(const QString &name);
 
     // Pages and zoom.
@@ -350,6 +352,7 @@ private:
     NamedList<QToolButton> m_groupButtons;
     float m_scale = 1.0F; ///< Physical dpi of this widget's screen by 96.
     QString m_delayedActionName;
+    ClickClock *m_clickClock = nullptr; ///< From the first control on that reacts to double clicks.
     bool m_menusLoaded = false;
 
     QComboBox *m_zoomBox = nullptr;

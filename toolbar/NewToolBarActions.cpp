@@ -176,8 +176,10 @@ void NewToolBar::addButton(const Controller &record, QToolBar *row, bool addToRo
     action->setVisible(record.visible);
     if (addToRow)
         row->addAction(action);
-    if (record.doubleclick)
+    if (record.doubleclick) {
         ActionData::addDoubleClick(action);
+        watchClicks();
+    }
 
     if (QWidget *widget = row->widgetForAction(action)) {
         widget->setAccessibleName(record.text);

@@ -3,6 +3,7 @@
 #include "toolbar/ActionData.h"
 #include "toolbar/ActionTrigger.h"
 #include "toolbar/QtCompat.h"
+#include "toolbar/commands/ClickClock.h"
 #include "toolbar/widgets/HostAnswer.h"
 #include "toolbar/widgets/MRDropButton.h"
 
@@ -11,6 +12,7 @@
 #include <QMenu>
 
 #include <chrono>
+#include <utility>
 
 namespace {
 
@@ -116,16 +118,27 @@ void NewToolBar::dispatchPlainAction(QString name)
     }
 }
 
+void NewToolBar::watchClicks()
+{
+    if (!m_clickClock)
+        m_clickClock = new ClickClock(this);
+}
+
 void NewToolBar::dispatchDoubleClickAction(const QString &name)
 {
-    const bool isSecondClick = m_delayTimer.isActive() && name == m_delayedActionName;
+    watchClicks();
+    const bool isLate = m_clickClock->restart() > doubleClickWait.count();
+    const bool isWaiting = m_delayTimer.isActive();
     m_delayTimer.stop();
-    if (isSecondClick) {
+    if (isWaiting && !isLate && name == m_delayedActionName) {
         Q_EMIT DoDoubleActive(name);
         return;
     }
-    m_delayedActionName = name;
+    const QString waitingName = std::exchange(m_delayedActionName, name);
     m_delayTimer.start(doubleClickWait);
+    // The wait for the click before was over, but the application too busy to notice.
+    if (isWaiting && isLate)
+        Q_EMIT DoActive(waitingName);
 }
 
 void NewToolBar::Inner_DoDelayActionSlot()
