@@ -34,15 +34,15 @@ bool isWithoutMeaning(const QWidget *control)
 
 } // namespace
 
-/** For those who cannot see the toolbar, and for those who use no mouse. */
-class TestAccess : public QObject
+/** Accessible names and roles, and the use by keys alone. */
+class AccessTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void everyControlHasANameAndARole_data() { TestDocuments::addShipped(); }
+    void shouldGiveEveryControlAnAccessibleNameAndRole_data() { TestDocuments::addShipped(); }
 
-    void everyControlHasANameAndARole()
+    void shouldGiveEveryControlAnAccessibleNameAndRole()
     {
         QFETCH(int, skin);
         QFETCH(QString, path);
@@ -52,20 +52,20 @@ private Q_SLOTS:
         const QWidgetList controls = shownControls(host->toolBar());
         QVERIFY(controls.size() > 20);
         for (QWidget *control : controls) {
-            QAccessibleInterface *face = QAccessible::queryAccessibleInterface(control);
-            QVERIFY(face);
-            const QString who = QLatin1String(control->metaObject()->className()) + QLatin1Char(' ')
-                                + control->objectName() + " in "
-                                + control->parentWidget()->objectName();
-            QVERIFY2(face->role() != QAccessible::NoRole, qPrintable(who));
+            QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(control);
+            QVERIFY(accessible);
+            const QString place = QLatin1String(control->metaObject()->className())
+                                  + QLatin1Char(' ') + control->objectName() + " in "
+                                  + control->parentWidget()->objectName();
+            QVERIFY2(accessible->role() != QAccessible::NoRole, qPrintable(place));
             if (!isWithoutMeaning(control))
-                QVERIFY2(!face->text(QAccessible::Name).isEmpty(), qPrintable(who));
+                QVERIFY2(!accessible->text(QAccessible::Name).isEmpty(), qPrintable(place));
         }
     }
 
-    void theTabKeyGoesAlongTheTopLineAndDownToTheRow_data() { TestDocuments::addShipped(); }
+    void shouldMoveTheFocusAlongTheTopLineThenTheRowByTab_data() { TestDocuments::addShipped(); }
 
-    void theTabKeyGoesAlongTheTopLineAndDownToTheRow()
+    void shouldMoveTheFocusAlongTheTopLineThenTheRowByTab()
     {
         QFETCH(int, skin);
         QFETCH(QString, path);
@@ -96,14 +96,14 @@ private Q_SLOTS:
         }
     }
 
-    void escapeGivesTheFocusBackToTheDocument_data()
+    void shouldReturnTheFocusToTheDocumentByEscape_data()
     {
         QTest::addColumn<bool>("isEmbedded");
         QTest::newRow("window of its own") << false;
         QTest::newRow("part of another window") << true;
     }
 
-    void escapeGivesTheFocusBackToTheDocument()
+    void shouldReturnTheFocusToTheDocumentByEscape()
     {
         QFETCH(bool, isEmbedded);
         QMainWindow outer;
@@ -131,5 +131,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestAccess)
+QTEST_MAIN(AccessTest)
 #include "tst_access.moc"

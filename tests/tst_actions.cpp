@@ -33,12 +33,13 @@ QString contents(const TestHost &host)
 
 } // namespace
 
-class TestActions : public QObject
+/** What stands on a row, how wide it is and what it shows. */
+class ActionsTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void separatorsWaitForAVisibleControl()
+    void shouldKeepSeparatorsBackUntilAVisibleControl()
     {
         const QMap<QString, QString> placed{{"||x|c", "x | c"},     {"|a|", "| a"},
                                             {"a|(x)b", "a () | b"}, {"a|(xb)c", "a | () c"},
@@ -59,7 +60,7 @@ private Q_SLOTS:
         }
     }
 
-    void widthsFollowTheTexts_data()
+    void shouldSizeButtonsByTheirTexts_data()
     {
         QTest::addColumn<QString>("control"); // Its name is "c".
         QTest::addColumn<double>("width");    // In pixels at 96 dpi.
@@ -84,7 +85,7 @@ private Q_SLOTS:
         QTest::newRow("beyond") << menu("text='ABC' index='7'", "a") << 3 * 22.0 + 12.0;
     }
 
-    void widthsFollowTheTexts()
+    void shouldSizeButtonsByTheirTexts()
     {
         QFETCH(QString, control);
         QFETCH(double, width);
@@ -98,7 +99,7 @@ private Q_SLOTS:
         QCOMPARE(widget->minimumWidth() == widget->maximumWidth(), control.startsWith("<menu"));
     }
 
-    void zoomBoxCanBeTypedIntoWherePercentagesAre()
+    void shouldMakeTheZoomBoxEditableOnAPercentage()
     {
         const QStringList percentages{"50%", "100%"};
         const QStringList mixed{"Fit", "100%"};
@@ -111,7 +112,7 @@ private Q_SLOTS:
         for (const auto &[attributes, items, isEditable] : boxes) {
             QString children;
             for (const QString &item : items)
-                children += QStringLiteral("<item action='mode_%1' text='%1'/>").arg(item);
+                children += choice("mode_" + item, item);
             TestHost host(row("<combobox text='c' " + attributes + ">" + children + "</combobox>"));
             const auto *box = rowOf(host)->findChild<QComboBox *>();
             QVERIFY2(box->isEditable() == isEditable, qPrintable(attributes));
@@ -122,14 +123,14 @@ private Q_SLOTS:
         }
     }
 
-    void pageFieldTakesPagesOnly()
+    void shouldReportPagesFromThePageFieldOnly()
     {
-        TestHost host(row("<lineedit name='d_GotoPage' text='Page'/><lineedit name='number'/>"));
+        TestHost host(row(field("d_GotoPage", "text='Page'") + field("number")));
         host.showEnabled();
         host.facade().DoSetPageInfoSlot(3, 99);
         QSignalSpy pages(&host.facade(), &MRToolBar::DoGotoPage);
         const QStringList typed{"007", "a1-b2 c", "00", ""};
-        for (const char *name : {"d_GotoPage", "number"}) { // Any other field tells nobody.
+        for (const char *name : {"d_GotoPage", "number"}) { // Any other field reports nothing.
             auto *field = host.find<QLineEdit>(name);
             for (const QString &text : typed) {
                 field->clear();
@@ -140,9 +141,9 @@ private Q_SLOTS:
         QCOMPARE(TestHost::texts(pages), QStringList({"7", "12"}));
     }
 
-    void dropButtonsShowTheirDescribedEntry_data()
+    void shouldShowTheDescribedEntryOnADropButton_data()
     {
-        QTest::addColumn<QStringList>("face"); // Text, current entry, all entries.
+        QTest::addColumn<QStringList>("shown"); // Text, current entry, all entries.
         QTest::newRow("text='M'") << QStringList{"M  ", "", "one", "two"};
         QTest::newRow("text='M' switchable='true'") << QStringList{"M", "", "one", "two"};
         QTest::newRow("text='M' index='2'") << QStringList{"Two   ", "two", "one", "two"};
@@ -153,7 +154,7 @@ private Q_SLOTS:
             << QStringList{"One   ", "one", "two"};
     }
 
-    void dropButtonsShowTheirDescribedEntry()
+    void shouldShowTheDescribedEntryOnADropButton()
     {
         const QString attributes = QTest::currentDataTag();
         TestHost host(row("<menu name='m' checkable='true' " + attributes
@@ -162,11 +163,11 @@ private Q_SLOTS:
         host.showEnabled();
         auto *button = host.find<MRDropButton>("m");
         const QAction *current = button->GetCurrentAction();
-        QStringList face{button->text(), current ? current->objectName() : QString("")};
+        QStringList shown{button->text(), current ? current->objectName() : QString("")};
         const QList<QAction *> entries = button->menu()->actions();
         for (const QAction *entry : entries)
-            face.append(entry->objectName());
-        QTEST(face, "face");
+            shown.append(entry->objectName());
+        QTEST(shown, "shown");
         if (attributes.contains("withaction"))
             QVERIFY(button->toolTip().contains(attributes.contains("tooltip") ? "Tip" : "Two"));
         if (!current)
@@ -177,5 +178,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestActions)
+QTEST_MAIN(ActionsTest)
 #include "tst_actions.moc"

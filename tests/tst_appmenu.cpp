@@ -1,26 +1,21 @@
+#include "tests/support/Describe.h"
 #include "tests/support/Menus.h"
 #include "tests/support/TestHost.h"
 
 #include <QApplication>
 #include <QMenu>
 
+using namespace Describe;
+
 namespace {
 
-const QString row = "<toolbar_tabbar><tabbutton name='t' checked='true'>"
-                    "<button action='f_open' text='Open'/>"
-                    "<menu name='tools' text='Tools'>"
-                    "<menuitem action='x_tool' text='Tool'/></menu></tabbutton></toolbar_tabbar>";
-const QString setWithMenu =
-    "<menu name='set_menu' text='Set'><menuitem action='s_one' text='One'/></menu>";
+const QString setWithMenu = menu("set_menu", item("s_one"));
 const QString fileItems =
-    "<menuitem action='f_save' text='Save'/><menuitem action='f_open' text='Open'/><sperator/>"
-    "<menu name='menu_help' text='Help'><menuitem action='h_info' text='Info'/></menu>";
+    item("f_save") + item("f_open") + "<sperator/>" + menu("menu_help", item("h_info"));
 
 QString appSection(const QString &items, const QString &otherRecords = "")
 {
-    return QString("<toolbar_appbutton><menu name='menu_file' text='File'>%1</menu>%2"
-                   "</toolbar_appbutton>")
-        .arg(items, otherRecords);
+    return section("appbutton", menu("menu_file", items) + otherRecords);
 }
 
 } // namespace
@@ -33,8 +28,7 @@ class AppMenuTest : public QObject
 private Q_SLOTS:
     void shouldLoadItsMenusOnceWhenFirstOpened()
     {
-        TestHost host(appSection(
-            fileItems, setWithMenu + "<menu name='third'><menuitem action='m3'/></menu>"));
+        TestHost host(appSection(fileItems, setWithMenu + menu("third", item("m3"))));
         host.show();
         const QSignalSpy requests(&host.facade(), &MRToolBar::DoRequestAuthority);
         QVERIFY(!host.facade().IsSupportByToolBar("h_info"));
@@ -52,7 +46,8 @@ private Q_SLOTS:
 
     void shouldKeepNewEntriesDisabledUntilTheHostAnswers()
     {
-        TestHost host(appSection(fileItems) + row);
+        TestHost host(appSection(fileItems)
+                      + row(button("f_open") + menu("tools", item("x_tool"))));
         host.toolBar()->Inner_DoDelayLoadMenuSlot();
         QVERIFY(!host.facade().GetCompositeEnable("f_save"));
         QVERIFY2(host.facade().GetCompositeEnable("f_open"), "A shared command lost its state");

@@ -198,9 +198,9 @@ private Q_SLOTS:
         QCOMPARE(summary(checkDescription(description)).join('\n'), finding);
     }
 
-    void shippedDescriptionsShouldPass_data() { TestDocuments::addShipped(); }
+    void shouldFindNoFaultInShippedDescriptions_data() { TestDocuments::addShipped(); }
 
-    void shippedDescriptionsShouldPass()
+    void shouldFindNoFaultInShippedDescriptions()
     {
         QFETCH(int, skin);
         QFETCH(QString, path);
@@ -248,7 +248,7 @@ private Q_SLOTS:
                  QStringList("warning unknown-attribute 3"));
     }
 
-    void toolShouldTellByItsExitCode_data()
+    void shouldExitWithACodeForItsFindings_data()
     {
         QTest::addColumn<QByteArray>("description");
         QTest::addColumn<int>("exitCode");
@@ -274,7 +274,7 @@ private Q_SLOTS:
         add("--version", {}, 0, "mrtoolbar-check ");
     }
 
-    void toolShouldTellByItsExitCode()
+    void shouldExitWithACodeForItsFindings()
     {
         QFETCH(QByteArray, description);
         QFETCH(int, exitCode);
@@ -289,7 +289,7 @@ private Q_SLOTS:
         QCOMPARE(int(result.error.count('\n')), exitCode == 2 ? 1 : 0);
     }
 
-    void toolShouldWriteJson()
+    void shouldWriteFindingsAsJson()
     {
         const QTemporaryDir folder;
         QFile file(folder.filePath("\"quoted\".xml"));

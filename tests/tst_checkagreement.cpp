@@ -44,7 +44,7 @@ void compareRecords(const QList<Controller *> &records, const QVector<int> &elem
 
 } // namespace
 
-/** That the description check tells what the parser reads and what the toolbar builds. */
+/** Whether the description check agrees with what the parser reads and what the toolbar builds. */
 class CheckAgreementTest : public QObject
 {
     Q_OBJECT
@@ -84,7 +84,7 @@ private Q_SLOTS:
         }
     }
 
-    void toolbarShouldLeaveOutWhatIsAnError_data()
+    void shouldReportAsErrorsWhatTheToolbarLeavesOut_data()
     {
         QTest::addColumn<QByteArray>("description");
         QTest::addColumn<bool>("isBuilt");
@@ -115,7 +115,7 @@ private Q_SLOTS:
         QTest::newRow("no prefix") << row(button).replace(" prefix=\"\"", "") << false;
     }
 
-    void toolbarShouldLeaveOutWhatIsAnError()
+    void shouldReportAsErrorsWhatTheToolbarLeavesOut()
     {
         QFETCH(QByteArray, description);
         QFETCH(bool, isBuilt);
@@ -134,7 +134,7 @@ private Q_SLOTS:
         QCOMPARE(hasErrors, !isBuilt);
     }
 
-    void toolbarShouldFindTheSameIcons()
+    void shouldFindTheIconsThatTheToolbarFinds()
     {
         for (const int style : {marodi, lum}) {
             const SkinChoice skin(style);
@@ -147,7 +147,7 @@ private Q_SLOTS:
         }
     }
 
-    void toolbarShouldDoWhatTheWarningsSay()
+    void shouldWarnOfWhatTheToolbarDoes()
     {
         TestHost host(
             "<toolbar_tabbar><tabbutton name='t' checkable='true' checked='true'>"

@@ -110,13 +110,13 @@ private Q_SLOTS:
         QCOMPARE(m_records.at(2)->children.size(), 1);
     }
 
-    void shippedDocumentsShouldBeWhole_data() { TestDocuments::addShipped(); }
+    void shouldShipEverySectionAndDropIcon_data() { TestDocuments::addShipped(); }
 
-    void shippedDocumentsShouldBeWhole()
+    void shouldShipEverySectionAndDropIcon()
     {
         QFETCH(QString, path);
         const QByteArray text = TestDocuments::content(path);
-        QVERIFY2(text.startsWith("\xEF\xBB\xBF<uiconfig"), "The byte-order mark is gone");
+        QVERIFY2(text.startsWith("\xEF\xBB\xBF<uiconfig"), "The byte-order mark is missing");
         const QDomElement root = TestDocuments::read(path).documentElement();
         QStringList sections;
         for (QDomElement section = root.firstChildElement(); !section.isNull();
@@ -134,7 +134,7 @@ private Q_SLOTS:
         }
     }
 
-    void compactDocumentsShouldDifferInWhiteSpaceOnly()
+    void shouldShipCompactDescriptionsThatDifferInWhiteSpaceOnly()
     {
         QString release = QString::fromUtf8(
             TestDocuments::content(TestDocuments::shippedPath("lum/mr_toolbar.release.xml")));

@@ -17,9 +17,11 @@ using namespace Describe;
 
 namespace {
 
-QString tool(const QString &name)
+const QString switchable = "checkable='true' switchable='true'";
+
+QString tool(const QString &name, const QString &more = {})
 {
-    return item(name, "checkable='true'");
+    return item(name, "checkable='true' " + more);
 }
 
 void trigger(const TestHost &host, const QString &name)
@@ -32,7 +34,7 @@ QWidget *rowButton(const TestHost &host, const QString &name)
     return host.find<MRMainToolBar>(QStringLiteral("row"))->widgetForAction(host.action(name));
 }
 
-/** A click that the window system reports, and tells to have happened at that time. */
+/** A click that the window system reports as having happened at that time. */
 void clickAt(TestHost &host, const QString &name, int time)
 {
     const QWidget *button = rowButton(host, name);
@@ -74,7 +76,7 @@ private Q_SLOTS:
         }
     }
 
-    void shouldEndTheFlowModeWithAPageLayout()
+    void shouldUncheckTheFlowModeOnAPageLayout()
     {
         for (const QString name :
              {"vpmode_singlepage", "menu_vpmode_doublepage", "vpmode_singleflow"}) {
@@ -182,7 +184,7 @@ private Q_SLOTS:
         QTEST(heard.join(' '), "heard");
     }
 
-    void aLateClickShouldStandAHostThatEnds()
+    void shouldAllowDeletionOfTheWindowOnALateClick()
     {
         TestHost host(row(button("a", "doubleclick='true'")));
         host.showEnabled();
@@ -194,7 +196,7 @@ private Q_SLOTS:
         QVERIFY(toolBar.isNull());
     }
 
-    void onlyDoubleClickControlsCostAWatch()
+    void shouldWatchClicksForDoubleClickControlsOnly()
     {
         for (const bool reacts : {false, true}) {
             TestHost host(row(button("a", reacts ? "doubleclick='true'" : "")));
@@ -210,18 +212,18 @@ private Q_SLOTS:
 
     void shouldReleaseTheOtherDropButtonsForAnAnnotationTool()
     {
-        const QString menu =
-            "<menu name='%1' text='M' checkable='true' switchable='true'>"
-            "<menuitem action='%1_tool' text='T' group='%2' checkable='true'/></menu>";
-        TestHost host(row(menu.arg("lines", "annotgroup") + menu.arg("shapes", "annotgroup")
-                          + menu.arg("others", "otherGroup")
+        const auto tools = [](const QString &name, const QString &group) {
+            return menu(name, tool(name + "_tool", "group='" + group + '\''), switchable);
+        };
+        TestHost host(row(tools("lines", "annotgroup") + tools("shapes", "annotgroup")
+                          + tools("others", "otherGroup")
                           + button("pen", "group='annotgroup' checkable='true'")));
         const QList<std::pair<QString, QString>> steps{{"lines_tool", "lines"},
                                                        {"others_tool", "lines others"},
                                                        {"shapes_tool", "shapes"},
                                                        {"pen", ""}};
-        for (const auto &[tool, held] : steps) {
-            trigger(host, tool);
+        for (const auto &[pressed, held] : steps) {
+            trigger(host, pressed);
             QStringList checked;
             for (const QString name : {"lines", "shapes", "others"}) {
                 if (host.find<MRDropButton>(name)->isChecked())
@@ -231,12 +233,12 @@ private Q_SLOTS:
         }
     }
 
-    void checkingByNameIsSilent()
+    void shouldNotReportACheckByName()
     {
-        const QString tool = "group='tools' checkable='true'";
-        TestHost host(row(button("pen", tool + " checked='true'") + button("ink", tool)
-                          + button("off", tool + " usable='false'")
-                          + button("hid", tool + " visible='false'")));
+        const QString grouped = "group='tools' checkable='true'";
+        TestHost host(row(button("pen", grouped + " checked='true'") + button("ink", grouped)
+                          + button("off", grouped + " usable='false'")
+                          + button("hid", grouped + " visible='false'")));
         QSignalSpy active(&host.facade(), &MRToolBar::DoActive);
         QString name = "ink:red:thick";
         host.facade().DoSetControlCheckedStateSlot(name, true);
@@ -252,9 +254,9 @@ private Q_SLOTS:
         QCOMPARE(TestHost::texts(active), QStringList("ink"));
     }
 
-    void aStateSetByNameLeavesAControlToItsNextStates()
+    void shouldTakeUsableStatesAfterACheckByName()
     {
-        TestHost host(row("<menu name='m' text='M' checkable='true'>" + tool("one") + "</menu>"));
+        TestHost host(row(menu("m", tool("one"), "checkable='true'")));
         host.setChecked("m", true);
         for (const bool usable : {false, true}) {
             host.setUsable("m", usable);
@@ -262,7 +264,7 @@ private Q_SLOTS:
         }
     }
 
-    void anUnavailableControlReportsNothingAtFirst()
+    void shouldNotReportTheFirstUseOfAnUnavailableControl()
     {
         TestHost host(row(button("c", "available='false' checkable='true'") + button("menu_c")));
         host.setUsable("nothing", true);
@@ -277,11 +279,10 @@ private Q_SLOTS:
         QVERIFY(host.action("c")->isEnabled());
     }
 
-    void anyOtherStateEndsTheShapeTool()
+    void shouldUncheckTheShapeButtonWhenAnotherToolIsSetByName()
     {
-        const QString menu = "<menu name='%1' text='%1' checkable='true' switchable='true'>";
-        TestHost host(row(menu.arg("tp_shape") + tool("tp_arrow") + "</menu>" + menu.arg("pens")
-                          + tool("tool") + "</menu>"));
+        TestHost host(row(menu("tp_shape", tool("tp_arrow"), switchable)
+                          + menu("pens", tool("tool"), switchable)));
         const auto *shapes = host.find<MRDropButton>("tp_shape");
         const auto *pens = host.find<MRDropButton>("pens");
         for (const QString name : {"tw_watermark_add", "tp_else", "my tp_tool:x", "tool"}) {
@@ -295,7 +296,7 @@ private Q_SLOTS:
         }
     }
 
-    void aDropButtonPassesOnFromAHiddenEntry()
+    void shouldMoveADropButtonOnFromAHiddenEntry()
     {
         // Which entries are hidden one after the other, and the one that the button then has.
         const QList<std::tuple<QString, QString, QString>> rows{
@@ -307,8 +308,8 @@ private Q_SLOTS:
             {"index='2' withaction='true'", "2", "1"},
             {"index='2' withaction='true'", "12", "3"}};
         for (const auto &[attributes, hidden, current] : rows) {
-            TestHost host(row("<menu name='m' checkable='true' " + attributes + ">" + tool("1")
-                              + tool("2") + tool("3") + "</menu>"));
+            TestHost host(row(
+                menu("m", tool("1") + tool("2") + tool("3"), "checkable='true' " + attributes)));
             for (const QChar name : hidden)
                 host.setVisible(name, false);
             const QString story = attributes + " without " + hidden + ": ";
@@ -317,13 +318,11 @@ private Q_SLOTS:
         }
     }
 
-    void resettingLeavesEnabledAndVisibleStatesAlone()
+    void shouldKeepEnabledAndVisibleStatesOnReset()
     {
         TestHost host(row(button("on", "checkable='true' checked='true'") + button("off")
-                          + "<menu name='m' text='M' checkable='true' switchable='true'>"
-                          + tool("one")
-                          + "</menu><lineedit name='d_gotopage'/>"
-                            "<label name='d_totalpagelabel' text='/'/>"));
+                          + menu("m", tool("one"), switchable) + field("d_gotopage")
+                          + label("d_totalpagelabel", "/")));
         host.setUsable("off", false);
         host.setVisible("off", false);
         host.setUsable("d_gotopage", false);

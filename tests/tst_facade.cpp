@@ -1,4 +1,7 @@
+#include "tests/support/Describe.h"
 #include "tests/support/TestHost.h"
+
+using namespace Describe;
 
 namespace {
 
@@ -9,7 +12,7 @@ struct Bare
     MRToolBar facade{nullptr, description, {}, ToolBarLeft};
 };
 
-/** Asks and tells a facade that has no toolbar, or none any more. */
+/** Calls everything of a facade that has no toolbar, or none any more. */
 void verifyIsNeutral(MRToolBar &facade)
 {
     QString name = "a";
@@ -36,12 +39,11 @@ class FacadeTest : public QObject
 private Q_SLOTS:
     void shouldAnswerNeutrallyWithoutAToolBar()
     {
-        TestHost host("<toolbar_tabbar><tabbutton name='t' checked='true'><button text='nameless'/>"
-                      "<button action='a' checkable='true' checked='true'/></tabbutton>"
-                      "</toolbar_tabbar>");
+        TestHost host(
+            row("<button text='nameless'/>" + button("a", "checkable='true' checked='true'")));
         QVERIFY(host.facade().IsSupportByToolBar("a"));
         QVERIFY(host.toolBar()->IsSupportByToolBar(""));
-        QVERIFY2(!host.facade().IsSupportByToolBar(""), "An empty name is nobody's");
+        QVERIFY2(!host.facade().IsSupportByToolBar(""), "No control has an empty name");
         host.deleteWindow();
         verifyIsNeutral(host.facade());
         Bare thereNeverWasAWindow;

@@ -11,14 +11,14 @@ namespace {
 /** Bytes in use on the heap; 0 where a sanitizer has replaced the allocator. */
 size_t bytesInUse()
 {
-    // The toolkit keeps the pixmaps of dead icons until the cache is full.
+    // Qt keeps the pixmaps of deleted icons until the cache is full.
     QPixmapCache::clear();
     const struct mallinfo2 info = mallinfo2();
     return info.uordblks + info.hblkhd;
 }
 
-/** One toolbar's whole life: shown, every tab and menu opened, states set, and gone. */
-void liveOneLife(QMainWindow &window, const QDomDocument &description)
+/** Makes a toolbar, shows it, opens every tab and menu, sets states and deletes it. */
+void useOneToolbar(QMainWindow &window, const QDomDocument &description)
 {
     QDomElement root = description.documentElement();
     MRToolBar facade(&window, root, {}, ToolBarLeft);
@@ -42,13 +42,13 @@ void liveOneLife(QMainWindow &window, const QDomDocument &description)
 
 } // namespace
 
-/** What a process keeps of the toolbars that it has had. */
+/** The memory of a process that makes and deletes many toolbars. */
 class GrowthTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void shouldKeepNothingOfDeadToolbars_data()
+    void shouldFreeTheMemoryOfDeletedToolbars_data()
     {
         QTest::addColumn<int>("skin");
         QTest::addColumn<QString>("name");
@@ -56,7 +56,7 @@ private Q_SLOTS:
         QTest::newRow("lum") << lum << "lum/mr_toolbar.release.xml";
     }
 
-    void shouldKeepNothingOfDeadToolbars()
+    void shouldFreeTheMemoryOfDeletedToolbars()
     {
         QFETCH(int, skin);
         QFETCH(QString, name);
@@ -66,7 +66,7 @@ private Q_SLOTS:
         // The allocator's own rounding; a single lost control per toolbar would be more.
         constexpr size_t tolerance = size_t{64} * 1024;
 
-        // One window for all of them: the toolkit and the X server keep a little of every window.
+        // One window for all of them: Qt and the X server keep a little of every window.
         const QDomDocument document = TestDocuments::read(TestDocuments::shippedPath(name));
         QMainWindow window;
         window.resize(1300, 600);
@@ -74,11 +74,11 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowExposed(&window));
 
         for (int i = 0; i < warmUp; ++i)
-            liveOneLife(window, document);
+            useOneToolbar(window, document);
         const qsizetype widgetsBefore = QApplication::allWidgets().size();
         const size_t bytesBefore = bytesInUse();
         for (int i = warmUp; i < toolbars; ++i)
-            liveOneLife(window, document);
+            useOneToolbar(window, document);
         QCOMPARE(QApplication::allWidgets().size(), widgetsBefore);
 
         const size_t bytesAfter = bytesInUse();

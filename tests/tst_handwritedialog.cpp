@@ -1,3 +1,4 @@
+#include "tests/support/Icons.h"
 #include "toolbar/handwrite/MRHandWriteDialog.h"
 
 #include <QAbstractButton>
@@ -8,7 +9,6 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QSlider>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <vector>
@@ -99,13 +99,14 @@ void sendMouse(QWidget *widget, QEvent::Type type, const QPoint &global, Qt::Mou
 
 } // namespace
 
-/** The dialog of handwriting: what it shows of what its host sets, and under the user's hands. */
+/** The dialog of handwriting: what it shows of what its host sets, and its use by mouse and keys.
+ */
 class HandWriteDialogTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void newDialogShowsDefaults()
+    void shouldShowDefaultsAtFirst()
     {
         const QList<QColor> colours{Qt::red,  Qt::green,   Qt::yellow,  Qt::black,     Qt::white,
                                     Qt::blue, Qt::darkRed, Qt::magenta, Qt::darkGreen, Qt::cyan};
@@ -127,7 +128,7 @@ private Q_SLOTS:
         QCOMPARE(dialog.thickness(), QString("8"));
     }
 
-    void everyPictureButtonHasAnAccessibleName()
+    void shouldGivePictureButtonsAccessibleNames()
     {
         Dialog dialog;
         const QList<QAbstractButton *> buttons = dialog.findChildren<QAbstractButton *>();
@@ -141,7 +142,7 @@ private Q_SLOTS:
         QCOMPARE(dialog.colourButton(0)->accessibleName(), QString("#123456"));
     }
 
-    void colourListsOfAnyLengthDressTheFirstSwatches()
+    void shouldColourTheFirstSwatchesByAListOfAnyLength()
     {
         for (const int count : {0, 3, 12}) {
             Dialog dialog;
@@ -155,7 +156,7 @@ private Q_SLOTS:
         }
     }
 
-    void selectedTrackIsShown_data()
+    void shouldShowTheSelectedTrack_data()
     {
         QTest::addColumn<int>("count");
         QTest::addColumn<int>("selected");
@@ -176,7 +177,7 @@ private Q_SLOTS:
         QTest::newRow("track behind all buttons") << 12 << 11 << preset << 1 << -1 << -1 << 1;
     }
 
-    void selectedTrackIsShown()
+    void shouldShowTheSelectedTrack()
     {
         QFETCH(int, count);
         QFETCH(int, selected);
@@ -194,13 +195,11 @@ private Q_SLOTS:
         QCOMPARE(dialog.thickness(), QString("17"));
     }
 
-    void onlyASingleTrackGetsItsPicture()
+    void shouldShowThePictureOfASingleTrackOnly()
     {
         const QTemporaryDir folder;
-        const QString picture = folder.filePath("pen.png");
-        QImage pen(60, 40, QImage::Format_RGB32);
-        pen.fill(Qt::blue);
-        QVERIFY(pen.save(picture));
+        const QString picture = savedPicture(folder);
+        QVERIFY(!picture.isEmpty());
         for (const int count : {0, 1, 2, 9}) {
             Tracks tracks(count);
             for (Track *track : std::as_const(tracks.list))
@@ -218,7 +217,7 @@ private Q_SLOTS:
         }
     }
 
-    void noSelectedTrackLeavesTheSettings()
+    void shouldKeepTheSettingsWithoutASelectedTrack()
     {
         Dialog dialog;
         Tracks first(6, 2);
@@ -235,7 +234,7 @@ private Q_SLOTS:
         }
     }
 
-    void laterTrackReplacesTheEarlierOne()
+    void shouldReplaceAnEarlierTrackByALaterOne()
     {
         Dialog dialog;
         Tracks tracks(6, 3);
@@ -257,7 +256,7 @@ private Q_SLOTS:
         QCOMPARE(dialog.checkedIn("buttonTrackGroup"), 1);
     }
 
-    void whatTheHostSetsStaysItsOwn()
+    void shouldNotChangeWhatTheHostHasSet()
     {
         Dialog dialog;
         const QSignalSpy updated(&dialog, SIGNAL(DoUpdateRegionDefaultSize(int)));
@@ -280,7 +279,7 @@ private Q_SLOTS:
         QVERIFY(updated.isEmpty() && changed.isEmpty());
     }
 
-    void clicksKeepOneButtonOfAGroupChecked()
+    void shouldKeepOneButtonOfAGroupCheckedOnClicks()
     {
         Dialog dialog;
         Tracks tracks(6, 2);
@@ -295,7 +294,7 @@ private Q_SLOTS:
         }
     }
 
-    void keyboardMovesTheSlider()
+    void shouldMoveTheSliderByKeys()
     {
         Dialog dialog;
         dialog.appear();
@@ -309,7 +308,7 @@ private Q_SLOTS:
         QVERIFY(dialog.isVisible());
     }
 
-    void tabKeyFollowsTheEye()
+    void shouldMoveTheFocusFromTopToBottomByTab()
     {
         Dialog dialog;
         Tracks tracks(6, 2);
@@ -329,7 +328,7 @@ private Q_SLOTS:
                          "pushButtonRegionWriteSet toolButtonClose"));
     }
 
-    void previewFollowsTheSettings()
+    void shouldPreviewTheSettings()
     {
         Dialog dialog;
         dialog.appear();
@@ -353,7 +352,7 @@ private Q_SLOTS:
         QCOMPARE(preview->text(), placeholder);
     }
 
-    void draggingMovesTheDialogUnlessAControlIsPressed()
+    void shouldMoveByADragUnlessAControlIsPressed()
     {
         Dialog dialog;
         dialog.move(100, 120);
@@ -379,7 +378,7 @@ private Q_SLOTS:
         }
     }
 
-    void closesByEscapeAndByItsButton()
+    void shouldCloseByEscapeAndByItsButton()
     {
         Dialog dialog;
         dialog.appear();

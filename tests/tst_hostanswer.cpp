@@ -22,22 +22,20 @@ const QString everyMenu =
                                   + menu("f_openrecent", item("no_file") + item("f_clearhistory")))
                 + menu("set", item("s_one")))
     + section("quickaccessbar", button("qbar_f_save") + button("qbar_f_print"))
-    + row(menu("drop", item("d_one") + menu("d_more", item("d_two")), "checkable='true'")
-          + "<buttongroup name='two'>"
-          + menu("group", item("g_one"), "checkable='true' index='1' switchable='true'")
-          + "</buttongroup>"
-          + "<combobox name='v_zoom' editable='true' index='1'>"
-            "<item text='10%' action='vzmode_10p'/><item text='50%' action='vzmode_50p'/>"
-            "</combobox>");
+    + row(
+        menu("drop", item("d_one") + menu("d_more", item("d_two")), "checkable='true'")
+        + group("two", menu("group", item("g_one"), "checkable='true' index='1' switchable='true'"))
+        + comboBox("v_zoom", choice("vzmode_10p", "10%") + choice("vzmode_50p", "50%"),
+                   "editable='true' index='1'"));
 
 /** How the user gets at a command: what is opened, then what is chosen. */
-struct Choice
+struct MenuPath
 {
     QString opener;
     QStringList entries;
 };
 
-const QMap<QString, Choice> menuChoices{
+const QMap<QString, MenuPath> menuPaths{
     {"row", {"drop", {"d_one"}}},
     {"sub-menu of a row", {"drop", {"d_more", "d_two"}}},
     {"group", {"group", {"g_one"}}},
@@ -56,7 +54,8 @@ void pressEntries(QMenu *menu, const QStringList &names)
         QVERIFY2(entry, qPrintable(name));
         menu->setActiveAction(entry);
         const QPointer<QMenu> subMenu = entry->menu();
-        QTest::keyPress(menu, Qt::Key_Return); // The menu may be gone before the key is released.
+        QTest::keyPress(menu,
+                        Qt::Key_Return); // The menu may be deleted before the key is released.
         if (!subMenu)
             return;
         QTRY_VERIFY(subMenu->isVisible());
@@ -85,13 +84,13 @@ class HostAnswerTest : public QObject
 private Q_SLOTS:
     void initTestCase() { QApplication::setQuitOnLastWindowClosed(false); }
 
-    void shouldLetTheHostEndItInItsAnswer_data()
+    void shouldLetTheHostDeleteItInItsAnswer_data()
     {
         QTest::addColumn<QString>("choice");
         QTest::addColumn<bool>("byKeys");
         QTest::addColumn<QString>("way");
         QTest::addColumn<bool>("isAsked");
-        for (const QString &choice : menuChoices.keys() + QStringList{"zoom list", "typed zoom"}) {
+        for (const QString &choice : menuPaths.keys() + QStringList{"zoom list", "typed zoom"}) {
             for (const bool byKeys : {false, true}) {
                 for (const char *way :
                      {"delete window", "delete window later", "close window", "delete toolbar",
@@ -105,7 +104,7 @@ private Q_SLOTS:
         }
     }
 
-    void shouldLetTheHostEndItInItsAnswer()
+    void shouldLetTheHostDeleteItInItsAnswer()
     {
         QFETCH(QString, choice);
         QFETCH(bool, byKeys);
@@ -117,12 +116,12 @@ private Q_SLOTS:
         const auto answer = [&] {
             ++m_answers;
             if (!isAsked) {
-                end(way, host);
+                deleteBy(way, host);
                 return;
             }
             QMessageBox question(QMessageBox::Question, "Host", "Save changes?");
             QTimer::singleShot(0, &question, [&] {
-                end(way, host);
+                deleteBy(way, host);
                 // What is deleted later goes in the loop of the question.
                 QTimer::singleShot(20, &question, &QDialog::reject);
             });
@@ -169,11 +168,11 @@ private:
             QTRY_VERIFY(box->view()->isVisible());
             chooseZoom(box, byKeys);
         } else {
-            const Choice path = menuChoices.value(choice);
+            const MenuPath path = menuPaths.value(choice);
             whenMenuPops([path, byKeys](QMenu *menu) {
                 byKeys ? pressEntries(menu, path.entries) : clickEntries(menu, path.entries);
             });
-            // The button may die in its own click, so none of the test's own code waits in it.
+            // The button may be deleted in its own click, so the test does not wait in that click.
             auto *opener = openerOf(host, path.opener);
             const bool isSplit = qobject_cast<QToolButton *>(opener);
             QMetaObject::invokeMethod(opener, isSplit ? "showMenu" : "click", Qt::QueuedConnection);
@@ -188,7 +187,7 @@ private:
                    : host.find<QAbstractButton>(name);
     }
 
-    static void end(const QString &way, TestHost &host)
+    static void deleteBy(const QString &way, TestHost &host)
     {
         QMainWindow &window = host.window();
         if (way == "delete window and facade")

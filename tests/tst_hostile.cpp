@@ -48,7 +48,7 @@ QDomDocument nestedMenus(int depth)
     return document;
 }
 
-void verifyAlive(TestHost &host, const QString &command)
+void verifyReports(TestHost &host, const QString &command)
 {
     const QSignalSpy active(&host.facade(), &MRToolBar::DoActive);
     host.action(command)->trigger();
@@ -57,7 +57,7 @@ void verifyAlive(TestHost &host, const QString &command)
 
 } // namespace
 
-/** What a careless author or host, or one of ill will, hands to the toolbar. */
+/** Huge, malformed and misleading descriptions, skins and screens, and calls at unusual times. */
 class HostileTest : public QObject
 {
     Q_OBJECT
@@ -85,16 +85,16 @@ private Q_SLOTS:
                  tabs * controlsOfATab);
     }
 
-    void shouldHoldMenusInOneAnother_data()
+    void shouldHoldThousandsOfNestedMenus_data()
     {
         QTest::addColumn<int>("depth");
         QTest::addColumn<TestHost::SkinMap>("skin");
-        // With a sheet, the toolkit goes up all parents of every menu for its rules.
+        // With a style sheet, Qt goes up all parents of every menu for its rules.
         QTest::newRow("with its sheet") << 1000 << TestHost::SkinMap();
         QTest::newRow("without") << 10000 << TestHost::SkinMap{{"externalqss", ""}};
     }
 
-    void shouldHoldMenusInOneAnother()
+    void shouldHoldThousandsOfNestedMenus()
     {
         QFETCH(int, depth);
         QFETCH(TestHost::SkinMap, skin);
@@ -131,10 +131,10 @@ private Q_SLOTS:
         host.show();
         host.setUsable("last", true);
         QCOMPARE(host.window().width(), 1300);
-        verifyAlive(host, "last");
+        verifyReports(host, "last");
     }
 
-    void shouldLetNoNameBreakOut_data()
+    void shouldKeepNamesOutOfStyleSheets_data()
     {
         QTest::addColumn<QString>("name");
         QTest::newRow("quotes") << "a\"b'c";
@@ -147,7 +147,7 @@ private Q_SLOTS:
         QTest::newRow("ampersands") << "&a&&b";
     }
 
-    void shouldLetNoNameBreakOut()
+    void shouldKeepNamesOutOfStyleSheets()
     {
         QFETCH(QString, name);
         const QString pattern =
@@ -183,7 +183,7 @@ private Q_SLOTS:
         QCOMPARE(WarningTrap::warnings(), QStringList());
     }
 
-    void shouldMakeAnIconOnlyOfAFileOfItsOwn()
+    void shouldLoadIconsFromItsOwnResourcesOnly()
     {
         for (const char *name :
              {"../../../../../../../../etc/passwd", "/etc/passwd", "file:///etc/passwd",
@@ -208,30 +208,30 @@ private Q_SLOTS:
     {
         QFETCH(QString, key);
         QFETCH(QString, value);
-        const WarningTrap trap; // The toolkit may complain; that is all that may happen.
+        const WarningTrap trap; // Qt may warn; nothing else may happen.
         TestHost host(plainRow, {{key, value}});
         host.show();
         host.facade().DoSetSkinStyleSlot({{key, value}});
         host.setUsable("plain", true);
-        verifyAlive(host, "plain");
+        verifyReports(host, "plain");
 
-        // A sound skin heals it.
-        TestHost sound(plainRow);
+        // A valid skin undoes it.
+        TestHost untouched(plainRow);
         host.facade().DoSetSkinStyleSlot({{"[MainColor]", "#008AD9"}});
         QCOMPARE(host.find<QToolBar>("mrtoolbar")->styleSheet(),
-                 sound.find<QToolBar>("mrtoolbar")->styleSheet());
+                 untouched.find<QToolBar>("mrtoolbar")->styleSheet());
     }
 
-    void shouldBelieveNoScreenThatTellsNonsense()
+    void shouldIgnoreAnImpossibleScreenDensity()
     {
-        const int none = std::numeric_limits<int>::min(); // What the toolkit makes of no size.
+        const int none = std::numeric_limits<int>::min(); // What Qt makes of no size.
         for (const int told : {none, -1, 0, 5, 25, 31, 100000})
             QCOMPARE(ScreenDensity::credible(told), 96);
         for (const int told : {32, 96, 192, 600})
             QCOMPARE(ScreenDensity::credible(told), told);
     }
 
-    void shouldStandAScreenThatChangesItsDensity()
+    void shouldIgnoreAChangeOfTheScreenDensity()
     {
         TestHost host(rowWithLast(button("plain")));
         host.showEnabled();
@@ -242,12 +242,13 @@ private Q_SLOTS:
             Q_EMIT screen->physicalDotsPerInchChanged(dpi);
             Q_EMIT screen->logicalDotsPerInchChanged(dpi);
             QTest::qWait(10);
-            verifyAlive(host, "plain");
+            verifyReports(host, "plain");
         }
-        QVERIFY2(host.toolBar()->size() == size, "It is for the screen that it was made on");
+        QVERIFY2(host.toolBar()->size() == size,
+                 "It keeps the density of the screen that it was made on");
     }
 
-    void shouldDieWithABubbleOpen()
+    void shouldAllowDeletionWithABubbleOpen()
     {
         TestHost host(plainRow);
         host.show();
@@ -262,7 +263,7 @@ private Q_SLOTS:
         QToolTip::hideText();
     }
 
-    void shouldDieWhileARowScrolls()
+    void shouldAllowDeletionWhileARowScrolls()
     {
         QString controls;
         for (int i = 0; i < 60; ++i)
@@ -278,7 +279,7 @@ private Q_SLOTS:
         QVERIFY(!host.facade().IsSupportByToolBar("last"));
     }
 
-    void shouldLetTheHostReenterFromACommand_data()
+    void shouldAllowAnyCallFromTheHandlerOfACommand_data()
     {
         QTest::addColumn<QString>("control");
         QTest::addColumn<Answer>("answer");
@@ -292,7 +293,7 @@ private Q_SLOTS:
             {"leave the tab", [](TestHost &host) { host.setVisible("row", false); }},
             {"disable", [](TestHost &host) { host.setUsable("toolbar_maintoolbar", false); }},
             {"check", [](TestHost &host) { host.setChecked("entry", true); }},
-            {"end", [](TestHost &host) { host.toolBar()->deleteLater(); }},
+            {"delete", [](TestHost &host) { host.toolBar()->deleteLater(); }},
         };
         for (const auto &[what, answer] : answers) {
             for (const char *control : {"plain", "entry", "other", "add"})
@@ -300,14 +301,14 @@ private Q_SLOTS:
         }
     }
 
-    void shouldLetTheHostReenterFromACommand()
+    void shouldAllowAnyCallFromTheHandlerOfACommand()
     {
         QFETCH(QString, control);
         QFETCH(Answer, answer);
         TestHost host(row(button("plain", "checkable='true' group='g'")
                               + menu("drop", item("entry", "checkable='true' group='g'"),
                                      "checkable='true' switchable='true'")
-                              + "<buttongroup name='two'>" + button("other") + "</buttongroup>",
+                              + group("two", button("other")),
                           tab("u", {}))
                       + section("addtional", button("add")));
         host.showEnabled();

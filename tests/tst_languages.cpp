@@ -1,17 +1,17 @@
 #include "tests/support/Describe.h"
+#include "tests/support/Icons.h"
 #include "tests/support/TestHost.h"
 #include "toolbar/handwrite/MRHandWriteDialog.h"
 
 #include <QComboBox>
 #include <QRegularExpression>
-#include <QTemporaryDir>
 #include <QTranslator>
 
 using namespace Describe;
 
 namespace {
 
-/** Has the library speak a language for the time of one test, as a host would. */
+/** Installs the translation of a language for the time of one test, as a host would. */
 class Language
 {
 public:
@@ -53,8 +53,8 @@ QStringList chineseTexts(const QWidget &dialog)
 
 QString zoomHint()
 {
-    TestHost host(row("<combobox name='v_zoom' index='1' editable='true'>"
-                      "<item action='vzmode_100p' text='100%'/></combobox>"));
+    TestHost host(
+        row(comboBox("v_zoom", choice("vzmode_100p", "100%"), "index='1' editable='true'")));
     return host.find<QComboBox>("v_zoom")->toolTip();
 }
 
@@ -73,12 +73,13 @@ QStringList arrowNames()
 
 } // namespace
 
-class TestLanguages : public QObject
+/** The texts of the library in the language of the host. */
+class LanguagesTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void aHostFindsTheCatalogueOfItsLocale()
+    void shouldFindTheCatalogueOfALocale()
     {
         for (const QLocale &locale : {english, QLocale("en_GB"), chinese, QLocale("fr_FR")}) {
             const Language language(locale);
@@ -88,7 +89,7 @@ private Q_SLOTS:
         }
     }
 
-    void theDialogFollowsAChangeOfLanguage()
+    void shouldTranslateTheDialogOnAChangeOfLanguage()
     {
         MRHandWriteDialog dialog;
         const QStringList before = chineseTexts(dialog);
@@ -100,13 +101,11 @@ private Q_SLOTS:
         QCOMPARE(dialog.windowTitle(), QString("手写设置"));
     }
 
-    void aChangeOfLanguageKeepsWhatIsShown()
+    void shouldKeepTheShownTrackOnAChangeOfLanguage()
     {
         const QTemporaryDir folder;
-        const QString path = folder.filePath("pen.png");
-        QImage pen(60, 40, QImage::Format_RGB32);
-        pen.fill(Qt::blue);
-        QVERIFY(pen.save(path));
+        const QString path = savedPicture(folder);
+        QVERIFY(!path.isEmpty());
         Track track{1, QColor(1, 2, 3), 5, 12, 2, true, path};
         QList<Track *> tracks{&track};
         MRHandWriteDialog dialog;
@@ -125,7 +124,7 @@ private Q_SLOTS:
         QVERIFY(dialog.findChild<QPushButton *>("pushButtonOpacity75p")->isChecked());
     }
 
-    void theHintOfTheZoomBoxIsTranslated()
+    void shouldTranslateTheHintOfTheZoomBox()
     {
         const QString untranslated = zoomHint();
         QVERIFY(untranslated.contains(">Invalid Char<"));
@@ -138,7 +137,7 @@ private Q_SLOTS:
         QCOMPARE(zoomHint(), untranslated);
     }
 
-    void theArrowsAreCalledByTranslatedNames()
+    void shouldTranslateTheNamesOfTheArrows()
     {
         QCOMPARE(arrowNames(), QStringList({"向右滚动", "向右滚动", "向左滚动", "向左滚动"}));
         const Language language(english);
@@ -147,5 +146,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestLanguages)
+QTEST_MAIN(LanguagesTest)
 #include "tst_languages.moc"

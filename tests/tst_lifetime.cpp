@@ -1,3 +1,4 @@
+#include "tests/support/Describe.h"
 #include "tests/support/Menus.h"
 #include "tests/support/TestHost.h"
 
@@ -7,37 +8,30 @@
 #include <QStackedWidget>
 #include <QToolBar>
 
+using namespace Describe;
+
 namespace {
 
 const QString everything =
-    "<toolbar_appbutton>"
-    "<menu name='menu_file' text='File'><menuitem action='f_open' text='Open'/>"
-    "<menu name='menu_help' text='Help'><menuitem action='h_info' text='Info'/></menu></menu>"
-    "<menu name='set' text='Set'><menuitem action='s_one' text='One'/></menu></toolbar_appbutton>"
-    "<toolbar_quickaccessbar><button action='qbar_f_open' text='Open' checkable='true'/>"
-    "<button action='qt_set' tooltip='Customise'/></toolbar_quickaccessbar>"
-    "<toolbar_tabbar><tabbutton name='t_one' text='One' checkable='true' checked='true'>"
-    "<button action='plain' text='Plain'/><button action='slow' text='Slow' doubleclick='true'/>"
-    "<menu name='drop' text='Drop' checkable='true'><menuitem action='d_one' text='One'/>"
-    "<menu name='d_more' text='More'><menuitem action='d_two' text='Two'/></menu></menu>"
-    "<menu name='again' text='Again' checkable='true' index='1'><menuitem action='a_one' "
-    "text='One'/></menu>"
-    "<lineedit name='d_gotopage' text='/'/></tabbutton>"
-    "<tabbutton name='t_two' text='Two' checkable='true'><button action='other' text='Other'/>"
-    "</tabbutton></toolbar_tabbar>"
-    "<toolbar_searchbar><lineedit action='st_input' tooltip='Find'/><button action='st_prev'/>"
-    "<button action='st_next'/><button action='st_set' tooltip='Options'>"
-    "<menuitem action='st_nocase' text='Case'/></button></toolbar_searchbar>"
-    "<toolbar_addtional><button action='e_preference'/><button action='t_fold' tooltip='Fold'/>"
-    "</toolbar_addtional>";
+    section("appbutton", menu("menu_file", item("f_open") + menu("menu_help", item("h_info")))
+                             + menu("set", item("s_one")))
+    + section("quickaccessbar", button("qbar_f_open", "checkable='true'") + button("qt_set"))
+    + row(button("plain") + button("slow", "doubleclick='true'")
+              + menu("drop", item("d_one") + menu("d_more", item("d_two")), "checkable='true'")
+              + menu("again", item("a_one"), "checkable='true' index='1'")
+              + field("d_gotopage", "text='/'"),
+          tab("t_two", button("other")))
+    + section("searchbar", field("st_input") + button("st_prev") + button("st_next")
+                               + optionsButton("st_set", item("st_nocase")))
+    + section("addtional", button("e_preference") + button("t_fold"));
 
-void end(const QString &who, TestHost &host)
+void deletePart(const QString &part, TestHost &host)
 {
-    if (who == "window")
+    if (part == "window")
         host.deleteWindow();
-    else if (who == "facade")
+    else if (part == "facade")
         host.deleteFacade();
-    else if (who == "toolbar")
+    else if (part == "toolbar")
         delete host.toolBar();
     else
         delete host.find<QToolBar>("mrtoolbar");
@@ -45,26 +39,26 @@ void end(const QString &who, TestHost &host)
 
 } // namespace
 
-/** Who dies first, and what goes on at that moment. */
+/** The orders in which a host may delete the parts, and what may be open at that moment. */
 class LifetimeTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void shouldSurviveEveryOrderOfDeletion_data()
+    void shouldAllowEveryOrderOfDeletion_data()
     {
-        QTest::addColumn<QString>("who");
+        QTest::addColumn<QString>("part");
         // Without one, there is only the wait for a second click.
         QTest::addColumn<QString>("openMenuOf");
-        for (const char *who : {"window", "facade", "toolbar", "host tool bar"}) {
+        for (const char *part : {"window", "facade", "toolbar", "host tool bar"}) {
             for (const char *button : {"", "menu_file", "ab_set", "qt_set", "drop", "st_set"})
-                QTest::addRow("%s, menu of '%s'", who, button) << who << button;
+                QTest::addRow("%s, menu of '%s'", part, button) << part << button;
         }
     }
 
-    void shouldSurviveEveryOrderOfDeletion()
+    void shouldAllowEveryOrderOfDeletion()
     {
-        QFETCH(QString, who);
+        QFETCH(QString, part);
         QFETCH(QString, openMenuOf);
         TestHost host(everything);
         host.showEnabled();
@@ -74,27 +68,27 @@ private Q_SLOTS:
                 [&heard](const QString &name) { heard.append(name); });
 
         host.action("slow")->trigger();
-        bool isDead = openMenuOf.isEmpty();
-        if (isDead) {
-            end(who, host);
+        bool isDeleted = openMenuOf.isEmpty();
+        if (isDeleted) {
+            deletePart(part, host);
         } else {
             whenMenuPops([&](QMenu *) {
-                isDead = true;
-                end(who, host);
+                isDeleted = true;
+                deletePart(part, host);
             });
-            // The button may die in its own click, so none of the test's own code waits in it.
+            // The button may be deleted in its own click, so the test does not wait in that click.
             QMetaObject::invokeMethod(host.find<QAbstractButton>(openMenuOf), "click",
                                       Qt::QueuedConnection);
-            QTRY_VERIFY(isDead);
+            QTRY_VERIFY(isDeleted);
         }
         runDeferredDeletes();
         QTest::qWait(300);
-        QVERIFY2(heard.isEmpty(), "The host has heard from the dead");
+        QVERIFY2(heard.isEmpty(), "A deleted toolbar has reported a command");
         QVERIFY(!QApplication::activePopupWidget());
-        QCOMPARE(active.count(), who == "facade" ? 1 : 0);
-        if (who.endsWith("bar"))
+        QCOMPARE(active.count(), part == "facade" ? 1 : 0);
+        if (part.endsWith("bar"))
             QVERIFY2(host.window().findChildren<QToolBar *>().isEmpty(), "An empty strip stays");
-        if (who != "facade")
+        if (part != "facade")
             QVERIFY(!host.facade().IsSupportByToolBar("plain"));
     }
 
@@ -117,11 +111,11 @@ private Q_SLOTS:
             toolBar->Inner_DoDelayLoadMenuSlot();
         host.find<QLineEdit>("st_input")->setText("text");
         host.facade().DoSetPageInfoSlot(1, 9);
-        const auto end = [toolBar] { delete toolBar; };
-        connect(&host.facade(), &MRToolBar::DoActive, this, end);
-        connect(&host.facade(), &MRToolBar::DoRequestAuthority, this, end);
-        connect(&host.facade(), &MRToolBar::DoSearchContent, this, end);
-        connect(&host.facade(), &MRToolBar::DoGotoPage, this, end);
+        const auto deleteIt = [toolBar] { delete toolBar; };
+        connect(&host.facade(), &MRToolBar::DoActive, this, deleteIt);
+        connect(&host.facade(), &MRToolBar::DoRequestAuthority, this, deleteIt);
+        connect(&host.facade(), &MRToolBar::DoSearchContent, this, deleteIt);
+        connect(&host.facade(), &MRToolBar::DoGotoPage, this, deleteIt);
 
         if (auto *button = host.find<QAbstractButton>(control)) {
             button->click();
@@ -141,9 +135,9 @@ private Q_SLOTS:
     void shouldWorkWithoutAUsableDescription_data()
     {
         QTest::addColumn<QByteArray>("xml");
-        const QByteArray section = "<toolbar_tabbar><tabbutton name='t'/></toolbar_tabbar>";
-        QTest::newRow("another root") << "<config prefix=''>" + section + "</config>";
-        QTest::newRow("no prefix") << "<uiconfig>" + section + "</uiconfig>";
+        const QByteArray tabs = section("tabbar", tab("t", {})).toUtf8();
+        QTest::newRow("another root") << "<config prefix=''>" + tabs + "</config>";
+        QTest::newRow("no prefix") << "<uiconfig>" + tabs + "</uiconfig>";
         QTest::newRow("no document") << QByteArray();
     }
 

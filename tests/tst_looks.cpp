@@ -106,15 +106,15 @@ bool isBlank(const QImage &image)
 
 } // namespace
 
-/** What can be said of the looks without an eye, at the density of the screen that there is. */
-class TestLooks : public QObject
+/** Sizes, icons and pictures of toolbars, at the density of the screen that there is. */
+class LooksTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void everyTextAndIconFitsItsControl_data() { TestDocuments::addAll(); }
+    void shouldFitEveryTextAndIconIntoItsControl_data() { TestDocuments::addAll(); }
 
-    void everyTextAndIconFitsItsControl()
+    void shouldFitEveryTextAndIconIntoItsControl()
     {
         QFETCH(int, skin);
         QFETCH(QString, path);
@@ -134,7 +134,7 @@ private Q_SLOTS:
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
     }
 
-    void aSheetOfTheHostStopsAtTheToolBar()
+    void shouldKeepItsLooksUnderASheetOfTheHost()
     {
         const auto picture = [] {
             const auto host = TestHost::withFile(QStringLiteral(SHOWCASE));
@@ -168,9 +168,9 @@ private Q_SLOTS:
         }
     }
 
-    void everyDescribedIconIsSeenAndToldApart_data() { TestDocuments::addAll(); }
+    void shouldDrawADistinctPictureForEveryIcon_data() { TestDocuments::addAll(); }
 
-    void everyDescribedIconIsSeenAndToldApart()
+    void shouldDrawADistinctPictureForEveryIcon()
     {
         QFETCH(int, skin);
         QFETCH(QString, path);
@@ -191,9 +191,9 @@ private Q_SLOTS:
         }
     }
 
-    void theTabOnShowIsRoundInTheCompactSkin()
+    void shouldRoundTheShownTabInTheCompactSkin()
     {
-        // The toolkit draws no round corner that is larger than half of the height.
+        // Qt draws no round corner that is larger than half of the height.
         const SkinChoice choice(lum);
         const auto host = TestHost::withShipped("lum/mr_toolbar.release.xml");
         host->show();
@@ -205,5 +205,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestLooks)
+QTEST_MAIN(LooksTest)
 #include "tst_looks.moc"

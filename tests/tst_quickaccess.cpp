@@ -1,3 +1,4 @@
+#include "tests/support/Describe.h"
 #include "tests/support/Menus.h"
 #include "tests/support/TestHost.h"
 #include "toolbar/QuickAccessSetting.h"
@@ -5,17 +6,18 @@
 #include <QMenu>
 #include <QToolBar>
 
+using namespace Describe;
+
 namespace {
 
 const QString settingKey = "quickaccessbarbuttons";
 
-const QString section = "<toolbar_quickaccessbar>"
-                        "<button action='qbar_f_open' text='Open' checkable='true'/>"
-                        "<button action='qt_set' tooltip='Customise'/>"
-                        "<button action='qbar_e_undo' text='Undo' checkable='true'/>"
-                        "<button action='own' text='Own' checkable='true' visible='false'/>"
-                        "<button action='x_qbar_y' text='Y' checkable='true' visible='false'/>"
-                        "</toolbar_quickaccessbar>";
+const QString hidden = "checkable='true' visible='false'";
+const QString quickAccess =
+    section("quickaccessbar", button("qbar_f_open", "checkable='true'")
+                                  + "<button action='qt_set' tooltip='Customise'/>"
+                                  + button("qbar_e_undo", "checkable='true'")
+                                  + button("own", hidden) + button("x_qbar_y", hidden));
 
 QToolBar *barOf(const TestHost &host)
 {
@@ -41,7 +43,7 @@ class QuickAccessTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void shouldDecideByTheSetting_data()
+    void shouldShowAButtonByTheSetting_data()
     {
         QTest::addColumn<QString>("setting");
         QTest::addColumn<bool>("described");
@@ -60,7 +62,7 @@ private Q_SLOTS:
         QTest::newRow("x_qbar_y") << "y;" << false << false << "";
     }
 
-    void shouldDecideByTheSetting()
+    void shouldShowAButtonByTheSetting()
     {
         QFETCH(QString, setting);
         QFETCH(bool, described);
@@ -89,7 +91,7 @@ private Q_SLOTS:
 
     void shouldShowAndHideButtonsByTheCustomiseMenu()
     {
-        TestHost host(section, {{settingKey, "open;"}});
+        TestHost host(quickAccess, {{settingKey, "open;"}});
         host.show();
         const QSignalSpy active(&host.facade(), &MRToolBar::DoActive);
         const QList<QAction *> entries = host.find<QMenu>("qt_set")->actions();
@@ -114,16 +116,16 @@ private Q_SLOTS:
     {
         const QList<std::pair<QString, QString>> commands{
             {"qbar_f_open", "f_open"}, {"own", "own"}, {"x_qbar_y", "y"}};
-        for (const auto &[button, reported] : commands) {
-            TestHost host(section);
-            host.setVisible("toolbar_quickaccessbar/" + button, true);
+        for (const auto &[name, reported] : commands) {
+            TestHost host(quickAccess);
+            host.setVisible("toolbar_quickaccessbar/" + name, true);
             host.show();
             const QSignalSpy active(&host.facade(), &MRToolBar::DoActive);
             const auto *bar = barOf(host);
-            QWidget *widget = bar->widgetForAction(bar->findChild<QAction *>(button));
+            QWidget *widget = bar->widgetForAction(bar->findChild<QAction *>(name));
             QTest::mouseClick(widget, Qt::LeftButton);
             QVERIFY2(active.isEmpty(), "The host has not enabled the button yet");
-            host.setUsable(button, true);
+            host.setUsable(name, true);
             QTest::mouseClick(widget, Qt::LeftButton);
             QCOMPARE(TestHost::texts(active), QStringList(reported));
         }

@@ -160,7 +160,7 @@ private Q_SLOTS:
         QCOMPARE(shownTexts(host.menu()), (QStringList{"&1 a.ofd", "f_clearhistory"}));
     }
 
-    void shouldUseItsEntriesAgain()
+    void shouldReuseItsEntries()
     {
         constexpr int longest = 10;
         RecentHost host;
@@ -233,7 +233,7 @@ private Q_SLOTS:
         QVERIFY2(host.ownedEntries().size() <= 4, "Each choice leaves an entry behind");
     }
 
-    void shouldMakeAUsedEntryAnew()
+    void shouldResetAnEntryThatIsUsedAgain()
     {
         RecentHost host({"/a.ofd", "/b.ofd"});
         QAction *entry = host.fileEntry(1);
@@ -256,7 +256,7 @@ private Q_SLOTS:
         QCOMPARE(calls, 0);
     }
 
-    void shouldDoWithoutAnEntryThatTheHostHasDeleted()
+    void shouldReplaceAnEntryThatTheHostHasDeleted()
     {
         RecentHost host(manyPaths(3));
         delete host.fileEntry(2);

@@ -57,14 +57,15 @@ public:
 
 } // namespace
 
-class TestScrollWidget : public QObject
+/** A row that is wider than its window. */
+class ScrollWidgetTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void init() { movePointerAway(); }
 
-    void anArrowIsShownWhereContentIsHidden()
+    void shouldShowAnArrowWhereContentIsHidden()
     {
         ScrolledRow fixture(1000);
         QVERIFY(!fixture.arrow("left")->isVisible());
@@ -84,7 +85,7 @@ private Q_SLOTS:
         QVERIFY(!fixture.arrow("right")->isVisible());
     }
 
-    void arrowsAreNamedAndKeepTheirPlace()
+    void shouldNameItsArrowsAndKeepTheirPlace()
     {
         const ScrolledRow fixture(400);
         const QRect before = fixture.area()->geometry();
@@ -97,7 +98,7 @@ private Q_SLOTS:
         }
     }
 
-    void clicksGoToTheFarEndAndBackOrAStep()
+    void shouldScrollFromEndToEndAndElsewhereByAStep()
     {
         const ScrolledRow fixture(400);
         fixture.click("right");
@@ -120,7 +121,7 @@ private Q_SLOTS:
         QCOMPARE(fixture.bar()->value(), 200);
     }
 
-    void theWheelGoesAStep()
+    void shouldScrollByAStepOnTheWheel()
     {
         const ScrolledRow fixture(400);
         const QList<std::pair<QPoint, int>> turns{
@@ -138,7 +139,7 @@ private Q_SLOTS:
         }
     }
 
-    void theWheelOverAComboBoxIsTheComboBoxsOwn()
+    void shouldLeaveTheWheelOverAComboBoxToTheComboBox()
     {
         const ScrolledRow fixture(400);
         for (const bool isEditable : {false, true}) {
@@ -155,7 +156,7 @@ private Q_SLOTS:
         }
     }
 
-    void theWheelOverAnOpenListScrollsTheListOnly()
+    void shouldLeaveTheWheelOverAnOpenListToTheList()
     {
         const ScrolledRow fixture(400);
         fixture.combo->showPopup();
@@ -171,7 +172,7 @@ private Q_SLOTS:
         fixture.combo->hidePopup();
     }
 
-    void theWheelElsewhereLeavesTheRowAlone()
+    void shouldIgnoreTheWheelOutsideTheRow()
     {
         const ScrolledRow fixture(400);
         QWidget other(fixture.row, Qt::Tool); // A window of its own, if below the row.
@@ -194,5 +195,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestScrollWidget)
+QTEST_MAIN(ScrollWidgetTest)
 #include "tst_scrollwidget.moc"

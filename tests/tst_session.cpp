@@ -49,9 +49,9 @@ public:
         for (const QToolBar *row : rows) {
             const QList<QAction *> actions = row->actions();
             for (QAction *action : actions) {
-                QWidget *face = row->widgetForAction(action);
-                if (action->objectName() == command && face->isVisible()) {
-                    QTest::mouseClick(face, Qt::LeftButton, {}, bodyOf(face));
+                QWidget *widget = row->widgetForAction(action);
+                if (action->objectName() == command && widget->isVisible()) {
+                    QTest::mouseClick(widget, Qt::LeftButton, {}, bodyOf(widget));
                     return;
                 }
             }
@@ -108,12 +108,13 @@ private:
 
 } // namespace
 
-class TestSession : public QObject
+/** A long use of a shipped toolbar by mouse and keys, and the signals that the host gets in it. */
+class SessionTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void aDayWithTheFullToolbar()
+    void shouldReportEveryStepOfASession()
     {
         Session session;
         TestHost &host = session.host();
@@ -182,5 +183,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestSession)
+QTEST_MAIN(SessionTest)
 #include "tst_session.moc"

@@ -95,7 +95,7 @@ class ShortcutTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void shouldOnlyShowThoseOfTheApplicationMenus_data()
+    void shouldShowTheKeysOfApplicationMenusWithoutTakingThem_data()
     {
         QTest::addColumn<QString>("sections");
         const QString file = appMenu(item("x", withKey) + menu("inner", item("y", withKey)));
@@ -104,22 +104,19 @@ private Q_SLOTS:
         QTest::newRow("on the row") << file + tabs(button("x"));
         QTest::newRow("on two rows") << file + tabs(button("x"), button("x"));
         QTest::newRow("on a row that is filled later") << file + tabs(button("a"), button("x"));
-        QTest::newRow("in a group")
-            << file + tabs("<buttongroup name='g'>" + button("x") + button("y") + "</buttongroup>");
+        QTest::newRow("in a group") << file + tabs(group("g", button("x") + button("y")));
         QTest::newRow("in a group that is made later")
-            << file + tabs(button("a"), "<buttongroup name='g'>" + button("x") + "</buttongroup>");
+            << file + tabs(button("a"), group("g", button("x")));
         QTest::newRow("in a drop menu") << file + tabs(drop);
         QTest::newRow("in a menu of a drop menu")
             << file + tabs(menu("drop", item("z") + menu("in", item("x") + item("y"))));
         QTest::newRow("in the quick access bar")
             << file + section("quickaccessbar", button("x")) + tabs(button("x"));
         QTest::newRow("in the options of the search")
-            << file
-                   + section("searchbar",
-                             button("s_next") + "<button name='st_set'>" + item("x") + "</button>");
+            << file + section("searchbar", button("s_next") + optionsButton("st_set", item("x")));
     }
 
-    void shouldOnlyShowThoseOfTheApplicationMenus()
+    void shouldShowTheKeysOfApplicationMenusWithoutTakingThem()
     {
         QFETCH(QString, sections);
         for (const int skin : {marodi, lum}) {
@@ -143,7 +140,7 @@ private Q_SLOTS:
         }
     }
 
-    void shouldNotActInAnOpenMenu()
+    void shouldNotTriggerByAKeyInAnOpenMenu()
     {
         KeyHost host(appMenu(item("x", withKey)) + tabs(button("x")));
         host.openMenus();
@@ -162,7 +159,7 @@ private Q_SLOTS:
         QCOMPARE(triggers.count(), 0);
     }
 
-    void shouldKeepTheOneOfARowsMenuAlive_data()
+    void shouldKeepTheKeyOfARowMenuWorking_data()
     {
         QTest::addColumn<QString>("sections");
         QTest::addColumn<bool>("menusFirst");
@@ -176,7 +173,7 @@ private Q_SLOTS:
         }
     }
 
-    void shouldKeepTheOneOfARowsMenuAlive()
+    void shouldKeepTheKeyOfARowMenuWorking()
     {
         QFETCH(QString, sections);
         QFETCH(bool, menusFirst);
@@ -194,11 +191,11 @@ private Q_SLOTS:
         QCOMPARE(host.commands(), QStringList());
     }
 
-    void shouldKeepTheOneOfTheSearchOptionsAlive()
+    void shouldKeepTheKeyOfASearchOptionWorking()
     {
-        KeyHost host(appMenu(item("y"))
-                     + section("searchbar", button("s_next") + "<button name='st_set'>"
-                                                + item("x", withKey) + "</button>"));
+        KeyHost host(
+            appMenu(item("y"))
+            + section("searchbar", button("s_next") + optionsButton("st_set", item("x", withKey))));
         const QSignalSpy triggers(host.action("x"), &QAction::triggered);
         host.press(host.field());
         QCOMPARE(triggers.count(), 2);
@@ -207,7 +204,7 @@ private Q_SLOTS:
         QCOMPARE(triggers.count(), 4);
     }
 
-    void shouldShowTheKeyOfTheMenuInsteadOfTheRows()
+    void shouldShowTheKeyOfTheMenuInsteadOfTheRowMenus()
     {
         KeyHost host(appMenu(item("x", withKey)) + tabs(menu("drop", item("x", "shortcut='F2'"))));
         host.openMenus();
@@ -216,7 +213,7 @@ private Q_SLOTS:
         QCOMPARE(host.commands(), QStringList());
     }
 
-    void shouldLeaveAKeyAloneThatTheHostGaveTheCommand()
+    void shouldKeepAKeyThatTheHostGaveTheCommand()
     {
         KeyHost host(appMenu(item("x", withKey)) + tabs(button("x")));
         host.action("x")->setShortcut(key);

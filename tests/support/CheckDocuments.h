@@ -2,7 +2,7 @@
 
 #include <QByteArray>
 
-/** Small descriptions for the tests of the description check, and the shipped ones. */
+/** Descriptions whose parts stand in known lines, as the findings of the check name them. */
 namespace CheckDocuments {
 
 /** The sections begin in line 2. */

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/** Pieces of descriptions, whose controls show their own names. */
+/** Pieces of descriptions, whose buttons, entries and tabs show their own names. */
 namespace Describe {
 
 inline QString section(const QString &name, const QString &controls)
@@ -15,6 +15,12 @@ inline QString button(const QString &name, const QString &more = {})
     return QStringLiteral("<button name='%1' text='%1' %2/>").arg(name, more);
 }
 
+/** A button whose menu the toolbar fills with these entries, as that of the search options. */
+inline QString optionsButton(const QString &name, const QString &entries)
+{
+    return QStringLiteral("<button name='%1' text='%1'>%2</button>").arg(name, entries);
+}
+
 inline QString item(const QString &name, const QString &more = {})
 {
     return QStringLiteral("<menuitem action='%1' text='%1' %2/>").arg(name, more);
@@ -23,6 +29,43 @@ inline QString item(const QString &name, const QString &more = {})
 inline QString menu(const QString &name, const QString &entries, const QString &more = {})
 {
     return QStringLiteral("<menu name='%1' text='%1' %3>%2</menu>").arg(name, entries, more);
+}
+
+inline QString label(const QString &name, const QString &text)
+{
+    return QStringLiteral("<label name='%1' text='%2'/>").arg(name, text);
+}
+
+inline QString field(const QString &name, const QString &more = {})
+{
+    return QStringLiteral("<lineedit name='%1' %2/>").arg(name, more);
+}
+
+inline QString searchField(const QString &name, const QString &buttons, const QString &more = {})
+{
+    return QStringLiteral("<lineedit name='%1' %3>%2</lineedit>").arg(name, buttons, more);
+}
+
+inline QString comboBox(const QString &name, const QString &choices, const QString &more = {})
+{
+    return QStringLiteral("<combobox name='%1' %3>%2</combobox>").arg(name, choices, more);
+}
+
+/** One of the choices of a combo box. */
+inline QString choice(const QString &name, const QString &text)
+{
+    return QStringLiteral("<item action='%1' text='%2'/>").arg(name, text);
+}
+
+inline QString group(const QString &name, const QString &controls)
+{
+    return QStringLiteral("<buttongroup name='%1'>%2</buttongroup>").arg(name, controls);
+}
+
+/** The controls at the right end of a row, which only scalable tabs have. */
+inline QString extra(const QString &controls)
+{
+    return QStringLiteral("<extra usable='true'>%1</extra>").arg(controls);
 }
 
 inline QString tab(const QString &name, const QString &controls, const QString &more = {})

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QIcon>
+#include <QTemporaryDir>
 #include <QToolButton>
 
 inline QIcon colouredIcon(const QColor &colour)
@@ -13,4 +14,13 @@ inline QIcon colouredIcon(const QColor &colour)
 inline QColor shownColour(const QToolButton &button)
 {
     return button.icon().pixmap(16, 16).toImage().pixelColor(8, 8);
+}
+
+/** The path of a blue picture of 60 by 40 pixels in the folder; empty if it cannot be written. */
+inline QString savedPicture(const QTemporaryDir &folder)
+{
+    const QString path = folder.filePath(QStringLiteral("pen.png"));
+    QImage picture(60, 40, QImage::Format_RGB32);
+    picture.fill(Qt::blue);
+    return picture.save(path) ? path : QString();
 }

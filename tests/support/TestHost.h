@@ -51,12 +51,12 @@ public:
     /** The rows stay disabled until the host has reported a first state. */
     void enableRows() { setUsable(QStringLiteral("no control"), true); }
     void showEnabled();
-    /** What a decent host does when it is asked for the states of its controls. */
+    /** Reports every control as usable, as hosts do when they are asked for the states. */
     void enableEverything();
 
     QMainWindow &window() { return *m_window; }
     void deleteWindow() { m_window.reset(); }
-    /** From now on the window is its own. */
+    /** Leaves the deletion of the window to the caller. */
     QMainWindow *releaseWindow() { return m_window.release(); }
     MRToolBar &facade() { return *m_facade; }
     void deleteFacade() { m_facade.reset(); }
@@ -64,7 +64,7 @@ public:
     /** The command of that name; null if there is none. */
     QAction *action(const QString &name) const { return toolBar()->GetActionInTotal(name); }
     QList<QPushButton *> shownTabs() const;
-    /** Opens each tab that is shown and hands its name over. */
+    /** Opens each tab that is shown and calls @p look with its name. */
     void openEachTab(const std::function<void(const QString &)> &look);
     /** Device-independent pixels of a length given in pixels at 96 dpi. */
     int scaled(double designPixels) const;

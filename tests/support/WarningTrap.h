@@ -2,7 +2,7 @@
 
 #include <QStringList>
 
-/** Keeps what the toolkit complains of while it lives. */
+/** Collects the warnings of Qt as long as it exists. */
 class WarningTrap
 {
 public:
