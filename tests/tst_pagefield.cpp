@@ -3,6 +3,7 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QValidator>
 
@@ -15,7 +16,7 @@ class PageHost : public TestHost
 {
 public:
     PageHost()
-        : TestHost(row("<lineedit name='d_gotopage' text='all pages'/>"))
+        : TestHost(row(Describe::field("d_gotopage", "text='all pages'")))
         , field(find<QLineEdit>(QStringLiteral("d_gotopage")))
         , pages(&facade(), &MRToolBar::DoGotoPage)
     {
@@ -60,13 +61,13 @@ public:
 
 } // namespace
 
-/** What may be entered into the page field, and what becomes of it. */
+/** What the page field takes and reports, and the total of pages beside it. */
 class PageFieldTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void pagesAreRefusedOutsideTheDocument_data()
+    void shouldRefusePagesOutsideTheDocument_data()
     {
         QTest::addColumn<int>("page"); // 0 when refused. What is typed names the case.
         QTest::addColumn<QString>("shown");
@@ -83,7 +84,7 @@ private Q_SLOTS:
             QTest::newRow(nothing) << 0 << "";
     }
 
-    void pagesAreRefusedOutsideTheDocument()
+    void shouldRefusePagesOutsideTheDocument()
     {
         QFETCH(int, page);
         PageHost host;
@@ -98,7 +99,7 @@ private Q_SLOTS:
         QCOMPARE(host.field->text(), QStringLiteral("%1/25").arg(page ? page : 3));
     }
 
-    void aRefusedPageCanBeCorrected()
+    void shouldAllowARefusedPageToBeCorrected()
     {
         PageHost host;
         host.facade().DoSetPageInfoSlot(3, 12);
@@ -114,7 +115,7 @@ private Q_SLOTS:
         QCOMPARE(host.takePages(), QStringLiteral("7"));
     }
 
-    void whatTheFieldShowsOpensItToNoOtherText_data()
+    void shouldTakePagesOnlyWhateverItShows_data()
     {
         QTest::addColumn<bool>("isRefusal"); // The text comes after a page that there is not.
         QTest::newRow("3/12") << true;
@@ -124,7 +125,7 @@ private Q_SLOTS:
             QTest::newRow(reported) << false;
     }
 
-    void whatTheFieldShowsOpensItToNoOtherText()
+    void shouldTakePagesOnlyWhateverItShows()
     {
         QFETCH(bool, isRefusal);
         const QString shown = QString::fromUtf8(QTest::currentDataTag());
@@ -148,7 +149,7 @@ private Q_SLOTS:
         QCOMPARE(host.takePages(), QStringLiteral("7"));
     }
 
-    void aPageIsAcceptableWithOrWithoutATotal()
+    void shouldAcceptAPageWithOrWithoutATotal()
     {
         PageHost host;
         const QValidator *validator = host.field->validator();
@@ -162,6 +163,42 @@ private Q_SLOTS:
             QVERIFY2(state(begun) == QValidator::Intermediate, begun);
         for (const char *wrong : {"x", "-1", "1.5", "1/x", "1/2/3", "1 ", "1/ 2"})
             QVERIFY2(state(wrong) == QValidator::Invalid, wrong);
+    }
+
+    void shouldShowTheTotalInsideItsLabel()
+    {
+        using Steps = QList<std::pair<int, QString>>; // 0 clears.
+        const QList<std::pair<QString, Steps>> labels{
+            {"/",
+             {{0, "/"}, {9, "/9"}, {120, "/120"}, {7, "/7"}, {0, "/ "}, {0, "/ "}, {25, "/25"}}},
+            {"of pages", {{12, "of12pages"}, {3, "of3pages"}}}};
+        // Without a label of its own, the total stands in the caption of the field.
+        for (const QString &described :
+             {field("d_gotopage", "text='x'") + label("d_totalpagelabel", "%1"),
+              field("d_gotopage", "text='%1'")}) {
+            for (const auto &[text, steps] : labels) {
+                TestHost host(row(described.arg(text)));
+                const auto *own = host.find<QLabel>("d_totalpagelabel");
+                for (const auto &[total, shown] : steps) {
+                    host.facade().DoSetPageInfoSlot(total == 0 ? 0 : 1, total);
+                    QCOMPARE((own ? own : host.find<QLabel>("prompt"))->text(), shown);
+                    QCOMPARE(host.find<QLineEdit>("d_gotopage")->text(),
+                             QString(total == 0 ? "" : "1"));
+                }
+            }
+        }
+    }
+
+    void shouldKeepEveryControlOnTheRowWhenTheTotalGrows()
+    {
+        TestHost host(
+            row(comboBox("v_zoom", choice("vzmode_100p", "100%"), "text='Zoom' editable='true'")
+                + "<sperator/>" + field("d_gotopage", "text='Page'")
+                + label("d_totalpagelabel", "/") + label("d_pagelabel", "pages")));
+        host.facade().DoSetPageInfoSlot(3, 12);
+        host.window().resize(640, 100);
+        host.showEnabled();
+        QTRY_VERIFY2(host.find<QLabel>("d_pagelabel")->isVisible(), "There is room for it");
     }
 };
 

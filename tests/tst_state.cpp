@@ -22,17 +22,15 @@ QString foldControls()
 /** A toolbar that has every area. */
 QString everything()
 {
-    return section("appbutton", "<menu name='menu_file' text='File'><menuitem action='f_exit'/>"
-                                "</menu><menu name='ab_set' text='More'><menu name='menu_edit' "
-                                "text='Edit'><menuitem action='e_undo'/></menu></menu>")
+    return section("appbutton", menu("menu_file", item("f_exit"))
+                                    + menu("ab_set", menu("menu_edit", item("e_undo"))))
            + section("quickaccessbar", button("qbar_f_open", "checkable='true'")
                                            + button("qbar_f_print", "checkable='true'")
                                            + button("qt_set"))
            + section("tabbar",
                      tab("a", button("x") + button("y", "checkable='true'"), "checked='true'")
                          + tab("b", button("z")))
-           + section("searchbar",
-                     "<lineedit name='st_input'/>" + button("st_next") + button("st_set"))
+           + section("searchbar", field("st_input") + button("st_next") + button("st_set"))
            + foldControls();
 }
 
@@ -64,12 +62,12 @@ QString enabledPlaces(TestHost &host)
 } // namespace
 
 /** Enabled and visible by name: areas, single controls, and the questions about them. */
-class TestState : public QObject
+class StateTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void reservedNamesAddressWholeAreas_data()
+    void shouldAddressWholeAreasByReservedNames_data()
     {
         QTest::addColumn<QStringList>("members");
         QTest::newRow("toolbar_whole") << QStringList("mrtoolbar");
@@ -84,7 +82,7 @@ private Q_SLOTS:
         QTest::newRow("x/toolbar_whole") << QStringList();
     }
 
-    void reservedNamesAddressWholeAreas()
+    void shouldAddressWholeAreasByReservedNames()
     {
         QFETCH(QStringList, members);
         TestHost host(everything());
@@ -114,31 +112,31 @@ private Q_SLOTS:
         }
     }
 
-    void aNameIsLookedUpPlaceByPlace_data()
+    void shouldLookANameUpPlaceByPlace_data()
     {
         QTest::addColumn<QString>("row");  // Controls of the row on show.
         QTest::addColumn<QString>("tabs"); // Behind it.
         QTest::addColumn<QString>("sections");
         QTest::addColumn<QString>("left"); // The places still enabled afterwards.
         const QString tabX = tab("x", {});
-        const QString group =
-            "<buttongroup name='g'><button name='x' available='%1'/></buttongroup>";
+        const QString grouped = group("g", button("x"));
+        const QString unavailable = group("g", button("x", "available='false'"));
         const QString additional = section("addtional", button("x"));
-        const QString app = section("appbutton", "<menu name='x' text='App'/>");
+        const QString app = section("appbutton", menu("x", {}));
         const QString quick = section("quickaccessbar", button("qbar_x") + button("qbar_f_x"));
         // Its action does not follow by name, so that what happens to the button alone shows.
-        const QString drop = "<menu name='x' text='Drop' available='false'/>";
+        const QString drop = menu("x", {}, "available='false'");
         QTest::newRow("action, additional") << button("x") << "" << additional << "";
         QTest::newRow("action, tab, application button") << button("x") << tabX << app << "";
         QTest::newRow("additional before drop button, tab") << drop << tabX << additional << "TD";
         QTest::newRow("drop button before tab") << drop << tabX << app << "TP";
         QTest::newRow("first quick entry before tab") << "" << tabX << quick << "TQ";
-        QTest::newRow("group button before tab") << group.arg("true") << tabX << ""
+        QTest::newRow("group button before tab") << grouped << tabX << ""
                                                  << "T";
-        QTest::newRow("unavailable group button") << group.arg("false") << tabX << app << "";
+        QTest::newRow("unavailable group button") << unavailable << tabX << app << "";
     }
 
-    void aNameIsLookedUpPlaceByPlace()
+    void shouldLookANameUpPlaceByPlace()
     {
         QFETCH(QString, row);
         QFETCH(QString, tabs);
@@ -154,7 +152,7 @@ private Q_SLOTS:
         QTEST(enabledPlaces(host), "left");
     }
 
-    void theFirstReportEnablesTheRows()
+    void shouldEnableTheRowsOnTheFirstReport()
     {
         TestHost host(everything());
         auto *stack = host.find<QStackedWidget>("tabwidget");
@@ -170,7 +168,7 @@ private Q_SLOTS:
         QVERIFY(!stack->isEnabled()); // Only the first one does.
     }
 
-    void aDisabledRowLeavesOnlyTheFirstActionToTheHost()
+    void shouldSetOnlyTheFirstActionWhileTheRowIsDisabled()
     {
         TestHost host(row(button("h_info") + button("menu_h_info")) + foldControls());
         host.enableRows();
@@ -183,7 +181,7 @@ private Q_SLOTS:
         QVERIFY(host.find<QPushButton>("h_info")->isEnabled());
     }
 
-    void aNameWithASlashMatchesWhatContainsIt()
+    void shouldSetEveryNameThatContainsANameWithASlash()
     {
         TestHost host(
             row(button("pen/red") + button("big pen/red") + button("pen") + button("menu_pen")));
@@ -197,7 +195,7 @@ private Q_SLOTS:
         QVERIFY(host.facade().GetCompositeVisible("big pen/red"));
     }
 
-    void quickAccessIsShownByItsOwnForms()
+    void shouldShowQuickAccessButtonsByTheirNames()
     {
         // What is left of set button, open and print; capitals when they are ticked.
         const QMap<QString, QString> left{{"toolbar_quickaccessbar/set", "-OP"},
@@ -231,11 +229,11 @@ private Q_SLOTS:
         }
     }
 
-    void fieldsAreAddressedByTheirContainers()
+    void shouldSetTheContainerOfAField()
     {
-        const QString items = "<item action='m1' text='1%'/><item action='m2' text='2%'/>";
-        TestHost host(row("<combobox name='v_zoom'>" + items + "</combobox>" + button("v_zoomlist")
-                          + "<lineedit name='d_gotopage'/>" + button("d_gotopageinput")));
+        TestHost host(row(comboBox("v_zoom", choice("m1", "1%") + choice("m2", "2%"))
+                          + button("v_zoomlist") + field("d_gotopage")
+                          + button("d_gotopageinput")));
         host.showEnabled();
         const QStringList names{"v_zoom", "v_zoomlist", "d_gotopage", "d_gotopageinput"};
         for (int i = 0; i < names.size(); i += 2) {
@@ -255,7 +253,7 @@ private Q_SLOTS:
         }
     }
 
-    void questionsAnswerForSingleControls()
+    void shouldAnswerForSingleControls()
     {
         TestHost host(everything() + section("tabbar", tab("b", {})));
         host.toolBar()->Inner_DoDelayLoadMenuSlot();
@@ -278,18 +276,36 @@ private Q_SLOTS:
         QVERIFY(!host.facade().IsSupportByToolBar("qbar_f_open"));
     }
 
-    void geometryIsThatOnTheScreen()
+    void shouldReportTheGeometryOnTheScreen()
     {
         TestHost host(everything());
         host.show();
-        const QWidget *face = host.find<MRMainToolBar>("a")->widgetForAction(host.action("y"));
-        QTRY_VERIFY(face->x() > 0);
+        const QWidget *widget = host.find<MRMainToolBar>("a")->widgetForAction(host.action("y"));
+        QTRY_VERIFY(widget->x() > 0);
         QCOMPARE(host.facade().GetControlGeometry("y"),
-                 QRect(face->mapToGlobal(QPoint()), face->size()));
+                 QRect(widget->mapToGlobal(QPoint()), widget->size()));
         for (const char *name : {"nothing", "z", "f_exit", "qbar_f_open", ""})
             QCOMPARE(host.facade().GetControlGeometry(name), QRect());
     }
+
+    void shouldCheckTheReportedBackgroundWithoutASignal()
+    {
+        const QStringList names{"default", "daytime", "nighttime", "eyeguard", "parchment"};
+        QString controls;
+        for (const QString &name : names)
+            controls += button("background_" + name, "group='bggroup' checkable='true'");
+        TestHost host(row(controls));
+        const QSignalSpy backgrounds(&host.facade(), &MRToolBar::DoSetBackground);
+        const QSignalSpy active(&host.facade(), &MRToolBar::DoActive);
+        for (const int style : {1, 7, 2, -1, 3, 4, 0}) { // Unknown ones are the default.
+            host.facade().DoSetBackgroundSlot(static_cast<BackgroundStyle>(style));
+            for (const QString &name : names)
+                QCOMPARE(host.action("background_" + name)->isChecked(),
+                         name == names.value(style, "default"));
+        }
+        QVERIFY(backgrounds.isEmpty() && active.isEmpty());
+    }
 };
 
-QTEST_MAIN(TestState)
+QTEST_MAIN(StateTest)
 #include "tst_state.moc"

@@ -5,7 +5,6 @@
 #include <QAbstractItemView>
 #include <QAction>
 #include <QComboBox>
-#include <QLabel>
 #include <QLineEdit>
 #include <QToolTip>
 
@@ -28,11 +27,9 @@ QString zoomControls(int index)
                                                  {"10p", "10%"},      {"50p", "50%"},
                                                  {"100p", "100%"},    {"6400p", "6400%"}};
     for (const auto &[mode, text] : entries)
-        items += QStringLiteral("<item action='vzmode_%1' text='%2'/>").arg(mode, text);
+        items += choice("vzmode_" + mode, text);
     return grouped("vzmode_original", "zmode") + grouped("vzmode_fitpage", "zmode")
-           + QStringLiteral("<combobox name='v_zoom' index='%1' editable='true'>%2</combobox>")
-                 .arg(index)
-                 .arg(items)
+           + comboBox("v_zoom", items, QStringLiteral("index='%1' editable='true'").arg(index))
            + grouped("vzmode_custom", "zmode");
 }
 
@@ -98,12 +95,13 @@ public:
 
 } // namespace
 
-class TestPages : public QObject
+/** The zoom box and the buttons of the zoom modes. */
+class ZoomTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void wrongZoomTexts()
+    void shouldFindInvalidZoomTexts()
     {
         for (const char *text : {"a", "12x", "5=", "+5", "5_", "\u4e2d", "5 \u9fa5"})
             QVERIFY2(ZoomText::isInvalid(text), text);
@@ -111,44 +109,7 @@ private Q_SLOTS:
             QVERIFY2(!ZoomText::isInvalid(text), text);
     }
 
-    void totalsStandInsideTheirLabel()
-    {
-        using Steps = QList<std::pair<int, QString>>; // 0 clears.
-        const QList<std::pair<QString, Steps>> labels{
-            {"/",
-             {{0, "/"}, {9, "/9"}, {120, "/120"}, {7, "/7"}, {0, "/ "}, {0, "/ "}, {25, "/25"}}},
-            {"of pages", {{12, "of12pages"}, {3, "of3pages"}}}};
-        // Without a label of its own, the total stands in the caption of the field.
-        for (const QString described : {"<lineedit name='d_gotopage' text='x'/>"
-                                        "<label name='d_totalpagelabel' text='%1'/>",
-                                        "<lineedit name='d_gotopage' text='%1'/>"}) {
-            for (const auto &[label, steps] : labels) {
-                TestHost host(row(described.arg(label)));
-                const auto *own = host.find<QLabel>("d_totalpagelabel");
-                for (const auto &[total, shown] : steps) {
-                    host.facade().DoSetPageInfoSlot(total == 0 ? 0 : 1, total);
-                    QCOMPARE((own ? own : host.find<QLabel>("prompt"))->text(), shown);
-                    QCOMPARE(host.find<QLineEdit>("d_gotopage")->text(),
-                             QString(total == 0 ? "" : "1"));
-                }
-            }
-        }
-    }
-
-    void aTotalThatGrowsPushesNothingOffTheRow()
-    {
-        TestHost host(row("<combobox name='v_zoom' text='Zoom' editable='true'>"
-                          "<item action='vzmode_100p' text='100%'/></combobox><sperator/>"
-                          "<lineedit name='d_gotopage' text='Page'/>"
-                          "<label name='d_totalpagelabel' text='/'/>"
-                          "<label name='d_pagelabel' text='pages'/>"));
-        host.facade().DoSetPageInfoSlot(3, 12);
-        host.window().resize(640, 100);
-        host.showEnabled();
-        QTRY_VERIFY2(host.find<QLabel>("d_pagelabel")->isVisible(), "There is room for it");
-    }
-
-    void typedZooms_data()
+    void shouldReportATypedZoom_data()
     {
         QTest::addColumn<QString>("mode"); // Empty for none. What is typed names the case.
         QTest::addColumn<QString>("shown");
@@ -167,7 +128,7 @@ private Q_SLOTS:
         QTest::newRow("\b") << none << "50%"; // The key, which leaves nothing.
     }
 
-    void typedZooms()
+    void shouldReportATypedZoom()
     {
         QFETCH(QString, mode);
         ZoomHost host;
@@ -178,7 +139,7 @@ private Q_SLOTS:
         QVERIFY(!host.box->hasFocus());
     }
 
-    void thereIsOneCustomZoomAtATime()
+    void shouldListOneCustomZoomAtATime()
     {
         ZoomHost host;
         for (const char *number : {"37", "41", "41"}) {
@@ -197,7 +158,7 @@ private Q_SLOTS:
         QCOMPARE(host.takeModes(), QStringList("vzmode_6400p"));
     }
 
-    void aZoomChosenFromTheListIsReported()
+    void shouldReportAZoomChosenFromTheList()
     {
         ZoomHost host(1);
         QVERIFY(!host.box->isEditable());
@@ -212,7 +173,7 @@ private Q_SLOTS:
         QVERIFY(!host.box->isEditable());
     }
 
-    void zoomsThatTheHostReports_data()
+    void shouldShowAZoomThatTheHostReports_data()
     {
         QTest::addColumn<QString>("shown");
         QTest::addColumn<QString>("checked");
@@ -226,7 +187,7 @@ private Q_SLOTS:
         QTest::newRow("vzmode_fitpage") << "Page" << QString();
     }
 
-    void zoomsThatTheHostReports()
+    void shouldShowAZoomThatTheHostReports()
     {
         QFETCH(QString, shown);
         ZoomHost host;
@@ -246,7 +207,7 @@ private Q_SLOTS:
         QTEST(host.checkedModes(), "checked");
     }
 
-    void theLastZoomStandsInTheBoxAndOnTheButtons_data()
+    void shouldShowTheLastZoomInTheBoxAndOnTheButtons_data()
     {
         QTest::addColumn<QString>("first");
         QTest::addColumn<QString>("answer");
@@ -266,7 +227,7 @@ private Q_SLOTS:
         row("vzmode_fitpage", "vzmode_100p", "100%", actualSize);
     }
 
-    void theLastZoomStandsInTheBoxAndOnTheButtons()
+    void shouldShowTheLastZoomInTheBoxAndOnTheButtons()
     {
         QFETCH(QString, first);
         QFETCH(QString, answer);
@@ -287,7 +248,7 @@ private Q_SLOTS:
         }
     }
 
-    void afterACustomReportEveryEntryCanBeChosen()
+    void shouldOfferEveryEntryAfterACustomZoom()
     {
         ZoomHost host;
         host.facade().DoSetZoomModeSlot("vzmode_37p");
@@ -304,7 +265,7 @@ private Q_SLOTS:
         QCOMPARE(host.box->currentText(), QStringLiteral("Page"));
     }
 
-    void wrongTextShowsAHint()
+    void shouldShowAHintForAnInvalidZoomText()
     {
         ZoomHost host;
         host.type("12");
@@ -317,25 +278,7 @@ private Q_SLOTS:
         QTRY_VERIFY(!QToolTip::isVisible());
         QCOMPARE(host.box->currentText(), QStringLiteral("12"));
     }
-
-    void backgroundsAreMirroredInSilence()
-    {
-        const QStringList names{"default", "daytime", "nighttime", "eyeguard", "parchment"};
-        QString controls;
-        for (const QString &name : names)
-            controls += grouped("background_" + name, "bggroup");
-        TestHost host(row(controls));
-        const QSignalSpy backgrounds(&host.facade(), &MRToolBar::DoSetBackground);
-        const QSignalSpy active(&host.facade(), &MRToolBar::DoActive);
-        for (const int style : {1, 7, 2, -1, 3, 4, 0}) { // Unknown ones are the default.
-            host.facade().DoSetBackgroundSlot(static_cast<BackgroundStyle>(style));
-            for (const QString &name : names)
-                QCOMPARE(host.action("background_" + name)->isChecked(),
-                         name == names.value(style, "default"));
-        }
-        QVERIFY(backgrounds.isEmpty() && active.isEmpty());
-    }
 };
 
-QTEST_MAIN(TestPages)
-#include "tst_pages.moc"
+QTEST_MAIN(ZoomTest)
+#include "tst_zoom.moc"
