@@ -62,31 +62,17 @@ public:
     QPointer<MRDropButton> copy;
 };
 
-/** Counts how often an object is resized. */
-class ResizeCounter : public QObject
-{
-public:
-    explicit ResizeCounter(QObject *object) { object->installEventFilter(this); }
-
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        count += event->type() == QEvent::Resize ? 1 : 0;
-        return false;
-    }
-
-    int count = 0;
-};
-
 } // namespace
 
-class TestDropButton : public QObject
+/** The drop button on a row and its copy in the menu of what the row has no room for. */
+class DropButtonTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void init() { movePointerAway(); }
 
-    void aChosenEntryTakesTheFaceAndAClickRepeatsIt()
+    void shouldShowTheChosenEntryAndRepeatItOnAClick()
     {
         Row fixture;
         fixture.row->addAction(fixture.action);
@@ -111,14 +97,14 @@ private Q_SLOTS:
         QCOMPARE(shownColour(*button), QColor(Qt::red));
     }
 
-    void theMenuOpensWhereThereIsNothingToRepeatAndByKey_data()
+    void shouldOpenTheMenuByKeyAndWithNothingToRepeat_data()
     {
         QTest::addColumn<QString>("fate"); // Of the entry that a click would repeat.
         for (const char *fate : {"none", "disabled", "deleted", "usable"})
             QTest::newRow(fate) << fate;
     }
 
-    void theMenuOpensWhereThereIsNothingToRepeatAndByKey()
+    void shouldOpenTheMenuByKeyAndWithNothingToRepeat()
     {
         QFETCH(QString, fate);
         Row fixture;
@@ -142,7 +128,7 @@ private Q_SLOTS:
         QCOMPARE(triggered.count(), 0);
     }
 
-    void resetGoesBackOneSwitchOnly()
+    void shouldGoBackOneSwitchOnReset()
     {
         Row fixture;
         fixture.addWithCopy();
@@ -158,7 +144,7 @@ private Q_SLOTS:
         QVERIFY(!fixture.button()->GetCurrentAction() && !fixture.copy->GetCurrentAction());
     }
 
-    void theCopyStaysInStepWithTheRow()
+    void shouldKeepTheCopyInStepWithTheRow()
     {
         Row fixture;
         fixture.action->SetAction(fixture.line); // By default, so that nothing is checked yet.
@@ -187,7 +173,7 @@ private Q_SLOTS:
         QVERIFY(!fixture.copy->isEnabled());
     }
 
-    void theActionEnablesAndShowsEveryButton()
+    void shouldEnableAndShowEveryButtonOfTheAction()
     {
         Row fixture;
         fixture.addWithCopy();
@@ -198,7 +184,7 @@ private Q_SLOTS:
         fixture.row->setEnabled(true);
         QVERIFY(!fixture.button()->isEnabled() && !fixture.copy->isEnabled());
         fixture.action->setEnabled(true);
-        fixture.button()->setEnabled(false); // Told by itself; the action has the last word.
+        fixture.button()->setEnabled(false); // Set by itself; the action decides.
         fixture.action->setEnabled(true);
         QVERIFY(fixture.button()->isEnabled() && fixture.copy->isEnabled());
 
@@ -208,7 +194,7 @@ private Q_SLOTS:
         QTRY_VERIFY(!fixture.button()->isHidden() && !fixture.copy->isHidden());
     }
 
-    void theExtendMenuMayBeDeletedAndComeBack()
+    void shouldAllowTheExtendMenuToBeDeletedAndMadeAgain()
     {
         Row fixture;
         fixture.addWithCopy();
@@ -230,7 +216,7 @@ private Q_SLOTS:
         QCOMPARE(fixture.copy->GetCurrentAction(), fixture.oval);
     }
 
-    void aNarrowRowOffersAWorkingCopy()
+    void shouldOfferAWorkingCopyOnANarrowRow()
     {
         Row fixture;
         for (int i = 0; i < 4; ++i)
@@ -260,21 +246,21 @@ private Q_SLOTS:
         QVERIFY(!fixture.copy || fixture.copy->isChecked());
     }
 
-    void theCopyAndItsMenuAreDressedForTheSkin()
+    void shouldStyleTheCopyAndItsMenuByTheSkin()
     {
-        QStringList dresses;
+        QStringList sheets;
         for (const int skin : {marodi, lum}) {
             const SkinChoice choice(skin);
             Row fixture;
             fixture.addWithCopy();
-            dresses.append(fixture.copy->styleSheet() + fixture.extendMenu->styleSheet());
-            QVERIFY2(!dresses.last().contains(QLatin1Char('%')), "A length has not been filled in");
+            sheets.append(fixture.copy->styleSheet() + fixture.extendMenu->styleSheet());
+            QVERIFY2(!sheets.last().contains(QLatin1Char('%')), "A length has not been filled in");
             QVERIFY(fixture.extendMenu->minimumWidth() > 80);
         }
-        QVERIFY(dresses.first().contains("marodi") && dresses.last().contains("lum"));
+        QVERIFY(sheets.first().contains("marodi") && sheets.last().contains("lum"));
     }
 
-    void hoveringTellsTheArrowFromTheBody()
+    void shouldHighlightTheArrowOrTheBodyUnderThePointer()
     {
         using Kind = std::pair<int, bool>;
         for (const auto &[skin, isSplit] : {Kind{marodi, true}, {lum, true}, {lum, false}}) {
@@ -284,8 +270,8 @@ private Q_SLOTS:
             fixture.row->addAction(fixture.action);
             fixture.show();
             MRDropButton *button = fixture.button();
-            button->setFixedSize(90,
-                                 50); // As on a tool row; the sheets alone would move the arrow.
+            // As on a tool row; the style sheets alone would move the arrow.
+            button->setFixedSize(90, 50);
             const QString body = HoverSheets::dropButton(false, false, skin == lum, 1.0);
             const QString arrow = HoverSheets::dropButton(false, isSplit, skin == lum, 1.0);
 
@@ -304,7 +290,7 @@ private Q_SLOTS:
         }
     }
 
-    void theCopyGetsItsOwnSheetBackOnLeaving()
+    void shouldRestoreTheSheetOfTheCopyWhenThePointerLeaves()
     {
         Row fixture;
         MRDropButton button(nullptr, &fixture.window, QStringLiteral("Copy"), {}, {}, {});
@@ -320,26 +306,7 @@ private Q_SLOTS:
         movePointerAway();
         QTRY_COMPARE(button.styleSheet(), QStringLiteral("QToolButton{height:2em;}"));
     }
-
-    void aSwitchRefreshesTheToolBarThatOwnsTheButton()
-    {
-        TestHost host(QString{});
-        host.show();
-        QAction entry(QStringLiteral("Line"));
-        MRDropButton button(nullptr, host.toolBar(), {}, {}, {}, {});
-        const ResizeCounter resizes(host.toolBar());
-        const QSize size = host.toolBar()->size();
-
-        button.DoSwitchSlot(&entry);
-        QCOMPARE(resizes.count, 0);
-        button.SetUpdateToolbar(true);
-        button.DoSwitchSlot(&entry);
-        QCOMPARE(resizes.count, 2);
-        button.DoCurrentActionSlot();
-        QCOMPARE(resizes.count, 4);
-        QCOMPARE(host.toolBar()->size(), size);
-    }
 };
 
-QTEST_MAIN(TestDropButton)
+QTEST_MAIN(DropButtonTest)
 #include "tst_dropbutton.moc"

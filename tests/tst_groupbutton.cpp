@@ -1,22 +1,27 @@
+#include "tests/support/Describe.h"
 #include "tests/support/Icons.h"
 #include "tests/support/Pointer.h"
 #include "tests/support/TestHost.h"
 #include "toolbar/widgets/HoverSheets.h"
 #include "toolbar/widgets/MRGroupButton.h"
+#include "toolbar/widgets/MRMainToolBar.h"
 #include "toolbar/widgets/ObjectTree.h"
 
-#include <QCryptographicHash>
+#include <QGridLayout>
+#include <QMap>
 #include <QMenu>
 
-/** The buttons of a group, and what any button wears while the pointer is over it. */
-class TestGroupButton : public QObject
+using namespace Describe;
+
+/** The buttons of a group, and how any button looks while the pointer is over it. */
+class GroupButtonTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void init() { movePointerAway(); }
 
-    void theOwnIconStandsInForActionsWithoutOne()
+    void shouldShowItsOwnIconForActionsWithoutOne()
     {
         QAction bare(QStringLiteral("Bare"));
         bare.setCheckable(true);
@@ -35,13 +40,13 @@ private Q_SLOTS:
 
         button.SetDefaultAction(&drawn);
         QCOMPARE(shownColour(button), QColor(Qt::red));
-        bare.toggle(); // What the button showed before has no say any more.
+        bare.toggle(); // The button no longer follows what it showed before.
         button.SetDefaultAction(nullptr);
         QCOMPARE(button.defaultAction(), &drawn);
         QCOMPARE(shownColour(button), QColor(Qt::red));
     }
 
-    void hoveringTellsTheArrowFromTheBody()
+    void shouldHighlightTheArrowOrTheBodyUnderThePointer()
     {
         QMenu menu;
         menu.addAction(QStringLiteral("Entry"));
@@ -76,33 +81,117 @@ private Q_SLOTS:
         }
     }
 
-    void everyHoverSheetIsKeptToTheLetter()
+    void shouldColourTheButtonUnderThePointer_data()
     {
+        QTest::addColumn<QString>("sheet");
+        QTest::addColumn<QStringList>("colours"); // At rest, pressed and checked.
+        const QString white = "#ffffff";
+        const QString grey = "#eaeaea";
+        const QString hovered = "#dbdee3";
+        const QString pressed = "#b7b9be";
+        const QString checked = "#c3c6ca";
+        const auto add = [](const char *name, const QString &sheet, const QStringList &colours) {
+            QTest::newRow(name) << sheet << colours;
+        };
         using HoverSheets::dropButton;
         using HoverSheets::groupButton;
-        const QMap<QString, QByteArray> digests{
-            {dropButton(false, true, false, 1.0), "d6a8cc4d4b46"},  // On a row, over the arrow,
-            {dropButton(false, false, false, 1.0), "5ae8e9b6b970"}, // and over the body.
-            {dropButton(false, true, true, 1.0), "ea4bf116cc77"},   // The same in lum.
-            {dropButton(false, false, true, 1.0), "1388230be9bc"},
-            {dropButton(true, true, false, 1.0), "391456b314d3"}, // In a menu.
-            {dropButton(true, false, false, 1.0), "7673a34ed06d"},
-            {dropButton(true, true, true, 1.0), "8778541cfa0d"},
-            {dropButton(true, false, true, 1.0), "7cb3227d6306"},
-            {groupButton(true, false), "c8fa270d698c"},
-            {groupButton(false, false), "0cd944d5c3b4"}};
-        for (auto sheet = digests.begin(); sheet != digests.end(); ++sheet) {
-            const QByteArray digest =
-                QCryptographicHash::hash(sheet.key().toUtf8(), QCryptographicHash::Sha1).toHex();
-            QVERIFY2(digest.startsWith(sheet.value()), qPrintable(sheet.key()));
-        }
-        QCOMPARE(digests.size(), 10);
-        // In lum the two kinds of buttons wear the same.
-        for (const bool isOverArrow : {true, false})
-            QCOMPARE(groupButton(isOverArrow, true), dropButton(false, isOverArrow, true, 1.0));
+        // Qt cannot read the sheet of the body on a row in marodi, so that one colours nothing.
+        add("row, arrow", dropButton(false, true, false, 1.0), {grey, grey, grey});
+        add("row, arrow, lum", dropButton(false, true, true, 1.0), {white, white, white});
+        add("row, body, lum", dropButton(false, false, true, 1.0), {hovered, pressed, checked});
+        add("menu, arrow", dropButton(true, true, false, 1.0), {grey, white, grey});
+        add("menu, body", dropButton(true, false, false, 1.0), {white, white, white});
+        add("menu, arrow, lum", dropButton(true, true, true, 1.0), {white, white, checked});
+        add("menu, body, lum", dropButton(true, false, true, 1.0), {hovered, pressed, checked});
+        add("group, arrow", groupButton(true, false), {grey, white, grey});
+        add("group, body", groupButton(false, false), {white, white, white});
+        add("group, arrow, lum", groupButton(true, true), {white, white, white});
+        add("group, body, lum", groupButton(false, true), {hovered, pressed, checked});
     }
 
-    void isChildrenFindsDescendantsAndNothingElse()
+    void shouldColourTheButtonUnderThePointer()
+    {
+        QFETCH(QString, sheet);
+        QMenu menu;
+        QToolButton button;
+        button.setPopupMode(QToolButton::MenuButtonPopup);
+        button.setMenu(&menu);
+        button.setCheckable(true);
+        button.resize(90, 40);
+        button.setStyleSheet(sheet);
+        const auto colour = [&button] { return button.grab().toImage().pixelColor(10, 8).name(); };
+        QStringList colours(colour());
+        button.setDown(true);
+        colours.append(colour());
+        button.setDown(false);
+        button.setChecked(true);
+        colours.append(colour());
+        QTEST(colours, "colours");
+    }
+
+    void shouldLayAButtonGroupOutTwoToAColumn()
+    {
+        TestHost host(row(group("group", button("g0") + button("g1") + choice("g2", "g2")
+                                             + button("g3") + menu("g4", item("e")))
+                          + "<buttongroup/><extra/>"));
+        const auto *grid = qobject_cast<QGridLayout *>(host.find<QWidget>("groupwidget")->layout());
+        const QMap<QString, QPoint> places{
+            {"g0", {0, 0}}, {"g1", {0, 1}}, {"g3", {1, 0}}, {"g4", {2, 0}}};
+        for (auto place = places.begin(); place != places.end(); ++place) {
+            QLayoutItem *item = grid->itemAtPosition(place->y(), place->x());
+            QVERIFY(item);
+            QCOMPARE(item->widget()->objectName(), place.key());
+        }
+        QCOMPARE(grid->count(), places.size()); // A child that becomes nothing leaves no hole.
+        // Elements without attributes have no type, and nothing is made of them.
+        QCOMPARE(host.find<MRMainToolBar>("row")->actions().size(), 1);
+    }
+
+    void shouldReportTheCommandsOfGroupButtons()
+    {
+        TestHost host(row(group("group", button("shown") + button("hidden", "visible='false'")
+                                             + "<button name='bare'/>"
+                                             + button("away", "available='false'"))));
+        host.showEnabled();
+        QSignalSpy active(&host.facade(), &MRToolBar::DoActive);
+        for (const char *name : {"shown", "away"})
+            host.click(name);
+        QCOMPARE(TestHost::texts(active), QStringList("shown"));
+        QVERIFY(!host.find<QToolButton>("hidden")->isVisible());
+        const auto module = [&host](const char *name) {
+            return host.find<QToolButton>(name)->property("module").toString();
+        };
+        QCOMPARE(module("bare"), QStringLiteral("groupbutton_withouttext"));
+        QCOMPARE(module("shown"), QStringLiteral("groupbutton"));
+    }
+
+    void shouldShowTheEntryOnAGroupMenuButton_data()
+    {
+        QTest::addColumn<QStringList>("texts"); // At first and after a choice.
+        QTest::newRow("index='2'") << QStringList{"Pick  ", "Pick  "};
+        QTest::newRow("checkable='true'") << QStringList{"Pick", "Pick"};
+        QTest::newRow("checkable='true' index='2'") << QStringList{"second", "second"};
+        QTest::newRow("checkable='true' index='2' switchable='true'")
+            << QStringList{"second", "one"};
+    }
+
+    void shouldShowTheEntryOnAGroupMenuButton()
+    {
+        const QString attributes = QTest::currentDataTag();
+        TestHost host(row(group("group", menu("Pick", item("one") + item("second"), attributes))));
+        host.show();
+        const auto *pick = host.find<MRGroupButton>("Pick");
+        QStringList texts(pick->text());
+        const bool isSplit = attributes.startsWith("checkable");
+        QCOMPARE(pick->popupMode() == QToolButton::MenuButtonPopup, isSplit);
+        if (isSplit) // As wide as the longest of its texts.
+            QCOMPARE(pick->width(), host.scaled(6 * 24.0 + 12.0));
+        host.action("one")->trigger();
+        texts.append(pick->text());
+        QTEST(texts, "texts");
+    }
+
+    void shouldFindDescendantsOnly()
     {
         QObject root;
         auto *first = new QObject(&root);
@@ -117,5 +206,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestGroupButton)
+QTEST_MAIN(GroupButtonTest)
 #include "tst_groupbutton.moc"

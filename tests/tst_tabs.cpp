@@ -1,14 +1,15 @@
 #include "tests/support/Describe.h"
 #include "tests/support/TestHost.h"
-#include "toolbar/widgets/MRGroupButton.h"
 #include "toolbar/widgets/MRMainToolBar.h"
 #include "toolbar/widgets/MRMenuButton.h"
 
-#include <QGridLayout>
+#include <QEventLoop>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMap>
 #include <QStackedWidget>
+#include <QTimer>
+
+#include <utility>
 
 using namespace Describe;
 
@@ -16,22 +17,31 @@ namespace {
 
 QString tabBar(const QString &tabs)
 {
-    return section("tabbar", tabs) + section("addtional", "<button name='t_fold'/>");
+    return section("tabbar", tabs) + section("addtional", button("t_fold"));
 }
 
-/** One tab, on show, with these controls. */
-QString oneTab(const QString &controls, const QString &more = {})
-{
-    return tabBar(tab(QStringLiteral("only"), controls, QStringLiteral("checked='true' ") + more));
-}
+const QString checkable = "checkable='true'";
+const QString shown = "checkable='true' checked='true'";
+const QString uncheckable = "checkable='false'";
 
-/** Tabs "0" to "2" with a button each. */
-QString threeTabs(const QString &shown = QStringLiteral("0"))
+/** Tabs "0", "1" and so on with a button each and these attributes. */
+QString tabsWith(const QStringList &attributes)
 {
     QString tabs;
-    for (const QString name : {"0", "1", "2"})
-        tabs += tab(name, button("command" + name), name == shown ? "checked='true'" : "");
+    for (int i = 0; i < attributes.size(); ++i) {
+        const QString name = QString::number(i);
+        tabs += QStringLiteral("<tabbutton name='%1' text='%1' %2>%3</tabbutton>")
+                    .arg(name, attributes.at(i), button("command" + name));
+    }
     return tabBar(tabs);
+}
+
+/** Tabs "0" to "2" with a button each, of which one is on show. */
+QString threeTabs(int checkedTab = 0)
+{
+    QStringList attributes{checkable, checkable, checkable};
+    attributes[checkedTab] = shown;
+    return tabsWith(attributes);
 }
 
 QStackedWidget *stack(const TestHost &host)
@@ -39,28 +49,58 @@ QStackedWidget *stack(const TestHost &host)
     return host.find<QStackedWidget>(QStringLiteral("tabwidget"));
 }
 
+/** A user or host that does one thing after the other, such as "click 1" or "hide 0". */
+void act(TestHost &host, const QString &steps)
+{
+    const QStringList all = steps.split(',', Qt::SkipEmptyParts);
+    for (const QString &step : all) {
+        const QString tab = step.section(' ', 1);
+        if (step.startsWith("click"))
+            host.click(tab);
+        else if (step.startsWith("open"))
+            host.toolBar()->InitMainToolBar(tab);
+        else if (step.startsWith("hide"))
+            host.setVisible(tab, false);
+        else if (step.startsWith("delete"))
+            host.deleteWindow();
+        else
+            host.setUsable(tab, step.startsWith("enable"));
+    }
+}
+
+void actInLoop(TestHost &host, const QString &steps)
+{
+    QEventLoop loop;
+    QTimer::singleShot(0, &loop, [&] {
+        act(host, steps);
+        loop.quit();
+    });
+    loop.exec();
+}
+
 } // namespace
 
-class TestTabs : public QObject
+/** Tabs and their rows, also when the host changes them as it is asked for the states of a row. */
+class TabsTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void theCheckedTabIsOnShowWhateverItsPosition()
+    void shouldShowTheCheckedTabWhateverItsPosition()
     {
-        for (const QString shown : {"0", "1", "2"}) {
-            TestHost host(threeTabs(shown));
+        for (int current = 0; current < 3; ++current) {
+            TestHost host(threeTabs(current));
             host.show();
-            for (const QString name : {"0", "1", "2"}) {
-                const auto *row = host.find<MRMainToolBar>(name);
-                QCOMPARE(row->isVisible(), name == shown);
-                QCOMPARE(row->isFilled(), name == shown);
-                QCOMPARE(row->actions().size(), name == shown ? 1 : 0);
+            for (int i = 0; i < 3; ++i) {
+                const auto *row = host.find<MRMainToolBar>(QString::number(i));
+                QCOMPARE(row->isVisible(), i == current);
+                QCOMPARE(row->isFilled(), i == current);
+                QCOMPARE(row->actions().size(), i == current ? 1 : 0);
             }
         }
     }
 
-    void aRowIsFilledWhenItIsFirstOpenedAndAsksOnce()
+    void shouldFillARowAndAskForStatesOnItsFirstOpening()
     {
         TestHost host(threeTabs());
         host.show();
@@ -75,7 +115,7 @@ private Q_SLOTS:
         QVERIFY(!host.facade().IsSupportByToolBar("command2"));
     }
 
-    void theRowsFoldAndUnfold()
+    void shouldFoldAndUnfoldTheRows()
     {
         TestHost host(threeTabs());
         host.show();
@@ -106,7 +146,7 @@ private Q_SLOTS:
         verifyButtons();
     }
 
-    void aTabWithoutControlsOpensAnEmptyPage()
+    void shouldOpenAnEmptyPageForATabWithoutControls()
     {
         TestHost host(tabBar(tab("a", button("command"), "checked='true'") + tab("b", {})));
         host.show();
@@ -117,7 +157,7 @@ private Q_SLOTS:
         QVERIFY(asked.isEmpty());
     }
 
-    void twoTabsOfOneNameFillTheLaterRow()
+    void shouldFillTheLaterRowOfTwoTabsOfOneName()
     {
         TestHost host(tabBar(tab("first", button("x"), "checked='true'") + tab("same", button("y"))
                              + tab("same", button("z"))));
@@ -133,18 +173,17 @@ private Q_SLOTS:
         QCOMPARE(actionsOfPage(2), 2);
     }
 
-    void anExtraGroupStandsAtTheRightOfItsOwnTabOnly()
+    void shouldShowAnExtraGroupAtTheRightOfItsTabOnly()
     {
-        const QString extra = "<extra usable='false'><label name='caption' text='Find'/>"
-                              "<lineedit name='plain' tooltip='Type'/>"
-                              "</extra>";
-        TestHost host(tabBar(tab("a", button("x") + extra, "checked='true' scalable='true'")
-                             + tab("b", button("y"), "scalable='true'") + tab("c", extra)));
+        const QString disabled = "<extra usable='false'>" + label("caption", "Find")
+                                 + field("plain", "tooltip='Type'") + "</extra>";
+        TestHost host(tabBar(tab("a", button("x") + disabled, "checked='true' scalable='true'")
+                             + tab("b", button("y"), "scalable='true'") + tab("c", disabled)));
         host.show();
-        auto *caption = host.find<QLabel>("caption");
-        auto *field = host.find<QLineEdit>("plain");
-        QVERIFY(caption->isVisible() && !caption->isEnabled() && !field->isEnabled());
-        QCOMPARE(field->placeholderText(), QStringLiteral("Type"));
+        const auto *caption = host.find<QLabel>("caption");
+        const auto *plain = host.find<QLineEdit>("plain");
+        QVERIFY(caption->isVisible() && !caption->isEnabled() && !plain->isEnabled());
+        QCOMPARE(plain->placeholderText(), QStringLiteral("Type"));
         const QWidget *panel = caption->parentWidget();
         QCOMPARE(panel->objectName(), QStringLiteral("a"));
         QCOMPARE(panel->contentsMargins(), QMargins(0, 0, 22, 0));
@@ -161,16 +200,17 @@ private Q_SLOTS:
         QVERIFY(!panel->isVisible());
     }
 
-    void anExtraSearchFieldTakesOneButtonOrTwo()
+    void shouldMakeAnExtraSearchFieldWithOneButtonOrTwo()
     {
         const QString next = button("gis_next");
-        const QString extra =
-            "<extra usable='true'><lineedit name='gis_input'>%1</lineedit></extra>";
+        const auto tabWith = [](const QString &buttons) {
+            return section("tabbar", tab("only", extra(searchField("gis_input", buttons)),
+                                         "checked='true' scalable='true'"));
+        };
         const QString three = next + button("gis_prev") + button("gis_more");
-        QVERIFY(
-            !TestHost(oneTab(extra.arg(three), "scalable='true'")).find<QLineEdit>("gis_input"));
+        QVERIFY(!TestHost(tabWith(three)).find<QLineEdit>("gis_input"));
 
-        TestHost host(oneTab(extra.arg(next), "scalable='true'"));
+        TestHost host(tabWith(next));
         host.showEnabled();
         QSignalSpy found(&host.facade(), &MRToolBar::DoSearchContent);
         QTest::keyClicks(host.find<QLineEdit>("gis_input"), "Oslo");
@@ -181,94 +221,29 @@ private Q_SLOTS:
         QCOMPARE(option.direction, 1);
     }
 
-    void buttonGroupsStandTwoToAColumn()
-    {
-        TestHost host(oneTab("<buttongroup name='group'>" + button("g0") + button("g1")
-                             + "<item name='g2'/>" + button("g3")
-                             + "<menu name='g4' text='g4'><menuitem action='e' text='e'/></menu>"
-                             + "</buttongroup><buttongroup/><extra/>"));
-        const auto *grid = qobject_cast<QGridLayout *>(host.find<QWidget>("groupwidget")->layout());
-        const QMap<QString, QPoint> places{
-            {"g0", {0, 0}}, {"g1", {0, 1}}, {"g3", {1, 0}}, {"g4", {2, 0}}};
-        for (auto place = places.begin(); place != places.end(); ++place) {
-            QLayoutItem *item = grid->itemAtPosition(place->y(), place->x());
-            QVERIFY(item);
-            QCOMPARE(item->widget()->objectName(), place.key());
-        }
-        QCOMPARE(grid->count(), places.size()); // A child that becomes nothing leaves no hole.
-        // Elements without attributes have no type, and nothing is made of them.
-        QCOMPARE(host.find<MRMainToolBar>("only")->actions().size(), 1);
-    }
-
-    void groupButtonsServeTheirCommands()
-    {
-        TestHost host(oneTab("<buttongroup name='group'>" + button("shown")
-                             + button("hidden", "visible='false'") + "<button name='bare'/>"
-                             + button("away", "available='false'") + "</buttongroup>"));
-        host.showEnabled();
-        QSignalSpy active(&host.facade(), &MRToolBar::DoActive);
-        for (const char *name : {"shown", "away"})
-            host.click(name);
-        QCOMPARE(TestHost::texts(active), QStringList("shown"));
-        QVERIFY(!host.find<QToolButton>("hidden")->isVisible());
-        const auto module = [&host](const char *name) {
-            return host.find<QToolButton>(name)->property("module").toString();
-        };
-        QCOMPARE(module("bare"), QStringLiteral("groupbutton_withouttext"));
-        QCOMPARE(module("shown"), QStringLiteral("groupbutton"));
-    }
-
-    void groupMenuButtonsShowTheirEntries_data()
-    {
-        QTest::addColumn<QStringList>("texts"); // At first and after a choice.
-        QTest::newRow("index='2'") << QStringList{"Pick  ", "Pick  "};
-        QTest::newRow("checkable='true'") << QStringList{"Pick", "Pick"};
-        QTest::newRow("checkable='true' index='2'") << QStringList{"second", "second"};
-        QTest::newRow("checkable='true' index='2' switchable='true'")
-            << QStringList{"second", "one"};
-    }
-
-    void groupMenuButtonsShowTheirEntries()
-    {
-        const QString attributes = QTest::currentDataTag();
-        TestHost host(oneTab("<buttongroup name='group'><menu name='pick' text='Pick' " + attributes
-                             + "><menuitem action='one' text='one'/><menuitem action='two' "
-                               "text='second'/></menu></buttongroup>"));
-        host.show();
-        const auto *pick = host.find<MRGroupButton>("pick");
-        QStringList texts(pick->text());
-        const bool isSplit = attributes.startsWith("checkable");
-        QCOMPARE(pick->popupMode() == QToolButton::MenuButtonPopup, isSplit);
-        if (isSplit) // As wide as the longest of its texts.
-            QCOMPARE(pick->width(), host.scaled(6 * 24.0 + 12.0));
-        host.action("one")->trigger();
-        texts.append(pick->text());
-        QTEST(texts, "texts");
-    }
-
-    void theTabOnShowFoldsAndMovesOn_data()
+    void shouldLeaveTheShownTabWhenItIsHiddenOrDisabled_data()
     {
         QTest::addColumn<int>("current"); // Of three tabs.
         QTest::addColumn<QStringList>("disabled");
-        QTest::addColumn<int>("shown");
+        QTest::addColumn<int>("next");
         QTest::newRow("the next one") << 0 << QStringList() << 1;
         QTest::newRow("wraps around") << 2 << QStringList() << 0;
         QTest::newRow("the next one is disabled") << 0 << QStringList("1") << 0;
         QTest::newRow("no other one is usable") << 1 << QStringList{"0", "2"} << 1;
     }
 
-    void theTabOnShowFoldsAndMovesOn()
+    void shouldLeaveTheShownTabWhenItIsHiddenOrDisabled()
     {
         QFETCH(int, current);
         QFETCH(QStringList, disabled);
         const QString name = QString::number(current);
         for (const bool hides : {false, true}) {
-            TestHost host(threeTabs(name));
+            TestHost host(threeTabs(current));
             host.showEnabled();
             for (const QString &other : std::as_const(disabled))
                 host.find<QPushButton>(other)->setEnabled(false);
             hides ? host.setVisible(name, false) : host.setUsable(name, false);
-            QTEST(stack(host)->currentIndex(), "shown");
+            QTEST(stack(host)->currentIndex(), "next");
             QVERIFY(!host.find<MRMainToolBar>(name)->isVisible());
             const auto *tabButton = host.find<QPushButton>(name);
             QVERIFY(hides ? !tabButton->isVisible() : !tabButton->isEnabled());
@@ -282,9 +257,9 @@ private Q_SLOTS:
         }
     }
 
-    void enablingTheTabOnShowMovesOnToo()
+    void shouldLeaveTheShownTabWhenItIsEnabled()
     {
-        TestHost host(threeTabs() + section("appbutton", "<menu name='0' text='App'/>"));
+        TestHost host(threeTabs() + section("appbutton", menu("0", {})));
         host.find<MRMenuButton>("0")->setEnabled(false);
         for (const bool isFurther : {false, true}) { // Moving on ends the search for the name.
             host.setUsable("0", true);
@@ -293,7 +268,7 @@ private Q_SLOTS:
         }
     }
 
-    void aHostThatSendsAllStatesAgainStillMovesOn()
+    void shouldLeaveTheShownTabOnceWhenAllStatesAreSentAgain()
     {
         TestHost host(threeTabs());
         host.show();
@@ -303,7 +278,102 @@ private Q_SLOTS:
         QCOMPARE(stack(host)->currentIndex(), 1);
         QVERIFY(host.find<MRMainToolBar>("1")->isVisible());
     }
+
+    void shouldShowTheRowOfTheCheckedTabAfterAnAnswer_data()
+    {
+        QTest::addColumn<QStringList>("tabs");
+        QTest::addColumn<QString>("steps");
+        QTest::addColumn<QString>("answer");
+        QTest::addColumn<int>("tab");
+        QTest::addColumn<bool>("isFolded");
+        const QStringList plain{shown, checkable, checkable};
+        const auto row = [](const char *name, const QStringList &tabs, const char *steps,
+                            const char *answer, int tab, bool isFolded = false) {
+            QTest::newRow(name) << tabs << steps << answer << tab << isFolded;
+        };
+        row("hides the tab on show", plain, "click 1", "hide 0", 1);
+        row("hides the tab on show, not the next clicked", plain, "click 2", "hide 0", 2);
+        row("disables the tab on show", plain, "click 2", "disable 0", 2);
+        row("hides all others", plain, "click 2", "hide 0,hide 1", 2);
+        row("sends all states", plain, "click 1", "enable 0,enable 1,enable 2", 1);
+        row("sends all states twice", plain, "click 2", "enable 0,enable 1,enable 0,enable 2", 2);
+        row("opens another tab", plain, "click 1", "click 2", 2);
+        row("opens another tab by its position", plain, "click 1", "open 2", 2);
+        row("opens the tab, too", plain, "click 1", "click 1", 1);
+        row("opens another tab, then the tab", plain, "click 1", "click 2,click 1", 1);
+        row("returns to the tab on show", plain, "click 1", "click 0", 0);
+        row("leaves the tab on show, then returns", plain, "click 1", "enable 0,click 0", 0);
+        row("opens the tab and folds it", plain, "click 1", "click 1,click 1", 1, true);
+        row("opens the tab, then hides it", plain, "click 1", "click 1,hide 1", 2);
+        row("is asked while the rows are folded", plain, "click 0,click 1", "click 1", 1);
+        row("has left a tab and disables it", plain, "hide 0", "disable 0", 1);
+        row("has left a tab and opens another", plain, "hide 0", "click 2", 2);
+        row("has left a tab and leaves another", plain, "enable 0", "click 2,hide 2", 0);
+        row("has opened the tab before", plain, "click 1,click 0,click 1", "", 1);
+        row("has no tab on show at first", {checkable, checkable}, "click 0", "", 0);
+        row("has no tab on show at first, opens one", {checkable, checkable}, "click 0", "click 0",
+            0);
+        row("has no tab on show at first, hides it", {checkable, checkable}, "click 0", "hide 0",
+            1);
+
+        const QStringList mixed{shown, uncheckable, checkable};
+        row("has a tab that takes no check", mixed, "click 1", "", 1);
+        row("opens a tab that takes no check twice", mixed, "click 1", "click 1", 1);
+        row("hides the tab on show for it", mixed, "click 1", "hide 0", 1);
+        row("returns from it", mixed, "click 1", "click 0", 0);
+        row("opens another one instead of it", mixed, "click 1", "click 2", 2);
+        row("leaves it", mixed, "click 1,hide 1", "", 2);
+        row("begins with it", {shown, uncheckable + " checked='true'"}, "", "", 1);
+    }
+
+    void shouldShowTheRowOfTheCheckedTabAfterAnAnswer()
+    {
+        QFETCH(QStringList, tabs);
+        QFETCH(QString, steps);
+        QFETCH(QString, answer);
+        QFETCH(int, tab);
+        QFETCH(bool, isFolded);
+        for (const auto &react : {act, actInLoop}) {
+            TestHost host(tabsWith(tabs));
+            host.showEnabled();
+            bool isAnswered = false;
+            connect(&host.facade(), &MRToolBar::DoRequestAuthority, this, [&] {
+                if (!std::exchange(isAnswered, true))
+                    react(host, answer);
+            });
+            act(host, steps);
+            const auto *stack = host.find<QStackedWidget>("tabwidget");
+            QCOMPARE(stack->currentIndex(), tab);
+            QCOMPARE(!stack->isVisible(), isFolded);
+            for (int i = 0; i < tabs.size(); ++i) {
+                const QString name = QString::number(i);
+                QCOMPARE(host.find<MRMainToolBar>(name)->isVisible(), i == tab && !isFolded);
+                QCOMPARE(host.find<QPushButton>(name)->isChecked(),
+                         i == tab && tabs.at(i).startsWith(checkable));
+            }
+        }
+    }
+
+    void shouldAllowDeletionOfTheWindowInTheAnswer()
+    {
+        for (const char *answer : {"delete", "click 2,delete", "hide 0,delete"}) {
+            for (const char *steps : {"click 1", "hide 0"}) {
+                for (const auto &react : {act, actInLoop}) {
+                    TestHost host(tabsWith({shown, checkable, checkable}));
+                    host.showEnabled();
+                    const QPointer<NewToolBar> toolBar = host.toolBar();
+                    bool isAnswered = false;
+                    connect(&host.facade(), &MRToolBar::DoRequestAuthority, this, [&] {
+                        if (!std::exchange(isAnswered, true))
+                            react(host, answer);
+                    });
+                    act(host, steps);
+                    QVERIFY(toolBar.isNull());
+                }
+            }
+        }
+    }
 };
 
-QTEST_MAIN(TestTabs)
+QTEST_MAIN(TabsTest)
 #include "tst_tabs.moc"
