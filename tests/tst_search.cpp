@@ -1,3 +1,4 @@
+#include "tests/support/Describe.h"
 #include "tests/support/Menus.h"
 #include "tests/support/TestHost.h"
 
@@ -6,20 +7,30 @@
 
 #include <array>
 
+using namespace Describe;
+
 namespace {
 
-const QString sections =
-    "<toolbar_tabbar><tabbutton name='t' checkable='true' checked='true' scalable='true'>"
-    "<button action='b' text='B'/><extra usable='true'><lineedit action='gis_input' tooltip='Map'>"
-    "<button action='gis_prev' text='&lt;'/><button action='gis_next' text='&gt;'/></lineedit>"
-    "</extra></tabbutton></toolbar_tabbar>"
-    "<toolbar_searchbar><label name='st_icon' text='?'/><lineedit action='st_input' "
-    "tooltip='Find'/><button action='st_prev' text='&lt;'/><button action='st_next' text='&gt;'/>"
-    "<button action='st_set' text='o'>"
-    "<menuitem action='st_option_wholeword' text='Whole' checkable='true'/>"
-    "<menuitem action='st_option_nocase' text='Case' checkable='true'/></button>"
-    "</toolbar_searchbar><toolbar_addtional><button action='e_preference' text='P'/>"
-    "<button action='t_fold' tooltip='Fold'/></toolbar_addtional>";
+const QString gisField =
+    extra(searchField("gis_input", button("gis_prev") + button("gis_next"), "tooltip='Map'"));
+
+QString otherField(const QString &name)
+{
+    return extra(searchField(name + "_input", button(name + "_next")));
+}
+
+/** A tab with these controls at its right end, a search field and additional controls. */
+QString sections(const QString &extras = gisField, const QString &prompt = QStringLiteral("Find"))
+{
+    return section("tabbar", tab("t", button("b") + extras, "checked='true' scalable='true'"))
+           + section(
+               "searchbar",
+               label("st_icon", "?") + field("st_input", "tooltip='" + prompt + '\'')
+                   + button("st_prev") + button("st_next")
+                   + optionsButton("st_set", item("st_option_wholeword", "checkable='true'")
+                                                 + item("st_option_nocase", "checkable='true'")))
+           + section("addtional", button("e_preference") + button("t_fold", "tooltip='Fold'"));
+}
 
 /** Types into a field as a user does, then presses one of its buttons, or Return for none. */
 void searchFor(TestHost &host, const QString &fieldName, const QString &text,
@@ -56,33 +67,19 @@ private Q_SLOTS:
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("button");
         QTest::addColumn<int>("direction"); // -1: no search at all.
-        QTest::newRow("Return") << "st_input"
-                                << "abc"
-                                << "" << 1;
-        QTest::newRow("next") << "st_input"
-                              << "abc"
-                              << "st_next" << 1;
-        QTest::newRow("previous") << "st_input"
-                                  << "abc"
-                                  << "st_prev" << 0;
-        QTest::newRow("Return, empty") << "st_input"
-                                       << ""
-                                       << "" << -1;
-        QTest::newRow("next, empty") << "st_input"
-                                     << ""
-                                     << "st_next" << -1;
-        QTest::newRow("second field, Return") << "gis_input"
-                                              << "abc"
-                                              << "" << 1;
-        QTest::newRow("second field, next") << "gis_input"
-                                            << "abc"
-                                            << "gis_next" << 1;
-        QTest::newRow("second field, previous") << "gis_input"
-                                                << "abc"
-                                                << "gis_prev" << 0;
-        QTest::newRow("second field, empty") << "gis_input"
-                                             << ""
-                                             << "gis_next" << -1;
+        const auto row = [](const char *name, const char *field, const char *text,
+                            const char *button, int direction) {
+            QTest::newRow(name) << field << text << button << direction;
+        };
+        row("Return", "st_input", "abc", "", 1);
+        row("next", "st_input", "abc", "st_next", 1);
+        row("previous", "st_input", "abc", "st_prev", 0);
+        row("Return, empty", "st_input", "", "", -1);
+        row("next, empty", "st_input", "", "st_next", -1);
+        row("second field, Return", "gis_input", "abc", "", 1);
+        row("second field, next", "gis_input", "abc", "gis_next", 1);
+        row("second field, previous", "gis_input", "abc", "gis_prev", 0);
+        row("second field, empty", "gis_input", "", "gis_next", -1);
     }
 
     void shouldSearchFromItsFields()
@@ -91,7 +88,7 @@ private Q_SLOTS:
         QFETCH(QString, text);
         QFETCH(QString, button);
         QFETCH(int, direction);
-        TestHost host(sections);
+        TestHost host(sections());
         host.show();
         const bool isSecondField = field == "gis_input";
         host.find<QLineEdit>(isSecondField ? "st_input" : "gis_input")->setText("not this");
@@ -137,10 +134,7 @@ private Q_SLOTS:
         QFETCH(QString, own);
         QFETCH(QString, button);
         QFETCH(QString, searched);
-        const QString more = "<extra usable='true'><lineedit action='%1_input'>"
-                             "<button action='%1_next' text='&gt;'/></lineedit></extra>";
-        TestHost host(QString(sections).replace("<extra", more.arg("law") + more.arg("gis_earlier")
-                                                              + "<extra"));
+        TestHost host(sections(otherField("law") + otherField("gis_earlier") + gisField));
         host.show();
         const bool isEarlier = field.startsWith("gis");
         host.find<QLineEdit>(isEarlier ? "gis_input" : "st_input")->setText(main);
@@ -153,7 +147,7 @@ private Q_SLOTS:
         QCOMPARE(lastOf(searches).newSearch, isEarlier);
     }
 
-    void shouldTellASearchFromTheOneThatAnswersIt_data()
+    void shouldKeepASearchApartFromOneInItsHandler_data()
     {
         QTest::addColumn<QString>("control");
         QTest::addColumn<QString>("answer"); // What the host presses when it hears of the first.
@@ -170,13 +164,12 @@ private Q_SLOTS:
             << "st_prev" << inner + QStringList("second 1 new");
     }
 
-    void shouldTellASearchFromTheOneThatAnswersIt()
+    void shouldKeepASearchApartFromOneInItsHandler()
     {
         QFETCH(QString, control);
         QFETCH(QString, answer);
-        TestHost host(control.startsWith("gis_input")
-                          ? QString(sections).replace("gis_next", control)
-                          : sections);
+        const QString next = control.startsWith("gis_input") ? control : "gis_next";
+        TestHost host(sections(QString(gisField).replace("gis_next", next)));
         host.showEnabled();
         host.find<QLineEdit>("st_input")->setText("main");
         host.find<QLineEdit>("gis_input")->setText("second");
@@ -195,7 +188,7 @@ private Q_SLOTS:
 
     void shouldCarryTheOptionsOfItsMenu()
     {
-        TestHost host(sections);
+        TestHost host(sections());
         host.show();
         const QSignalSpy searches(&host.facade(), &MRToolBar::DoSearchContent);
         const QString wholeWord = "st_option_wholeword";
@@ -223,18 +216,17 @@ private Q_SLOTS:
         for (const auto &[tip, foldTip, unfoldTip] :
              {Tips{"Rows", "Rows", "Rows"},
               Tips{"Hide rows;Show rows", "Hide rows", "Show rows"}}) {
-            const TestHost host("<toolbar_addtional><button action='t_fold' tooltip='" + tip
-                                + "'/></toolbar_addtional>");
+            const TestHost host(section("addtional", button("t_fold", "tooltip='" + tip + '\'')));
             QCOMPARE(host.find<QPushButton>("t_fold")->toolTip(), foldTip);
             QCOMPARE(host.find<QPushButton>("t_extend")->toolTip(), unfoldTip);
         }
     }
 
-    void shouldNotLookFilledByItsPrompt()
+    void shouldDrawAPromptFainterThanText()
     {
         for (const int skin : {marodi, lum}) {
             const SkinChoice choice(skin);
-            TestHost host(sections);
+            TestHost host(sections());
             host.show();
             for (const char *colour : {"", "#7A3B1B"}) {
                 if (*colour)
@@ -272,7 +264,7 @@ private Q_SLOTS:
         QFETCH(QString, prompt);
         QFETCH(int, resting);
         const SkinChoice choice(skin);
-        TestHost host(QString(sections).replace("Find", prompt));
+        TestHost host(sections(gisField, prompt));
         auto *document = new QLineEdit;
         host.window().setCentralWidget(document);
         host.showEnabled();

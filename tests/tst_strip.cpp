@@ -13,14 +13,13 @@ using namespace Describe;
 
 namespace {
 
-const QString controls = button("one") + "<label name='text' text='Text'/>"
-                         + "<combobox name='list'><item action='a' text='A'/></combobox>";
+const QString controls = button("one") + label("text", "Text") + comboBox("list", choice("a", "A"));
 
 /** A toolbar with something in each of its areas. */
 QString sections()
 {
     return section("appbutton", menu("menu_file", item("f_open")))
-           + section("searchbar", button("s_next") + "<lineedit name='s_input'/>")
+           + section("searchbar", button("s_next") + field("s_input"))
            + row(controls, tab("other", button("two")));
 }
 

@@ -44,14 +44,15 @@ QString manyTabs(int count)
 
 } // namespace
 
-class TestTopLine : public QObject
+/** The line of menus, tabs and search field in windows that are too narrow for it. */
+class TopLineTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void everythingStaysInReachInANarrowWindow_data() { TestDocuments::addAll(); }
+    void shouldKeepEverythingReachableInANarrowWindow_data() { TestDocuments::addAll(); }
 
-    void everythingStaysInReachInANarrowWindow()
+    void shouldKeepEverythingReachableInANarrowWindow()
     {
         QFETCH(int, skin);
         QFETCH(QString, path);
@@ -80,7 +81,7 @@ private Q_SLOTS:
         }
     }
 
-    void theStripFollowsArrowsWheelAndFocus()
+    void shouldScrollTheTabsByArrowsWheelAndFocus()
     {
         constexpr int count = 20;
         TestHost host(manyTabs(count));
@@ -107,7 +108,7 @@ private Q_SLOTS:
         QVERIFY2(isReachable(tabs.last()), "The tab on show is hidden");
     }
 
-    void aSearchFieldThatWidensLeavesTheWindowAsItIs()
+    void shouldKeepTheWindowNarrowWhenTheSearchFieldWidens()
     {
         const auto host = TestHost::withShipped(QStringLiteral("marodi/mr_toolbar.debug.xml"));
         host->window().resize(host->scaled(narrowWidth), host->scaled(300));
@@ -122,5 +123,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestTopLine)
+QTEST_MAIN(TopLineTest)
 #include "tst_topline.moc"

@@ -13,7 +13,7 @@
 
 namespace {
 
-/** A user who has a look at everything that a toolbar shows, and uses it. */
+/** A user who points at everything on show, opens every menu and uses every command. */
 class Tour
 {
 public:
@@ -27,27 +27,27 @@ public:
         m_host->show();
     }
 
-    void seeTheTopLine()
+    void visitTheTopLine()
     {
         const QWidget *line = m_host->find<QWidget>(QStringLiteral("top_widget"));
         const QList<QPointer<QPushButton>> buttons = shown<QPushButton>(line);
         for (const QPointer<QPushButton> &button : buttons) {
             hover(button);
-            // The application menus belong to no button of the toolkit's kind.
+            // QPushButton::menu() knows nothing of the application menus.
             const auto *menuButton = qobject_cast<MRMenuButton *>(button);
             if (button->menu() || (menuButton && menuButton->GetMenu()))
                 popMenu(button, button->rect().center());
         }
     }
 
-    void seeEveryTab()
+    void visitEveryTab()
     {
         m_host->openEachTab(
-            [this](const QString &tab) { seeTheRow(m_host->find<MRMainToolBar>(tab)); });
+            [this](const QString &tab) { visitTheRow(m_host->find<MRMainToolBar>(tab)); });
     }
 
-    int menusSeen() const { return m_menusSeen; }
-    int commandsUsed() const { return m_commandsUsed; }
+    int visitedMenus() const { return m_visitedMenus; }
+    int usedCommands() const { return m_usedCommands; }
 
 private:
     template <typename Widget>
@@ -62,7 +62,7 @@ private:
         return widgets;
     }
 
-    void seeTheRow(const MRMainToolBar *row)
+    void visitTheRow(const MRMainToolBar *row)
     {
         if (!row)
             return;
@@ -91,15 +91,15 @@ private:
 
     void popMenu(QWidget *button, const QPoint &place)
     {
-        const int before = m_menusSeen;
-        whenMenuPops([this](QMenu *menu) { seeMenu(menu); });
+        const int before = m_visitedMenus;
+        whenMenuPops([this](QMenu *menu) { visitMenu(menu); });
         QTest::mouseClick(button, Qt::LeftButton, {}, place);
-        QTRY_VERIFY2(m_menusSeen > before, qPrintable(button->objectName() + " popped no menu"));
+        QTRY_VERIFY2(m_visitedMenus > before, qPrintable(button->objectName() + " popped no menu"));
     }
 
-    void seeMenu(QMenu *menu)
+    void visitMenu(QMenu *menu)
     {
-        ++m_menusSeen;
+        ++m_visitedMenus;
         const QList<QAction *> entries = menu->actions();
         for (QAction *entry : entries) {
             if (!entry->isVisible() || entry->isSeparator())
@@ -108,7 +108,7 @@ private:
             menu->setActiveAction(entry);
             if (QMenu *subMenu = entry->menu(); subMenu && !subMenu->actions().isEmpty()) {
                 subMenu->popup(menu->mapToGlobal(menu->actionGeometry(entry).topRight()));
-                seeMenu(subMenu);
+                visitMenu(subMenu);
                 subMenu->hide();
             }
         }
@@ -126,37 +126,37 @@ private:
         QTRY_COMPARE(TestHost::texts(m_active), QStringList(action->objectName()));
         QTest::qWait(0);
         QCOMPARE(m_active.size(), 1);
-        ++m_commandsUsed;
+        ++m_usedCommands;
     }
 
     std::unique_ptr<TestHost> m_host;
     QSignalSpy m_active;
-    int m_menusSeen = 0;
-    int m_commandsUsed = 0;
+    int m_visitedMenus = 0;
+    int m_usedCommands = 0;
 };
 
 } // namespace
 
-/** Meant for the sanitizers as much as for what it checks itself. */
-class TestTour : public QObject
+/** Points at, opens and triggers all of a toolbar; also for the sanitizers to find faults in. */
+class TourTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void everyTabMenuAndButtonCanBeSeenAndUsed_data() { TestDocuments::addAll(); }
+    void shouldShowAndUseEveryTabMenuAndButton_data() { TestDocuments::addAll(); }
 
-    void everyTabMenuAndButtonCanBeSeenAndUsed()
+    void shouldShowAndUseEveryTabMenuAndButton()
     {
         QFETCH(int, skin);
         QFETCH(QString, path);
         const SkinChoice choice(skin);
         Tour tour(path);
-        tour.seeTheTopLine();
-        tour.seeEveryTab();
-        QVERIFY(tour.menusSeen() >= 3);
-        QVERIFY(tour.commandsUsed() >= 10);
+        tour.visitTheTopLine();
+        tour.visitEveryTab();
+        QVERIFY(tour.visitedMenus() >= 3);
+        QVERIFY(tour.usedCommands() >= 10);
     }
 };
 
-QTEST_MAIN(TestTour)
+QTEST_MAIN(TourTest)
 #include "tst_tour.moc"

@@ -16,7 +16,7 @@
 
 namespace {
 
-/** The objects may end one another. */
+/** The objects may delete one another. */
 template <typename Object>
 QList<QPointer<Object>> guarded(const QObject *parent)
 {

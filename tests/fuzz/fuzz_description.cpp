@@ -157,7 +157,7 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 size_t LLVMFuzzerCustomMutator(uint8_t *data, size_t size, size_t maxSize, unsigned int seed)
 {
     // Bytes that are changed at random are most often no document any more, and then nothing of
-    // the toolbar is reached; a part of them keeps the parser honest.
+    // the toolbar is reached; a part of them tests the parser.
     constexpr unsigned int shareOfBytes = 8;
     if (seed % shareOfBytes == 0)
         return LLVMFuzzerMutate(data, size, maxSize);

@@ -3,7 +3,7 @@
 #include <QDir>
 #include <QTest>
 
-/** Descriptions that have brought the toolbar down once, and the shipped ones. */
+/** Descriptions that have crashed the toolbar once, and the shipped ones. */
 class FuzzCorpusTest : public QObject
 {
     Q_OBJECT
@@ -31,7 +31,7 @@ private Q_SLOTS:
         useDescription(file.readAll());
         QVERIFY(!QApplication::activePopupWidget());
         const auto widgetsKept = QApplication::allWidgets().size() - widgetsBefore;
-        // The toolkit makes a few once, for its first window and its first tooltip.
+        // Qt makes a few once, for its first window and its first tooltip.
         QVERIFY2(widgetsKept <= 4, qPrintable(QString::number(widgetsKept)));
     }
 };

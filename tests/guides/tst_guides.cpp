@@ -131,7 +131,7 @@ const FixedColours lumColours{
 
 } // namespace
 
-/** Whether the guides say what is so; their code is compiled beside this test. */
+/** Whether the guides agree with the library; their code is compiled beside this test. */
 class GuidesTest : public QObject
 {
     Q_OBJECT
@@ -256,7 +256,7 @@ private Q_SLOTS:
             QVERIFY(isReadable(fixed.rest, icon, 3.0));
     }
 
-    void theReaderShouldOfferTheSameSkins()
+    void shouldOfferTheSkinsOfTheReader()
     {
         for (const int skin : {marodi, lum}) {
             const SkinChoice choice(skin);

@@ -51,7 +51,7 @@ public:
         return kind < 11 ? ask() : setState();
     }
 
-    /** What a decent host does when it is asked for the states of its controls. */
+    /** Reports every control as usable, as hosts do when they are asked for the states. */
     QString enableEverything()
     {
         for (QString name : std::as_const(m_names))

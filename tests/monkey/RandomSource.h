@@ -5,7 +5,8 @@
 
 #include <random>
 
-/** Everything that is random in a run comes from here, so that the seed tells the whole run. */
+/** Everything that is random in a run comes from here, so that the seed determines the whole run.
+ */
 class RandomSource
 {
 public:

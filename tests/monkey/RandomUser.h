@@ -52,7 +52,7 @@ public:
         if (!widget)
             return "nothing to use";
         const QString target = QLatin1Char(' ') + widget->metaObject()->className() + ' '
-                               + widget->objectName(); // Before the widget has gone.
+                               + widget->objectName(); // Before the widget is deleted.
         const auto &[name, gesture] = rareGestures.value(kind - 2, {"click", &RandomUser::click});
         (this->*gesture)(widget);
         return name + target;
@@ -94,7 +94,7 @@ private:
 
     void clickOnce(const QPointer<QWidget> &widget, const QPoint &place)
     {
-        // A menu may open in the first half, and the widget may be gone before the second.
+        // A menu may open in the first half, and the widget may be deleted before the second.
         QTest::mousePress(widget.data(), Qt::LeftButton, {}, place);
         if (widget)
             QTest::mouseRelease(widget.data(), Qt::LeftButton, {}, place);
@@ -144,7 +144,7 @@ private:
         const Qt::Key key = m_random.oneOf(keys);
         const auto [modifier, modifierKey] = m_random.oneOf(modifiers);
         QTest::keyPress(focused.data(), key, modifier);
-        // QTest would go on to release the modifier on a widget that the key has ended.
+        // QTest would go on to release the modifier on a widget that the key has deleted.
         for (const Qt::Key released : {key, modifierKey}) {
             QKeyEvent event(QEvent::KeyRelease, released, modifier);
             if (focused && released != Qt::Key_unknown)
@@ -188,7 +188,7 @@ private:
         }
         if (kind == 3 && place.isValid()) {
             const QString name = entry->objectName();
-            // The toolkit keeps a menu alive in its own events.
+            // Qt keeps a menu in existence in its own events.
             QTest::mouseClick(&menu, Qt::LeftButton, {}, place.center());
             return "choose " + name;
         }

@@ -27,7 +27,7 @@ inline bool isTypedZoomMode(const QString &mode)
     return percent >= 10.0 && percent <= 6400.0;
 }
 
-/** The quick buttons and the entries that show and hide them bear one name by design. */
+/** The quick buttons and the entries that show and hide them have one name by design. */
 inline bool belongsToQuickAccess(const QAction *action)
 {
     const QString owner = action->parent() ? action->parent()->objectName() : QString();
@@ -43,7 +43,7 @@ int checkedAmong(const QList<Control *> &controls)
     return count;
 }
 
-/** Sees to it that whatever is done to a toolbar, it keeps to what it promises. */
+/** Checks the invariants of a toolbar, whatever is done to it. */
 class Witness : public QObject
 {
 public:
@@ -54,7 +54,7 @@ public:
     {
     }
 
-    /** A new toolbar has come up. */
+    /** To be called with every new toolbar. */
     void watch(MRToolBar &facade, QMainWindow &window)
     {
         m_toolBar = window.findChild<NewToolBar *>();
@@ -83,7 +83,7 @@ public:
         }
     }
 
-    /** To be asked once a window has gone. */
+    /** To be called once a window has been deleted. */
     void checkNothingIsLeft()
     {
         const QWidgetList widgets = QApplication::allWidgets();
@@ -93,7 +93,7 @@ public:
                         + widget->objectName());
     }
 
-    /** The first broken promise; empty as long as there is none. */
+    /** The first violation of an invariant; empty as long as there is none. */
     QString fault() const { return m_fault; }
     /** How often each signal has come, for the report of a run. */
     QString heard() const
@@ -150,9 +150,9 @@ public:
     }
 
 private:
-    void require(bool promise, const QString &fault)
+    void require(bool invariant, const QString &fault)
     {
-        if (!promise && m_fault.isEmpty())
+        if (!invariant && m_fault.isEmpty())
             m_fault = fault;
     }
 

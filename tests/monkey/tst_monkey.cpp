@@ -29,19 +29,19 @@ public:
         waitForPopups();
     }
 
-    ~Monkey() { end(); }
+    ~Monkey() { deleteToolBar(); }
     Q_DISABLE_COPY_MOVE(Monkey)
 
     void step()
     {
-        constexpr int stepsOfALife = 150;
-        if (!isAlive() || m_random.oneIn(stepsOfALife)) {
-            end();
-            begin();
+        constexpr int stepsOfAToolbar = 150;
+        if (!exists() || m_random.oneIn(stepsOfAToolbar)) {
+            deleteToolBar();
+            makeToolBar();
         }
         tell(m_random.oneIn(3) ? m_host.step() : m_user.step(*m_window));
         letTimePass();
-        if (isAlive())
+        if (exists())
             m_witness.checkTree(*m_window);
     }
 
@@ -50,7 +50,7 @@ public:
     QString lastMoves() const { return m_moves.join("\n    "); }
 
 private:
-    bool isAlive() const { return m_window && m_facade && m_toolBar; }
+    bool exists() const { return m_window && m_facade && m_toolBar; }
 
     void tell(const QString &move)
     {
@@ -59,7 +59,7 @@ private:
             m_moves.removeFirst();
     }
 
-    void begin()
+    void makeToolBar()
     {
         m_window = new QMainWindow;
         m_window->resize(m_random.between(300, 1500), 400);
@@ -73,10 +73,10 @@ private:
         m_window->activateWindow();
         if (!m_random.oneIn(5))
             m_host.enableEverything();
-        tell("begin");
+        tell("new window");
     }
 
-    void end()
+    void deleteToolBar()
     {
         if (m_random.oneIn(3))
             delete m_toolBar;
@@ -101,20 +101,20 @@ private:
     void react()
     {
         constexpr int mostDepth = 3;
-        if (!isAlive() || m_depth >= mostDepth)
+        if (!exists() || m_depth >= mostDepth)
             return;
         ++m_depth;
         if (m_random.oneIn(3))
             m_host.enableEverything();
-        if (isAlive() && m_random.oneIn(3))
+        if (exists() && m_random.oneIn(3))
             tell("  answer: " + m_host.step());
-        if (isAlive() && m_random.oneIn(6))
+        if (exists() && m_random.oneIn(6))
             tell("  answer: " + m_host.showTab());
-        if (isAlive() && m_random.oneIn(12))
+        if (exists() && m_random.oneIn(12))
             answerInALoop();
-        if (isAlive() && m_random.oneIn(200)) {
-            tell("  answer: end of the window");
-            endWindow();
+        if (exists() && m_random.oneIn(200)) {
+            tell("  answer: delete");
+            deleteAnyWay();
         }
         --m_depth;
     }
@@ -124,13 +124,13 @@ private:
     {
         QEventLoop loop;
         QTimer::singleShot(0, &loop, [this, &loop] {
-            for (int steps = m_random.between(1, 4); steps > 0 && isAlive(); --steps) {
+            for (int steps = m_random.between(1, 4); steps > 0 && exists(); --steps) {
                 const bool isHost = m_random.oneIn(3);
                 tell("  in a loop: " + (isHost ? m_host.step() : m_user.step(*m_window)));
             }
-            if (isAlive() && m_random.oneIn(8)) {
-                tell("  in a loop: end of the window");
-                endWindow();
+            if (exists() && m_random.oneIn(8)) {
+                tell("  in a loop: delete");
+                deleteAnyWay();
             }
             // What is to be deleted later goes in this loop.
             QTimer::singleShot(1, &loop, &QEventLoop::quit);
@@ -138,7 +138,7 @@ private:
         loop.exec();
     }
 
-    void endWindow()
+    void deleteAnyWay()
     {
         switch (m_random.below(4)) {
         case 0:
@@ -170,9 +170,9 @@ private:
         QWidget *popup = QApplication::activePopupWidget();
         if (!popup)
             return;
-        if (isAlive() && m_random.oneIn(8))
+        if (exists() && m_random.oneIn(8))
             tell("  with a menu open: " + m_host.step());
-        else if (isAlive() && m_random.oneIn(200))
+        else if (exists() && m_random.oneIn(200))
             delete m_window;
         else
             tell("  " + m_user.stepInPopup(*popup));
@@ -193,15 +193,15 @@ private:
 
 } // namespace
 
-/** What no one thought of. */
+/** Checks the invariants of toolbars in random use by a host and a user. */
 class MonkeyTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void shouldKeepItsPromises_data() { TestDocuments::addAll(); }
+    void shouldKeepItsInvariants_data() { TestDocuments::addAll(); }
 
-    void shouldKeepItsPromises()
+    void shouldKeepItsInvariants()
     {
         QFETCH(int, skin);
         QFETCH(QString, path);
