@@ -1,5 +1,5 @@
 # Sees, by READELF, that LIBRARY stays loaded once it is. A plug-in that is linked with it may be
-# unloaded while the toolkit still knows its types, resources and translations.
+# unloaded while Qt still knows its types, resources and translations.
 execute_process(COMMAND ${READELF} --dynamic --wide ${LIBRARY}
     OUTPUT_VARIABLE output COMMAND_ERROR_IS_FATAL ANY)
 if(NOT output MATCHES "FLAGS_1[^\n]*NODELETE")

@@ -20,7 +20,7 @@ foreach(line IN LISTS lines)
     string(REGEX REPLACE
         "^(typeinfo name for|typeinfo for|vtable for|(non-)?virtual thunk to|guard variable for) "
         "" name "${name}")
-    # Templates of the standard library and of the toolkit's type system carry a visibility of
+    # Templates of the standard library and of Qt's type system carry a visibility of
     # their own.
     if(name MATCHES "^([a-z ]+ )?(std::|QMetaType|QMetaAssociation)")
         continue()
