@@ -4,7 +4,7 @@
 #include "toolbar/widgets/CCR_ToolTipWidget.h"
 #include "toolbar/widgets/MRDropButton.h"
 #include "toolbar/widgets/MRScrollWidget.h"
-#include "toolbar/widgets/ScreenDensity.h"
+#include "toolbar/skin/ScreenDensity.h"
 
 #include <QRegularExpression>
 #include <QScreen>

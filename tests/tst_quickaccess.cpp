@@ -1,7 +1,7 @@
 #include "tests/support/Describe.h"
 #include "tests/support/Menus.h"
 #include "tests/support/TestHost.h"
-#include "toolbar/QuickAccessSetting.h"
+#include "toolbar/state/QuickAccessSetting.h"
 
 #include <QMenu>
 #include <QToolBar>

@@ -2,7 +2,7 @@
 #include "tests/support/Pointer.h"
 #include "tests/support/TestDocuments.h"
 #include "tests/support/TestHost.h"
-#include "toolbar/ActionData.h"
+#include "toolbar/commands/ActionData.h"
 #include "toolbar/widgets/MRMainToolBar.h"
 #include "toolbar/widgets/MRMenuButton.h"
 

@@ -1,6 +1,6 @@
 #include "tests/support/Describe.h"
 #include "tests/support/TestHost.h"
-#include "toolbar/ZoomText.h"
+#include "toolbar/fields/ZoomText.h"
 
 #include <QAbstractItemView>
 #include <QAction>

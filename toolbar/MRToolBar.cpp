@@ -1,7 +1,7 @@
 #include "toolbar/MRToolBar.h"
 
+#include "toolbar/Latin1.h"
 #include "toolbar/NewToolBar.h"
-#include "toolbar/QtCompat.h"
 
 #include <QDomNode>
 #include <QMainWindow>
@@ -9,7 +9,7 @@
 namespace {
 
 /** What the page slots take for "no document is open". */
-constexpr QLatin1String clearedText = QtCompat::latin1(" ");
+constexpr QLatin1String clearedText = latin1(" ");
 
 void registerBoundaryTypes()
 {

@@ -3,6 +3,7 @@
 #include "toolbar/MRToolBarExport.h"
 #include "toolbar/NamedList.h"
 #include "toolbar/ToolBarTypes.h"
+#include "toolbar/widgets/ExtendMenuOwner.h"
 
 #include <QPointer>
 #include <QRect>
@@ -12,29 +13,14 @@
 
 #include <memory>
 
-class ClickClock;
 class CustomMenuStyle;
-class DropMenuIndex;
 class MRDropButton;
-class MRDropButtonAction;
-class MRGroupButton;
-class MRMainToolBar;
-class MRMenuButton;
 class MRScrollWidget;
 class MRSearchBar;
-class RecentFiles;
-class ShownShortcuts;
-class ControlVisitor;
-class TabRequests;
-enum class ControlReport;
-class QAbstractButton;
 class QAction;
 class QActionGroup;
 class QButtonGroup;
-class QComboBox;
 class QDomNode;
-class QHBoxLayout;
-class QLabel;
 class QLineEdit;
 class QMainWindow;
 class QMenu;
@@ -52,7 +38,7 @@ struct Controller;
  * It reads the description once, builds the top line and the row of the checked tab, and leaves
  * everything else until it is opened. Each such step ends with DoRequestAuthority().
  */
-class MRTOOLBAR_EXPORT NewToolBar : public QWidget
+class NewToolBar : public QWidget, public ExtendMenuOwner
 {
     Q_OBJECT
 
@@ -61,7 +47,7 @@ public:
      * The skin of every toolbar of the process: 1 for "lum", anything else for "marodi". The host
      * sets it before it constructs the first toolbar and leaves it alone from then on.
      */
-    static int uiStyle;
+    static MRTOOLBAR_EXPORT int uiStyle;
 
     /** Builds the toolbar and docks it; MRToolBar's constructor tells what the arguments are. */
     NewToolBar(QMainWindow *mainWindow, QDomNode &description, QMap<QString, QString> skin,
@@ -72,10 +58,10 @@ public:
      * Gives a widget or an action its tooltip: plain text, or a card with a bold title above short
      * lines when @p tip has the form "title;description". An empty tip changes nothing.
      */
-    static void SetWidgetToolTip(QObject *target, const QString &tip);
+    static MRTOOLBAR_EXPORT void SetWidgetToolTip(QObject *target, const QString &tip);
 
     /** The sheet with every length in pixels multiplied by @p factor and rounded. */
-    static QString ScaleSheet(QString const &sheet, float factor);
+    static MRTOOLBAR_EXPORT QString ScaleSheet(QString const &sheet, float factor);
 
     /** @name What the facade asks
      *  @{ */
@@ -101,7 +87,10 @@ public:
     /** Shows the row of a tab, by its position; folds or unfolds the rows if it is on show. */
     bool InitMainToolBar(QString index);
 
-    /** Watches the zoom box. */
+    /** Lays out the menu of what a row has no room for again: this widget ends at its own size. */
+    void FlushExtendMenu() override;
+
+    /** Watches the zoom box and the button for what the quick access bar has no room for. */
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 Q_SIGNALS:
@@ -163,148 +152,31 @@ public Q_SLOTS:
     void DoSetSkinStyleSlot(ToolBarSkinStyle skin);
     /** @} */
 
-public:
-    /** Makes this widget lay out its items again: it ends at the size that it has. */
-    void FlushExtendMenu();
-
 private:
+    class Receiver;
+    struct Parts;
+
     // Construction and layout.
     bool Init(QDomNode &description);
     bool InitLayout();
     bool InitWidget();
-    QHBoxLayout *createLeftLayout(bool &customiseVisible);
-    QHBoxLayout *createMiddleLayout(QList<bool> &visibleTabs);
-    QHBoxLayout *createRightLayout();
-    void showTabButtons(const QList<bool> &visibleTabs);
-    /** A click on a command leaves the focus in the document. */
-    static void focusByKeysOnly(const QWidget *area);
-    /** The Tab key goes along the top line, then down to the row. */
-    void orderFocus();
-    void dockIntoMainWindow();
-    void releaseWidgetsInUse();
-    void giveStylesToMenus();
-    QList<Controller *> sectionRecords(const char *section) const;
-    QSize scaledIconSize(double side) const;
-    QIcon icon(const QString &name);
-    QPushButton *createTopLineButton(const Controller &record, QWidget *parent);
 
-    // Application button and menus.
+    // The controls, by section and by row.
     bool CreateAppButton();
-    void setUpAppButton(MRMenuButton *button, const Controller &record);
-    void setUpSetButton(MRMenuButton *button, MRMenuButton *appButton, const Controller &record);
-    void createAppMenu(MRMenuButton *button, const Controller &record, CustomMenuStyle *style);
-    MRMenuButton *appButtonAt(int position) const;
-    bool AppendSubMenu(QMenu *menu, const QList<Controller *> &items, QProxyStyle *style);
-    void appendMenu(QMenu *menu, const Controller &record, QProxyStyle *style);
-    QMenu *createSubMenu(QMenu *menu, const Controller &record, QProxyStyle *style);
-    void appendMenuItem(QMenu *menu, const Controller &record);
-    QAction *createMenuAction(QMenu *menu, const Controller &record);
-    void connectMenuAction(QAction *action, const Controller &record, bool isNew);
-
-    // Quick access bar.
     QToolBar *CreateQuickAccessBar();
     QPushButton *CreateQuickAccessSet(bool &visible);
-    static void markExtensionMenu(const QObject *extension);
-    QAction *createQuickAction(QToolBar *bar, const Controller &record);
-    void appendCustomiseEntry(QMenu *menu, const Controller &record);
-    QPushButton *createCustomiseButton(QMenu *menu, const Controller &record);
-
-    // Tabs and tool rows.
     QButtonGroup *CreateTabBar(QList<bool> &visibleTabs);
-    QPushButton *createTabButton(const Controller &tab, int index);
-    QWidget *createTabPage(const Controller &tab);
-    MRMainToolBar *createToolRow(const Controller &tab);
-    void fillToolRow(MRMainToolBar *row, const QString &tabName);
-    void openTab(int index);
-    void showTabPage(int index);
-    QString currentTabName() const;
-    void SetExtraGroupVisible(QString tabName);
-    void SetExtraGroupEnable(bool enable);
-
-    // Extra groups and button groups.
-    QWidget *CreateExtraGroup(const QList<Controller *> &children);
-    QWidget *createExtraControl(QWidget *panel, const Controller &record);
-    MRSearchBar *createExtraSearchField(QWidget *panel, const Controller &record);
-    QPushButton *createExtraButton(QWidget *panel, const Controller &record);
-    QWidget *CreateButtonGroupWidget(const QList<Controller *> &children, QToolBar *row);
-    QToolButton *createGroupButton(const Controller &record);
-    MRGroupButton *createGroupMenuButton(const Controller &record);
-    QToolButton *createGroupPlainButton(const Controller &record);
-    void CreateActionGroup(const QString &name, QObject *parent);
-
-    // The controls of a tool row, one function per kind.
-    bool AddToolBarAction(const QList<Controller *> &records, QToolBar *row, bool ignored,
-                          bool addToRow);
-    void addToolBarControl(const Controller &record, QToolBar *row, bool addToRow);
-    void addButton(const Controller &record, QToolBar *row, bool addToRow);
-    QAction *createButtonAction(const Controller &record);
-    void addMenu(const Controller &record, QToolBar *row, bool addToRow);
-    QMenu *createDropMenu(const Controller &record);
-    void addButtonGroup(const Controller &record, QToolBar *row);
-    void addComboBox(const Controller &record, QToolBar *row);
-    void makeZoomBox(QComboBox *box, const Controller &record);
-    void addLabel(const Controller &record, QToolBar *row);
-    void addLineEdit(const Controller &record, QToolBar *row);
-    void addRowWidget(QWidget *widget, const Controller &record, QToolBar *row);
-
-    // Search bar and additional controls.
     MRSearchBar *CreateSearchBar();
     QPushButton *CreateSearchSetButton();
     QList<QWidget *> CreateAddtionalControl();
-    QLabel *createSearchLabel(const Controller &record);
-    QPushButton *createDirectionButton(const Controller &record);
-    QPushButton *createAdditionalButton(const Controller &record);
-    QPushButton *createUnfoldButton(QPushButton *foldButton, const Controller &record);
-    void searchFrom(const QLineEdit *field, const QObject *from, bool isNew);
-    void emitSearch(const QString &text, int direction, bool isNew);
-    void setRowsFolded(bool folded);
-    void showFoldButtons(bool folded);
-
-    // Dispatch.
-    void connectCommand(QAction *action);
-    void dispatchAction(QAction *action);
-    void releaseOtherDropButtons(QAction *action);
-    void dispatchPlainAction(QString name);
-    void watchClicks();
-    void dispatchDoubleClickAction(const QString &name);
-
-    // Pages and zoom.
-    static void setTypable(QComboBox *box, bool isTypable);
-    void showZoomEntry(int index);
-    void showCustomZoom(const QString &text);
-    void checkZoomButton(const QString &mode);
-    void chooseZoomEntry(int index, const QString &text);
-    void applyTypedZoom(const QString &text);
-    void keepCustomZoom(const QString &entry);
-    void dropTypedZoom();
-    void showLastZoom();
-    void showZoomHint();
-
-    // State by name. The order in which a name is looked up stands in visitControls() alone.
-    void visitControls(const QString &name, ControlVisitor &visitor);
-    QList<QObject *> fieldContainers(const QString &name) const;
-    QList<QObject *> namedActions(const QString &name) const;
-    QList<QObject *> matchingActions(const QString &name) const;
-    QList<QObject *> matchingAdditionalControls(const QString &name) const;
-    QList<QObject *> matchingGroupButtons(const QString &name) const;
-    QList<QObject *> matchingQuickEntries(const QString &name) const;
-    QList<QObject *> matchingQuickSetButton(const QString &name) const;
-    QList<QObject *> matchingDropButtons(const QString &name) const;
-    QList<QObject *> matchingTabs(const QString &name) const;
-    QList<QObject *> matchingAppButtons(const QString &name) const;
-    QList<QObject *> matchingAppMenus(const QString &name) const;
-    QList<QWidget *> areaWidgets(const QString &name) const;
-    QList<QWidget *> askedAreaWidgets(const QString &name) const;
-    bool reportState(const QString &name, ControlReport report);
-    bool leaveTab(const QAbstractButton *button);
-    void enableArea(const QString &name, bool usable);
-    void showArea(const QString &name, bool visible);
-    void showToolRows(bool visible);
-    void showAdditionalControls(bool visible);
-    void showQuickAccess(const QString &name, bool visible);
-    void showAction(QAction *action, bool visible);
-    void replaceCurrentEntry(const QAction *hidden);
-    void matchDropButtonsToMenus();
+    bool AppendSubMenu(QMenu *menu, const QList<Controller *> &items, QProxyStyle *style);
+    bool AddToolBarAction(const QList<Controller *> &records, QToolBar *row, bool ignored,
+                          bool addToRow);
+    QWidget *CreateExtraGroup(const QList<Controller *> &children);
+    QWidget *CreateButtonGroupWidget(const QList<Controller *> &children, QToolBar *row);
+    void CreateActionGroup(const QString &name, QObject *row);
+    void SetExtraGroupVisible(QString tabName);
+    void SetExtraGroupEnable(bool enable);
 
     // Skin.
     void InitSkinStyle(QMap<QString, QString> skin);
@@ -313,8 +185,6 @@ private:
 
     QLineEdit *m_pageNumberEdit = nullptr;
     NamedList<MRDropButton> m_dropButtons;
-    DropMenuIndex *m_dropMenus = nullptr; ///< Of the drop buttons' menus.
-    ShownShortcuts *m_shortcuts = nullptr;
     QMainWindow *m_mainWindow = nullptr;
     ToolBarAlignment m_alignment = ToolBarCenter;
     QWidget *m_foldButton = nullptr;   ///< Folds; on show while the rows are.
@@ -352,24 +222,14 @@ private:
     NamedList<QToolButton> m_groupButtons;
     float m_scale = 1.0F; ///< Physical dpi of this widget's screen by 96.
     QString m_delayedActionName;
-    ClickClock *m_clickClock = nullptr; ///< From the first control on that reacts to double clicks.
     bool m_menusLoaded = false;
 
-    QComboBox *m_zoomBox = nullptr;
-    QStringList m_zoomModes; ///< Names of the predefined entries, in the order of the box.
-    int m_defaultZoomIndex = 0;
-    int m_zoomIndex = 0;
-    QString m_customZoomText;
-    QLabel *m_totalPageLabel = nullptr;
-    QLabel *m_pagePromptLabel = nullptr;
-    RecentFiles *m_recentFiles = nullptr;
     QPushButton *m_quickAccessSetButton = nullptr;
-    QStringList m_quickAccessNames;
     QString m_toolBarStyleSheet;
     bool m_externalQss = false;
-    bool m_toolRowsShown = true;
     bool m_isFirstUsableCall = true;
-    const std::unique_ptr<TabRequests> m_tabRequests;
+
+    std::unique_ptr<Parts> m_parts;
 
     // Last, so that it is the first to go.
     QTimer m_delayTimer;

@@ -1,19 +1,16 @@
 #pragma once
 
 #include <QEvent>
-#include <QLatin1String>
 #include <QPoint>
 #include <QTextStream>
 #include <QtGlobal>
-
-#include <cstddef>
 
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
 #include <QEnterEvent>
 #include <QStringConverter>
 #endif
 
-/** The few places where one source must say two things to the two toolkit versions. */
+/** The few places where one source must say two things to the two versions of Qt. */
 namespace QtCompat {
 
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
@@ -29,13 +26,6 @@ inline void setUtf8(QTextStream &stream)
 #else
     stream.setCodec("UTF-8");
 #endif
-}
-
-/** A constant text; that the toolkit's own constructor is constant, not every compiler finds. */
-template <std::size_t size>
-constexpr QLatin1String latin1(const char (&text)[size])
-{
-    return QLatin1String(text, static_cast<int>(size) - 1);
 }
 
 /** Where a mouse event happened on the screen; the two versions name it differently. */

@@ -1,5 +1,5 @@
-# Compares the classes that LIBRARY exports, as NM tells them, with those listed in LIST, and looks
-# for code that LIBRARY would run on loading.
+# Compares what LIBRARY exports, as NM tells it, with what is listed in LIST, whole classes or single
+# members, and looks for code that LIBRARY would run on loading.
 file(STRINGS ${LIST} listed REGEX "^[^#]")
 
 execute_process(COMMAND ${NM} --dynamic --demangle --defined-only ${LIBRARY}
@@ -25,7 +25,11 @@ foreach(line IN LISTS lines)
     if(name MATCHES "^([a-z ]+ )?(std::|QMetaType|QMetaAssociation)")
         continue()
     endif()
+    string(REGEX REPLACE "\\(.*$" "" member "${name}")
     string(REGEX REPLACE "(::|\\().*$" "" name "${name}")
+    if(member IN_LIST listed)
+        set(name "${member}")
+    endif()
     list(APPEND exported "${name}")
 endforeach()
 list(REMOVE_DUPLICATES exported)

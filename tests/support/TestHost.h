@@ -2,6 +2,7 @@
 
 #include "toolbar/MRToolBar.h"
 #include "toolbar/NewToolBar.h"
+#include "toolbar/skin/Skin.h"
 
 #include <QAction>
 #include <QDomDocument>
@@ -20,6 +21,8 @@ public:
     explicit SkinChoice(int style)
         : m_previous(std::exchange(NewToolBar::uiStyle, style))
     {
+        // Widgets that no toolbar has been made for want to know it, too.
+        Skin::followSelector(&NewToolBar::uiStyle);
     }
     ~SkinChoice() { NewToolBar::uiStyle = m_previous; }
     Q_DISABLE_COPY_MOVE(SkinChoice)

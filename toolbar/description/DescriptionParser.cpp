@@ -1,6 +1,7 @@
 #include "toolbar/description/DescriptionParser.h"
 
 #include "toolbar/description/Controller.h"
+#include "toolbar/description/Names.h"
 
 #include <QDomElement>
 #include <QHash>
@@ -67,7 +68,7 @@ void storeAttribute(Controller *target, const QString &name, const QString &valu
 
     if (const TextField text = textFields().value(name, nullptr)) {
         target->*text = value;
-        if (text == &Controller::tooltip && target->type == QLatin1String("lineedit"))
+        if (text == &Controller::tooltip && target->type == Tag::lineEdit)
             target->prompt = value;
     } else if (const BoolField flag = boolFields().value(name, nullptr)) {
         leaveDefault(target->*flag, defaults.*flag, value);
@@ -100,7 +101,7 @@ bool isSection(const QString &name)
     static constexpr std::array sections{Section::appButton, Section::quickAccessBar,
                                          Section::tabBar, Section::searchBar, Section::additional};
     return std::any_of(sections.begin(), sections.end(),
-                       [&name](const char *section) { return name == QLatin1String(section); });
+                       [&name](QLatin1String section) { return name == section; });
 }
 
 } // namespace
@@ -130,9 +131,9 @@ bool GetElementAttributes(QDomElement *element, Controller *target)
     if (attributes.isEmpty()) {
         // Any other element without attributes keeps an empty type, deliberately: nothing is
         // built from it, yet it still counts among its siblings.
-        if (element->nodeName() != QLatin1String(separatorTag))
+        if (element->nodeName() != Tag::separator)
             return false;
-        target->type = QLatin1String(separatorTag);
+        target->type = Tag::separator;
         return true;
     }
 

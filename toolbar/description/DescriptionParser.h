@@ -7,18 +7,6 @@ class QDomElement;
 class QDomNode;
 struct Controller;
 
-/** The five sections of a description, as their elements are called. */
-namespace Section {
-inline constexpr char appButton[] = "toolbar_appbutton";
-inline constexpr char quickAccessBar[] = "toolbar_quickaccessbar";
-inline constexpr char tabBar[] = "toolbar_tabbar";
-inline constexpr char searchBar[] = "toolbar_searchbar";
-inline constexpr char additional[] = "toolbar_addtional"; // The format spells it so.
-} // namespace Section
-
-/** The tag of a separator. The format spells it so. */
-inline constexpr char separatorTag[] = "sperator";
-
 /**
  * Appends one record per child element of @p element to @p out, each with its whole tree, if the
  * element is one of the five sections; does nothing for any other element or a null pointer.

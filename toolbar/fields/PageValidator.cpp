@@ -74,8 +74,8 @@ void PageValidator::takeOver(const QString &text)
     if (!isStrange)
         return;
 
-    // A field that has taken a text for invalid takes anything from then on, until it is told that
-    // this one is not.
+    // A field whose text its validator found invalid accepts any input from then on, until a valid
+    // text is set.
     const QSignalBlocker blocker(m_field);
     m_field->clear();
     m_field->setText(text);

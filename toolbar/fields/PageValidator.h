@@ -8,8 +8,8 @@ class QLineEdit;
  * Lets only a page number be typed, with or without "/" and a total behind it: "7", "7/12". A page
  * other than 0 makes it acceptable.
  *
- * Whatever else is written into the field by a program is shown as it is. The user can take it away
- * and add digits to it, and is not free to type anything just because it stands there.
+ * Any other text that a program sets is shown as it is. The user can delete it or add digits to it;
+ * it does not switch the rules off.
  */
 class PageValidator : public QRegularExpressionValidator
 {

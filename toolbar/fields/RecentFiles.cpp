@@ -1,6 +1,6 @@
 #include "toolbar/fields/RecentFiles.h"
 
-#include "toolbar/QtCompat.h"
+#include "toolbar/description/Names.h"
 #include "toolbar/widgets/BatchMenu.h"
 #include "toolbar/widgets/HostAnswer.h"
 #include "toolbar/widgets/ToolTipCard.h"
@@ -13,18 +13,13 @@
 
 namespace {
 
-constexpr QLatin1String menuName = QtCompat::latin1("f_openrecent");
-constexpr QLatin1String fileName = QtCompat::latin1("f_openrecentfile");
-constexpr QLatin1String noFileName = QtCompat::latin1("no_file");
-constexpr QLatin1String clearName = QtCompat::latin1("f_clearhistory");
-
 /** Where an entry keeps the path that the host gets: a tooltip may be a card. */
 constexpr char absolutePathProperty[] = "absolutepath";
 
 /** Whether an entry bears that name, plain or as a menu's way to the command of that name. */
-bool isCommand(const QString &name, const QString &command)
+bool isCommand(const QString &name, QLatin1String command)
 {
-    return name == command || name == QLatin1String("menu_") + command;
+    return name == command || name == QString(Prefix::menu + command);
 }
 
 QString absolutePathOf(const QAction *entry)
@@ -47,18 +42,18 @@ void makeAnew(QAction *entry)
 } // namespace
 
 RecentFiles::RecentFiles(QObject *owner)
-    : QObject(owner)
+    : m_owner(owner)
 {
 }
 
 bool RecentFiles::isMenuName(const QString &name)
 {
-    return isCommand(name, menuName);
+    return isCommand(name, Name::recentFiles);
 }
 
 bool RecentFiles::isClearName(const QString &name)
 {
-    return isCommand(name, clearName);
+    return isCommand(name, Name::clearHistory);
 }
 
 QMenu *RecentFiles::createMenu(const QString &title, QWidget *parent)
@@ -99,8 +94,8 @@ QList<RecentFiles::File> RecentFiles::describe(const QStringList &paths)
 bool RecentFiles::hasOwnEntries() const
 {
     const QList<QAction *> actions = m_menu ? m_menu->actions() : QList<QAction *>();
-    return actions.size() >= 2 && actions.first()->objectName() == noFileName
-           && actions.last()->objectName().contains(clearName);
+    return actions.size() >= 2 && actions.first()->objectName() == Name::noFile
+           && actions.last()->objectName().contains(Name::clearHistory);
 }
 
 QList<QAction *> RecentFiles::shownEntries() const
@@ -159,8 +154,8 @@ QAction *RecentFiles::newEntry(qsizetype position)
         m_entries.append(nullptr);
     QPointer<QAction> &entry = m_entries[position];
     if (!entry) {
-        entry = new QAction(parent());
-        entry->setObjectName(fileName);
+        entry = new QAction(m_owner);
+        entry->setObjectName(Name::recentFile);
     }
     makeAnew(entry);
     return entry;
@@ -173,7 +168,7 @@ void RecentFiles::choose(QAction *entry)
 
     const HostAnswer answer;
     const QString name = entry->objectName();
-    if (name == fileName)
+    if (name == Name::recentFile)
         open(entry);
     else if (isClearName(name))
         clear(name);

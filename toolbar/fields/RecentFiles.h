@@ -20,7 +20,7 @@ class RecentFiles : public QObject
     Q_OBJECT
 
 public:
-    /** @param owner also becomes the owner of the entries, which outlive the list in the menu */
+    /** @param owner becomes the parent of the entries, which outlive the list in the menu */
     explicit RecentFiles(QObject *owner);
 
     /** Whether a menu of that name is for the list. */
@@ -68,6 +68,7 @@ private:
     void open(QAction *entry);
     void clear(const QString &entryName);
 
+    QObject *m_owner;
     QPointer<BatchMenu> m_menu;
     QList<QPointer<QAction>> m_entries; ///< All that may be used, in the menu or not.
 };

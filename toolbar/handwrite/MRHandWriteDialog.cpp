@@ -262,7 +262,8 @@ void MRHandWriteDialog::SetCommonTrackInfo(QList<Track *> &tracks)
 void MRHandWriteDialog::dressTrackButtons()
 {
     for (int i = 0; i < m_trackButtons.size(); ++i) {
-        // Deliberate: two or more tracks end the loop at once, so only a single track is dressed.
+        // Deliberate: two or more tracks end the loop at once, so only a single track gets a
+        // picture.
         if (m_tracks.size() > i + 1)
             break;
         const Track *track = m_tracks.value(i);

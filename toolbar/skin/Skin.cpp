@@ -1,12 +1,13 @@
 #include "toolbar/skin/Skin.h"
 
-#include "toolbar/NewToolBar.h"
-#include "toolbar/QtCompat.h"
+#include "toolbar/Latin1.h"
 
 namespace {
 
-constexpr QLatin1String hoverKey = QtCompat::latin1("[MainColor.hover]");
-constexpr QLatin1String pressedKey = QtCompat::latin1("[MainColor.pressed]");
+constexpr QLatin1String hoverKey = latin1("[MainColor.hover]");
+constexpr QLatin1String pressedKey = latin1("[MainColor.pressed]");
+
+const int *chosenSkin = nullptr;
 
 using SkinMap = QMap<QString, QString>;
 
@@ -41,9 +42,14 @@ void insertIfAbsent(SkinMap &map, const QString &key, const QString &value)
 
 } // namespace
 
+void Skin::followSelector(const int *selector)
+{
+    chosenSkin = selector;
+}
+
 bool Skin::isLum()
 {
-    return NewToolBar::uiStyle == 1;
+    return chosenSkin && *chosenSkin == 1;
 }
 
 QString Skin::resourceDirectory()

@@ -6,14 +6,18 @@
 /** Which skin is in use, where its resources are and which colours it supplies by itself. */
 namespace Skin {
 
+/**
+ * Tells where the number of the chosen skin stands: 1 is "lum", anything else "marodi". It is read
+ * at each use, so that a host may choose the skin late. Until this is called, or with null, the
+ * skin is "marodi".
+ */
+void followSelector(const int *selector);
+
 /** Whether the compact skin "lum" is in use; "marodi" otherwise. */
 bool isLum();
 
 /** The directory of the skin's resources, with its trailing slash. */
 QString resourceDirectory();
-
-/** Key of a skin map whose presence leaves it to the host to apply the style sheet. */
-inline constexpr char externalSheetKey[] = "externalqss";
 
 /** The map that a toolbar starts with: the host's, completed with this skin's defaults. */
 QMap<QString, QString> initialMap(const QMap<QString, QString> &hostMap);

@@ -1,6 +1,7 @@
 #include "toolbar/skin/SkinIcon.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QFileInfo>
 #include <QHash>
 #include <QIconEngine>
@@ -8,7 +9,7 @@
 
 namespace {
 
-/** The toolkit's own disabled look leaves light glyphs as they are; this one fades all alike. */
+/** Qt's own disabled look leaves light glyphs as they are; this one fades all alike. */
 constexpr qreal disabledOpacity = 0.45;
 
 class SkinIconEngine : public QIconEngine
@@ -54,6 +55,15 @@ QHash<QString, QIcon> &iconCache()
 }
 
 } // namespace
+
+QString skinIconPath(const QString &directory, const QString &name)
+{
+    if (name.isEmpty())
+        return QString();
+
+    const QString path = directory + QStringLiteral("icons/") + name;
+    return QFile::exists(path) ? path : QString();
+}
 
 QIcon skinIcon(const QString &path)
 {

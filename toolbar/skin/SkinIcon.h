@@ -3,6 +3,12 @@
 #include <QIcon>
 
 /**
+ * The path of an icon that is named in a description, below the skin's directory of resources;
+ * empty for an empty name and where there is no such file.
+ */
+QString skinIconPath(const QString &directory, const QString &name);
+
+/**
  * The icon of a file or resource: empty for a path that is no file. It is read when it is first
  * painted, shared by all toolbars of the process, and paler while its control is disabled, on dark
  * grounds as well as on light ones.

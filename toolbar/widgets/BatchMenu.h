@@ -4,15 +4,15 @@
 #include <QPointer>
 
 /**
- * A menu whose entries can be changed many at a time while it is open. The toolkit lays an open
- * menu out anew after each change, so that n changes cost n times n measured texts.
+ * A menu whose entries can be changed many at a time while it is open. Qt lays an open menu out
+ * after each change, so that n changes measure n times n texts.
  */
 class BatchMenu : public QMenu
 {
 public:
     using QMenu::QMenu;
 
-    /** As long as one of these lives, the menu keeps its size; then it is laid out once. */
+    /** While one of these exists the menu keeps its size; then it is laid out once. */
     class Changes
     {
     public:
@@ -24,7 +24,7 @@ public:
         QPointer<BatchMenu> m_menu;
     };
 
-    /** The toolkit gives an open menu this size after each change. */
+    /** Qt gives an open menu this size after each change. */
     QSize sizeHint() const override;
 
 private:

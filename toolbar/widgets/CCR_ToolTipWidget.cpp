@@ -1,6 +1,6 @@
 #include "toolbar/widgets/CCR_ToolTipWidget.h"
 
-#include "toolbar/widgets/ScreenDensity.h"
+#include "toolbar/skin/ScreenDensity.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

@@ -1,6 +1,6 @@
 #include "toolbar/widgets/CustomMenuStyle.h"
 
-#include "toolbar/widgets/ScreenDensity.h"
+#include "toolbar/skin/ScreenDensity.h"
 
 #include <QPainter>
 #include <QStyleOptionMenuItem>
@@ -53,8 +53,7 @@ int CustomMenuStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
 
     // Not the menu's own dpi: menus of one toolbar agree before they have met a screen.
     const QWidget screenProbe;
-    return static_cast<int>(static_cast<float>(m_smallIconSize * ScreenDensity::dpiX(&screenProbe))
-                            / 96.0F);
+    return ScreenDensity::scaled(m_smallIconSize, ScreenDensity::factor(&screenProbe));
 }
 
 void CustomMenuStyle::DrawCustomMenuItem(const QStyleOption *option, QPainter *painter,

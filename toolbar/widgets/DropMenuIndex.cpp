@@ -6,11 +6,6 @@
 
 #include <utility>
 
-DropMenuIndex::DropMenuIndex(QObject *parent)
-    : QObject(parent)
-{
-}
-
 void DropMenuIndex::add(MRDropButton *button)
 {
     m_changed.insert(button);

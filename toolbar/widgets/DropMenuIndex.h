@@ -16,8 +16,6 @@ class QMenu;
 class DropMenuIndex : public QObject
 {
 public:
-    explicit DropMenuIndex(QObject *parent);
-
     /** Files @p button under the entries of its menu, those of sub-menus too. */
     void add(MRDropButton *button);
 

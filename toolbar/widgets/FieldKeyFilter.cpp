@@ -30,11 +30,17 @@ bool FieldKeyFilter::eventFilter(QObject *watched, QEvent *event)
     if (!field || event->type() != QEvent::KeyPress)
         return false;
 
-    const int key = static_cast<QKeyEvent *>(event)->key();
-    if (key == Qt::Key_Escape)
+    if (static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape)
         return leave(field);
-    const bool isReturn = key == Qt::Key_Return || key == Qt::Key_Enter;
-    return isReturn && field->hasAcceptableInput() && enter(field);
+    return isReturn(*event) && field->hasAcceptableInput() && enter(field);
+}
+
+bool FieldKeyFilter::isReturn(const QEvent &event)
+{
+    if (event.type() != QEvent::KeyPress)
+        return false;
+    const int key = static_cast<const QKeyEvent &>(event).key();
+    return key == Qt::Key_Return || key == Qt::Key_Enter;
 }
 
 bool FieldKeyFilter::leave(QLineEdit *field)

@@ -1,7 +1,7 @@
 #include "toolbar/widgets/FocusRing.h"
 
+#include "toolbar/skin/ScreenDensity.h"
 #include "toolbar/widgets/MRScrollWidget.h"
-#include "toolbar/widgets/ScreenDensity.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -92,7 +92,7 @@ void FocusRing::follow(QWidget *focused)
     m_ring = nullptr;
     if (!qobject_cast<QAbstractButton *>(focused) || !m_scope->isAncestorOf(focused))
         return;
-    // A window that has just come up gives its focus to whatever is first.
+    // A window that has just been shown gives the focus to its first widget.
     if (!focused->window()->testAttribute(Qt::WA_KeyboardFocusChange))
         return;
 

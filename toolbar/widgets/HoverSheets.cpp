@@ -1,17 +1,13 @@
 #include "toolbar/widgets/HoverSheets.h"
 
-#include "toolbar/QtCompat.h"
+#include "toolbar/Latin1.h"
 
-#include <QCursor>
 #include <QStringList>
-#include <QStyle>
-#include <QStyleOptionToolButton>
-#include <QToolButton>
 
 namespace {
 
 // The texts are kept to the letter, deliberately: a missing colon, a single colon, a stray "%" and
-// a doubled brace are part of them, and the look of the buttons is what the toolkit makes of that.
+// a doubled brace are part of them, and the look of the buttons is what Qt makes of that.
 
 constexpr char rowArrowMarodi[] =
     "QToolButton::menu-button:hover{background-color:%1;border:2px solid %2;"
@@ -80,11 +76,11 @@ constexpr char groupBodyMarodi[] =
     "QToolButton{background:%1;border:2px solid %2;}";
 
 // The colours are fixed; they do not come from the skin map.
-constexpr QLatin1String white = QtCompat::latin1("#FFFFFF");
-constexpr QLatin1String grey = QtCompat::latin1("#EAEAEA");
-constexpr QLatin1String hovered = QtCompat::latin1("rgb(219,222,227)");
-constexpr QLatin1String pressed = QtCompat::latin1("rgb(183,185,190)");
-constexpr QLatin1String checked = QtCompat::latin1("rgb(195,198,202)");
+constexpr QLatin1String white = latin1("#FFFFFF");
+constexpr QLatin1String grey = latin1("#EAEAEA");
+constexpr QLatin1String hovered = latin1("rgb(219,222,227)");
+constexpr QLatin1String pressed = latin1("rgb(183,185,190)");
+constexpr QLatin1String checked = latin1("rgb(195,198,202)");
 
 QString filled(const char *sheet, const QStringList &values)
 {
@@ -128,15 +124,4 @@ QString HoverSheets::groupButton(bool overArrow, bool isLum)
     if (isLum)
         return lumRowSheet(overArrow);
     return filled(overArrow ? groupArrowMarodi : groupBodyMarodi, {white, grey});
-}
-
-bool HoverSheets::isCursorOverArrow(const QToolButton &button, const QStyleOptionToolButton &option)
-{
-    // Without a part of its own for the arrow the style reports the whole button.
-    if (button.popupMode() != QToolButton::MenuButtonPopup)
-        return false;
-
-    const QRect arrow = button.style()->subControlRect(QStyle::CC_ToolButton, &option,
-                                                       QStyle::SC_ToolButtonMenu, &button);
-    return arrow.isValid() && arrow.contains(button.mapFromGlobal(QCursor::pos()));
 }

@@ -2,9 +2,6 @@
 
 #include <QString>
 
-class QStyleOptionToolButton;
-class QToolButton;
-
 /** The style sheets by which split buttons show which of their two parts the pointer is over. */
 namespace HoverSheets {
 
@@ -18,11 +15,5 @@ QString dropButton(bool inExtendMenu, bool overArrow, bool isLum, double scale);
 
 /** The sheet of a checkable group button under the pointer. */
 QString groupButton(bool overArrow, bool isLum);
-
-/**
- * Whether the pointer is over the arrow part of @p button, going by where it is now and not by an
- * event. A button that opens its menu as a whole has no arrow part.
- */
-bool isCursorOverArrow(const QToolButton &button, const QStyleOptionToolButton &option);
 
 } // namespace HoverSheets

@@ -1,14 +1,13 @@
 #include "toolbar/widgets/MRDropButton.h"
 
-#include "toolbar/NewToolBar.h"
+#include "toolbar/description/Names.h"
+#include "toolbar/skin/ScreenDensity.h"
 #include "toolbar/skin/Skin.h"
+#include "toolbar/widgets/ExtendMenuOwner.h"
 #include "toolbar/widgets/HoverSheets.h"
-#include "toolbar/widgets/ScreenDensity.h"
 
 #include <QFontMetricsF>
-#include <QKeyEvent>
 #include <QMenu>
-#include <QStyleOptionToolButton>
 
 namespace {
 
@@ -32,8 +31,6 @@ constexpr char menuCopyMarodi[] =
     "image: url(:/mr_toolbar/Resources/marodi/icons/icon19-22/arrowDown.svg);"
     " subcontrol-position: right center;top:0.1em;}";
 
-constexpr char positionProperty[] = "position";
-
 QString extendMenuSheet(double scale)
 {
     constexpr int paddingInPixels = 40;
@@ -55,8 +52,8 @@ QString menuCopySheet(double scale)
 
 MRDropButton::MRDropButton(QWidget *, QWidget *parent, QString text, QString iconPath, QString,
                            QString)
-    : QToolButton(parent)
-    , m_toolBar(qobject_cast<NewToolBar *>(parent))
+    : SplitButton(parent)
+    , m_owner(parent)
 {
     setText(text);
     setIcon(QIcon(iconPath));
@@ -113,7 +110,7 @@ void MRDropButton::DoCurrentActionSlot()
         return;
     }
 
-    // The host may do anything on a command, even away with the button.
+    // The host may do anything on a command, also delete the button.
     const QPointer<MRDropButton> self(this);
     action->activate(QAction::Trigger);
     if (action)
@@ -145,8 +142,9 @@ void MRDropButton::followFace(const MRDropButton &other)
 
 void MRDropButton::refreshToolBar()
 {
-    if (m_updateToolBar && m_toolBar)
-        m_toolBar->FlushExtendMenu();
+    auto *owner = dynamic_cast<ExtendMenuOwner *>(m_owner.data());
+    if (m_updateToolBar && owner)
+        owner->FlushExtendMenu();
 }
 
 QAction *MRDropButton::GetCurrentAction() const
@@ -188,26 +186,13 @@ void MRDropButton::changeEvent(QEvent *event)
         Q_EMIT enabledChanged(isEnabledTo(parentWidget()));
 }
 
-void MRDropButton::keyPressEvent(QKeyEvent *event)
+QString MRDropButton::hoverSheet(bool isOverArrow) const
 {
-    // A split button's arrow has no key of its own in the toolkit.
-    if (event->key() == Qt::Key_Down && event->modifiers().testFlag(Qt::AltModifier))
-        showMenu();
-    else
-        QToolButton::keyPressEvent(event);
+    return HoverSheets::dropButton(m_inHide, isOverArrow, Skin::isLum(),
+                                   ScreenDensity::scale(this));
 }
 
-void MRDropButton::mouseMoveEvent(QMouseEvent *)
-{
-    // Neither this handler nor the next two let the base class have the event, and the sheet is
-    // set on every move: deliberate, as the look of pressing and dragging depends on it.
-    QStyleOptionToolButton option;
-    initStyleOption(&option);
-    const bool overArrow = HoverSheets::isCursorOverArrow(*this, option);
-    setStyleSheet(
-        HoverSheets::dropButton(m_inHide, overArrow, Skin::isLum(), ScreenDensity::scale(this)));
-}
-
+// As with moves, neither this handler nor the next one lets the base class have the event.
 void MRDropButton::enterEvent(QtCompat::EnterEvent *)
 {
     if (m_savedStyleSheet.isEmpty())
@@ -269,7 +254,7 @@ void MRDropButtonAction::setUpMenu(MRDropButton *button)
 
 void MRDropButtonAction::setUpRowButton(MRDropButton *button)
 {
-    button->setProperty(positionProperty, "toolbar");
+    button->setProperty(Property::position, "toolbar");
     button->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     button->setText(m_text);
     button->SetAction(m_defaultAction);
@@ -280,7 +265,7 @@ void MRDropButtonAction::setUpRowButton(MRDropButton *button)
 
 void MRDropButtonAction::setUpMenuCopy(MRDropButton *copy)
 {
-    copy->setProperty(positionProperty, "toolbarextend");
+    copy->setProperty(Property::position, "toolbarextend");
     copy->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     copy->SetTextSwitchable(false);
     copy->setText(QStringLiteral("   ") + m_text);

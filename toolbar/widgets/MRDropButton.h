@@ -1,26 +1,25 @@
 #pragma once
 
 #include "toolbar/QtCompat.h"
+#include "toolbar/widgets/SplitButton.h"
 
 #include <QIcon>
 #include <QPointer>
-#include <QToolButton>
 #include <QWidgetAction>
 
-class NewToolBar;
 class QMenu;
 
 /**
  * A tool button with a menu, whose face can take over the entry that was last chosen from it. A
  * click then repeats that entry; until there is one, it opens the menu.
  */
-class MRDropButton : public QToolButton
+class MRDropButton : public SplitButton
 {
     Q_OBJECT
 
 public:
     /**
-     * @param parent the owner; if it is the toolbar itself, that is the one to be refreshed (see
+     * @param parent the parent; if it is an ExtendMenuOwner, that is the one to be refreshed (see
      *               SetUpdateToolbar())
      * @param iconPath path of the icon's file or resource
      *
@@ -81,10 +80,9 @@ Q_SIGNALS:
 
 protected:
     void changeEvent(QEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
-    void mouseMoveEvent(QMouseEvent *event) override;
     void enterEvent(QtCompat::EnterEvent *event) override;
     void leaveEvent(QEvent *event) override;
+    QString hoverSheet(bool isOverArrow) const override;
 
 private:
     void takeFace(QAction *action);
@@ -96,7 +94,7 @@ private:
     QString m_name;
     bool m_textSwitchable = true;
     bool m_updateToolBar = false;
-    QPointer<NewToolBar> m_toolBar;
+    QPointer<QWidget> m_owner; ///< The parent at construction.
     QString m_savedStyleSheet;
     bool m_inHide = false;
 };
@@ -142,7 +140,7 @@ public:
     /** Enables or disables every button of the action. */
     void setEnabled(bool enabled);
 
-    /** Makes a button for a tool row or, the second time, for a menu. The toolkit calls it. */
+    /** Makes a button for a tool row or, the second time, for a menu. Qt calls it. */
     QWidget *createWidget(QWidget *parent) override;
 
 public Q_SLOTS:

@@ -4,8 +4,6 @@
 #include "toolbar/widgets/HoverSheets.h"
 
 #include <QActionEvent>
-#include <QKeyEvent>
-#include <QStyleOptionToolButton>
 
 namespace {
 
@@ -25,7 +23,7 @@ constexpr char leftSheet[] =
 } // namespace
 
 MRGroupButton::MRGroupButton(QWidget *parent)
-    : QToolButton(parent)
+    : SplitButton(parent)
 {
     setMouseTracking(true);
     setStyleSheet(QString::fromLatin1(initialSheet));
@@ -67,25 +65,15 @@ void MRGroupButton::actionEvent(QActionEvent *event)
         ChangeIcon(true);
 }
 
-void MRGroupButton::keyPressEvent(QKeyEvent *event)
+void MRGroupButton::mouseMoveEvent(QMouseEvent *event)
 {
-    // The arrow has no key of its own in the toolkit.
-    if (event->key() == Qt::Key_Down && event->modifiers().testFlag(Qt::AltModifier))
-        showMenu();
-    else
-        QToolButton::keyPressEvent(event);
+    if (isCheckable())
+        SplitButton::mouseMoveEvent(event);
 }
 
-void MRGroupButton::mouseMoveEvent(QMouseEvent *)
+QString MRGroupButton::hoverSheet(bool isOverArrow) const
 {
-    // The base class does not see the event, deliberately, as with drop buttons.
-    if (!isCheckable())
-        return;
-
-    QStyleOptionToolButton option;
-    initStyleOption(&option);
-    const bool overArrow = menu() && HoverSheets::isCursorOverArrow(*this, option);
-    setStyleSheet(HoverSheets::groupButton(overArrow, Skin::isLum()));
+    return HoverSheets::groupButton(menu() && isOverArrow, Skin::isLum());
 }
 
 void MRGroupButton::leaveEvent(QEvent *event)

@@ -1,14 +1,15 @@
 #pragma once
 
+#include "toolbar/widgets/SplitButton.h"
+
 #include <QIcon>
-#include <QToolButton>
 #include <QWidgetAction>
 
 /**
  * A small tool button of a button group. It shows its default action, but keeps an icon of its own
  * for actions that have none.
  */
-class MRGroupButton : public QToolButton
+class MRGroupButton : public SplitButton
 {
     Q_OBJECT
 
@@ -27,9 +28,9 @@ public Q_SLOTS:
 
 protected:
     void actionEvent(QActionEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void leaveEvent(QEvent *event) override;
+    QString hoverSheet(bool isOverArrow) const override;
 
 private:
     QIcon m_icon;

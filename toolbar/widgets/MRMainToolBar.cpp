@@ -1,5 +1,7 @@
 #include "toolbar/widgets/MRMainToolBar.h"
 
+#include "toolbar/description/Names.h"
+
 #include <QEvent>
 #include <QLayout>
 #include <QStyle>
@@ -10,7 +12,7 @@ MRMainToolBar::MRMainToolBar(QWidget *parent)
     , m_extension(findChild<QToolButton *>(QString(), Qt::FindDirectChildrenOnly))
     , m_extensionName(m_extension ? m_extension->objectName() : QString())
 {
-    setProperty("intoolbar", "true");
+    setProperty(Property::inToolBar, "true");
 }
 
 bool MRMainToolBar::event(QEvent *event)
@@ -26,7 +28,7 @@ void MRMainToolBar::showWhatHasRoom()
     if (!m_extension || m_extension->isHidden() || layout()->sizeHint().width() > width())
         return;
 
-    // The toolkit has hidden a control by widths that it took before they had changed, and does not
+    // Qt has hidden a control by widths that it took before they had changed, and does not
     // look again while the row keeps its own.
     layout()->invalidate();
     layout()->setGeometry(rect());
@@ -38,7 +40,7 @@ void MRMainToolBar::setFilled(bool filled)
     if (!m_extension)
         return;
 
-    // Sheets address the toolkit's button for what has no room by its name, and the toolkit reads
+    // Sheets address Qt's button for what has no room by its name, and Qt reads
     // the image of such a rule anew for each button and state. A row without controls needs none.
     m_extension->setObjectName(filled ? m_extensionName : QString());
     if (filled && m_extension->testAttribute(Qt::WA_WState_Polished)) {

@@ -1,6 +1,5 @@
 #include "toolbar/widgets/MRMenuButton.h"
 
-#include "toolbar/NewToolBar.h"
 #include "toolbar/skin/Skin.h"
 
 #include <QMenu>
@@ -10,7 +9,6 @@ MRMenuButton::MRMenuButton(QWidget *parent, int dx, int dy, QWidget *anchor)
     , m_dx(dx)
     , m_dy(dy)
     , m_anchor(anchor)
-    , m_toolBar(qobject_cast<NewToolBar *>(parent))
 {
     connect(this, &QPushButton::clicked, this, &MRMenuButton::PopMenuSlot);
 }
@@ -30,10 +28,9 @@ void MRMenuButton::PopMenuSlot()
     if (!m_menu)
         return;
 
-    // Loading asks the host for states, and the host may do anything, even away with the button.
+    // Filling the menu asks the host for states, and the host may delete the button in its answer.
     const QPointer<MRMenuButton> self(this);
-    if (m_toolBar)
-        m_toolBar->Inner_DoDelayLoadMenuSlot();
+    Q_EMIT menuRequested();
     // Nothing of this object is touched once the menu has closed.
     if (self && m_menu)
         m_menu->exec(menuPosition());

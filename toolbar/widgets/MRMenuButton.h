@@ -3,7 +3,6 @@
 #include <QPointer>
 #include <QPushButton>
 
-class NewToolBar;
 class QMenu;
 
 /** A push button that pops its menu at a place of the toolbar's choosing. */
@@ -13,8 +12,6 @@ class MRMenuButton : public QPushButton
 
 public:
     /**
-     * @param parent the owner; if it is the toolbar, the button has it load its menus before they
-     *               are shown for the first time
      * @param dx, dy offset of the menu from its computed place, in pixels
      * @param anchor widget beside which the menu appears while that is visible; may be null
      */
@@ -28,6 +25,10 @@ public Q_SLOTS:
     /** Pops the menu and returns when it is closed. The button may be gone by then. */
     void PopMenuSlot();
 
+Q_SIGNALS:
+    /** The menu is about to be popped: whoever fills it late does so now. */
+    void menuRequested();
+
 private:
     QPoint menuPosition() const;
 
@@ -35,5 +36,4 @@ private:
     int m_dy;
     QPointer<QWidget> m_anchor;
     QPointer<QMenu> m_menu;
-    QPointer<NewToolBar> m_toolBar;
 };

@@ -1,10 +1,10 @@
 #include "toolbar/widgets/MRScrollWidget.h"
 
-#include "toolbar/QtCompat.h"
+#include "toolbar/Latin1.h"
+#include "toolbar/skin/ScreenDensity.h"
 #include "toolbar/skin/Skin.h"
 #include "toolbar/skin/SkinIcon.h"
 #include "toolbar/widgets/ObjectTree.h"
-#include "toolbar/widgets/ScreenDensity.h"
 
 #include <QComboBox>
 #include <QCoreApplication>
@@ -15,8 +15,8 @@
 
 namespace {
 
-constexpr QLatin1String leftSide = QtCompat::latin1("left");
-constexpr QLatin1String rightSide = QtCompat::latin1("right");
+constexpr QLatin1String leftSide = latin1("left");
+constexpr QLatin1String rightSide = latin1("right");
 
 constexpr int scrollStep = 180;
 constexpr int scrollDuration = 300;
@@ -24,7 +24,8 @@ constexpr int scrollDuration = 300;
 /** Side of an arrow's square, in pixels. */
 int arrowSide(const QWidget *widget)
 {
-    return static_cast<int>(ScreenDensity::credible(widget->physicalDpiY()) / 96.0 * 12.0);
+    const auto dpi = static_cast<float>(ScreenDensity::credible(widget->physicalDpiY()));
+    return ScreenDensity::scaled(12.0, dpi / ScreenDensity::designDpi);
 }
 
 /**
@@ -42,8 +43,9 @@ bool keepsWheel(const QObject *object, const QObject *area)
 }
 
 /**
- * Sees every event of the application and tells the areas of those that come to something below
- * them. One serves all areas: a filter per tab would make every event dearer with every tab.
+ * Filters the events of the application and passes wheel events on to the areas above their
+ * receivers. All areas share one filter: with a filter per tab every event would cost more with
+ * every tab.
  */
 class WheelWatch : public QObject
 {
@@ -136,8 +138,8 @@ MRScrollArea::MRScrollArea(QWidget *parent)
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setWidgetResizable(true);
     setFocusPolicy(Qt::NoFocus);
-    // The row moves by the wheel and by the arrows. To wait for a gesture as well would make the
-    // toolkit search every event of every control on it, and allocate for that.
+    // The row moves by the wheel and by the arrows. To wait for a gesture as well would have
+    // Qt search every event of every control on it, and allocate for that.
     viewport()->ungrabGesture(Qt::PanGesture);
 
     m_animation->setDuration(scrollDuration);

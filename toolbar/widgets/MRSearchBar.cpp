@@ -1,9 +1,10 @@
 #include "toolbar/widgets/MRSearchBar.h"
 
+#include "toolbar/description/Names.h"
+#include "toolbar/skin/ScreenDensity.h"
 #include "toolbar/skin/Skin.h"
 #include "toolbar/widgets/FieldKeyFilter.h"
 #include "toolbar/widgets/PlaceholderTint.h"
-#include "toolbar/widgets/ScreenDensity.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -24,10 +25,10 @@ MRSearchBar::MRSearchBar(QWidget *parent, QLabel *label, QPushButton *previous, 
     , m_layout(new QHBoxLayout)
     , m_next(next)
     , m_previous(previous)
-    , m_scale(static_cast<float>(ScreenDensity::dpiX(this)) / 96.0F)
+    , m_scale(ScreenDensity::factor(this))
     , m_mainBar(mainBar)
 {
-    setProperty("intoolbar", "true");
+    setProperty(Property::inToolBar, "true");
     setButtonsVisible(false);
     fillLayout(label);
     setAlignment(Qt::AlignVCenter);
@@ -73,7 +74,7 @@ void MRSearchBar::setButtonsVisible(bool visible)
 
 int MRSearchBar::scaledLength(int designPixels) const
 {
-    return static_cast<int>(static_cast<float>(designPixels) * m_scale);
+    return ScreenDensity::scaled(designPixels, m_scale);
 }
 
 void MRSearchBar::applyWidth(int pixelsPerCharacter)

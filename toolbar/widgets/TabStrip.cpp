@@ -1,6 +1,7 @@
 #include "toolbar/widgets/TabStrip.h"
 
-#include "toolbar/widgets/ScreenDensity.h"
+#include "toolbar/description/Names.h"
+#include "toolbar/skin/ScreenDensity.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -18,7 +19,7 @@ constexpr double chevronHeight = 8.0;
 
 int arrowWidth(const QWidget *widget)
 {
-    return static_cast<int>(arrowDesignWidth * ScreenDensity::scale(widget));
+    return ScreenDensity::scaled(arrowDesignWidth, ScreenDensity::factor(widget));
 }
 
 } // namespace
@@ -27,7 +28,7 @@ TabStripArrow::TabStripArrow(Qt::ArrowType direction, QWidget *parent)
     : QPushButton(parent)
     , m_direction(direction)
 {
-    setProperty("intoolbar", "true");
+    setProperty(Property::inToolBar, "true");
     setFlat(true);
     // The keyboard goes to the tabs themselves, and the strip follows.
     setFocusPolicy(Qt::NoFocus);

@@ -1,6 +1,8 @@
 #include "toolbar/widgets/ToolTipCard.h"
 
+#include <QAction>
 #include <QStringList>
+#include <QWidget>
 
 QString toolTipCard(const QString &tip)
 {
@@ -21,6 +23,18 @@ QString toolTipCard(const QString &tip)
                     .arg(description.mid(start, lineLength));
     }
     return card + QStringLiteral("</body></head></html>");
+}
+
+void setToolTipCard(QObject *target, const QString &tip)
+{
+    if (tip.isEmpty())
+        return;
+
+    const QString card = toolTipCard(tip);
+    if (auto *widget = qobject_cast<QWidget *>(target))
+        widget->setToolTip(card);
+    else if (auto *action = qobject_cast<QAction *>(target))
+        action->setToolTip(card);
 }
 
 QString toolTipTitle(const QString &tip)

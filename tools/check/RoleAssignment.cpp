@@ -25,7 +25,7 @@ Role entryRole(const SourceElement &element)
 {
     if (!element.children.isEmpty())
         return Role::SubMenu;
-    return element.record.type == QLatin1String(separatorTag) ? Role::Separator : Role::MenuEntry;
+    return element.record.type == Tag::separator ? Role::Separator : Role::MenuEntry;
 }
 
 /** Walks a document whose roles above the present element are known. */

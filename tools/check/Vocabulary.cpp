@@ -1,7 +1,7 @@
 #include "tools/check/Vocabulary.h"
 
 #include "toolbar/description/Controller.h"
-#include "toolbar/description/DescriptionParser.h"
+#include "toolbar/description/Names.h"
 
 #include <QDomDocument>
 #include <QHash>
@@ -78,7 +78,7 @@ struct Place
 const Place &placeBelow(Role parent)
 {
     static const Place menu{
-        {{"menuitem", Role::MenuEntry}, {"menu", Role::SubMenu}, {separatorTag, Role::Separator}},
+        {{"menuitem", Role::MenuEntry}, {"menu", Role::SubMenu}, {Tag::separator.data(), Role::Separator}},
         Role::MenuEntry};
     static const QHash<int, Place> table{
         {int(Role::AppSection), {{{"menu", Role::AppButton}}, Role::AppButton}},
@@ -96,7 +96,7 @@ const Place &placeBelow(Role parent)
            {"combobox", Role::ComboBox},
            {"label", Role::RowLabel},
            {"lineedit", Role::RowField},
-           {separatorTag, Role::Separator},
+           {Tag::separator.data(), Role::Separator},
            {"extra", Role::Extra}}}},
         {int(Role::ButtonGroup), {{{"button", Role::GroupButton}, {"menu", Role::GroupMenu}}}},
         {int(Role::ComboBox), {{{"item", Role::Item}}, Role::Item}},
@@ -233,9 +233,8 @@ Role Vocabulary::roleBelow(Role parent, const QString &tag)
 
 QStringList Vocabulary::sections()
 {
-    return {QLatin1String(Section::appButton), QLatin1String(Section::quickAccessBar),
-            QLatin1String(Section::tabBar), QLatin1String(Section::searchBar),
-            QLatin1String(Section::additional)};
+    return {Section::appButton, Section::quickAccessBar, Section::tabBar, Section::searchBar,
+            Section::additional};
 }
 
 Role Vocabulary::sectionRole(const QString &tag)

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "toolbar/NewToolBar.h"
+#include "toolbar/build/ControlFactory.h"
+#include "toolbar/build/ControlReceiver.h"
+#include "toolbar/build/GroupPanelMaker.h"
+#include "toolbar/build/MenuMaker.h"
+#include "toolbar/build/RowMaker.h"
+#include "toolbar/commands/CommandDispatcher.h"
+#include "toolbar/commands/SearchDispatcher.h"
+#include "toolbar/commands/ShownShortcuts.h"
+#include "toolbar/fields/PageField.h"
+#include "toolbar/fields/RecentFiles.h"
+#include "toolbar/fields/ZoomBox.h"
+#include "toolbar/state/CheckedStates.h"
+#include "toolbar/state/ControlStates.h"
+#include "toolbar/state/ToolRows.h"
+#include "toolbar/widgets/DropMenuIndex.h"
+
+/** Connects what the makers have made to the toolbar. */
+class NewToolBar::Receiver : public ControlReceiver
+{
+public:
+    explicit Receiver(NewToolBar &toolBar)
+        : m_toolBar(toolBar)
+    {
+    }
+
+    void takeCommand(QAction *command) override;
+    void takeSearchOption(QAction *option) override;
+    void takeSearchButton(QPushButton *button) override;
+    void takeExtraSearchField(MRSearchBar *field) override;
+    QMenu *makeRecentFilesMenu(const QString &title, QMenu *parent) override;
+    void takeClearEntry(QAction *entry) override;
+    void takeDropButton(MRDropButton *button) override;
+    void takeGroupButton(QToolButton *button) override;
+    void takeZoomBox(QComboBox *box, const Controller &record) override;
+    void takePageField(QLineEdit *field, QLabel *caption) override;
+    void takeTotalPageLabel(QLabel *label) override;
+
+    /** Fills the row of a tab that is opened for the first time, and asks the host for states. */
+    void fillRow(MRMainToolBar *row);
+
+private:
+    NewToolBar &m_toolBar;
+};
+
+/** The collaborators of a toolbar, each of which is handed what it needs. */
+struct NewToolBar::Parts
+{
+    explicit Parts(NewToolBar &toolBar);
+
+    static ControlLists controlLists(const NewToolBar &toolBar, const ZoomBox &zoom);
+
+    Receiver receiver;
+    ControlFactory factory;
+    ShownShortcuts shortcuts;
+    MenuMaker menus;
+    GroupPanelMaker panels;
+    RowMaker rows;
+    CommandDispatcher commands;
+    SearchDispatcher search;
+    DropMenuIndex dropMenus; ///< Of the drop buttons' menus.
+    ToolRows tabs;
+    ZoomBox zoom;
+    PageField pages;
+    RecentFiles recentFiles;
+    ControlStates states;
+    CheckedStates checkedStates;
+};

@@ -1,0 +1,118 @@
+#include "toolbar/NewToolBar.h"
+
+#include "toolbar/Latin1.h"
+#include "toolbar/description/Names.h"
+#include "toolbar/skin/Skin.h"
+#include "toolbar/skin/SkinIcon.h"
+#include "toolbar/skin/StyleSheet.h"
+#include "toolbar/widgets/MRMainToolBar.h"
+
+#include <QApplication>
+#include <QToolBar>
+
+namespace {
+
+/** Removes what the platform's style would draw around the library's own tool bars. */
+constexpr QLatin1String plainToolBarRule =
+    latin1("QToolBar[intoolbar=\"true\"]{border:none;padding:0px 0px 0px 0px;}");
+
+/**
+ * Under a sheet of the application, a tool bar keeps the margins of that sheet for good unless it
+ * has been polished before it gets ours.
+ */
+void leaveApplicationSheet(QToolBar *hostToolBar)
+{
+    if (qApp->styleSheet().isEmpty())
+        return;
+
+    hostToolBar->ensurePolished();
+    const QList<QToolBar *> bars = hostToolBar->findChildren<QToolBar *>();
+    for (const QToolBar *bar : bars)
+        bar->ensurePolished();
+}
+
+/**
+ * A button that gets its first sheet before it is polished looks up its rules twice: its answer to
+ * the change of style needs them, and the polishing after it discards them.
+ */
+void polishFilledRows(const QToolBar *hostToolBar)
+{
+    const auto rows = hostToolBar->findChildren<MRMainToolBar *>();
+    for (const MRMainToolBar *row : rows) {
+        if (!row->isFilled())
+            continue;
+        const auto controls = row->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+        for (const QWidget *control : controls)
+            control->ensurePolished();
+    }
+}
+
+void applySheet(QToolBar *hostToolBar, const QString &sheet)
+{
+    const QString current = hostToolBar->styleSheet();
+    // Qt would style every control anew, and each one twice.
+    if (sheet == current)
+        return;
+
+    leaveApplicationSheet(hostToolBar);
+    if (current.isEmpty())
+        polishFilledRows(hostToolBar);
+    hostToolBar->setStyleSheet(sheet);
+}
+
+} // namespace
+
+QString NewToolBar::GetResourceDir()
+{
+    return Skin::resourceDirectory();
+}
+
+QString NewToolBar::GetIconPath(QString name)
+{
+    return skinIconPath(m_resourceDir, name);
+}
+
+QString NewToolBar::ScaleSheet(QString const &sheet, float factor)
+{
+    return StyleSheet::scaled(sheet, factor);
+}
+
+QString NewToolBar::GetToolBarStyleSheet()
+{
+    return m_toolBarStyleSheet;
+}
+
+void NewToolBar::InitSkinStyle(QMap<QString, QString> skin)
+{
+    m_skinMap = Skin::initialMap(skin);
+    m_externalQss = m_skinMap.contains(SkinKey::externalSheet);
+}
+
+void NewToolBar::SwitchSkinStyle(QMap<QString, QString> skin)
+{
+    if (skin.isEmpty())
+        return;
+
+    // Who applies the sheet was settled at construction and stays so.
+    m_skinMap = Skin::switchedMap(skin);
+    ResetSkinStyle();
+}
+
+bool NewToolBar::ResetSkinStyle()
+{
+    const QString sheet = StyleSheet::filled(
+        LoadQss(GetResourceDir() + QStringLiteral("qssfile.qss")), m_skinMap, Skin::isLum());
+    if (m_externalQss) {
+        // The host scales and applies it.
+        m_toolBarStyleSheet = sheet + plainToolBarRule;
+        return true;
+    }
+    if (m_hostToolBar)
+        applySheet(m_hostToolBar, ScaleSheet(sheet + QLatin1Char(' ') + plainToolBarRule, m_scale));
+    return true;
+}
+
+void NewToolBar::DoSetSkinStyleSlot(ToolBarSkinStyle skin)
+{
+    SwitchSkinStyle(skin);
+}

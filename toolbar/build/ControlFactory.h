@@ -1,0 +1,68 @@
+#pragma once
+
+#include "toolbar/NamedList.h"
+
+#include <QIcon>
+#include <QSize>
+
+class QAction;
+class QActionGroup;
+class QMenu;
+class QPushButton;
+class QWidget;
+struct Controller;
+
+/** Makes what controls of all kinds are made of, and finds what is there already. */
+class ControlFactory
+{
+public:
+    /**
+     * @param owner     the toolbar, which owns what has no other parent
+     * @param directory the skin's directory of resources
+     * @param scale     what lengths at 96 dpi are multiplied by
+     */
+    ControlFactory(QWidget *owner, NamedList<QAction> &actions, NamedList<QActionGroup> &groups,
+                   const QString &directory, float scale);
+
+    QWidget *owner() const { return m_owner; }
+
+    /** The icon of that name in the description; empty if the skin has none. */
+    QIcon icon(const QString &name) const;
+    /** A length at 96 dpi in pixels of this screen, truncated. */
+    int scaled(double designLength) const;
+    QSize iconSize(double designSide) const;
+    float scale() const { return m_scale; }
+
+    /** The first action of exactly that name, or null. */
+    QAction *action(const QString &name) const { return m_actions.first(name); }
+    /** A new action with the text, the icon and the data of its description. */
+    QAction *makeAction(const Controller &record, QObject *parent, bool isEnabled) const;
+    /** Lets the action be found by its name. */
+    void addAction(QAction *action);
+
+    /** Makes the exclusive group of that name unless there is one or the name is empty. */
+    void makeGroup(const QString &name, QObject *parent);
+    /** Adds the action to the group of that name, if there is one; returns whether there is. */
+    bool joinGroup(QAction *action, const QString &group) const;
+
+    /** A flat button as they stand on the top line. */
+    QPushButton *makeTopLineButton(const Controller &record, QWidget *parent) const;
+    /** A menu that the sheets know as the toolbar's; entries of a row's menu begin as described. */
+    QMenu *makeMenu(const QString &text, QWidget *parent, bool isRowMenu) const;
+
+private:
+    QWidget *m_owner;
+    NamedList<QAction> &m_actions;
+    NamedList<QActionGroup> &m_groups;
+    QString m_directory;
+    float m_scale;
+};
+
+/** Marks a menu as the toolbar's; the entries of a row's menu begin as they are described. */
+void markMenu(QMenu *menu, bool isRowMenu);
+
+/** Whether the entries of this menu begin as they are described, and not disabled. */
+bool isRowMenu(const QMenu *menu);
+
+/** Gives a control that shows only an icon the title of its tooltip as accessible name. */
+void nameByToolTip(QWidget *control, const QString &text, const QString &tip);

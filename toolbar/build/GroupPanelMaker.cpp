@@ -1,0 +1,215 @@
+#include "toolbar/build/GroupPanelMaker.h"
+
+#include "toolbar/build/ControlFactory.h"
+#include "toolbar/build/ControlReceiver.h"
+#include "toolbar/description/Controller.h"
+#include "toolbar/description/Names.h"
+#include "toolbar/widgets/MRDropButton.h"
+#include "toolbar/widgets/MRGroupButton.h"
+#include "toolbar/widgets/MRSearchBar.h"
+#include "toolbar/widgets/PlaceholderTint.h"
+#include "toolbar/widgets/ToolTipCard.h"
+
+#include <QAction>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMenu>
+#include <QPushButton>
+#include <QToolBar>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int buttonsPerColumn = 2;
+
+qsizetype longestText(const QString &text, const QMenu &menu)
+{
+    qsizetype longest = text.size();
+    const QList<QAction *> actions = menu.actions();
+    for (const QAction *action : actions)
+        longest = std::max<qsizetype>(longest, action->text().size());
+    return longest;
+}
+
+QLabel *makeLabel(const Controller &record)
+{
+    auto *label = new QLabel(record.text);
+    label->setObjectName(record.name);
+    return label;
+}
+
+QLineEdit *makePlainField(const Controller &record)
+{
+    auto *field = new QLineEdit;
+    field->setObjectName(record.name);
+    field->setProperty(Property::module, Module::input);
+    field->setPlaceholderText(record.tooltip);
+    new PlaceholderTint(field);
+    return field;
+}
+
+} // namespace
+
+GroupPanelMaker::GroupPanelMaker(ControlFactory &factory, ControlReceiver &receiver)
+    : m_factory(factory)
+    , m_receiver(receiver)
+{
+}
+
+QWidget *GroupPanelMaker::makeExtraGroup(const QList<Controller *> &children)
+{
+    auto *panel = new QWidget;
+    auto *layout = new QHBoxLayout(panel);
+    for (const Controller *group : children) {
+        if (!group || group->type != Tag::extra)
+            continue;
+        for (const Controller *record : group->children) {
+            if (QWidget *widget = makeExtraControl(panel, *record)) {
+                widget->setEnabled(group->usable);
+                layout->addWidget(widget);
+            }
+        }
+    }
+    return panel;
+}
+
+QWidget *GroupPanelMaker::makeExtraControl(QWidget *panel, const Controller &record)
+{
+    if (record.type == Tag::label)
+        return makeLabel(record);
+    if (record.type != Tag::lineEdit)
+        return nullptr;
+    if (record.children.isEmpty())
+        return makePlainField(record);
+    return makeExtraSearchField(panel, record);
+}
+
+MRSearchBar *GroupPanelMaker::makeExtraSearchField(QWidget *panel, const Controller &record)
+{
+    QList<QPushButton *> buttons;
+    for (const Controller *child : record.children) {
+        if (child->type == Tag::button)
+            buttons.append(makeExtraButton(panel, *child));
+    }
+    if (buttons.isEmpty() || buttons.size() > 2)
+        return nullptr;
+
+    QPushButton *previous = buttons.size() == 2 ? buttons.first() : nullptr;
+    auto *field = new MRSearchBar(m_factory.owner(), nullptr, previous, buttons.last(), false);
+    field->SetResizable(false);
+    field->SetRelational(false);
+    field->setObjectName(record.name);
+    field->setPlaceholderText(record.tooltip);
+    m_receiver.takeExtraSearchField(field);
+    return field;
+}
+
+QPushButton *GroupPanelMaker::makeExtraButton(QWidget *panel, const Controller &record)
+{
+    // Hidden until a field takes it in, which shows it: a field takes one or two.
+    QPushButton *button = m_factory.makeTopLineButton(record, panel);
+    button->setFlat(false);
+    button->hide();
+    m_receiver.takeSearchButton(button);
+    return button;
+}
+
+QWidget *GroupPanelMaker::makeButtonGroup(const QList<Controller *> &children, QToolBar *row)
+{
+    auto *panel = new QWidget;
+    panel->setObjectName(Part::groupPanel);
+    auto *grid = new QGridLayout(panel);
+    grid->setSpacing(0);
+    grid->setVerticalSpacing(2);
+    grid->setContentsMargins(0, 0, 0, 0);
+
+    int line = 0;
+    for (int index = 0; index < children.size(); ++index) {
+        if (index % buttonsPerColumn == 0)
+            line = 0;
+        const Controller *record = children.at(index);
+        if (!record)
+            continue;
+        m_factory.makeGroup(record->group, row);
+        if (QToolButton *button = makeGroupButton(*record)) {
+            grid->addWidget(button, line++, index / buttonsPerColumn);
+            m_receiver.takeGroupButton(button);
+        }
+    }
+    return panel;
+}
+
+QToolButton *GroupPanelMaker::makeGroupButton(const Controller &record)
+{
+    QToolButton *button = nullptr;
+    if (record.type == Tag::menu)
+        button = makeMenuButton(record);
+    else if (record.type == Tag::button)
+        button = makePlainButton(record);
+    else
+        return nullptr;
+
+    button->setProperty(Property::module,
+                        record.text.isEmpty() ? Module::plainGroupButton : Module::groupButton);
+    button->setObjectName(record.name);
+    button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    button->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
+    button->setIconSize(m_factory.iconSize(16.0));
+    return button;
+}
+
+QToolButton *GroupPanelMaker::makeMenuButton(const Controller &record)
+{
+    auto *button = new MRGroupButton(nullptr);
+    button->setPopupMode(record.checkable ? QToolButton::MenuButtonPopup
+                                          : QToolButton::InstantPopup);
+    button->setText(record.text);
+    button->SetIcon(m_factory.icon(record.icon));
+    setToolTipCard(button, record.tooltip);
+    showMenu(button, record);
+    return button;
+}
+
+void GroupPanelMaker::showMenu(MRGroupButton *button, const Controller &record)
+{
+    const auto *action = qobject_cast<MRDropButtonAction *>(m_factory.action(record.name));
+    if (!action)
+        return;
+    if (!record.checkable)
+        button->setText(record.text + QStringLiteral("  "));
+    QMenu *menu = action->GetMenu();
+    if (!menu)
+        return;
+
+    menu->setProperty(Property::rowMenu, "true");
+    button->setMenu(menu);
+    if (!record.checkable)
+        return;
+    const double characters = static_cast<double>(longestText(record.text, *menu));
+    button->setFixedWidth(m_factory.scaled(characters * 24.0 + 12.0));
+    if (record.index > 0)
+        button->SetDefaultAction(menu->actions().value(record.index - 1));
+    if (record.switchable)
+        QObject::connect(menu, &QMenu::triggered, button, &MRGroupButton::SetDefaultAction);
+}
+
+QToolButton *GroupPanelMaker::makePlainButton(const Controller &record)
+{
+    auto *button = new QToolButton;
+    button->setProperty(Property::usable, record.available ? "true" : "false");
+    button->setEnabled(record.usable);
+
+    QAction *action = m_factory.action(record.name);
+    if (!action) {
+        action = m_factory.makeAction(record, m_factory.owner(), record.available && record.usable);
+        if (m_factory.joinGroup(action, record.group))
+            action->setIconVisibleInMenu(true);
+    }
+    button->setDefaultAction(action);
+    // Shown, it would be a window of its own until the panel takes it in.
+    if (!record.visible)
+        button->hide();
+    return button;
+}

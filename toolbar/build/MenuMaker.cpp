@@ -1,0 +1,117 @@
+#include "toolbar/build/MenuMaker.h"
+
+#include "toolbar/build/ControlFactory.h"
+#include "toolbar/build/ControlReceiver.h"
+#include "toolbar/commands/ActionData.h"
+#include "toolbar/commands/ShownShortcuts.h"
+#include "toolbar/description/Controller.h"
+#include "toolbar/description/Names.h"
+#include "toolbar/fields/RecentFiles.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QProxyStyle>
+
+namespace {
+
+/** Whether what stands in a section reports itself as a command. */
+bool holdsCommands(const QString &section)
+{
+    return section == Section::tabBar || section == Section::appButton
+           || section == Section::additional;
+}
+
+} // namespace
+
+MenuMaker::MenuMaker(ControlFactory &factory, ControlReceiver &receiver, ShownShortcuts &shortcuts)
+    : m_factory(factory)
+    , m_receiver(receiver)
+    , m_shortcuts(shortcuts)
+{
+}
+
+bool MenuMaker::append(QMenu *menu, const QList<Controller *> &records, QProxyStyle *style)
+{
+    if (!menu || records.isEmpty())
+        return false;
+
+    for (const Controller *record : records) {
+        if (!record)
+            continue;
+        m_factory.makeGroup(record->group, menu);
+        if (!record->children.isEmpty())
+            appendMenu(menu, *record, style);
+        else if (record->type == Tag::separator)
+            menu->addSeparator();
+        else
+            appendEntry(menu, *record);
+    }
+    return true;
+}
+
+void MenuMaker::appendMenu(QMenu *menu, const Controller &record, QProxyStyle *style)
+{
+    QMenu *subMenu = makeSubMenu(menu, record, style);
+    append(subMenu, record.children, style);
+    menu->addMenu(subMenu)->setVisible(record.visible);
+}
+
+// Apart from what calls itself, which thereby needs little of the stack for each level.
+QMenu *MenuMaker::makeSubMenu(QMenu *menu, const Controller &record, QProxyStyle *style)
+{
+    QMenu *subMenu = RecentFiles::isMenuName(record.name)
+                         ? m_receiver.makeRecentFilesMenu(record.text, menu)
+                         : new QMenu(record.text, menu);
+    markMenu(subMenu, isRowMenu(menu));
+    subMenu->setObjectName(record.name);
+    subMenu->setIcon(m_factory.icon(record.icon));
+    if (style)
+        subMenu->setStyle(style);
+    return subMenu;
+}
+
+void MenuMaker::appendEntry(QMenu *menu, const Controller &record)
+{
+    QAction *entry = m_factory.action(record.name);
+    const bool isNew = !entry;
+    if (isNew)
+        entry = makeEntry(menu, record);
+
+    m_factory.joinGroup(entry, record.group);
+    setShortcut(entry, record);
+    entry->setStatusTip(record.tooltip);
+    entry->setCheckable(record.checkable);
+    entry->setChecked(record.checked);
+    entry->setVisible(record.visible);
+    if (record.doubleclick)
+        ActionData::addDoubleClick(entry);
+    if (isNew)
+        m_factory.addAction(entry);
+    menu->addAction(entry);
+    if (record.section == Section::searchBar)
+        m_receiver.takeSearchOption(entry);
+    else if (isNew && holdsCommands(record.section))
+        m_receiver.takeCommand(entry);
+    if (RecentFiles::isMenuName(menu->objectName()) && RecentFiles::isClearName(record.name))
+        m_receiver.takeClearEntry(entry);
+}
+
+void MenuMaker::setShortcut(QAction *entry, const Controller &record)
+{
+    // The application menus belong to no window: what they show does not act.
+    const QKeySequence sequence(record.shortcut);
+    if (record.section == Section::appButton)
+        m_shortcuts.show(entry, sequence);
+    else
+        m_shortcuts.activate(entry, sequence);
+}
+
+QAction *MenuMaker::makeEntry(QMenu *menu, const Controller &record)
+{
+    // Elsewhere than on a row every entry waits for the host's answer to DoRequestAuthority().
+    const bool isEnabled = isRowMenu(menu) && record.available && record.usable;
+    QAction *entry = m_factory.makeAction(record, menu, isEnabled);
+    entry->setIconVisibleInMenu(true);
+    entry->setObjectName(record.name);
+    return entry;
+}

@@ -1,0 +1,293 @@
+#include "toolbar/build/RowMaker.h"
+
+#include "toolbar/build/ControlFactory.h"
+#include "toolbar/build/ControlReceiver.h"
+#include "toolbar/build/ControlWidth.h"
+#include "toolbar/build/GroupPanelMaker.h"
+#include "toolbar/build/MenuMaker.h"
+#include "toolbar/commands/ActionData.h"
+#include "toolbar/description/Controller.h"
+#include "toolbar/description/Names.h"
+#include "toolbar/skin/Skin.h"
+#include "toolbar/widgets/MRDropButton.h"
+#include "toolbar/widgets/MRGroupButton.h"
+#include "toolbar/widgets/ToolTipCard.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QMenu>
+#include <QRegularExpressionValidator>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace {
+
+/** Whether a separator that waits is to be placed before this control. */
+bool endsSeparatorWait(const Controller &record)
+{
+    if (!record.visible)
+        return false;
+    return record.type != Tag::buttonGroup
+           || std::any_of(record.children.begin(), record.children.end(),
+                          [](const Controller *child) { return child && child->visible; });
+}
+
+/** A control of a row with room for a caption below it. */
+QWidget *makeCaptionedContainer(QWidget *control)
+{
+    auto *container = new QWidget;
+    auto *layout = new QVBoxLayout(container);
+    layout->setSpacing(1);
+    layout->setContentsMargins(0, 2, 0, 0);
+    layout->addWidget(control);
+    container->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Maximum);
+    return container;
+}
+
+QLabel *addCaption(QWidget *container, const QString &text)
+{
+    auto *caption = new QLabel(text);
+    caption->setObjectName(Part::caption);
+    caption->setAlignment(Qt::AlignCenter);
+    container->layout()->addWidget(caption);
+    return caption;
+}
+
+/** What a field is called for those who cannot see where it stands. */
+QString spokenName(const Controller &record)
+{
+    return record.tooltip.isEmpty() ? record.text : toolTipTitle(record.tooltip);
+}
+
+/** Makes the described entry of the menu, if there is one, the button's own. */
+void takeEntry(MRDropButtonAction *button, QMenu *menu, const Controller &record, QString *tooltip)
+{
+    QAction *entry = menu->actions().value(record.index - 1);
+    if (record.index < 1 || !entry)
+        return;
+
+    button->SetAction(entry);
+    button->SetText(entry->text());
+    if (record.withaction) {
+        menu->removeAction(entry);
+        if (tooltip->isEmpty())
+            *tooltip = entry->text();
+    }
+}
+
+int menuWidth(const Controller &record, const QMenu *menu, float scale)
+{
+    if (!menu)
+        return ControlWidth::ofEmptyMenu(record.text, scale);
+
+    QStringList entryTexts;
+    const QList<QAction *> entries = menu->actions();
+    for (const QAction *entry : entries)
+        entryTexts.append(entry->text());
+    return ControlWidth::ofMenu(record.text, entryTexts, record.index, scale);
+}
+
+} // namespace
+
+RowMaker::RowMaker(ControlFactory &factory, ControlReceiver &receiver, MenuMaker &menus,
+                   GroupPanelMaker &panels)
+    : m_factory(factory)
+    , m_receiver(receiver)
+    , m_menus(menus)
+    , m_panels(panels)
+{
+}
+
+bool RowMaker::fill(QToolBar *row, const QList<Controller *> &records, bool addToRow)
+{
+    if (records.isEmpty() || !row)
+        return false;
+
+    bool isSeparatorPending = false;
+    for (const Controller *record : records) {
+        if (!record)
+            continue;
+        m_factory.makeGroup(record->group, row);
+        if (record->type == Tag::separator) {
+            isSeparatorPending = true;
+            continue;
+        }
+        if (isSeparatorPending && endsSeparatorWait(*record)) {
+            row->addSeparator();
+            isSeparatorPending = false;
+        }
+        addControl(*record, row, addToRow);
+    }
+    return true;
+}
+
+void RowMaker::addControl(const Controller &record, QToolBar *row, bool addToRow)
+{
+    if (record.type == Tag::buttonGroup)
+        addButtonGroup(record, row);
+    else if (record.type == Tag::button)
+        addButton(record, row, addToRow);
+    else if (record.type == Tag::menu)
+        addMenu(record, row, addToRow);
+    else if (record.type == Tag::comboBox)
+        addComboBox(record, row);
+    else if (record.type == Tag::label)
+        addLabel(record, row);
+    else if (record.type == Tag::lineEdit)
+        addLineEdit(record, row);
+}
+
+void RowMaker::addButton(const Controller &record, QToolBar *row, bool addToRow)
+{
+    // One action serves every place where the command stands.
+    QAction *action = m_factory.action(record.name);
+    const bool isNew = !action;
+    if (isNew)
+        action = makeButtonAction(record);
+
+    m_factory.joinGroup(action, record.group);
+    setToolTipCard(action, record.tooltip);
+    action->setCheckable(record.checkable);
+    action->setChecked(record.checked);
+    action->setVisible(record.visible);
+    if (addToRow)
+        row->addAction(action);
+    if (record.doubleclick)
+        ActionData::addDoubleClick(action);
+    if (QWidget *button = row->widgetForAction(action))
+        setButtonWidth(button, record, addToRow);
+    m_factory.addAction(action);
+    if (isNew)
+        m_receiver.takeCommand(action);
+}
+
+QAction *RowMaker::makeButtonAction(const Controller &record)
+{
+    QAction *action =
+        m_factory.makeAction(record, m_factory.owner(), record.available && record.usable);
+    action->setObjectName(record.name);
+    action->setIconVisibleInMenu(true);
+    return action;
+}
+
+void RowMaker::setButtonWidth(QWidget *button, const Controller &record, bool addToRow) const
+{
+    button->setAccessibleName(record.text);
+    if (!addToRow)
+        button->setFixedWidth(0);
+    else if (!Skin::isLum())
+        button->setFixedWidth(ControlWidth::ofButton(record.text, m_factory.scale()));
+}
+
+void RowMaker::addMenu(const Controller &record, QToolBar *row, bool addToRow)
+{
+    auto *action = new MRDropButtonAction(row, m_factory.owner());
+    action->SetText(record.switchable ? record.text : record.text + QStringLiteral("  "));
+    action->SetIcon(m_factory.icon(record.icon));
+    action->SetCheckable(record.checkable);
+    action->SetSwichable(record.switchable);
+    action->setVisible(record.visible);
+    action->setEnabled(record.available && record.usable);
+    action->SetWithAction(record.withaction);
+    ActionData::set(action, record.available);
+
+    QString tooltip = record.tooltip;
+    QMenu *menu = record.children.isEmpty() ? nullptr : makeDropMenu(record);
+    if (menu) {
+        action->SetMenu(menu);
+        takeEntry(action, menu, record, &tooltip);
+    }
+
+    if (addToRow)
+        row->addAction(action);
+    action->setObjectName(record.name);
+    m_factory.addAction(action);
+    if (MRDropButton *button = action->GetWidget()) {
+        setToolTipCard(button, tooltip);
+        button->setFixedWidth(addToRow ? menuWidth(record, menu, m_factory.scale()) : 0);
+        button->SetName(record.name);
+        m_receiver.takeDropButton(button);
+    }
+}
+
+QMenu *RowMaker::makeDropMenu(const Controller &record)
+{
+    QMenu *menu = m_factory.makeMenu(record.text, m_factory.owner(), true);
+    menu->setProperty(Property::module, Module::menu);
+    menu->setObjectName(record.name);
+    m_menus.append(menu, record.children, nullptr);
+    return menu;
+}
+
+void RowMaker::addButtonGroup(const Controller &record, QToolBar *row)
+{
+    // The children's actions come first: the panel's buttons are made of them.
+    fill(row, record.children, false);
+    auto *action = new MRButtonGroup(m_factory.owner());
+    action->setDefaultWidget(m_panels.makeButtonGroup(record.children, row));
+    row->addAction(action);
+}
+
+void RowMaker::addComboBox(const Controller &record, QToolBar *row)
+{
+    auto *box = new QComboBox;
+    box->setEditable(record.editable);
+    box->setObjectName(record.name);
+    box->setAccessibleName(spokenName(record));
+    box->setFocusPolicy(Qt::ClickFocus);
+    for (const Controller *item : record.children) {
+        box->addItem(QIcon(), item->text, item->name);
+        if (!item->text.contains(QLatin1Char('%')))
+            box->setEditable(false);
+    }
+    if (box->count() > 0) {
+        box->setView(new QListView);
+        if (record.index > 0)
+            box->setCurrentIndex(record.index - 1);
+        box->setInsertPolicy(QComboBox::InsertAtBottom);
+        if (record.name.contains(Word::zoom, Qt::CaseInsensitive))
+            m_receiver.takeZoomBox(box, record);
+    }
+
+    QWidget *container = makeCaptionedContainer(box);
+    addCaption(container, record.text);
+    addWidget(container, record, row);
+}
+
+void RowMaker::addLabel(const Controller &record, QToolBar *row)
+{
+    auto *label = new QLabel(record.text);
+    label->setObjectName(record.name);
+    if (record.name == Name::totalPageLabel)
+        m_receiver.takeTotalPageLabel(label);
+    addWidget(label, record, row);
+}
+
+void RowMaker::addLineEdit(const Controller &record, QToolBar *row)
+{
+    auto *field = new QLineEdit;
+    field->setProperty(Property::module, Module::input);
+    field->setObjectName(record.name);
+    field->setAccessibleName(spokenName(record));
+    QWidget *container = makeCaptionedContainer(field);
+    if (record.name.contains(Word::goToPage, Qt::CaseInsensitive)) {
+        m_receiver.takePageField(field, addCaption(container, record.text));
+    } else {
+        const QRegularExpression digits(QStringLiteral("^[0-9]*$"));
+        field->setValidator(new QRegularExpressionValidator(digits, field));
+    }
+    addWidget(container, record, row);
+}
+
+void RowMaker::addWidget(QWidget *widget, const Controller &record, QToolBar *row)
+{
+    QAction *action = row->addWidget(widget);
+    action->setObjectName(record.name);
+    action->setVisible(record.visible);
+    m_factory.addAction(action);
+}

@@ -1,0 +1,103 @@
+#include "toolbar/build/TabMaker.h"
+
+#include "toolbar/build/ControlFactory.h"
+#include "toolbar/description/Controller.h"
+#include "toolbar/description/Names.h"
+#include "toolbar/widgets/MRMainToolBar.h"
+#include "toolbar/widgets/MRScrollWidget.h"
+
+#include <QHBoxLayout>
+#include <QMenu>
+#include <QPushButton>
+#include <QStackedWidget>
+
+namespace {
+
+Qt::Alignment rowAlignment(ToolBarAlignment alignment)
+{
+    switch (alignment) {
+    case ToolBarLeft:
+        return Qt::AlignLeft;
+    case ToolBarRight:
+        return Qt::AlignRight;
+    case ToolBarCenter:
+        break;
+    }
+    return Qt::AlignCenter;
+}
+
+} // namespace
+
+TabMaker::TabMaker(const ControlFactory &factory, ToolBarAlignment alignment)
+    : m_factory(factory)
+    , m_alignment(alignment)
+{
+}
+
+QPushButton *TabMaker::makeButton(const Controller &tab, int position) const
+{
+    auto *button = new QPushButton;
+    button->setProperty(Property::inToolBar, "true");
+    button->setText(tab.text);
+    button->setObjectName(tab.name);
+    button->setProperty(Property::tabIndex, QByteArray::number(position).constData());
+    button->setCheckable(tab.checkable);
+    button->setChecked(tab.checked);
+    button->hide();
+    button->setFlat(true);
+    button->setProperty(Property::module, Module::tabButton);
+
+    // The library has no use for it; it is there for hosts that look for a menu below the tab.
+    m_factory.makeMenu(QString(), button, false);
+    return button;
+}
+
+MRMainToolBar *TabMaker::makeRow(const Controller &tab) const
+{
+    auto *row = new MRMainToolBar;
+    row->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    row->setContextMenuPolicy(Qt::NoContextMenu);
+    row->setObjectName(tab.name);
+    row->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    row->setIconSize(m_factory.iconSize(24.0));
+    row->setAcceptDrops(false);
+    row->setProperty(Property::module, Module::toolRow);
+    row->setFilled(tab.checked);
+    return row;
+}
+
+QStackedWidget *TabMaker::makeStack(QWidget *parent)
+{
+    auto *stack = new QStackedWidget(parent);
+    stack->setObjectName(Part::rowStack);
+    stack->setEnabled(false);
+    return stack;
+}
+
+QWidget *TabMaker::addPage(QStackedWidget *stack)
+{
+    auto *page = new QWidget(nullptr, Qt::FramelessWindowHint);
+    page->setObjectName(Part::rowPage);
+    stack->addWidget(page);
+    return page;
+}
+
+MRMainToolBar *TabMaker::addRow(QWidget *page, const Controller &tab) const
+{
+    auto *layout = new QHBoxLayout(page);
+    layout->setSpacing(0);
+    layout->setContentsMargins(0, 0, 0, 0);
+    MRMainToolBar *row = makeRow(tab);
+    auto *holder = new MRScrollWidget;
+    holder->SetWidget(row, rowAlignment(m_alignment));
+    layout->addWidget(holder);
+    return row;
+}
+
+QWidget *TabMaker::addExtraGroup(QWidget *page, QWidget *group, const Controller &tab)
+{
+    group->setObjectName(tab.name);
+    group->setContentsMargins(0, 0, 22, 0);
+    static_cast<QBoxLayout *>(page->layout())->addWidget(group, 0, Qt::AlignRight);
+    return group;
+}

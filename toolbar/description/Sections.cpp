@@ -1,0 +1,14 @@
+#include "toolbar/description/Sections.h"
+
+#include "toolbar/description/Controller.h"
+
+#include <algorithm>
+#include <iterator>
+
+QList<Controller *> sectionRecords(const QList<Controller *> &records, QLatin1String section)
+{
+    QList<Controller *> found;
+    std::copy_if(records.begin(), records.end(), std::back_inserter(found),
+                 [section](const Controller *record) { return record->section == section; });
+    return found;
+}

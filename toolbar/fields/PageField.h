@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+class QLabel;
+class QLineEdit;
+
+/** The field for the number of the page, and the label that shows how many pages there are. */
+class PageField
+{
+public:
+    /** The toolbar's own members, which hold the state; none of them is valid before take(). */
+    PageField(QLineEdit *&field, int &currentPage, int &totalPages);
+
+    /** @param caption the label below the field, which tells the total where no other label does */
+    void take(QLineEdit *field, QLabel *caption);
+    void takeTotalLabel(QLabel *label) { m_totalLabel = label; }
+
+    /** Shows the page that the host reports, as text; one blank clears the field. */
+    void showPage(const QString &page);
+    /** Shows the total out of a text like "/ 12"; one blank clears it. */
+    void showTotal(const QString &total);
+
+    /** The page to go to for what was entered into @p field, or none: it shows the page again. */
+    std::optional<int> enter(QLineEdit *field);
+
+private:
+    QLineEdit *&m_field;
+    int &m_currentPage;
+    int &m_totalPages;
+    QLabel *m_totalLabel = nullptr;
+    QLabel *m_caption = nullptr;
+};

@@ -1,0 +1,80 @@
+#pragma once
+
+#include "toolbar/NamedList.h"
+#include "toolbar/state/TabRequests.h"
+
+#include <QMap>
+#include <QObject>
+
+class MRMainToolBar;
+class MRScrollWidget;
+class QAbstractButton;
+class QPushButton;
+class QStackedWidget;
+class QToolBar;
+class QWidget;
+
+/** Which tab's row is on show, and whether the rows are folded. */
+class ToolRows : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** Whether the row of the tab on show is shown. */
+    enum class State
+    {
+        None, ///< The tab has no row.
+        Shown,
+        Hidden
+    };
+
+    /** The toolbar's own members, which hold the state. */
+    struct Members
+    {
+        QStackedWidget *const &stack;
+        MRScrollWidget *&currentRow;
+        QWidget *const &foldButton;
+        QWidget *const &unfoldButton;
+        const NamedList<QPushButton> &tabs;
+        const QMap<QString, QToolBar *> &rows;
+        const QList<QWidget *> &extraGroups;
+    };
+
+    explicit ToolRows(const Members &members);
+
+    /** What a click on a tab does: opens it, or folds or unfolds the rows if it is on show. */
+    void click(const QAbstractButton *tab);
+    /** Does the same, but for the filling of a row, by the tab's position. */
+    void toggle(int tab);
+    /** Puts the first page on show, before there is anybody to see it. */
+    void showFirst(int tab, bool isVisible, bool isChecked);
+    /**
+     * Folds the rows and opens the next tab if @p tab is on show; returns whether it was. The
+     * object may be gone on return.
+     */
+    bool leaveTab(const QAbstractButton *tab);
+
+    /** Hides or shows all rows, as the fold buttons do. */
+    void setFolded(bool isFolded);
+    /** Shows or hides the row on show, as the area of the rows is by name. */
+    void setShown(bool isShown);
+    State state() const;
+    /** The name of the tab on show; empty if there is none. */
+    QString currentTab() const;
+    /** Shows the extra groups of that name and hides the others. */
+    void showExtraGroups(const QString &tabName);
+    void enableExtraGroups(bool isEnabled);
+
+Q_SIGNALS:
+    /** A tab is opened for the first time: its row has no controls yet. */
+    void rowNeeded(MRMainToolBar *row);
+
+private:
+    void open(int tab);
+    void showPage(int tab);
+    void showFoldButtons(bool isFolded);
+
+    const Members m_members;
+    TabRequests m_requests;
+    bool m_isRowWanted = true; ///< As last set by name.
+};
