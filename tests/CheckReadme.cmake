@@ -1,6 +1,7 @@
-# Fails unless the README shows the smallest host exactly as it is built.
+# Fails unless the README shows the smallest host exactly as it is built, but for its licence lines.
 file(READ ${README} readme)
 file(READ ${SOURCE} source)
+string(REGEX REPLACE "^(// SPDX-[^\n]*\n)+\n" "" source "${source}")
 string(FIND "${readme}" "```cpp\n${source}```" position)
 if(position EQUAL -1)
     message(FATAL_ERROR "The host code in ${README} is not that of ${SOURCE}")
