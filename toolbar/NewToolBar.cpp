@@ -53,10 +53,10 @@ void releaseWidgetsInUse(const QWidget *toolBar)
  * and the last child of the outermost menu is. Resetting the style of every menu instead costs the
  * square of their depth.
  */
-void giveStylesToMenus(const QList<CustomMenuStyle *> &styles, const QList<QWidget *> &appButtons)
+void giveStylesToMenus(const QList<CustomMenuStyle *> &styles, const NamedList<QWidget> &appButtons)
 {
     for (int i = 0; i < styles.size(); ++i) {
-        const auto *button = qobject_cast<MRMenuButton *>(appButtons.value(i));
+        const auto *button = qobject_cast<MRMenuButton *>(appButtons.at(i));
         if (QMenu *menu = button ? button->GetMenu() : nullptr)
             styles.at(i)->setParent(menu);
         else
@@ -124,8 +124,8 @@ NewToolBar::~NewToolBar()
     giveStylesToMenus(m_menuStyles, m_appButtonWidgets);
 
     // Without this widget its strip would be empty. A strip that is being deleted itself is no
-    // QToolBar any more while it deletes its children.
-    if (auto *strip = qobject_cast<QToolBar *>(parentWidget()))
+    // QToolBar any more while it deletes its children, and a tool bar of the host's is left alone.
+    if (auto *strip = qobject_cast<QToolBar *>(parentWidget()); strip && strip == m_hostToolBar)
         strip->deleteLater();
 }
 
@@ -178,10 +178,10 @@ bool NewToolBar::InitWidget()
 
     const QList<QAbstractButton *> tabs =
         m_tabButtonGroup ? m_tabButtonGroup->buttons() : QList<QAbstractButton *>();
-    auto *outer =
-        new TopLineLayout(TopLine::makeCommands(m_appButtonWidgets, m_quickAccessBar, customise),
-                          new TabStrip(TopLine::makeTabs(tabs)),
-                          TopLine::makeSearch(m_searchBar, m_searchSetButton, additional));
+    auto *outer = new TopLineLayout(
+        TopLine::makeCommands(m_appButtonWidgets.objects(), m_quickAccessBar, customise),
+        new TabStrip(TopLine::makeTabs(tabs)),
+        TopLine::makeSearch(m_searchBar, m_searchSetButton, additional));
     outer->setSearchField(m_searchBar);
     m_topWidget->setLayout(outer);
 
@@ -190,7 +190,7 @@ bool NewToolBar::InitWidget()
         customise->setVisible(customiseVisible);
     FocusOrder::takeByKeysOnly(this);
     // The Tab key goes along the top line, then down to the row.
-    QWidgetList line = m_appButtonWidgets + buttonsOf<QToolButton>(m_quickAccessBar);
+    QWidgetList line = m_appButtonWidgets.objects() + buttonsOf<QToolButton>(m_quickAccessBar);
     line.append(customise);
     for (QPushButton *tab : m_tabButtons)
         line.append(tab);

@@ -183,24 +183,24 @@ private:
     void SwitchSkinStyle(QMap<QString, QString> skin);
     bool ResetSkinStyle();
 
-    QLineEdit *m_pageNumberEdit = nullptr;
+    QPointer<QLineEdit> m_pageNumberEdit;
     NamedList<MRDropButton> m_dropButtons;
     QMainWindow *m_mainWindow = nullptr;
     ToolBarAlignment m_alignment = ToolBarCenter;
-    QWidget *m_foldButton = nullptr;   ///< Folds; on show while the rows are.
-    QWidget *m_unfoldButton = nullptr; ///< Unfolds; on show while the rows are not.
+    QPointer<QWidget> m_foldButton;   ///< Folds; on show while the rows are.
+    QPointer<QWidget> m_unfoldButton; ///< Unfolds; on show while the rows are not.
     QString m_quickAccessButtons;
     QList<Controller *> m_controllers; ///< Owned, with all below them.
     NamedList<QWidget> m_additionalWidgets;
-    QMap<QString, QToolBar *> m_toolBars;
-    MRScrollWidget *m_currentScrollWidget = nullptr;
+    QMap<QString, QPointer<QToolBar>> m_toolBars;
+    QPointer<MRScrollWidget> m_currentScrollWidget;
     NamedList<QActionGroup> m_actionGroups;
     NamedList<QAction> m_actions;
-    QList<QWidget *> m_appButtonWidgets; ///< The application button, then the set button.
-    QToolBar *m_quickAccessBar = nullptr;
-    MRSearchBar *m_searchBar = nullptr;
-    QLineEdit *m_extraSearchEdit = nullptr;
-    QPushButton *m_searchSetButton = nullptr;
+    NamedList<QWidget> m_appButtonWidgets; ///< The application button, then the set button.
+    QPointer<QToolBar> m_quickAccessBar;
+    QPointer<MRSearchBar> m_searchBar;
+    QPointer<QLineEdit> m_extraSearchEdit;
+    QPointer<QPushButton> m_searchSetButton;
     QVBoxLayout *m_mainLayout = nullptr;
     QString m_searchText;
     int m_searchDirection = 1;
@@ -213,18 +213,18 @@ private:
     QMap<QString, QString> m_skinMap;
     QList<CustomMenuStyle *> m_menuStyles; ///< Owned, by application button.
     QString m_resourceDir;
-    QWidget *m_topWidget = nullptr;
-    QButtonGroup *m_tabButtonGroup = nullptr;
-    QStackedWidget *m_toolRowStack = nullptr;
+    QPointer<QWidget> m_topWidget;
+    QPointer<QButtonGroup> m_tabButtonGroup;
+    QPointer<QStackedWidget> m_toolRowStack;
     NamedList<QPushButton> m_tabButtons; ///< The buttons of the group, by name.
     QPointer<QToolBar> m_hostToolBar;    ///< Owned by the main window; holds this widget.
-    QList<QWidget *> m_extraGroups;
+    NamedList<QWidget> m_extraGroups;
     NamedList<QToolButton> m_groupButtons;
     float m_scale = 1.0F; ///< Physical dpi of this widget's screen by 96.
     QString m_delayedActionName;
     bool m_menusLoaded = false;
 
-    QPushButton *m_quickAccessSetButton = nullptr;
+    QPointer<QPushButton> m_quickAccessSetButton;
     QString m_toolBarStyleSheet;
     bool m_externalQss = false;
     bool m_isFirstUsableCall = true;

@@ -112,7 +112,7 @@ ControlLists NewToolBar::Parts::controlLists(const NewToolBar &toolBar, const Zo
             toolBar.m_dropButtons,
             toolBar.m_groupButtons,
             toolBar.m_pageNumberEdit,
-            [&zoom] { return zoom.box(); }};
+            zoom.box()};
 }
 
 NewToolBar::Parts::Parts(NewToolBar &toolBar)

@@ -60,7 +60,7 @@ void NewToolBar::Inner_DoDelayLoadMenuSlot()
     const QList<Controller *> records =
         sectionRecords(m_controllers, Section::appButton).mid(0, usedAppRecords);
     for (int i = 0; i < records.size(); ++i) {
-        if (const auto *button = qobject_cast<MRMenuButton *>(m_appButtonWidgets.value(i)))
+        if (const auto *button = qobject_cast<MRMenuButton *>(m_appButtonWidgets.at(i)))
             AppendSubMenu(button->GetMenu(), records.at(i)->children, m_menuStyles.value(i));
     }
     // Set before the host is asked: its answer may pop a menu, or delete this toolbar.
@@ -70,14 +70,14 @@ void NewToolBar::Inner_DoDelayLoadMenuSlot()
 
 void NewToolBar::Inner_SetCheckedAppButtonSlot()
 {
-    if (auto *appButton = qobject_cast<MRMenuButton *>(m_appButtonWidgets.value(0)))
+    if (auto *appButton = qobject_cast<MRMenuButton *>(m_appButtonWidgets.at(0)))
         appButton->setChecked(true);
     Inner_SetUncheckedAppSetButtonSlot();
 }
 
 void NewToolBar::Inner_SetUncheckedAppSetButtonSlot()
 {
-    if (auto *setButton = qobject_cast<MRMenuButton *>(m_appButtonWidgets.value(1)))
+    if (auto *setButton = qobject_cast<MRMenuButton *>(m_appButtonWidgets.at(1)))
         setButton->setChecked(false);
 }
 

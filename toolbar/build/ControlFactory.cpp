@@ -39,6 +39,11 @@ QSize ControlFactory::iconSize(double designSide) const
     return {side, side};
 }
 
+QAction *ControlFactory::action(const QString &name) const
+{
+    return m_actions.first(name);
+}
+
 QAction *ControlFactory::makeAction(const Controller &record, QObject *parent, bool isEnabled) const
 {
     auto *action = new QAction(record.text, parent);

@@ -34,7 +34,7 @@ public:
     float scale() const { return m_scale; }
 
     /** The first action of exactly that name, or null. */
-    QAction *action(const QString &name) const { return m_actions.first(name); }
+    QAction *action(const QString &name) const;
     /** A new action with the text, the icon and the data of its description. */
     QAction *makeAction(const Controller &record, QObject *parent, bool isEnabled) const;
     /** Lets the action be found by its name. */

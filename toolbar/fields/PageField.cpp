@@ -7,7 +7,7 @@
 #include <QLabel>
 #include <QLineEdit>
 
-PageField::PageField(QLineEdit *&field, int &currentPage, int &totalPages)
+PageField::PageField(QPointer<QLineEdit> &field, int &currentPage, int &totalPages)
     : m_field(field)
     , m_currentPage(currentPage)
     , m_totalPages(totalPages)
@@ -20,6 +20,11 @@ void PageField::take(QLineEdit *field, QLabel *caption)
     new FieldKeyFilter(field);
     m_field = field;
     m_caption = caption;
+}
+
+void PageField::takeTotalLabel(QLabel *label)
+{
+    m_totalLabel = label;
 }
 
 void PageField::showPage(const QString &page)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPointer>
 #include <QString>
 
 #include <optional>
@@ -12,11 +13,11 @@ class PageField
 {
 public:
     /** The toolbar's own members, which hold the state; none of them is valid before take(). */
-    PageField(QLineEdit *&field, int &currentPage, int &totalPages);
+    PageField(QPointer<QLineEdit> &field, int &currentPage, int &totalPages);
 
     /** @param caption the label below the field, which tells the total where no other label does */
     void take(QLineEdit *field, QLabel *caption);
-    void takeTotalLabel(QLabel *label) { m_totalLabel = label; }
+    void takeTotalLabel(QLabel *label);
 
     /** Shows the page that the host reports, as text; one blank clears the field. */
     void showPage(const QString &page);
@@ -27,9 +28,9 @@ public:
     std::optional<int> enter(QLineEdit *field);
 
 private:
-    QLineEdit *&m_field;
+    QPointer<QLineEdit> &m_field;
     int &m_currentPage;
     int &m_totalPages;
-    QLabel *m_totalLabel = nullptr;
-    QLabel *m_caption = nullptr;
+    QPointer<QLabel> m_totalLabel;
+    QPointer<QLabel> m_caption;
 };

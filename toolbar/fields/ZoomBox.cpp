@@ -44,7 +44,7 @@ void checkZoomButton(const QActionGroup *buttons, const QString &mode)
     }
 }
 
-QComboBox *ZoomBox::box() const
+const QPointer<QComboBox> &ZoomBox::box() const
 {
     return m_box;
 }

@@ -21,7 +21,7 @@ class ZoomBox : public QObject
 
 public:
     /** The list; null before there is one and after it has gone. */
-    QComboBox *box() const;
+    const QPointer<QComboBox> &box() const;
 
     /** Makes @p box the list from now on; its entries stand for @p modes. */
     void take(QComboBox *box, const QStringList &modes);

@@ -29,32 +29,32 @@ Widgets wholeToolBar(const ControlLists &lists)
 
 Widgets appButtons(const ControlLists &lists)
 {
-    return lists.appButtons;
+    return lists.appButtons.objects();
 }
 
 Widgets topLine(const ControlLists &lists)
 {
-    return present({lists.topLine});
+    return present({lists.topLine.data()});
 }
 
 Widgets quickAccess(const ControlLists &lists)
 {
-    return present({lists.quickAccessBar.get(), lists.quickAccessSetButton.get()});
+    return present({lists.quickAccessBar.data(), lists.quickAccessSetButton.data()});
 }
 
 Widgets quickAccessBar(const ControlLists &lists)
 {
-    return present({lists.quickAccessBar.get()});
+    return present({lists.quickAccessBar.data()});
 }
 
 Widgets search(const ControlLists &lists)
 {
-    return present({lists.searchBar.get(), lists.searchSetButton.get()});
+    return present({lists.searchBar.data(), lists.searchSetButton.data()});
 }
 
 Widgets searchField(const ControlLists &lists)
 {
-    return present({lists.searchBar.get()});
+    return present({lists.searchBar.data()});
 }
 
 Widgets additionalControls(const ControlLists &lists)
@@ -67,7 +67,7 @@ Widgets rows(const ControlLists &lists)
     Widgets widgets;
     for (QToolBar *row : lists.rows)
         widgets.append(row);
-    return widgets;
+    return present(widgets);
 }
 
 Widgets currentRow(const ControlLists &lists)

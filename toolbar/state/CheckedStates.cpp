@@ -80,9 +80,10 @@ void CheckedStates::matchDropButtonsToMenus()
 {
     const QPointer<CheckedStates> self(this);
     // Those that nothing has happened to since the last time still match.
-    const QSet<MRDropButton *> buttons = m_dropMenus.takeChanged();
-    for (MRDropButton *button : buttons) {
-        button->setChecked(hasCheckedAction(button->menu()));
+    const QList<QPointer<MRDropButton>> buttons = m_dropMenus.takeChanged();
+    for (const QPointer<MRDropButton> &button : buttons) {
+        if (button)
+            button->setChecked(hasCheckedAction(button->menu()));
         if (!self)
             return;
     }

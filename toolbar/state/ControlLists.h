@@ -6,8 +6,6 @@
 #include <QMap>
 #include <QPointer>
 
-#include <functional>
-
 class MRDropButton;
 class MRScrollWidget;
 class MRSearchBar;
@@ -22,13 +20,13 @@ class QWidget;
 /** Where the controls that a name may address are kept. Most of them are made later than this. */
 struct ControlLists
 {
-    /** A pointer of the toolbar's, null as long as it has no such widget; never a temporary. */
+    /** A member of the toolbar, null while it has no such widget. */
     template <typename Widget>
-    using Pointer = std::reference_wrapper<Widget *const>;
+    using Pointer = const QPointer<Widget> &;
 
-    const QPointer<QToolBar> &wholeToolBar;
+    Pointer<QToolBar> wholeToolBar;
     Pointer<QWidget> topLine;
-    const QList<QWidget *> &appButtons; ///< The application button, then the set button.
+    const NamedList<QWidget> &appButtons; ///< The application button, then the set button.
     Pointer<QToolBar> quickAccessBar;
     Pointer<QPushButton> quickAccessSetButton;
     const NamedList<QPushButton> &tabButtons;
@@ -36,11 +34,11 @@ struct ControlLists
     Pointer<QPushButton> searchSetButton;
     const NamedList<QWidget> &additionalWidgets;
 
-    const QMap<QString, QToolBar *> &rows;
+    const QMap<QString, QPointer<QToolBar>> &rows;
     Pointer<MRScrollWidget> currentRowArea;
     const NamedList<QAction> &actions;
     const NamedList<MRDropButton> &dropButtons;
     const NamedList<QToolButton> &groupButtons;
     Pointer<QLineEdit> pageField;
-    std::function<const QComboBox *()> zoomBox; ///< Asked at every look-up.
+    Pointer<QComboBox> zoomBox;
 };

@@ -22,8 +22,10 @@ template <typename Object>
 Controls named(const NamedList<Object> &list, const QString &name)
 {
     Controls found;
-    for (const qsizetype position : list.positions(name))
-        found.emplace_back(list.at(position));
+    for (const qsizetype position : list.positions(name)) {
+        if (Object *object = list.at(position))
+            found.emplace_back(object);
+    }
     return found;
 }
 
@@ -32,7 +34,7 @@ Controls fields(const ControlLists &lists, const QString &name)
 {
     const QWidget *field = nullptr;
     if (name == Name::zoomBox)
-        field = lists.zoomBox();
+        field = lists.zoomBox;
     else if (name == Name::pageField)
         field = lists.pageField;
     return field ? Controls{field->parentWidget()} : Controls();
@@ -66,19 +68,14 @@ Controls tabs(const ControlLists &lists, const QString &name)
 
 Controls appButtons(const ControlLists &lists, const QString &name)
 {
-    Controls found;
-    for (QWidget *button : lists.appButtons) {
-        if (button->objectName() == name)
-            found.emplace_back(button);
-    }
-    return found;
+    return named(lists.appButtons, name);
 }
 
 // The entries of the set button's menu go by the names of the menus that they open.
 Controls setMenuEntries(const ControlLists &lists, const QString &name)
 {
     Controls found;
-    const auto *setButton = qobject_cast<MRMenuButton *>(lists.appButtons.value(1));
+    const auto *setButton = qobject_cast<MRMenuButton *>(lists.appButtons.at(1));
     const QMenu *menu = setButton ? setButton->GetMenu() : nullptr;
     const QList<QAction *> entries = menu ? menu->actions() : QList<QAction *>();
     for (QAction *entry : entries) {
@@ -122,8 +119,10 @@ Controls ControlFinders::namedActions(const ControlLists &lists, const QString &
     }
 
     Controls found;
-    for (const qsizetype position : std::as_const(positions))
-        found.emplace_back(lists.actions.at(position));
+    for (const qsizetype position : std::as_const(positions)) {
+        if (QAction *action = lists.actions.at(position))
+            found.emplace_back(action);
+    }
     return found;
 }
 

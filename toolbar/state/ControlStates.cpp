@@ -275,7 +275,8 @@ void ControlStates::showCompanion(const QString &name, bool visible)
     const QPointer<ControlStates> self(this);
     const QList<qsizetype> positions = m_lists.actions.positions(companion);
     for (const qsizetype position : positions) {
-        showAction(m_lists.actions.at(position), visible);
+        if (QAction *action = m_lists.actions.at(position))
+            showAction(action, visible);
         if (!self)
             return;
     }
@@ -344,6 +345,8 @@ QRect ControlStates::geometry(const QString &name) const
     QRect geometry;
     for (const Control &control : ControlFinders::namedActions(m_lists, name)) {
         for (const QToolBar *row : m_lists.rows) {
+            if (!row)
+                continue;
             geometry = row->actionGeometry(std::get<QAction *>(control));
             if (geometry.isValid()) {
                 geometry.moveTopLeft(row->mapToGlobal(geometry.topLeft()));

@@ -90,8 +90,8 @@ void ToolRows::open(int tab)
     if (!m_members.stack->isVisible())
         setFolded(false);
     // Last, as the host may listen to the tabs.
-    if (m_members.stack->currentIndex() >= 0)
-        checkOnly(m_members.tabs.at(m_members.stack->currentIndex()));
+    if (QPushButton *shown = m_members.tabs.at(m_members.stack->currentIndex()))
+        checkOnly(shown);
 }
 
 void ToolRows::showPage(int tab)
@@ -157,8 +157,9 @@ void ToolRows::showFoldButtons(bool isFolded)
 
 QString ToolRows::currentTab() const
 {
-    const int position = m_members.stack ? m_members.stack->currentIndex() : -1;
-    return position >= 0 ? m_members.tabs.at(position)->objectName() : QString();
+    const QPushButton *tab =
+        m_members.tabs.at(m_members.stack ? m_members.stack->currentIndex() : -1);
+    return tab ? tab->objectName() : QString();
 }
 
 void ToolRows::showExtraGroups(const QString &tabName)

@@ -5,6 +5,7 @@
 
 #include <QMap>
 #include <QObject>
+#include <QPointer>
 
 class MRMainToolBar;
 class MRScrollWidget;
@@ -31,13 +32,13 @@ public:
     /** The toolbar's own members, which hold the state. */
     struct Members
     {
-        QStackedWidget *const &stack;
-        MRScrollWidget *&currentRow;
-        QWidget *const &foldButton;
-        QWidget *const &unfoldButton;
+        const QPointer<QStackedWidget> &stack;
+        QPointer<MRScrollWidget> &currentRow;
+        const QPointer<QWidget> &foldButton;
+        const QPointer<QWidget> &unfoldButton;
         const NamedList<QPushButton> &tabs;
-        const QMap<QString, QToolBar *> &rows;
-        const QList<QWidget *> &extraGroups;
+        const QMap<QString, QPointer<QToolBar>> &rows;
+        const NamedList<QWidget> &extraGroups;
     };
 
     explicit ToolRows(const Members &members);

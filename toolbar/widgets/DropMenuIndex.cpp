@@ -8,14 +8,14 @@
 
 void DropMenuIndex::add(MRDropButton *button)
 {
-    m_changed.insert(button);
-    const auto markButton = [this, button] { m_changed.insert(button); };
+    mark(button);
+    const auto markButton = [this, button] { mark(button); };
     connect(button, &QToolButton::toggled, this, markButton);
     // A face that is taken over makes the button checkable.
     connect(button, &MRDropButton::currentActionChanged, this, markButton);
 
     // An entry that is the button's own has been taken out of the menu.
-    if (const QAction *entry = button->GetCurrentAction())
+    if (QAction *entry = button->GetCurrentAction())
         addEntry(button, entry);
     if (button->menu())
         addEntries(button, button->menu());
@@ -24,35 +24,50 @@ void DropMenuIndex::add(MRDropButton *button)
 void DropMenuIndex::addEntries(MRDropButton *button, const QMenu *menu)
 {
     const QList<QAction *> entries = menu->actions();
-    for (const QAction *entry : entries) {
+    for (QAction *entry : entries) {
         addEntry(button, entry);
         if (entry->menu())
             addEntries(button, entry->menu());
     }
 }
 
-void DropMenuIndex::addEntry(MRDropButton *button, const QAction *entry)
+void DropMenuIndex::addEntry(MRDropButton *button, QAction *entry)
 {
-    QList<MRDropButton *> &buttons = m_buttons[entry];
-    if (buttons.isEmpty())
+    Entry &filed = m_entries[entry];
+    if (!filed.action) {
+        filed = {entry, {}};
         connect(entry, &QAction::changed, this, [this, entry] { markButtonsOf(entry); });
-    if (!buttons.contains(button))
-        buttons.append(button);
+    }
+    if (!filed.buttons.contains(button))
+        filed.buttons.append(button);
 }
 
 void DropMenuIndex::markButtonsOf(const QAction *entry)
 {
     const QList<MRDropButton *> buttons = buttonsOf(entry);
     for (MRDropButton *button : buttons)
-        m_changed.insert(button);
+        mark(button);
+}
+
+void DropMenuIndex::mark(MRDropButton *button)
+{
+    m_changed.insert(button, button);
 }
 
 QList<MRDropButton *> DropMenuIndex::buttonsOf(const QAction *entry) const
 {
-    return m_buttons.value(entry);
+    QList<MRDropButton *> present;
+    const auto filed = m_entries.constFind(entry);
+    if (filed == m_entries.cend() || filed->action != entry)
+        return present;
+    for (const QPointer<MRDropButton> &button : filed->buttons) {
+        if (button)
+            present.append(button);
+    }
+    return present;
 }
 
-QSet<MRDropButton *> DropMenuIndex::takeChanged()
+QList<QPointer<MRDropButton>> DropMenuIndex::takeChanged()
 {
-    return std::exchange(m_changed, {});
+    return std::exchange(m_changed, {}).values();
 }

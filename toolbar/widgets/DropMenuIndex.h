@@ -3,7 +3,7 @@
 #include <QHash>
 #include <QList>
 #include <QObject>
-#include <QSet>
+#include <QPointer>
 
 class MRDropButton;
 class QAction;
@@ -23,13 +23,23 @@ public:
     QList<MRDropButton *> buttonsOf(const QAction *entry) const;
 
     /** The buttons that have changed, or whose entries have, since the last call. */
-    QSet<MRDropButton *> takeChanged();
+    QList<QPointer<MRDropButton>> takeChanged();
 
 private:
-    void addEntries(MRDropButton *button, const QMenu *menu);
-    void addEntry(MRDropButton *button, const QAction *entry);
-    void markButtonsOf(const QAction *entry);
+    using Buttons = QList<QPointer<MRDropButton>>;
 
-    QHash<const QAction *, QList<MRDropButton *>> m_buttons;
-    QSet<MRDropButton *> m_changed;
+    /** What is filed under an address, which another action may have by now. */
+    struct Entry
+    {
+        QPointer<QAction> action;
+        Buttons buttons;
+    };
+
+    void addEntries(MRDropButton *button, const QMenu *menu);
+    void addEntry(MRDropButton *button, QAction *entry);
+    void markButtonsOf(const QAction *entry);
+    void mark(MRDropButton *button);
+
+    QHash<const QAction *, Entry> m_entries;
+    QHash<const MRDropButton *, QPointer<MRDropButton>> m_changed;
 };

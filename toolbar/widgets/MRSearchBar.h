@@ -3,6 +3,7 @@
 #include "toolbar/QtCompat.h"
 
 #include <QLineEdit>
+#include <QPointer>
 
 class QHBoxLayout;
 class QLabel;
@@ -64,8 +65,8 @@ private:
     int scaledLength(int designPixels) const;
 
     QHBoxLayout *m_layout;
-    QPushButton *m_next;
-    QPushButton *m_previous;
+    QPointer<QPushButton> m_next;
+    QPointer<QPushButton> m_previous;
     bool m_hovered = false;
     bool m_resizable = true;
     bool m_relational = false;

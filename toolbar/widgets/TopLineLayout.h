@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QHBoxLayout>
+#include <QPointer>
 
 class MRSearchBar;
 
@@ -17,7 +18,7 @@ public:
      * Lets @p field, when it is widened, cover what is beside it instead of widening the window.
      * Null is allowed.
      */
-    void setSearchField(const MRSearchBar *field) { m_searchField = field; }
+    void setSearchField(MRSearchBar *field) { m_searchField = field; }
 
     QSize minimumSize() const override;
     void setGeometry(const QRect &rect) override;
@@ -32,5 +33,5 @@ private:
 
     void squeeze(const QRect &rect);
 
-    const MRSearchBar *m_searchField = nullptr;
+    QPointer<MRSearchBar> m_searchField;
 };

@@ -1,6 +1,6 @@
 #include "tools/check/RoleAssignment.h"
 
-#include "toolbar/description/DescriptionParser.h"
+#include "toolbar/description/Names.h"
 #include "tools/check/SourceDocument.h"
 #include "tools/check/Vocabulary.h"
 

@@ -1,6 +1,7 @@
 #include "tools/check/Vocabulary.h"
 
 #include "toolbar/description/Controller.h"
+#include "toolbar/description/DescriptionParser.h"
 #include "toolbar/description/Names.h"
 
 #include <QDomDocument>
