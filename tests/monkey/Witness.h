@@ -15,6 +15,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QStackedWidget>
 #include <QToolBar>
 
 #include <functional>
@@ -224,6 +225,10 @@ private:
                 tabs.append(button);
         }
         require(tabs.isEmpty() || checkedAmong(tabs) == 1, "not one tab is checked");
+        const auto *rows = toolBar.findChild<QStackedWidget *>("tabwidget");
+        for (const QPushButton *tab : std::as_const(tabs))
+            require(!tab->isChecked() || tab->property("tabindex").toInt() == rows->currentIndex(),
+                    tab->objectName() + " is checked, and not on show");
     }
 
     void checkNames(const NewToolBar &toolBar)

@@ -39,6 +39,9 @@ public:
             deleteToolBar();
             makeToolBar();
         }
+        // The host may have deleted the window in its answer to the request for the first states.
+        if (!exists())
+            return;
         tell(m_random.oneIn(3) ? m_host.step() : m_user.step(*m_window));
         letTimePass();
         if (exists())
