@@ -1,5 +1,6 @@
 #include "Painter.h"
 
+#include "DensePath.h"
 #include "Fault.h"
 #include "Limits.h"
 #include "TextLayout.h"
@@ -72,6 +73,22 @@ void fillGlyphs(QPainter &painter, const QVector<PlacedGlyph> &glyphs, const QBr
     painter.setWorldTransform(toWorld);
 }
 
+void fillPath(QPainter &painter, const QPainterPath &path, const QBrush &brush)
+{
+    if (DensePath::isDense(painter, path))
+        DensePath::fill(painter, path, brush);
+    else
+        painter.fillPath(path, brush);
+}
+
+void strokePath(QPainter &painter, const QPainterPath &path, const QPen &pen)
+{
+    if (DensePath::isDense(painter, path))
+        DensePath::stroke(painter, path, pen);
+    else
+        painter.strokePath(path, pen);
+}
+
 QPainterPath outlinesOf(const QVector<PlacedGlyph> &glyphs)
 {
     QPainterPath outlines;
@@ -133,11 +150,23 @@ void Painter::paintOne(QPainter &painter, const Object &object)
     painter.save();
     painter.setOpacity(painter.opacity() * object.alpha);
     painter.setTransform(object.placement(), true);
-    for (const QPainterPath &clip : object.clips)
+    paintClipped(painter, object, 0);
+    painter.restore();
+}
+
+void Painter::paintClipped(QPainter &painter, const Object &object, int firstClip)
+{
+    for (int i = firstClip; i < object.clips.size(); ++i) {
+        const QPainterPath &clip = object.clips.at(i);
+        if (DensePath::isDense(painter, clip)) {
+            DensePath::paintInside(painter, clip,
+                                   [&](QPainter &inside) { paintClipped(inside, object, i + 1); });
+            return;
+        }
         painter.setClipPath(clip, Qt::IntersectClip);
+    }
     std::visit([&](const auto &content) { paintContent(painter, object, content); },
                object.content);
-    painter.restore();
 }
 
 void Painter::paintContent(QPainter &painter, const Object &object, const Path &path)
@@ -148,9 +177,9 @@ void Painter::paintContent(QPainter &painter, const Object &object, const Path &
     if (!isOnDevice(painter, bounds.adjusted(-margin, -margin, margin, margin)))
         return;
     if (path.isFilled)
-        painter.fillPath(path.path, object.style.fillBrush());
+        fillPath(painter, path.path, object.style.fillBrush());
     if (path.isStroked)
-        painter.strokePath(path.path, pen);
+        strokePath(painter, path.path, pen);
 }
 
 void Painter::paintContent(QPainter &painter, const Object &object, const Text &text)
@@ -169,11 +198,11 @@ void Painter::paintContent(QPainter &painter, const Object &object, const Text &
         if (!isOnDevice(painter, outlines.controlPointRect()))
             continue;
         if (text.isFilled && !isPlain)
-            painter.fillPath(outlines, fill);
+            fillPath(painter, outlines, fill);
         if (mustThicken)
-            painter.strokePath(outlines, QPen(fill, text.size * boldStroke));
+            strokePath(painter, outlines, QPen(fill, text.size * boldStroke));
         if (text.isStroked)
-            painter.strokePath(outlines, visiblePen(painter, object.style, outlines));
+            strokePath(painter, outlines, visiblePen(painter, object.style, outlines));
     }
 }
 

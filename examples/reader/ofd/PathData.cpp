@@ -2,7 +2,6 @@
 
 #include "Values.h"
 
-#include <QHash>
 #include <QTransform>
 #include <QVector>
 #include <QtMath>
@@ -16,9 +15,22 @@ namespace {
 /** How many numbers a command takes; -1 for a letter that is none. */
 int countOfNumbers(QChar command)
 {
-    static const QHash<QChar, int> counts{{'M', 2}, {'S', 2}, {'L', 2}, {'Q', 4},
-                                          {'B', 6}, {'A', 7}, {'C', 0}};
-    return counts.value(command, -1);
+    switch (command.unicode()) {
+    case u'M':
+    case u'S':
+    case u'L':
+        return 2;
+    case u'Q':
+        return 4;
+    case u'B':
+        return 6;
+    case u'A':
+        return 7;
+    case u'C':
+        return 0;
+    default:
+        return -1;
+    }
 }
 
 struct Arc
@@ -122,7 +134,7 @@ QPainterPath pathFromData(const QString &data)
         const QChar command = data.at(at++);
         const qsizetype from = at;
         skipTo(isCommand);
-        const QVector<qreal> values = Values::numbers(data.mid(from, at - from));
+        const QVector<qreal> values = Values::numbers(QStringView(data).mid(from, at - from));
         const int wanted = countOfNumbers(command);
         if (wanted < 0 || values.size() < wanted)
             break;

@@ -4,51 +4,52 @@
 #include "Limits.h"
 #include "Wording.h"
 
-#include <QRegularExpression>
-#include <QStringList>
+#include <QLocale>
 
+#include <algorithm>
 #include <cmath>
 
 namespace Ofd {
 
 namespace {
 
-QStringList words(const QString &text)
+/** Takes the next word off the text; an empty one when there is none left. */
+QStringView takeWord(QStringView *text)
 {
-    static const QRegularExpression blanks(QStringLiteral("[\\s,]+"));
-    return text.split(blanks, Qt::SkipEmptyParts);
+    const auto isBlank = [](QChar c) { return c.isSpace() || c == QChar(u','); };
+    const auto begin = std::find_if_not(text->begin(), text->end(), isBlank);
+    const auto end = std::find_if(begin, text->end(), isBlank);
+    *text = QStringView(end, text->end());
+    return QStringView(begin, end);
 }
 
-bool toNumber(const QString &word, qreal *value)
+bool toNumber(QStringView word, qreal *value)
 {
+    static const QLocale plain = QLocale::c();
     bool isNumber = false;
-    *value =
-        word.startsWith(QChar(u'#')) ? word.mid(1).toInt(&isNumber, 16) : word.toDouble(&isNumber);
+    *value = word.startsWith(QChar(u'#')) ? word.mid(1).toString().toInt(&isNumber, 16)
+                                          : plain.toDouble(word, &isNumber);
     if (!isNumber || std::isnan(*value))
         return false;
     if (std::abs(*value) > Limits::number)
-        throw Fault{Wording::tr("文档中的数值“%1”超出范围。").arg(word.left(24))};
+        throw Fault{Wording::tr("文档中的数值“%1”超出范围。").arg(word.left(24).toString())};
     return true;
 }
 
 } // namespace
 
-qreal Values::number(const QString &text, qreal otherwise)
+qreal Values::number(QStringView text, qreal otherwise)
 {
     qreal value = 0;
     return toNumber(text.trimmed(), &value) ? value : otherwise;
 }
 
-QVector<qreal> Values::numbers(const QString &text)
+QVector<qreal> Values::numbers(QStringView text)
 {
     QVector<qreal> values;
-    const QStringList parts = words(text);
-    for (const QString &part : parts) {
-        qreal value = 0;
-        if (!toNumber(part, &value))
-            break;
+    qreal value = 0;
+    while (toNumber(takeWord(&text), &value))
         values.append(value);
-    }
     return values;
 }
 
@@ -75,15 +76,16 @@ QPointF Values::point(const QString &text, QPointF otherwise)
 QVector<qreal> Values::deltas(const QString &text, int most)
 {
     QVector<qreal> values;
-    const QStringList parts = words(text);
-    for (int i = 0; i < parts.size() && values.size() < most; ++i) {
+    QStringView rest(text);
+    while (values.size() < most) {
         int times = 1;
-        if (parts.at(i) == QLatin1String("g")) {
-            times = int(number(parts.value(i + 1), 0));
-            i += 2;
+        QStringView word = takeWord(&rest);
+        if (word == QLatin1String("g")) {
+            times = int(number(takeWord(&rest), 0));
+            word = takeWord(&rest);
         }
         qreal value = 0;
-        if (!toNumber(parts.value(i), &value))
+        if (!toNumber(word, &value))
             break;
         for (; times > 0 && values.size() < most; --times)
             values.append(value);

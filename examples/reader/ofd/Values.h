@@ -2,6 +2,7 @@
 
 #include <QRectF>
 #include <QString>
+#include <QStringView>
 #include <QTransform>
 #include <QVector>
 
@@ -9,9 +10,9 @@
 namespace Ofd::Values {
 
 /** @p otherwise for what is not a number. */
-qreal number(const QString &text, qreal otherwise);
+qreal number(QStringView text, qreal otherwise);
 /** Numbers apart by blanks; ends at the first that is none. "#1F" is read to the base of 16. */
-QVector<qreal> numbers(const QString &text);
+QVector<qreal> numbers(QStringView text);
 /** "x y width height"; null if that is not what it says. */
 QRectF box(const QString &text);
 /** "a b c d e f"; the identity if that is not what it says. */

@@ -1,0 +1,151 @@
+#include "DensePath.h"
+
+#include "CoverageMask.h"
+#include "Flattening.h"
+#include "StrokeMask.h"
+
+#include <QPaintEngine>
+#include <QPainter>
+#include <QPainterPath>
+
+#include <algorithm>
+#include <cmath>
+
+namespace Ofd {
+
+namespace {
+
+/** In device pixels. The toolkit paints paths below this length as fast. */
+constexpr qreal moderateLength = 20000;
+/** Length of the edges for each pixel of the area. With more, single pixels mean nothing. */
+constexpr qreal crowdedLength = 16;
+/** Side of the squares, in pixels, that a crowded area is made of. */
+constexpr int coarseSide = 4;
+
+QRectF deviceRect(const QPainter &painter)
+{
+    const qreal ratio = painter.device()->devicePixelRatioF();
+    return QRectF(0, 0, painter.device()->width() * ratio, painter.device()->height() * ratio);
+}
+
+/** All pixels that show something of a rectangle, in whole coarse squares. */
+QRect visibleArea(const QPainter &painter, const QRectF &rect)
+{
+    const QTransform toDevice = painter.deviceTransform();
+    QRectF area = toDevice.mapRect(rect).intersected(deviceRect(painter));
+    if (painter.hasClipping())
+        area = area.intersected(toDevice.mapRect(painter.clipBoundingRect()));
+    if (area.isEmpty() || !std::isfinite(area.left() + area.right() + area.top() + area.bottom()))
+        return QRect();
+    const QPoint first(int(std::floor(area.left() / coarseSide)),
+                       int(std::floor(area.top() / coarseSide)));
+    const QPoint end(int(std::ceil(area.right() / coarseSide)),
+                     int(std::ceil(area.bottom() / coarseSide)));
+    return QRect(first * coarseSide, end * coarseSide - QPoint(1, 1));
+}
+
+/** Whether the edges are so long altogether that they cover each other many times over. */
+bool isCrowded(const QList<QPolygonF> &lines, const QRect &area)
+{
+    const QRectF shown(area);
+    const qreal longest = shown.width() + shown.height();
+    qreal length = 0;
+    for (const QPolygonF &line : lines) {
+        for (int i = 1; i < line.size(); ++i) {
+            if (shown.intersects(QRectF(line.at(i - 1), line.at(i)).normalized()))
+                length += std::min(longest, (line.at(i) - line.at(i - 1)).manhattanLength());
+        }
+    }
+    return length > crowdedLength * shown.width() * shown.height();
+}
+
+QImage insideOf(const QPainter &painter, const QPainterPath &path, const QRect &area)
+{
+    const QList<QPolygonF> lines = flattened(path, painter.deviceTransform(), area);
+    const qreal scale = isCrowded(lines, area) ? 1.0 / coarseSide : 1;
+    CoverageMask mask(QRect(area.topLeft() * scale, area.size() * scale));
+    for (const QPolygonF &line : lines)
+        mask.addPolygon(QTransform::fromScale(scale, scale).map(line));
+    mask.settle(path.fillRule());
+    return mask.image().scaled(area.size());
+}
+
+/** Paints what is in an area through a mask of the same size. */
+void paintThrough(QPainter &painter, const QRect &area, const QImage &mask,
+                  const std::function<void(QPainter &)> &paint)
+{
+    QImage layer(area.size(), QImage::Format_ARGB32_Premultiplied);
+    layer.fill(Qt::transparent);
+    QPainter inner(&layer);
+    inner.setRenderHints(painter.renderHints());
+    inner.setTransform(painter.deviceTransform()
+                       * QTransform::fromTranslate(-area.left(), -area.top()));
+    inner.save();
+    paint(inner);
+    inner.restore();
+    inner.resetTransform();
+    inner.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+    inner.drawImage(0, 0, mask);
+    inner.end();
+
+    const qreal ratio = painter.device()->devicePixelRatioF();
+    layer.setDevicePixelRatio(ratio);
+    painter.save();
+    painter.setWorldTransform(QTransform());
+    painter.drawImage(QPointF(area.topLeft()) / ratio, layer);
+    painter.restore();
+}
+
+void fillAll(QPainter &painter, const QBrush &brush)
+{
+    const QRectF all(0, 0, painter.device()->width(), painter.device()->height());
+    painter.fillRect(painter.transform().inverted().mapRect(all), brush);
+}
+
+} // namespace
+
+bool DensePath::isDense(const QPainter &painter, const QPainterPath &path)
+{
+    if (painter.paintEngine()->type() != QPaintEngine::Raster)
+        return false;
+    const QTransform toDevice = painter.deviceTransform();
+    const QRectF device = deviceRect(painter);
+    const qreal longest = device.width() + device.height();
+    qreal length = 0;
+    QPointF previous;
+    for (int i = 0; i < path.elementCount() && length < moderateLength; ++i) {
+        const QPointF point = toDevice.map(QPointF(path.elementAt(i)));
+        if (!path.elementAt(i).isMoveTo())
+            length += std::min(longest, (point - previous).manhattanLength());
+        previous = point;
+    }
+    return length >= moderateLength;
+}
+
+void DensePath::fill(QPainter &painter, const QPainterPath &path, const QBrush &brush)
+{
+    paintInside(painter, path, [&](QPainter &inner) { fillAll(inner, brush); });
+}
+
+void DensePath::stroke(QPainter &painter, const QPainterPath &path, const QPen &pen)
+{
+    const qreal margin = pen.widthF() * std::max(1.0, pen.miterLimit());
+    const QRectF bounds = path.controlPointRect().adjusted(-margin, -margin, margin, margin);
+    const QRect area = visibleArea(painter, bounds);
+    if (area.isEmpty())
+        return;
+    StrokeMask mask(area, painter.deviceTransform(), pen);
+    mask.add(path);
+    paintThrough(painter, area, mask.image(),
+                 [&](QPainter &inner) { fillAll(inner, pen.brush()); });
+}
+
+void DensePath::paintInside(QPainter &painter, const QPainterPath &path,
+                            const std::function<void(QPainter &)> &paint)
+{
+    const QRect area = visibleArea(painter, path.controlPointRect());
+    if (!area.isEmpty())
+        paintThrough(painter, area, insideOf(painter, path, area), paint);
+}
+
+} // namespace Ofd
