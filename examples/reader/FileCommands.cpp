@@ -68,7 +68,7 @@ void FileCommands::addTo(CommandTable &table)
 
 void FileCommands::open(const QString &fileName)
 {
-    if (!mayDiscard())
+    if (!mayLeaveDocument())
         return;
     QString error;
     if (!m_parts.document->open(fileName, &error)) {
@@ -96,17 +96,24 @@ void FileCommands::refuse(const QString &fileName, const QString &reason) const
     box->open();
 }
 
-bool FileCommands::mayDiscard() const
+bool FileCommands::mayLeaveDocument()
 {
     if (!m_parts.document->isModified())
         return true;
     QMessageBox box(QMessageBox::Question, m_parts.window->windowTitle(),
-                    tr("“%1”有未保存的修改，要放弃吗？").arg(m_parts.document->title()),
+                    tr("“%1”有未保存的修改，要保存吗？").arg(m_parts.document->title()),
                     QMessageBox::NoButton, m_parts.window);
-    const QPushButton *discard = box.addButton(tr("放弃修改"), QMessageBox::DestructiveRole);
-    box.addButton(tr("取消"), QMessageBox::RejectRole);
+    box.setTextFormat(Qt::PlainText);
+    QPushButton *saving = box.addButton(tr("保存"), QMessageBox::AcceptRole);
+    const QPushButton *discarding = box.addButton(tr("不保存"), QMessageBox::DestructiveRole);
+    QPushButton *cancelling = box.addButton(tr("取消"), QMessageBox::RejectRole);
+    // Without a default button of its own, the toolkit would take the first that it lays out.
+    box.setDefaultButton(saving);
+    box.setEscapeButton(cancelling);
     box.exec();
-    return box.clickedButton() == discard;
+    if (box.clickedButton() == saving)
+        return save();
+    return box.clickedButton() == discarding;
 }
 
 void FileCommands::askAndOpen()
@@ -120,38 +127,35 @@ void FileCommands::askAndOpen()
 
 void FileCommands::close()
 {
-    if (mayDiscard())
+    if (mayLeaveDocument())
         m_parts.document->close();
 }
 
-void FileCommands::save()
+bool FileCommands::save()
 {
-    if (m_savedFile.isEmpty())
-        saveAs();
-    else
-        saveTo(m_savedFile);
+    return m_savedFile.isEmpty() ? saveAs() : saveTo(m_savedFile);
 }
 
-void FileCommands::saveAs()
+bool FileCommands::saveAs()
 {
     const QString fileName = askFileToWrite();
-    if (!fileName.isEmpty())
-        saveTo(fileName);
+    return !fileName.isEmpty() && saveTo(fileName);
 }
 
-void FileCommands::saveTo(const QString &fileName)
+bool FileCommands::saveTo(const QString &fileName)
 {
     if (!Export::write(*m_parts.document, fileName)) {
         m_parts.say(tr("无法写入：%1").arg(fileName));
-        return;
+        return false;
     }
     if (m_parts.document->isModified() && !Export::keepsMarks(fileName)) {
         m_parts.say(tr("已保存，但不含批注；另存为 PDF 可保留批注：%1").arg(fileName));
-        return;
+        return false;
     }
     m_savedFile = fileName;
     m_parts.document->undoStack().setClean();
     m_parts.say(tr("已保存：%1").arg(fileName));
+    return true;
 }
 
 void FileCommands::print()

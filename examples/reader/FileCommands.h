@@ -18,25 +18,30 @@ public:
     void addTo(CommandTable &table);
 
     /**
-     * Opens a file and remembers it, unless the user keeps unsaved marks. A file that cannot be
+     * Opens a file and remembers it, unless mayLeaveDocument() refuses. A file that cannot be
      * opened leaves the open document alone; one message tells why.
      */
     void open(const QString &fileName);
-    /** Whether the open document may go: it is unchanged, or the user gives its marks up. */
-    bool mayDiscard() const;
+    /**
+     * Whether the open document may be replaced or closed: it is unchanged, or the user has
+     * answered the question that this asks. Of a file that could not be saved completely nothing is
+     * lost: the document stays.
+     */
+    bool mayLeaveDocument();
 
 private:
     void askAndOpen();
     void close();
-    void save();
-    void saveAs();
+    // Whether nothing of the document is left to be saved.
+    bool save();
+    bool saveAs();
+    bool saveTo(const QString &fileName);
     void print();
     void refuse(const QString &fileName, const QString &reason) const;
     void showProperties() const;
     void showPreferences();
     void showAbout() const;
     QString askFileToWrite() const;
-    void saveTo(const QString &fileName);
 
     ReaderParts m_parts;
     QString m_savedFile; ///< Where the open document was saved last.

@@ -343,7 +343,7 @@ void ReaderWindow::updateTitle()
 
 void ReaderWindow::closeEvent(QCloseEvent *event)
 {
-    if (!m_fileCommands.mayDiscard()) {
+    if (!m_fileCommands.mayLeaveDocument()) {
         event->ignore();
         return;
     }

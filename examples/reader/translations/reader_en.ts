@@ -94,12 +94,16 @@
         <translation>OK</translation>
     </message>
     <message>
-        <source>“%1”有未保存的修改，要放弃吗？</source>
-        <translation>“%1” has unsaved changes. Discard them?</translation>
+        <source>“%1”有未保存的修改，要保存吗？</source>
+        <translation>“%1” has unsaved changes. Save them?</translation>
     </message>
     <message>
-        <source>放弃修改</source>
-        <translation>Discard changes</translation>
+        <source>保存</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>不保存</source>
+        <translation>Don’t save</translation>
     </message>
     <message>
         <source>取消</source>

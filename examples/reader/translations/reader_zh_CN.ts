@@ -94,12 +94,16 @@
         <translation>确定</translation>
     </message>
     <message>
-        <source>“%1”有未保存的修改，要放弃吗？</source>
-        <translation>“%1”有未保存的修改，要放弃吗？</translation>
+        <source>“%1”有未保存的修改，要保存吗？</source>
+        <translation>“%1”有未保存的修改，要保存吗？</translation>
     </message>
     <message>
-        <source>放弃修改</source>
-        <translation>放弃修改</translation>
+        <source>保存</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>不保存</source>
+        <translation>不保存</translation>
     </message>
     <message>
         <source>取消</source>
