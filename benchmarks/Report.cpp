@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
 #include "benchmarks/Report.h"
 
 #include "benchmarks/Stopwatch.h"

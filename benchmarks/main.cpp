@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
 #include "benchmarks/Measurement.h"
 #include "benchmarks/Report.h"
 #include "benchmarks/Runner.h"

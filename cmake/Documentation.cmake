@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: The MRToolBar authors
+# SPDX-License-Identifier: MIT
+
 # The target `docs`: the documentation of the installed headers and the guides, as pages for a
 # browser in <build>/docs/html. Any warning is an error. Without Doxygen there is no such target.
 find_package(Doxygen QUIET)

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: The MRToolBar authors
+# SPDX-License-Identifier: MIT
+
 # Debian packages by `cpack -G DEB`: the library for programs that run, and what a developer needs.
 # To be included before the directories that install something.
 

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: The MRToolBar authors
+# SPDX-License-Identifier: MIT
+
 # What every target of this project is compiled with, and nobody who links to it.
 add_library(mrtoolbar_options INTERFACE)
 target_compile_features(mrtoolbar_options INTERFACE cxx_std_17)

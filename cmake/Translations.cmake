@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: The MRToolBar authors
+# SPDX-License-Identifier: MIT
+
 # Catalogues of translated texts: compiled while building, embedded into what shows the texts, and
 # brought up to date by hand. Nothing is written into the sources but by the target that says so.
 if(MRTOOLBAR_TRANSLATIONS)

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: The MRToolBar authors
+# SPDX-License-Identifier: MIT
+
 # Makes Doxygen see a guide as the host of the repository shows it: headings get the anchors that
 # links between the guides name, apart from each other by the name of their file, blocks of code keep
 # only the language of the words behind their fence, and a link to a page that Doxygen is not given

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: The MRToolBar authors
+# SPDX-License-Identifier: MIT
+
 # shellcheck shell=bash
 # What demo.sh and test.sh share; they source it, nobody runs it.
 

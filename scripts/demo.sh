@@ -1,4 +1,7 @@
 #!/usr/bin/env bash
+# SPDX-FileCopyrightText: The MRToolBar authors
+# SPDX-License-Identifier: MIT
+
 # Builds the example reader and opens it; --help tells the options.
 set -euo pipefail
 # shellcheck source-path=SCRIPTDIR source=common.sh

@@ -1,4 +1,7 @@
 #!/usr/bin/env bash
+# SPDX-FileCopyrightText: The MRToolBar authors
+# SPDX-License-Identifier: MIT
+
 # Builds the library on both versions of the toolkit and runs its tests; --help tells the options.
 set -euo pipefail
 # shellcheck source-path=SCRIPTDIR source=common.sh

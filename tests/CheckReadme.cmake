@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: The MRToolBar authors
+# SPDX-License-Identifier: MIT
+
 # Fails unless the README shows the smallest host exactly as it is built, but for its licence lines.
 file(READ ${README} readme)
 file(READ ${SOURCE} source)

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
 #include "tests/support/Elements.h"
 #include "tests/support/TestDocuments.h"
 #include "toolbar/description/Controller.h"

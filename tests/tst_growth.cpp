@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
 #include "tests/support/TestDocuments.h"
 #include "tests/support/TestHost.h"
 

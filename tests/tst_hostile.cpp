@@ -1,10 +1,13 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
 #include "tests/support/Describe.h"
 #include "tests/support/TestHost.h"
 #include "tests/support/WarningTrap.h"
+#include "toolbar/skin/ScreenDensity.h"
 #include "toolbar/widgets/CCR_ToolTipWidget.h"
 #include "toolbar/widgets/MRDropButton.h"
 #include "toolbar/widgets/MRScrollWidget.h"
-#include "toolbar/skin/ScreenDensity.h"
 
 #include <QRegularExpression>
 #include <QScreen>

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
 #include "tests/support/TestHost.h"
 #include "tests/support/WarningTrap.h"
 #include "toolbar/skin/StyleSheet.h"

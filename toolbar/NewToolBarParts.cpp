@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
 #include "toolbar/NewToolBarParts.h"
 
 #include "toolbar/description/Controller.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
 // Shows the handwriting settings with six tracks, and prints the track list when it is closed.
 
 #include "toolbar/handwrite/MRHandWriteDialog.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
 // A notepad whose toolbar comes from a description of its own, with icons of its own.
 
 #include <toolbar/MRToolBar.h>

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
 // A dark toolbar: the host finishes the library's sheet with rules of its own and applies it.
 
 #include <toolbar/MRToolBar.h>

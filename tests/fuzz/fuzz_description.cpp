@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
 #include "tests/fuzz/DescribedUse.h"
 #include "tests/monkey/RandomSource.h"
 #include "tests/support/Elements.h"

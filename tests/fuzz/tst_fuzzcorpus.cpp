@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
 #include "tests/fuzz/DescribedUse.h"
 
 #include <QDir>

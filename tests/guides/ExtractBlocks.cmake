@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: The MRToolBar authors
+# SPDX-License-Identifier: MIT
+
 # Takes the fenced blocks out of the guides, each into a file of its own below <folder>.
 #
 # What becomes of a block is said by the line that opens it:

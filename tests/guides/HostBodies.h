@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
 #pragma once
 
 // What the pieces of host code in the guides may use without saying so.

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
 // Takes the pictures of the guides: of the descriptions that ask for one, and of the skin maps.
 
 #include "GuideBlocks.h"

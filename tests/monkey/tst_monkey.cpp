@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
 #include "tests/monkey/RandomHost.h"
 #include "tests/monkey/RandomUser.h"
 #include "tests/monkey/Witness.h"

@@ -1,4 +1,7 @@
 #!/usr/bin/env python3
+# SPDX-FileCopyrightText: The MRToolBar authors
+# SPDX-License-Identifier: MIT
+
 """Fails where an #include runs upwards, or where includes go round in a circle.
 
     check_includes.py [ROOT]

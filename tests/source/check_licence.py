@@ -1,4 +1,7 @@
 #!/usr/bin/env python3
+# SPDX-FileCopyrightText: The MRToolBar authors
+# SPDX-License-Identifier: MIT
+
 """Fails where a source does not begin with whose it is and which licence it has.
 
     check_licence.py [ROOT]

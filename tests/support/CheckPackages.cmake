@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: The MRToolBar authors
+# SPDX-License-Identifier: MIT
+
 # Makes the Debian packages and sees them come and go in a root of their own.
 #
 #   cmake -DCPACK=... -DDPKG=... -DBUILD=... -DROOT=... -P CheckPackages.cmake

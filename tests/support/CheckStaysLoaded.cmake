@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: The MRToolBar authors
+# SPDX-License-Identifier: MIT
+
 # Sees, by READELF, that LIBRARY stays loaded once it is. A plug-in that is linked with it may be
 # unloaded while Qt still knows its types, resources and translations.
 execute_process(COMMAND ${READELF} --dynamic --wide ${LIBRARY}

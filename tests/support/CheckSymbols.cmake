@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: The MRToolBar authors
+# SPDX-License-Identifier: MIT
+
 # Compares what LIBRARY exports, as NM tells it, with what is listed in LIST, whole classes or single
 # members, and looks for code that LIBRARY would run on loading.
 file(STRINGS ${LIST} listed REGEX "^[^#]")

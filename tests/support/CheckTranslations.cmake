@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: The MRToolBar authors
+# SPDX-License-Identifier: MIT
+
 # Lets lupdate, called by UPDATE, bring copies of the CATALOGUES in FOLDER up to date. A source text
 # that a catalogue lacks comes out as unfinished, one that no source has any more as vanished.
 set(faults "")

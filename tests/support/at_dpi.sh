@@ -1,4 +1,7 @@
 #!/usr/bin/env bash
+# SPDX-FileCopyrightText: The MRToolBar authors
+# SPDX-License-Identifier: MIT
+
 # at_dpi.sh DPI COMMAND...: runs a command on a screen of that density.
 set -euo pipefail
 

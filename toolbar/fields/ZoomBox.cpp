@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
 #include "toolbar/fields/ZoomBox.h"
 
 #include "toolbar/description/Names.h"

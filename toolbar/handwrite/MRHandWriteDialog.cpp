@@ -1,6 +1,10 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
 #include "toolbar/handwrite/MRHandWriteDialog.h"
 
 #include "toolbar/QtCompat.h"
+#include "toolbar/handwrite/InkPictures.h"
 #include "ui_HandWriteDialog.h"
 
 #include <QMouseEvent>
@@ -12,10 +16,8 @@
 
 namespace {
 
-constexpr QSize swatchIconSize(35, 35);
 constexpr QSize swatchSize(38, 38);
 constexpr QSize trackIconSize(60, 40);
-constexpr QSize opacityIconSize(44, 26);
 constexpr int defaultMaximumThickness = 10;
 constexpr int defaultThickness = 8;
 constexpr int opacitySteps = 4;
@@ -47,102 +49,6 @@ QString colourName(const QColor &colour)
         std::find_if(std::begin(defaultColours), std::end(defaultColours),
                      [&](const NamedColour &entry) { return QColor(entry.colour) == colour; });
     return known == std::end(defaultColours) ? colour.name() : MRHandWriteDialog::tr(known->name);
-}
-
-QPixmap transparentPixmap(const QSize &size, qreal devicePixelRatio)
-{
-    QPixmap pixmap(size * devicePixelRatio);
-    pixmap.setDevicePixelRatio(devicePixelRatio);
-    pixmap.fill(Qt::transparent);
-    return pixmap;
-}
-
-QPixmap plainSwatch(const QColor &colour, qreal devicePixelRatio)
-{
-    QPixmap pixmap = transparentPixmap(swatchIconSize, devicePixelRatio);
-    pixmap.fill(colour);
-    return pixmap;
-}
-
-/** The swatch with a tick, in black or white, whichever stands out from @p colour. */
-QPixmap tickedSwatch(const QColor &colour, qreal devicePixelRatio)
-{
-    constexpr int lightFromGrey = 140;
-    QPixmap pixmap = plainSwatch(colour, devicePixelRatio);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const QColor tick = qGray(colour.rgb()) < lightFromGrey ? Qt::white : Qt::black;
-    painter.setPen(QPen(tick, 3, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.drawPolyline(QPolygonF({{10.5, 18}, {15.5, 23}, {25, 12}}));
-    return pixmap;
-}
-
-/** A ring in black and white, so that the keyboard's place can be seen on every colour. */
-QPixmap withFocusRing(QPixmap swatch)
-{
-    QPainter painter(&swatch);
-    const QRectF edge(QPointF(0, 0), QSizeF(swatchIconSize));
-    painter.setPen(QPen(Qt::black, 2, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-    painter.drawRect(edge.adjusted(1, 1, -1, -1));
-    painter.setPen(QPen(Qt::white, 2, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-    painter.drawRect(edge.adjusted(3, 3, -3, -3));
-    return swatch;
-}
-
-QIcon swatchIcon(const QColor &colour, qreal devicePixelRatio)
-{
-    QPixmap plain(swatchIconSize);
-    plain.fill(colour);
-    QIcon icon(plain);
-    const QPixmap ticked = tickedSwatch(colour, devicePixelRatio);
-    icon.addPixmap(ticked, QIcon::Normal, QIcon::On);
-    // A button with the focus draws the active picture.
-    icon.addPixmap(withFocusRing(plainSwatch(colour, devicePixelRatio)), QIcon::Active, QIcon::Off);
-    icon.addPixmap(withFocusRing(ticked), QIcon::Active, QIcon::On);
-    return icon;
-}
-
-/** A ground on which translucent ink can be told from pale ink; a darker one for pale ink. */
-void paintChequeredGround(QPainter &painter, const QRect &area, const QColor &ink)
-{
-    constexpr int square = 6;
-    constexpr int paleFromGrey = 215;
-    const bool isPale = qGray(ink.rgb()) >= paleFromGrey;
-    const QColor light = isPale ? QColor(0x8c, 0x8c, 0x8c) : QColor(0xff, 0xff, 0xff);
-    const QColor dark = isPale ? QColor(0x70, 0x70, 0x70) : QColor(0xdc, 0xdc, 0xdc);
-    painter.fillRect(area, light);
-    for (int row = 0; row * square < area.height(); ++row) {
-        for (int column = row % 2; column * square < area.width(); column += 2) {
-            const QRect tile(column * square, row * square, square, square);
-            painter.fillRect(tile.translated(area.topLeft()).intersected(area), dark);
-        }
-    }
-}
-
-QIcon opacityIcon(QColor ink, qreal opacity, qreal devicePixelRatio)
-{
-    const QColor edge(0x80, 0x80, 0x80, 0x80);
-    QPixmap pixmap = transparentPixmap(opacityIconSize, devicePixelRatio);
-    QPainter painter(&pixmap);
-    const QRect area(QPoint(0, 0), opacityIconSize);
-    paintChequeredGround(painter, area, ink);
-    ink.setAlphaF(opacity);
-    painter.fillRect(area, ink);
-    painter.setPen(edge);
-    painter.drawRect(area.adjusted(0, 0, -1, -1));
-    return QIcon(pixmap);
-}
-
-QPainterPath sampleStroke(const QSizeF &size)
-{
-    const qreal margin = size.height() / 2;
-    const qreal width = size.width() - 2 * margin;
-    QPainterPath path(QPointF(margin, size.height() * 0.62));
-    path.cubicTo(margin + width * 0.30, -size.height() * 0.35, margin + width * 0.45,
-                 size.height() * 1.45, margin + width * 0.68, size.height() * 0.45);
-    path.cubicTo(margin + width * 0.78, size.height() * 0.05, margin + width * 0.90,
-                 size.height() * 0.25, margin + width, size.height() * 0.5);
-    return path;
 }
 
 /** Checks @p button, or none if it is null. An exclusive group would refuse to uncheck its last. */
@@ -230,9 +136,9 @@ void MRHandWriteDialog::SetCommonColor(QList<QColor> &colours)
 
 void MRHandWriteDialog::dressSwatch(QPushButton *button, const QColor &colour)
 {
-    button->setIcon(swatchIcon(colour, devicePixelRatioF()));
+    button->setIcon(InkPictures::swatchIcon(colour, devicePixelRatioF()));
     button->setText(QString());
-    button->setIconSize(swatchIconSize);
+    button->setIconSize(InkPictures::swatchIconSize);
     button->setFixedSize(swatchSize);
     button->setFlat(true);
     button->setCheckable(true);
@@ -325,9 +231,10 @@ void MRHandWriteDialog::updateSamples()
     const QColor ink = inkColour();
     for (int step = 0; step < opacitySteps; ++step) {
         QAbstractButton *button = m_ui->buttonOpacityGroup->button(step);
-        button->setIcon(opacityIcon(ink.isValid() ? ink : QColor(Qt::black),
-                                    qreal(step + 1) / opacitySteps, devicePixelRatioF()));
-        button->setIconSize(opacityIconSize);
+        button->setIcon(InkPictures::opacityIcon(ink.isValid() ? ink : QColor(Qt::black),
+                                                 qreal(step + 1) / opacitySteps,
+                                                 devicePixelRatioF()));
+        button->setIconSize(InkPictures::opacityIconSize);
     }
     updatePreview();
 }
@@ -345,11 +252,11 @@ void MRHandWriteDialog::updatePreview()
 
     const int step = m_ui->buttonOpacityGroup->checkedId();
     ink.setAlphaF(step < 0 ? 1.0 : qreal(step + 1) / opacitySteps);
-    QPixmap pixmap = transparentPixmap(area.size(), preview->devicePixelRatioF());
+    QPixmap pixmap = InkPictures::transparentPixmap(area.size(), preview->devicePixelRatioF());
     QPainter painter(&pixmap);
-    paintChequeredGround(painter, area, ink);
+    InkPictures::paintChequeredGround(painter, area, ink);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.strokePath(sampleStroke(area.size()),
+    painter.strokePath(InkPictures::sampleStroke(area.size()),
                        QPen(ink, thickness, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.end();
     preview->setPixmap(pixmap);

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
 #include "toolbar/widgets/CustomMenuStyle.h"
 
 #include "toolbar/skin/ScreenDensity.h"

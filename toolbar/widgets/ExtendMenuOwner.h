@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
 #pragma once
 
 /** What a drop button asks of the toolbar that it is a child of. */

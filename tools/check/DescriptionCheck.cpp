@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
 #include "tools/check/DescriptionCheck.h"
 
 #include "tools/check/RoleAssignment.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
 #pragma once
 
 /** What the library makes of an element, which follows from its tag, its name and its parent. */

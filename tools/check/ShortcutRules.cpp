@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
 #include "tools/check/Rules.h"
 #include "tools/check/Vocabulary.h"
 

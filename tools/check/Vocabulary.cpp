@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
 #include "tools/check/Vocabulary.h"
 
 #include "toolbar/description/Controller.h"
@@ -78,9 +81,10 @@ struct Place
 
 const Place &placeBelow(Role parent)
 {
-    static const Place menu{
-        {{"menuitem", Role::MenuEntry}, {"menu", Role::SubMenu}, {Tag::separator.data(), Role::Separator}},
-        Role::MenuEntry};
+    static const Place menu{{{"menuitem", Role::MenuEntry},
+                             {"menu", Role::SubMenu},
+                             {Tag::separator.data(), Role::Separator}},
+                            Role::MenuEntry};
     static const QHash<int, Place> table{
         {int(Role::AppSection), {{{"menu", Role::AppButton}}, Role::AppButton}},
         {int(Role::QuickSection), {{{"button", Role::QuickButton}}, Role::QuickButton}},

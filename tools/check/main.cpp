@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
 // Tells the author of a toolbar's description what the library passes over in silence.
 
 #include "tools/check/DescriptionCheck.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
 // Draws every compiled-in icon with its name on the ground where it stands: as it is, disabled
 // and enlarged.
 

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: The MRToolBar authors
+# SPDX-License-Identifier: MIT
+
 """Which file of which skin shows which glyph, on which grid and ground."""
 
 import re

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: The MRToolBar authors
+# SPDX-License-Identifier: MIT
+
 """A drawing on a small pixel grid: the shapes of one icon and their SVG text."""
 
 from collections import namedtuple

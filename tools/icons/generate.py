@@ -1,4 +1,7 @@
 #!/usr/bin/env python3
+# SPDX-FileCopyrightText: The MRToolBar authors
+# SPDX-License-Identifier: MIT
+
 """Writes the icons of both skins and their resource list below Resources/.
 
 With --check it writes nothing and fails if a file differs, is missing or strays in an icon

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: The MRToolBar authors
+# SPDX-License-Identifier: MIT
+
 """Glyphs of the file menu: the 20 pixel grid."""
 
 from drawing import BOLD, MARK, SLANT

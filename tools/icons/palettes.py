@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: The MRToolBar authors
+# SPDX-License-Identifier: MIT
+
 """The colours of the icons by role, one palette for each ground they stand on."""
 
 from drawing import Colour

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: The MRToolBar authors
+# SPDX-License-Identifier: MIT
+
 """What several glyphs are made of. Coordinates are those of the stroke's centre."""
 
 from math import cos, pi, sin

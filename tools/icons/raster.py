@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: The MRToolBar authors
+# SPDX-License-Identifier: MIT
+
 """Turns a drawing of straight shapes into a PNG: even sampling, then a minimal encoder."""
 
 import struct

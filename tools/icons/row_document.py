@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: The MRToolBar authors
+# SPDX-License-Identifier: MIT
+
 """Glyphs of documents on the 24 pixel grid: file commands, finding, selecting."""
 
 from drawing import BOLD, MARK, SLANT

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: The MRToolBar authors
+# SPDX-License-Identifier: MIT
+
 """Glyphs of the page tools on the 24 pixel grid."""
 
 from drawing import BOLD

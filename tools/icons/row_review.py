@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: The MRToolBar authors
+# SPDX-License-Identifier: MIT
+
 """Glyphs of seals and of the proof marks: the 24 pixel grid."""
 
 from drawing import BOLD, MARK, SLANT

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: The MRToolBar authors
+# SPDX-License-Identifier: MIT
+
 """Glyphs of the view row: the 24 pixel grid."""
 
 from drawing import BOLD, MARK, SLANT, path_data

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: The MRToolBar authors
+# SPDX-License-Identifier: MIT
+
 """Glyphs that are drawn on more than one grid, and the bare arrows and marks."""
 
 from drawing import BOLD, MARK, path_data

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: The MRToolBar authors
+# SPDX-License-Identifier: MIT
+
 """Glyphs of the annotation row on the 16 pixel grid."""
 
 from drawing import BOLD, MARK, SLANT

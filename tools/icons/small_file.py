@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: The MRToolBar authors
+# SPDX-License-Identifier: MIT
+
 """Glyphs of documents and pages on the 16 pixel grid: file menu, editing, page tools."""
 
 from drawing import BOLD, MARK, SLANT

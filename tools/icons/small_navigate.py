@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: The MRToolBar authors
+# SPDX-License-Identifier: MIT
+
 """Glyphs of the navigation panels, the page backgrounds and the tabs on the 16 pixel grid."""
 
 from drawing import BOLD, MARK, SLANT

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
 // Takes a picture of everything that a toolbar shows: every tab, state and menu of a description,
 // on one sheet.
 
