@@ -1,4 +1,4 @@
-#include "Document.h"
+#include "document/Document.h"
 #include "ofd/Document.h"
 #include "ofd/PageText.h"
 #include "ofd/Painter.h"

@@ -4,7 +4,7 @@
 #include "GuideBlocks.h"
 #include "SkinMaps.h"
 
-#include "examples/reader/SkinMaps.h"
+#include "examples/reader/panels/SkinMaps.h"
 #include "tests/support/Elements.h"
 #include "tests/support/TestHost.h"
 #include "toolbar/description/Controller.h"

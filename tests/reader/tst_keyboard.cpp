@@ -1,6 +1,6 @@
-#include "Description.h"
-#include "PageView.h"
-#include "ReaderWindow.h"
+#include "pages/PageView.h"
+#include "shell/Description.h"
+#include "shell/ReaderWindow.h"
 
 #include <toolbar/NewToolBar.h>
 

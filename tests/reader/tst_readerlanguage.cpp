@@ -1,7 +1,7 @@
-#include "Description.h"
-#include "Document.h"
-#include "Language.h"
-#include "ReaderWindow.h"
+#include "document/Document.h"
+#include "shell/Description.h"
+#include "shell/Language.h"
+#include "shell/ReaderWindow.h"
 
 #include <toolbar/handwrite/MRHandWriteDialog.h>
 

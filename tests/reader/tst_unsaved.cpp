@@ -1,5 +1,5 @@
-#include "Description.h"
-#include "ReaderWindow.h"
+#include "shell/Description.h"
+#include "shell/ReaderWindow.h"
 
 #include <toolbar/NewToolBar.h>
 

@@ -1,7 +1,7 @@
-#include "LivePreview.h"
-#include "PageView.h"
-#include "ReaderWindow.h"
-#include "SearchPanel.h"
+#include "pages/PageView.h"
+#include "panels/SearchPanel.h"
+#include "shell/LivePreview.h"
+#include "shell/ReaderWindow.h"
 
 #include <QDomDocument>
 #include <QLineEdit>

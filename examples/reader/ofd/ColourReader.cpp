@@ -1,7 +1,7 @@
-#include "ColourReader.h"
+#include "ofd/ColourReader.h"
 
-#include "Values.h"
-#include "Wording.h"
+#include "ofd/Values.h"
+#include "ofd/Wording.h"
 
 #include <algorithm>
 #include <cmath>

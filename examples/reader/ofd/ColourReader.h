@@ -1,6 +1,6 @@
 #pragma once
 
-#include "XmlElement.h"
+#include "ofd/XmlElement.h"
 
 #include <QBrush>
 #include <QHash>

@@ -1,4 +1,4 @@
-#include "CoverageMask.h"
+#include "ofd/CoverageMask.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,4 +1,4 @@
-#include "DashedLine.h"
+#include "ofd/DashedLine.h"
 
 #include <QLineF>
 #include <QVector>

@@ -1,8 +1,8 @@
-#include "DensePath.h"
+#include "ofd/DensePath.h"
 
-#include "CoverageMask.h"
-#include "Flattening.h"
-#include "StrokeMask.h"
+#include "ofd/CoverageMask.h"
+#include "ofd/Flattening.h"
+#include "ofd/StrokeMask.h"
 
 #include <QPaintEngine>
 #include <QPainter>

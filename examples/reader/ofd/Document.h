@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Objects.h"
-#include "Package.h"
+#include "ofd/Objects.h"
+#include "ofd/Package.h"
 
 #include <QMap>
 #include <QPair>

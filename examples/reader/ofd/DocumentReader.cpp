@@ -1,10 +1,10 @@
-#include "Document.h"
-#include "Expansion.h"
-#include "Extras.h"
-#include "Fault.h"
-#include "Limits.h"
-#include "PageReader.h"
-#include "Wording.h"
+#include "ofd/Document.h"
+#include "ofd/Expansion.h"
+#include "ofd/Extras.h"
+#include "ofd/Fault.h"
+#include "ofd/Limits.h"
+#include "ofd/PageReader.h"
+#include "ofd/Wording.h"
 
 namespace Ofd {
 

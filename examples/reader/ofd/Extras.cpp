@@ -1,7 +1,7 @@
-#include "Extras.h"
+#include "ofd/Extras.h"
 
-#include "Values.h"
-#include "Wording.h"
+#include "ofd/Values.h"
+#include "ofd/Wording.h"
 
 namespace Ofd {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ResourceReader.h"
+#include "ofd/ResourceReader.h"
 
 /** What a document brings along besides its pages. */
 namespace Ofd::Extras {

@@ -1,4 +1,4 @@
-#include "Flattening.h"
+#include "ofd/Flattening.h"
 
 #include <QPainterPath>
 #include <QTransform>

@@ -1,6 +1,6 @@
-#include "FontSet.h"
+#include "ofd/FontSet.h"
 
-#include "Fault.h"
+#include "ofd/Fault.h"
 
 #include <QFont>
 #include <QFontDatabase>

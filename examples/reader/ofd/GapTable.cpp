@@ -1,4 +1,4 @@
-#include "GapTable.h"
+#include "ofd/GapTable.h"
 
 namespace Ofd {
 

@@ -1,7 +1,7 @@
-#include "ImageStore.h"
+#include "ofd/ImageStore.h"
 
-#include "Fault.h"
-#include "Limits.h"
+#include "ofd/Fault.h"
+#include "ofd/Limits.h"
 
 #include <QBuffer>
 #include <QImageReader>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Document.h"
+#include "ofd/Document.h"
 
 #include <QCache>
 #include <QImage>

@@ -1,10 +1,10 @@
-#include "ObjectReader.h"
+#include "ofd/ObjectReader.h"
 
-#include "Fault.h"
-#include "Limits.h"
-#include "PathData.h"
-#include "Values.h"
-#include "Wording.h"
+#include "ofd/Fault.h"
+#include "ofd/Limits.h"
+#include "ofd/PathData.h"
+#include "ofd/Values.h"
+#include "ofd/Wording.h"
 
 #include <algorithm>
 #include <cmath>

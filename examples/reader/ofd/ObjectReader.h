@@ -1,6 +1,6 @@
 #pragma once
 
-#include "StyleReader.h"
+#include "ofd/StyleReader.h"
 
 namespace Ofd {
 

@@ -1,8 +1,8 @@
-#include "Package.h"
+#include "ofd/Package.h"
 
-#include "Fault.h"
-#include "Limits.h"
-#include "Wording.h"
+#include "ofd/Fault.h"
+#include "ofd/Limits.h"
+#include "ofd/Wording.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -1,9 +1,9 @@
-#include "PageReader.h"
+#include "ofd/PageReader.h"
 
-#include "Fault.h"
-#include "Limits.h"
-#include "Values.h"
-#include "Wording.h"
+#include "ofd/Fault.h"
+#include "ofd/Limits.h"
+#include "ofd/Values.h"
+#include "ofd/Wording.h"
 
 namespace Ofd {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ResourceReader.h"
+#include "ofd/ResourceReader.h"
 
 namespace Ofd {
 

@@ -1,6 +1,6 @@
-#include "PageText.h"
+#include "ofd/PageText.h"
 
-#include "TextLayout.h"
+#include "ofd/TextLayout.h"
 
 #include <algorithm>
 #include <cmath>

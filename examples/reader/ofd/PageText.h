@@ -1,6 +1,6 @@
 #pragma once
 
-#include "FontSet.h"
+#include "ofd/FontSet.h"
 
 namespace Ofd {
 

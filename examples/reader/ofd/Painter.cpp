@@ -1,10 +1,10 @@
-#include "Painter.h"
+#include "ofd/Painter.h"
 
-#include "DensePath.h"
-#include "Fault.h"
-#include "Limits.h"
-#include "TextLayout.h"
-#include "Wording.h"
+#include "ofd/DensePath.h"
+#include "ofd/Fault.h"
+#include "ofd/Limits.h"
+#include "ofd/TextLayout.h"
+#include "ofd/Wording.h"
 
 #include <QPainter>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "FontSet.h"
-#include "ImageStore.h"
+#include "ofd/FontSet.h"
+#include "ofd/ImageStore.h"
 
 class QPainter;
 

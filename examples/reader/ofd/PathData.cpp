@@ -1,6 +1,6 @@
-#include "PathData.h"
+#include "ofd/PathData.h"
 
-#include "Values.h"
+#include "ofd/Values.h"
 
 #include <QTransform>
 #include <QVector>

@@ -1,6 +1,6 @@
-#include "ResourceReader.h"
+#include "ofd/ResourceReader.h"
 
-#include "Wording.h"
+#include "ofd/Wording.h"
 
 namespace Ofd {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Document.h"
-#include "ObjectReader.h"
+#include "ofd/Document.h"
+#include "ofd/ObjectReader.h"
 
 namespace Ofd {
 

@@ -1,7 +1,7 @@
-#include "StrokeMask.h"
+#include "ofd/StrokeMask.h"
 
-#include "DashedLine.h"
-#include "Flattening.h"
+#include "ofd/DashedLine.h"
+#include "ofd/Flattening.h"
 
 #include <algorithm>
 #include <cmath>

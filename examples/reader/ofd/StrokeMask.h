@@ -1,7 +1,7 @@
 #pragma once
 
-#include "CoverageMask.h"
-#include "GapTable.h"
+#include "ofd/CoverageMask.h"
+#include "ofd/GapTable.h"
 
 #include <QPainterPath>
 #include <QPainterPathStroker>

@@ -1,4 +1,4 @@
-#include "Objects.h"
+#include "ofd/Objects.h"
 
 #include <algorithm>
 

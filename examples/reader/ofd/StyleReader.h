@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ColourReader.h"
-#include "Objects.h"
+#include "ofd/ColourReader.h"
+#include "ofd/Objects.h"
 
 #include <QHash>
 

@@ -1,4 +1,4 @@
-#include "TextLayout.h"
+#include "ofd/TextLayout.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,8 +1,8 @@
-#include "XmlElement.h"
+#include "ofd/XmlElement.h"
 
-#include "Fault.h"
-#include "Limits.h"
-#include "Wording.h"
+#include "ofd/Fault.h"
+#include "ofd/Limits.h"
+#include "ofd/Wording.h"
 
 #include <QXmlStreamReader>
 

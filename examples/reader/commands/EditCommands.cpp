@@ -1,0 +1,222 @@
+#include "commands/EditCommands.h"
+
+#include "commands/CommandTable.h"
+#include "document/Document.h"
+#include "document/PageGenerator.h"
+#include "pages/PageView.h"
+#include "panels/HandwritingSettings.h"
+
+#include <QInputDialog>
+#include <QMainWindow>
+#include <QMap>
+
+#include <algorithm>
+
+namespace {
+
+const QColor sealColour(0xC8, 0x1E, 0x1E);
+const QColor watermarkColour(0x60, 0x60, 0x60);
+constexpr quint32 insertedPageSeed = 20;
+
+/** Groups of tools, and the tool that a click on the group's own button means. */
+const QMap<QString, QString> &groupTools()
+{
+    static const QMap<QString, QString> tools = {
+        {QStringLiteral("t_tablet"), QStringLiteral("tp_penceil")},
+        {QStringLiteral("t_tableteraser"), QStringLiteral("eraser_middle")},
+        {QStringLiteral("tp_shape"), QStringLiteral("tp_rectangle")},
+    };
+    return tools;
+}
+
+QStringList name(const char *text)
+{
+    return {QLatin1String(text)};
+}
+
+QPolygonF cornersOf(const QRectF &rect)
+{
+    QPolygonF corners;
+    corners << rect.topLeft() << rect.bottomRight();
+    return corners;
+}
+
+/** The places of stamps are chosen for a generated page; others may be smaller. */
+QRectF movedInto(QRectF rect, QSizeF page)
+{
+    rect.moveRight(std::min(rect.right(), page.width()));
+    rect.moveBottom(std::min(rect.bottom(), page.height()));
+    return rect;
+}
+
+} // namespace
+
+EditCommands::EditCommands(const ReaderParts &parts)
+    : m_parts(parts)
+    , m_lastPen(PageTool::penNames().first())
+{
+}
+
+void EditCommands::addTo(CommandTable &table)
+{
+    addTools(table);
+    addSelection(table);
+    addPages(table);
+    addStamps(table);
+}
+
+void EditCommands::addTools(CommandTable &table)
+{
+    table.add(PageTool::names(), Needs::Document, [this](const QString &tool) { useTool(tool); });
+    table.add(groupTools().keys(), Needs::Document,
+              [this](const QString &group) { useTool(groupTools().value(group)); });
+}
+
+void EditCommands::addSelection(CommandTable &table)
+{
+    Document *document = m_parts.document;
+    table.add(name("e_undo"), Needs::UndoStep,
+              [document](const QString &) { document->undoStack().undo(); });
+    table.add(name("e_redo"), Needs::RedoStep,
+              [document](const QString &) { document->undoStack().redo(); });
+    table.add(name("e_selectpage"), Needs::Document, [this](const QString &) {
+        selectPages(m_parts.view->currentPage(), m_parts.view->currentPage());
+    });
+    table.add(name("e_selectall"), Needs::Document,
+              [this](const QString &) { selectPages(0, m_parts.document->pageCount() - 1); });
+    table.add(name("e_unselect"), Needs::Selection,
+              [this](const QString &) { m_parts.view->setSelection({}); });
+}
+
+void EditCommands::addPages(CommandTable &table)
+{
+    const auto insert = [this](const Page &page, const QString &what) {
+        const int index = m_parts.view->currentPage() + 1;
+        m_parts.document->insertPage(index, page, what);
+        m_parts.view->setCurrentPage(index);
+        m_parts.say(tr("%1：第 %2 页").arg(what).arg(index + 1));
+    };
+    table.add(name("d_insertblankpage"), Needs::Document, [insert](const QString &) {
+        Page blank;
+        blank.heading = tr("空白页");
+        insert(blank, tr("插入空白页"));
+    });
+    table.add(name("d_insertpage"), Needs::Document, [this, insert](const QString &) {
+        const int number = m_parts.document->pageCount() + 1;
+        insert(PageGenerator::page(insertedPageSeed, number), tr("插入页面"));
+    });
+}
+
+void EditCommands::addStamps(CommandTable &table)
+{
+    // What is put on a page belongs to the document, and is written in its language.
+    table.add(name("t_sealsign"), Needs::Document, [this](const QString &) {
+        place(MarkKind::RoundSeal, QRectF(520, 830, 170, 170), QStringLiteral("示例单位专用章"));
+    });
+    table.add(name("t_pageseal"), Needs::Document, [this](const QString &) {
+        const QSizeF size = m_parts.document->sizeOf(m_parts.view->currentPage());
+        const QRectF overEdge(size.width() - 60, 480, 120, 120);
+        placeOnEveryPage(MarkKind::EdgeSeal, overEdge, QStringLiteral("骑缝专用章"));
+    });
+    table.add(name("ti_chapter"), Needs::Document, [this](const QString &) {
+        place(MarkKind::SquareSeal, QRectF(110, 850, 120, 120), QStringLiteral("示例之印"));
+    });
+    table.add(name("t_sealmark"), Needs::Document, [this](const QString &) {
+        place(MarkKind::SealPlace, QRectF(330, 840, 140, 140), QStringLiteral("此处盖章"));
+    });
+    table.add(name("ti_stamp"), Needs::Document, [this](const QString &) {
+        place(MarkKind::Stamp, QRectF(500, 90, 160, 64), QStringLiteral("已　阅"));
+    });
+    table.add(name("ti_affix"), Needs::Document, [this](const QString &) {
+        place(MarkKind::Picture, QRectF(280, 420, 240, 150), QString());
+    });
+    table.add(name("tw_watermark_add"), Needs::Document,
+              [this](const QString &) { addWatermark(); });
+}
+
+void EditCommands::useTool(const QString &name)
+{
+    PageView *view = m_parts.view;
+    const PageTool tool = PageTool::of(name);
+    view->setTool(m_parts.handwriting->withInk(tool));
+    if (tool.gesture == PageTool::DrawInk)
+        m_lastPen = name;
+    if (tool.gesture != PageTool::MarkText || view->selection().isEmpty())
+        return;
+
+    // Text that is selected already is marked at once.
+    const QList<Mark> marks = view->marksOnSelection();
+    view->setSelection({});
+    for (const Mark &mark : marks)
+        addDrawn(mark);
+}
+
+void EditCommands::editHandwriting()
+{
+    m_lastPen = m_parts.handwriting->edit(m_lastPen, m_parts.window);
+    if (!m_parts.document->isOpen())
+        return;
+    useTool(m_lastPen);
+    m_parts.say(tr("按住鼠标左键在页面上书写"));
+}
+
+void EditCommands::addDrawn(Mark mark)
+{
+    if (mark.kind == MarkKind::TextBox || mark.kind == MarkKind::Note) {
+        bool isGiven = false;
+        mark.text = QInputDialog::getText(m_parts.window, markName(mark.kind), tr("文字"),
+                                          QLineEdit::Normal, QString(), &isGiven);
+        if (!isGiven || mark.text.isEmpty())
+            return;
+    }
+    m_parts.document->addMark(mark, markName(mark.kind));
+}
+
+void EditCommands::place(MarkKind kind, const QRectF &rect, const QString &text)
+{
+    Mark mark;
+    mark.kind = kind;
+    mark.page = m_parts.view->currentPage();
+    mark.points = cornersOf(movedInto(rect, m_parts.document->sizeOf(mark.page)));
+    mark.text = text;
+    mark.colour = sealColour;
+    m_parts.document->addMark(mark, markName(kind));
+    m_parts.say(tr("%1：第 %2 页").arg(markName(kind)).arg(mark.page + 1));
+}
+
+void EditCommands::placeOnEveryPage(MarkKind kind, const QRectF &rect, const QString &text)
+{
+    Mark mark;
+    mark.kind = kind;
+    mark.page = everyPage;
+    mark.points = cornersOf(rect);
+    mark.text = text;
+    mark.colour = kind == MarkKind::Watermark ? watermarkColour : sealColour;
+    m_parts.document->addMark(mark, markName(kind));
+    m_parts.say(tr("%1：每一页").arg(markName(kind)));
+}
+
+void EditCommands::addWatermark()
+{
+    bool isGiven = false;
+    const QString text =
+        QInputDialog::getText(m_parts.window, markName(MarkKind::Watermark), tr("水印的文字"),
+                              QLineEdit::Normal, tr("内部资料"), &isGiven);
+    const QSizeF size = m_parts.document->sizeOf(m_parts.view->currentPage());
+    if (isGiven && !text.isEmpty())
+        placeOnEveryPage(MarkKind::Watermark, QRectF(QPointF(0, 0), size), text);
+}
+
+void EditCommands::selectPages(int first, int last)
+{
+    QList<TextRange> selection;
+    for (int page = first; page <= last; ++page) {
+        const int length = int(m_parts.document->page(page).text.size());
+        if (length > 0)
+            selection.append({page, 0, length});
+    }
+    m_parts.view->setSelection(selection);
+    // The key that copies belongs to the pages.
+    m_parts.view->setFocus();
+    m_parts.say(tr("已选择 %1 个字").arg(m_parts.view->selectedText().size()));
+}

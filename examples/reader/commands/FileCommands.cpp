@@ -1,0 +1,211 @@
+#include "commands/FileCommands.h"
+
+#include "commands/CommandTable.h"
+#include "document/Document.h"
+#include "pages/Export.h"
+#include "pages/PageView.h"
+#include "pages/Printing.h"
+#include "panels/PropertiesDialog.h"
+#include "shell/ReaderSettings.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QInputDialog>
+#include <QMainWindow>
+#include <QMap>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace {
+
+constexpr int mostRecentFiles = 30;
+
+QString ofdFilter()
+{
+    return FileCommands::tr("OFD 文件 (*.ofd)");
+}
+
+QString pdfFilter()
+{
+    return FileCommands::tr("PDF 文件 (*.pdf)");
+}
+
+QString textFilter()
+{
+    return FileCommands::tr("文本文件 (*.txt)");
+}
+
+} // namespace
+
+FileCommands::FileCommands(const ReaderParts &parts)
+    : m_parts(parts)
+{
+}
+
+void FileCommands::addTo(CommandTable &table)
+{
+    const auto name = [](const char *text) { return QStringList{QLatin1String(text)}; };
+    table.add({QStringLiteral("f_open"), QStringLiteral("lum_open")}, Needs::Nothing,
+              [this](const QString &) { askAndOpen(); });
+    table.add(name("f_close"), Needs::Document, [this](const QString &) { close(); });
+    table.add(name("f_save"), Needs::Changes, [this](const QString &) { save(); });
+    table.add({QStringLiteral("f_saveas"), QStringLiteral("lum_saveas")}, Needs::Document,
+              [this](const QString &) { saveAs(); });
+    table.add(name("f_print"), Needs::Document, [this](const QString &) { print(); });
+    table.add(name("f_property"), Needs::Document, [this](const QString &) { showProperties(); });
+    table.add(name("f_exit"), Needs::Nothing, [this](const QString &) { m_parts.window->close(); });
+    table.add(name("f_clearhistory"), Needs::Nothing,
+              [this](const QString &) { m_parts.settings->clearRecentFiles(); });
+    table.add(name("f_saveenv"), Needs::Document,
+              [this](const QString &) { m_parts.say(tr("保存信封：示例不生成数字信封")); });
+    table.add(name("e_preference"), Needs::Nothing, [this](const QString &) { showPreferences(); });
+    table.add({QStringLiteral("h_productinfo"), QStringLiteral("h_software")}, Needs::Nothing,
+              [this](const QString &) { showAbout(); });
+    table.add(name("h_softupdate"), Needs::Nothing,
+              [this](const QString &) { m_parts.say(tr("检查更新：示例不连接网络")); });
+}
+
+void FileCommands::open(const QString &fileName)
+{
+    if (!mayLeaveDocument())
+        return;
+    QString error;
+    if (!m_parts.document->open(fileName, &error)) {
+        refuse(fileName, error);
+        return;
+    }
+    m_savedFile.clear();
+    m_parts.settings->addRecentFile(fileName);
+    m_parts.view->setCurrentPage(0);
+    m_parts.view->setFocus();
+    const QString leftOut = m_parts.document->file().leftOut;
+    m_parts.say(leftOut.isEmpty() ? tr("已打开：%1").arg(QDir::toNativeSeparators(fileName))
+                                  : leftOut);
+}
+
+void FileCommands::refuse(const QString &fileName, const QString &reason) const
+{
+    // Not exec(): a file named on the command line is opened before the window is up.
+    auto *box = new QMessageBox(QMessageBox::Warning, tr("无法打开"),
+                                tr("无法打开“%1”：%2").arg(QFileInfo(fileName).fileName(), reason),
+                                QMessageBox::Ok, m_parts.window);
+    box->setTextFormat(Qt::PlainText);
+    box->button(QMessageBox::Ok)->setText(tr("确定"));
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->open();
+}
+
+bool FileCommands::mayLeaveDocument()
+{
+    if (!m_parts.document->isModified())
+        return true;
+    QMessageBox box(QMessageBox::Question, m_parts.window->windowTitle(),
+                    tr("“%1”有未保存的修改，要保存吗？").arg(m_parts.document->title()),
+                    QMessageBox::NoButton, m_parts.window);
+    box.setTextFormat(Qt::PlainText);
+    QPushButton *saving = box.addButton(tr("保存"), QMessageBox::AcceptRole);
+    const QPushButton *discarding = box.addButton(tr("不保存"), QMessageBox::DestructiveRole);
+    QPushButton *cancelling = box.addButton(tr("取消"), QMessageBox::RejectRole);
+    // Without a default button of its own, the toolkit would take the first that it lays out.
+    box.setDefaultButton(saving);
+    box.setEscapeButton(cancelling);
+    box.exec();
+    if (box.clickedButton() == saving)
+        return save();
+    return box.clickedButton() == discarding;
+}
+
+void FileCommands::askAndOpen()
+{
+    const QString fileName =
+        QFileDialog::getOpenFileName(m_parts.window, tr("打开"), QString(),
+                                     ofdFilter() + QStringLiteral(";;") + tr("所有文件 (*)"));
+    if (!fileName.isEmpty())
+        open(fileName);
+}
+
+void FileCommands::close()
+{
+    if (mayLeaveDocument())
+        m_parts.document->close();
+}
+
+bool FileCommands::save()
+{
+    return m_savedFile.isEmpty() ? saveAs() : saveTo(m_savedFile);
+}
+
+bool FileCommands::saveAs()
+{
+    const QString fileName = askFileToWrite();
+    return !fileName.isEmpty() && saveTo(fileName);
+}
+
+bool FileCommands::saveTo(const QString &fileName)
+{
+    if (!Export::write(*m_parts.document, fileName)) {
+        m_parts.say(tr("无法写入：%1").arg(fileName));
+        return false;
+    }
+    if (m_parts.document->isModified() && !Export::keepsMarks(fileName)) {
+        m_parts.say(tr("已保存，但不含批注；另存为 PDF 可保留批注：%1").arg(fileName));
+        return false;
+    }
+    m_savedFile = fileName;
+    m_parts.document->undoStack().setClean();
+    m_parts.say(tr("已保存：%1").arg(fileName));
+    return true;
+}
+
+void FileCommands::print()
+{
+    if (Printing::ask(*m_parts.document, m_parts.view->currentPage(), m_parts.window))
+        m_parts.say(tr("已打印"));
+    else
+        m_parts.say(tr("没有打印"));
+}
+
+QString FileCommands::askFileToWrite() const
+{
+    const QMap<QString, QString> suffixes = {{ofdFilter(), QStringLiteral(".ofd")},
+                                             {pdfFilter(), QStringLiteral(".pdf")},
+                                             {textFilter(), QStringLiteral(".txt")}};
+    QStringList filters = {pdfFilter(), textFilter()};
+    // The package is copied as it is, so it comes first as long as nothing would be lost.
+    if (!m_parts.document->isGenerated())
+        filters.insert(m_parts.document->isModified() ? 1 : 0, ofdFilter());
+    const QFileInfo file(m_parts.document->fileName());
+    QString chosen = filters.first();
+    QString fileName = QFileDialog::getSaveFileName(
+        m_parts.window, tr("另存为"), file.completeBaseName() + suffixes.value(chosen),
+        filters.join(QStringLiteral(";;")), &chosen);
+    if (!fileName.isEmpty() && QFileInfo(fileName).suffix().isEmpty())
+        fileName += suffixes.value(chosen);
+    return fileName;
+}
+
+void FileCommands::showProperties() const
+{
+    PropertiesDialog(*m_parts.document, m_parts.view->currentPage(), m_parts.window).exec();
+}
+
+void FileCommands::showPreferences()
+{
+    bool isGiven = false;
+    const int limit =
+        QInputDialog::getInt(m_parts.window, tr("设置"), tr("最近打开的文件的数量"),
+                             m_parts.settings->recentLimit(), 1, mostRecentFiles, 1, &isGiven);
+    if (isGiven)
+        m_parts.settings->setRecentLimit(limit);
+}
+
+void FileCommands::showAbout() const
+{
+    const QString version = QLatin1String(qVersion());
+    const QString keys = tr("F10：工具栏\nEsc：回到页面\nCtrl+F：查找\nCtrl+G：页码框\n"
+                            "Ctrl+M：缩放框\nF11：全屏");
+    QMessageBox::about(m_parts.window, tr("关于OFD阅读器"),
+                       tr("工具栏的示例阅读器，可打开 OFD 文件。\n\nQt %1").arg(version)
+                           + QStringLiteral("\n\n") + keys);
+}

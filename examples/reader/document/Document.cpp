@@ -1,0 +1,207 @@
+#include "document/Document.h"
+
+#include "document/DocumentEdits.h"
+#include "document/PageGenerator.h"
+
+#include <QFileInfo>
+#include <QLineF>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+/** Not qHash(), whose values differ from run to run and from version to version. */
+quint32 seedOf(const QString &name)
+{
+    quint32 seed = 2166136261U;
+    const QByteArray bytes = name.toUtf8();
+    for (const char byte : bytes)
+        seed = (seed ^ quint8(byte)) * 16777619U;
+    return seed;
+}
+
+/** How far a point is from the way between two others. */
+qreal distanceTo(const QLineF &way, QPointF point)
+{
+    const QPointF along = way.p2() - way.p1();
+    const qreal square = QPointF::dotProduct(along, along);
+    if (square == 0)
+        return QLineF(way.p1(), point).length();
+    const qreal share = QPointF::dotProduct(point - way.p1(), along) / square;
+    return QLineF(way.pointAt(std::clamp(share, 0.0, 1.0)), point).length();
+}
+
+bool passesNear(const Mark &ink, QPointF point, qreal radius)
+{
+    for (int i = 0; i < ink.points.size(); ++i) {
+        const QLineF way(ink.points.at(std::max(0, i - 1)), ink.points.at(i));
+        if (distanceTo(way, point) <= radius + ink.width / 2)
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
+Document::Document(QObject *parent)
+    : QObject(parent)
+{
+}
+
+bool Document::open(const QString &fileName, QString *error)
+{
+    OfdFile file;
+    QList<Page> pages;
+    if (!file.read(fileName, &pages, error))
+        return false;
+    replace(fileName, pages, file);
+    return true;
+}
+
+void Document::openGenerated(const QString &name)
+{
+    const quint32 seed = seedOf(name);
+    QList<Page> pages;
+    for (int number = 1; number <= PageGenerator::pageCount(seed); ++number)
+        pages.append(PageGenerator::page(seed, number));
+    replace(name, pages, OfdFile());
+}
+
+void Document::close()
+{
+    replace(QString(), {}, OfdFile());
+}
+
+void Document::replace(const QString &fileName, const QList<Page> &pages, const OfdFile &file)
+{
+    m_fileName = fileName;
+    m_file = file;
+    m_undoStack.clear();
+    m_marks.clear();
+    m_quarters = 0;
+    m_pages = pages;
+    pagesReplaced();
+    Q_EMIT marksChanged();
+}
+
+void Document::pagesReplaced()
+{
+    m_largestSize = QSizeF();
+    for (const Page &page : std::as_const(m_pages))
+        m_largestSize = m_largestSize.expandedTo(page.size);
+    Q_EMIT pagesChanged();
+}
+
+const Page &Document::page(int index) const
+{
+    Page &page = m_pages[index];
+    if (!page.isTextRead) {
+        page.isTextRead = true;
+        page.content->readText(page);
+    }
+    return page;
+}
+
+bool Document::isModified() const
+{
+    if (m_undoStack.isClean())
+        return false;
+    if (m_undoStack.cleanIndex() < 0)
+        return true;
+    const int first = std::min(m_undoStack.index(), m_undoStack.cleanIndex());
+    const int last = std::max(m_undoStack.index(), m_undoStack.cleanIndex());
+    for (int i = first; i < last; ++i) {
+        if (m_undoStack.command(i)->id() != TurnEdit::kind)
+            return true;
+    }
+    return false;
+}
+
+void Document::turn(int quarters, const QString &what)
+{
+    m_undoStack.push(new TurnEdit(*this, quarters, what));
+}
+
+void Document::turnBy(int quarters)
+{
+    m_quarters = (m_quarters + quarters + 4) % 4;
+    Q_EMIT turned();
+}
+
+QString Document::title() const
+{
+    return QFileInfo(m_fileName).fileName();
+}
+
+bool Document::hasPageOf(const Mark &mark) const
+{
+    return mark.page == everyPage || mark.page < pageCount();
+}
+
+int Document::characterCount() const
+{
+    int count = 0;
+    for (int i = 0; i < pageCount(); ++i) {
+        for (const TextLine &line : page(i).lines)
+            count += line.length;
+    }
+    return count;
+}
+
+void Document::addMark(Mark mark, const QString &what)
+{
+    mark.id = ++m_lastMarkId;
+    m_undoStack.push(new AddMarkEdit(*this, mark, what));
+}
+
+void Document::eraseInk(int page, QPointF point, qreal radius)
+{
+    for (int i = int(m_marks.size()) - 1; i >= 0; --i) {
+        const Mark mark = m_marks.at(i);
+        if (mark.kind == MarkKind::Ink && mark.page == page && passesNear(mark, point, radius))
+            m_undoStack.push(new RemoveMarkEdit(*this, i));
+    }
+}
+
+void Document::insertPage(int index, const Page &page, const QString &what)
+{
+    m_undoStack.push(new InsertPageEdit(*this, index, page, what));
+}
+
+void Document::placeMark(int position, const Mark &mark)
+{
+    m_marks.insert(position, mark);
+    Q_EMIT marksChanged();
+}
+
+void Document::removeMark(int id)
+{
+    for (int i = 0; i < m_marks.size(); ++i) {
+        if (m_marks.at(i).id == id) {
+            m_marks.removeAt(i);
+            break;
+        }
+    }
+    Q_EMIT marksChanged();
+}
+
+void Document::placePage(int index, const Page &page)
+{
+    m_pages.insert(index, page);
+    for (Mark &mark : m_marks) {
+        if (mark.page >= index)
+            ++mark.page;
+    }
+    pagesReplaced();
+}
+
+void Document::removePage(int index)
+{
+    m_pages.removeAt(index);
+    for (Mark &mark : m_marks) {
+        if (mark.page > index)
+            --mark.page;
+    }
+    pagesReplaced();
+}

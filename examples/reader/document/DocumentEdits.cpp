@@ -1,0 +1,71 @@
+#include "document/DocumentEdits.h"
+
+AddMarkEdit::AddMarkEdit(Document &document, const Mark &mark, const QString &what)
+    : QUndoCommand(what)
+    , m_document(document)
+    , m_mark(mark)
+{
+}
+
+void AddMarkEdit::redo()
+{
+    m_document.placeMark(int(m_document.marks().size()), m_mark);
+}
+
+void AddMarkEdit::undo()
+{
+    m_document.removeMark(m_mark.id);
+}
+
+RemoveMarkEdit::RemoveMarkEdit(Document &document, int position)
+    : QUndoCommand(tr("擦除笔迹"))
+    , m_document(document)
+    , m_position(position)
+    , m_mark(document.marks().at(position))
+{
+}
+
+void RemoveMarkEdit::redo()
+{
+    m_document.removeMark(m_mark.id);
+}
+
+void RemoveMarkEdit::undo()
+{
+    m_document.placeMark(m_position, m_mark);
+}
+
+InsertPageEdit::InsertPageEdit(Document &document, int index, const Page &page, const QString &what)
+    : QUndoCommand(what)
+    , m_document(document)
+    , m_index(index)
+    , m_page(page)
+{
+}
+
+void InsertPageEdit::redo()
+{
+    m_document.placePage(m_index, m_page);
+}
+
+void InsertPageEdit::undo()
+{
+    m_document.removePage(m_index);
+}
+
+TurnEdit::TurnEdit(Document &document, int quarters, const QString &what)
+    : QUndoCommand(what)
+    , m_document(document)
+    , m_quarters(quarters)
+{
+}
+
+void TurnEdit::redo()
+{
+    m_document.turnBy(m_quarters);
+}
+
+void TurnEdit::undo()
+{
+    m_document.turnBy(-m_quarters);
+}

@@ -1,0 +1,103 @@
+#include "document/OfdFile.h"
+
+#include "ofd/PageText.h"
+#include "ofd/Painter.h"
+
+#include <QPainter>
+
+namespace {
+
+constexpr qreal unitsPerMillimetre = 96 / 25.4;
+
+QRectF toPageUnits(const QRectF &rect)
+{
+    return QRectF(rect.topLeft() * unitsPerMillimetre, rect.size() * unitsPerMillimetre);
+}
+
+/** One page of a document whose painter all its pages share. */
+class OfdPageContent : public PageContent
+{
+public:
+    OfdPageContent(const std::shared_ptr<Ofd::Painter> &painter, int page)
+        : m_painter(painter)
+        , m_page(page)
+    {
+    }
+
+    void paint(QPainter &painter) const override
+    {
+        painter.save();
+        painter.scale(unitsPerMillimetre, unitsPerMillimetre);
+        m_painter->paint(painter, m_page);
+        painter.restore();
+    }
+
+    void readText(Page &page) const override
+    {
+        const Ofd::PageText text = textOf(m_painter->document(), m_page, m_painter->fonts());
+        page.text = text.text;
+        page.boxes.clear();
+        page.boxes.reserve(text.boxes.size());
+        for (const QRectF &box : text.boxes)
+            page.boxes.append(toPageUnits(box));
+        page.lines.clear();
+        for (const Ofd::TextSpan &span : text.lines) {
+            TextLine line;
+            line.start = span.start;
+            line.length = span.length;
+            line.rect = toPageUnits(span.rect);
+            page.lines.append(line);
+        }
+    }
+
+private:
+    std::shared_ptr<Ofd::Painter> m_painter;
+    int m_page;
+};
+
+QList<NamedPlace> placesOf(const QVector<Ofd::Target> &targets)
+{
+    QList<NamedPlace> places;
+    for (const Ofd::Target &target : targets)
+        places.append({target.title, target.depth, target.page});
+    return places;
+}
+
+QString leftOutOf(const Ofd::Painter &painter)
+{
+    QMap<QString, int> counts = painter.unpaintable();
+    const QMap<QString, int> &unsupported = painter.document().unsupported;
+    for (auto kind = unsupported.cbegin(); kind != unsupported.cend(); ++kind)
+        counts[kind.key()] += kind.value();
+    QStringList parts;
+    for (auto kind = counts.cbegin(); kind != counts.cend(); ++kind)
+        parts.append(OfdFile::tr("%1 %2 处").arg(kind.key()).arg(kind.value()));
+    return parts.isEmpty() ? QString()
+                           : OfdFile::tr("未显示：%1").arg(parts.join(OfdFile::tr("，")));
+}
+
+} // namespace
+
+bool OfdFile::read(const QString &fileName, QList<Page> *pages, QString *error)
+{
+    const std::shared_ptr<const Ofd::Document> document = Ofd::read(fileName, error);
+    if (!document)
+        return false;
+    const auto painter = std::make_shared<Ofd::Painter>(document);
+    pages->clear();
+    for (int i = 0; i < document->pages.size(); ++i) {
+        Page page;
+        page.size = document->pages.at(i).area.size() * unitsPerMillimetre;
+        page.heading = tr("第 %1 页").arg(i + 1);
+        page.content = std::make_shared<OfdPageContent>(painter, i);
+        page.isTextRead = false;
+        pages->append(page);
+    }
+    archive = document->package->archive();
+    information = document->information;
+    outline = placesOf(document->outline);
+    bookmarks = placesOf(document->bookmarks);
+    attachments = document->attachments;
+    leftOut = leftOutOf(*painter);
+    return true;
+}

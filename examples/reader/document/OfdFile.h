@@ -1,0 +1,33 @@
+#pragma once
+
+#include "document/Page.h"
+
+#include <QByteArray>
+#include <QCoreApplication>
+#include <QPair>
+#include <QStringList>
+
+/** A place in a document that somebody gave a name. */
+struct NamedPlace
+{
+    QString name;
+    int depth = 0;
+    int page = -1; ///< Counted from 0; -1 if it leads nowhere.
+};
+
+/** What the reader knows of a file besides its pages. All of it is empty for generated pages. */
+struct OfdFile
+{
+    Q_DECLARE_TR_FUNCTIONS(OfdFile)
+
+public:
+    QByteArray archive; ///< The file itself, as it was read.
+    QVector<QPair<QString, QString>> information;
+    QList<NamedPlace> outline;
+    QList<NamedPlace> bookmarks;
+    QStringList attachments;
+    QString leftOut; ///< One line about what cannot be shown; empty if all can.
+
+    /** Reads a file; on a fault changes nothing and tells in one sentence what is wrong. */
+    bool read(const QString &fileName, QList<Page> *pages, QString *error);
+};

@@ -1,0 +1,79 @@
+#include "document/Page.h"
+
+#include <QFontMetricsF>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+QFont TextLine::font() const
+{
+    QFont font;
+    font.setPixelSize(pixelSize);
+    font.setBold(bold);
+    // Hinted widths would depend on the zoom, and hits would not sit on their words.
+    font.setHintingPreference(QFont::PreferNoHinting);
+    return font;
+}
+
+QList<QRectF> Page::rectsOf(int start, int length) const
+{
+    QList<QRectF> rects;
+    for (const TextLine &line : lines) {
+        const int from = std::max(start, line.start);
+        const int to = std::min(start + length, line.start + line.length);
+        if (from >= to)
+            continue;
+        if (!boxes.isEmpty()) {
+            QRectF rect;
+            for (int i = from; i < to; ++i)
+                rect |= boxes.at(i);
+            rects.append(rect);
+            continue;
+        }
+        const qreal left = leftOf(line, from - line.start);
+        const qreal right = leftOf(line, to - line.start);
+        rects.append(QRectF(left, line.rect.top(), right - left, line.rect.height()));
+    }
+    return rects;
+}
+
+int Page::positionAt(QPointF point) const
+{
+    const TextLine *nearest = nullptr;
+    qreal smallest = std::numeric_limits<qreal>::max();
+    for (const TextLine &line : lines) {
+        const qreal distance = distanceTo(line, point);
+        if (distance < smallest) {
+            smallest = distance;
+            nearest = &line;
+        }
+    }
+    if (!nearest)
+        return -1;
+
+    for (int i = 0; i < nearest->length; ++i) {
+        const QRectF box = boxes.value(nearest->start + i);
+        const qreal middle = boxes.isEmpty() ? (leftOf(*nearest, i) + leftOf(*nearest, i + 1)) / 2
+                                             : box.center().x();
+        if (point.x() < middle)
+            return nearest->start + i;
+    }
+    return nearest->start + nearest->length;
+}
+
+qreal Page::leftOf(const TextLine &line, int length) const
+{
+    return line.rect.left()
+           + QFontMetricsF(line.font()).horizontalAdvance(text.mid(line.start, length));
+}
+
+qreal Page::distanceTo(const TextLine &line, QPointF point) const
+{
+    const qreal down = std::abs(line.rect.center().y() - point.y());
+    if (boxes.isEmpty())
+        return down;
+    // Lines from a file may stand side by side.
+    const qreal aside = std::abs(line.rect.center().x() - point.x()) - line.rect.width() / 2;
+    return std::max(0.0, down - line.rect.height() / 2) + std::max(0.0, aside);
+}

@@ -1,0 +1,131 @@
+#pragma once
+
+#include "pages/PageCache.h"
+#include "pages/PageLayout.h"
+#include "pages/PagePainter.h"
+#include "pages/PageTool.h"
+#include "pages/ZoomMode.h"
+
+#include <QAbstractScrollArea>
+
+/**
+ * Shows the pages of a document and lets the mouse work on them.
+ *
+ * It changes the document only through its signals: what was drawn is announced, and whoever owns
+ * the document puts it there.
+ */
+class PageView : public QAbstractScrollArea
+{
+    Q_OBJECT
+
+public:
+    explicit PageView(const Document &document, QWidget *parent = nullptr);
+
+    /** The page that is read now, as an index. */
+    int currentPage() const { return m_currentPage; }
+    void setCurrentPage(int page);
+
+    LayoutMode layoutMode() const { return m_layoutMode; }
+    void setLayoutMode(LayoutMode mode);
+
+    ZoomMode zoomMode() const { return m_zoomMode; }
+    void setZoomMode(const ZoomMode &mode);
+    /** The percentage that the zoom mode comes to in this window. */
+    qreal percent() const;
+
+    BackgroundStyle background() const { return m_background; }
+    void setBackground(BackgroundStyle style);
+
+    const PageTool &tool() const { return m_tool; }
+    void setTool(const PageTool &tool);
+
+    /** The hits of a search, and the one that is looked at, which is scrolled into view. */
+    void setHits(const QList<TextRange> &hits, const TextRange &current);
+
+    const QList<TextRange> &selection() const { return m_decoration.selection; }
+    void setSelection(const QList<TextRange> &selection);
+    QString selectedText() const;
+    /** What the tool would put on the selected text, one mark a page. */
+    QList<Mark> marksOnSelection() const;
+
+    bool areRevisionsVisible() const { return m_decoration.revisionsVisible; }
+    void setRevisionsVisible(bool visible);
+
+Q_SIGNALS:
+    void currentPageChanged(int page);
+    /** The mode, or what it comes to. */
+    void zoomChanged();
+    void selectionChanged();
+    /** The user asks for the next zoom step, by the wheel. */
+    void zoomStepAsked(bool larger);
+    /** The user drew this; of a text the mark holds only the place. */
+    void markDrawn(const Mark &mark);
+    void inkRubbed(int page, QPointF point, qreal radius);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void scrollContentsBy(int dx, int dy) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    struct PagePoint
+    {
+        int page = -1;
+        QPointF point; ///< In page units.
+    };
+
+    /** What the mouse has done since it was pressed. */
+    struct Drag
+    {
+        bool isActive = false;
+        QPoint lastPosition;
+        PagePoint start;
+        int textStart = -1;
+        Mark mark;
+    };
+
+    // Where things are.
+    qreal screenFactor() const;
+    qreal scale() const { return percent() / 100 * screenFactor(); }
+    QSizeF turned(QSizeF size) const;
+    QSizeF fittedSize() const;
+    QList<QSizeF> turnedSizes() const;
+    QSizeF fittingArea() const;
+    QTransform pageTransform(const PageLayout::Place &place) const;
+    PagePoint pagePointAt(QPoint position) const;
+    QPoint scrollOffset() const;
+    void layOut();
+    void layOutAround(const PagePoint &anchor, QPointF target);
+    void scrollTo(QPointF deskPoint);
+    void showTopOf(int page);
+    void documentChanged();
+    void documentTurned();
+    void paintPlace(QPainter &painter, const PageLayout::Place &place);
+    void paintHint(QPainter &painter);
+
+    // What the mouse does.
+    void startDrag(QPoint position);
+    void selectTextTo(const PagePoint &to);
+    void extendDrawing(const PagePoint &to);
+    void finishDrag();
+    bool turnPage(int direction);
+    bool turnPageBy(const QKeyEvent &event);
+    void scrollBy(QKeyEvent *event);
+
+    const Document &m_document;
+    PageLayout m_layout;
+    LayoutMode m_layoutMode = LayoutMode::SinglePage;
+    ZoomMode m_zoomMode;
+    int m_currentPage = 0;
+    BackgroundStyle m_background = Background_Default;
+    PageTool m_tool;
+    PageDecoration m_decoration;
+    PageCache m_cache;
+    Drag m_drag;
+    bool m_scrollsItself = false;
+};

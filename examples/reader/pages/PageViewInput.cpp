@@ -1,0 +1,252 @@
+// What the mouse, the wheel and the keys do on the pages.
+
+#include "pages/PageView.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QScrollBar>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+constexpr qreal smallestShape = 4;
+constexpr QPointF textBoxCorner(190, 76);
+
+QPolygonF cornersOf(const QList<QRectF> &rects)
+{
+    QPolygonF corners;
+    for (const QRectF &rect : rects)
+        corners << rect.topLeft() << rect.topRight() << rect.bottomRight() << rect.bottomLeft();
+    return corners;
+}
+
+/** Where a key moves in the document: 1 on, -1 back, 0 for any other key. */
+int directionOf(const QKeyEvent &event)
+{
+    switch (event.key()) {
+    case Qt::Key_Down:
+    case Qt::Key_Right:
+    case Qt::Key_PageDown:
+        return 1;
+    case Qt::Key_Up:
+    case Qt::Key_Left:
+    case Qt::Key_PageUp:
+        return -1;
+    case Qt::Key_Space:
+        return event.modifiers() & Qt::ShiftModifier ? -1 : 1;
+    default:
+        return 0;
+    }
+}
+
+} // namespace
+
+void PageView::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton && m_document.isOpen())
+        startDrag(event->pos());
+}
+
+void PageView::startDrag(QPoint position)
+{
+    m_drag = Drag();
+    m_drag.isActive = true;
+    m_drag.lastPosition = position;
+    m_drag.start = pagePointAt(position);
+    m_drag.mark.page = m_drag.start.page;
+    m_drag.mark.kind = m_tool.kind;
+    m_drag.mark.colour = m_tool.colour;
+    m_drag.mark.width = m_tool.width;
+    m_drag.mark.text = m_tool.sign;
+    switch (m_tool.gesture) {
+    case PageTool::Pan:
+        viewport()->setCursor(Qt::ClosedHandCursor);
+        break;
+    case PageTool::SelectText:
+    case PageTool::MarkText:
+        m_drag.textStart = m_document.page(m_drag.start.page).positionAt(m_drag.start.point);
+        setSelection({});
+        break;
+    case PageTool::DrawShape:
+    case PageTool::DrawInk:
+        m_drag.mark.points << m_drag.start.point;
+        break;
+    case PageTool::Erase:
+        Q_EMIT inkRubbed(m_drag.start.page, m_drag.start.point, m_tool.width);
+        break;
+    case PageTool::PlaceText:
+        break;
+    }
+}
+
+void PageView::mouseMoveEvent(QMouseEvent *event)
+{
+    if (!m_drag.isActive)
+        return;
+    const QPoint moved = event->pos() - m_drag.lastPosition;
+    m_drag.lastPosition = event->pos();
+    const PagePoint now = pagePointAt(event->pos());
+    switch (m_tool.gesture) {
+    case PageTool::Pan:
+        horizontalScrollBar()->setValue(horizontalScrollBar()->value() - moved.x());
+        verticalScrollBar()->setValue(verticalScrollBar()->value() - moved.y());
+        break;
+    case PageTool::SelectText:
+    case PageTool::MarkText:
+        selectTextTo(now);
+        break;
+    case PageTool::DrawShape:
+    case PageTool::DrawInk:
+        extendDrawing(now);
+        break;
+    case PageTool::Erase:
+        Q_EMIT inkRubbed(now.page, now.point, m_tool.width);
+        break;
+    case PageTool::PlaceText:
+        break;
+    }
+}
+
+void PageView::selectTextTo(const PagePoint &to)
+{
+    if (to.page != m_drag.start.page || m_drag.textStart < 0)
+        return;
+    const int end = m_document.page(to.page).positionAt(to.point);
+    const int start = std::min(m_drag.textStart, end);
+    const int length = std::abs(end - m_drag.textStart);
+    setSelection(length > 0 ? QList<TextRange>{{to.page, start, length}} : QList<TextRange>());
+}
+
+void PageView::extendDrawing(const PagePoint &to)
+{
+    if (to.page != m_drag.start.page)
+        return;
+    QPolygonF &points = m_drag.mark.points;
+    if (m_tool.gesture == PageTool::DrawShape && points.size() > 1)
+        points.last() = to.point;
+    else
+        points << to.point;
+    viewport()->update();
+}
+
+void PageView::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton && m_drag.isActive)
+        finishDrag();
+}
+
+void PageView::finishDrag()
+{
+    // Whoever hears of the mark may open a dialog, during which nothing is being dragged.
+    const Drag drag = m_drag;
+    m_drag = Drag();
+    viewport()->update();
+    QList<Mark> marks = {drag.mark};
+    const QRectF rect = drag.mark.rect();
+    switch (m_tool.gesture) {
+    case PageTool::Pan:
+        viewport()->setCursor(Qt::OpenHandCursor);
+        return;
+    case PageTool::MarkText:
+        marks = marksOnSelection();
+        setSelection({});
+        break;
+    case PageTool::DrawShape:
+        if (std::max(rect.width(), rect.height()) < smallestShape)
+            return;
+        break;
+    case PageTool::PlaceText:
+        marks.first().points << drag.start.point << drag.start.point + textBoxCorner;
+        break;
+    case PageTool::DrawInk:
+        break;
+    default:
+        return;
+    }
+    for (const Mark &mark : std::as_const(marks))
+        Q_EMIT markDrawn(mark);
+}
+
+QList<Mark> PageView::marksOnSelection() const
+{
+    QList<Mark> marks;
+    for (const TextRange &range : selection()) {
+        Mark mark;
+        mark.kind = m_tool.kind;
+        mark.colour = m_tool.colour;
+        mark.width = m_tool.width;
+        mark.text = m_tool.sign;
+        mark.page = range.page;
+        mark.points = cornersOf(m_document.page(range.page).rectsOf(range.start, range.length));
+        marks.append(mark);
+    }
+    return marks;
+}
+
+void PageView::wheelEvent(QWheelEvent *event)
+{
+    const int turn = event->angleDelta().y();
+    if (event->modifiers() & Qt::ControlModifier) {
+        if (turn != 0)
+            Q_EMIT zoomStepAsked(turn > 0);
+        event->accept();
+        return;
+    }
+    const QScrollBar *bar = verticalScrollBar();
+    const bool atEnd = turn < 0 ? bar->value() == bar->maximum() : bar->value() == bar->minimum();
+    if (turn != 0 && atEnd && turnPage(turn < 0 ? 1 : -1)) {
+        event->accept();
+        return;
+    }
+    QAbstractScrollArea::wheelEvent(event);
+}
+
+bool PageView::turnPage(int direction)
+{
+    if (isFlow(m_layoutMode) || !m_document.isOpen())
+        return false;
+    const int perRow = pagesPerRow(m_layoutMode);
+    const int page = m_currentPage - m_currentPage % perRow + direction * perRow;
+    if (page < 0 || page >= m_document.pageCount())
+        return false;
+    setCurrentPage(page);
+    if (direction < 0)
+        verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+    return true;
+}
+
+void PageView::keyPressEvent(QKeyEvent *event)
+{
+    if (event->matches(QKeySequence::Copy))
+        QApplication::clipboard()->setText(selectedText());
+    else if (event->key() == Qt::Key_Home)
+        setCurrentPage(0);
+    else if (event->key() == Qt::Key_End)
+        setCurrentPage(m_document.pageCount() - 1);
+    else if (!turnPageBy(*event))
+        scrollBy(event);
+}
+
+bool PageView::turnPageBy(const QKeyEvent &event)
+{
+    const int direction = directionOf(event);
+    const bool isSideways = event.key() == Qt::Key_Left || event.key() == Qt::Key_Right;
+    const QScrollBar *bar = isSideways ? horizontalScrollBar() : verticalScrollBar();
+    const int end = direction > 0 ? bar->maximum() : bar->minimum();
+    return direction != 0 && bar->value() == end && turnPage(direction);
+}
+
+void PageView::scrollBy(QKeyEvent *event)
+{
+    if (event->key() != Qt::Key_Space) {
+        QAbstractScrollArea::keyPressEvent(event);
+        return;
+    }
+    verticalScrollBar()->triggerAction(directionOf(*event) > 0
+                                           ? QAbstractSlider::SliderPageStepAdd
+                                           : QAbstractSlider::SliderPageStepSub);
+}

@@ -1,0 +1,143 @@
+#include "panels/HandwritingSettings.h"
+
+#include <QColorDialog>
+#include <QInputDialog>
+#include <QLabel>
+#include <QPushButton>
+#include <QSlider>
+
+#include <array>
+
+namespace {
+
+constexpr int largestThickness = 20;
+constexpr int fullOpacity = 3;
+constexpr std::array<const char *, 4> opacityButtons = {
+    "pushButtonOpacity25p", "pushButtonOpacity50p", "pushButtonOpacity75p",
+    "pushButtonOpacity100p"};
+
+QList<QColor> firstColours()
+{
+    return {QColor(0x1B, 0x3A, 0x8C), Qt::black,   Qt::red,     Qt::blue, Qt::darkGreen,
+            QColor(0xE0, 0x7B, 0x00), Qt::magenta, Qt::darkRed, Qt::cyan, Qt::yellow};
+}
+
+/** Calls @p then when the user clicks the button of that name. */
+template <typename Then>
+void whenClicked(MRHandWriteDialog &dialog, const QString &name, Then then)
+{
+    if (auto *button = dialog.findChild<QPushButton *>(name))
+        QObject::connect(button, &QPushButton::clicked, &dialog, then);
+}
+
+} // namespace
+
+HandwritingSettings::HandwritingSettings(QObject *parent)
+    : QObject(parent)
+    , m_colours(firstColours())
+{
+    for (const QString &name : PageTool::penNames()) {
+        Track track;
+        track.id = int(m_tracks.size());
+        track.colour = m_colours.first();
+        track.thickness = qRound(PageTool::of(name).width);
+        track.maximumThickness = largestThickness;
+        track.opacity = fullOpacity;
+        m_tracks.push_back(track);
+    }
+}
+
+QString HandwritingSettings::edit(const QString &pen, QWidget *parent)
+{
+    m_current = std::max(0, int(PageTool::penNames().indexOf(pen)));
+    MRHandWriteDialog dialog(parent);
+    dialog.SetCommonColor(m_colours);
+    dialog.SetRegionSize(m_regionSize);
+    show(dialog, m_current);
+    followColours(dialog);
+    followThickness(dialog);
+    followTracks(dialog);
+    followRegion(dialog);
+    dialog.exec();
+    m_regionSize = dialog.GetRegionSize();
+    return PageTool::penNames().value(m_current);
+}
+
+PageTool HandwritingSettings::withInk(PageTool tool) const
+{
+    const int index = int(PageTool::penNames().indexOf(tool.name));
+    if (index < 0)
+        return tool;
+    const Track &track = m_tracks.at(size_t(index));
+    tool.colour = track.colour;
+    tool.colour.setAlphaF(qreal(track.opacity + 1) / int(opacityButtons.size()));
+    tool.width = std::max(1, track.thickness);
+    return tool;
+}
+
+void HandwritingSettings::followColours(MRHandWriteDialog &dialog)
+{
+    for (int i = 0; i < m_colours.size(); ++i) {
+        whenClicked(dialog, QStringLiteral("pushButtonColor%1").arg(i + 1),
+                    [this, i] { current().colour = m_colours.at(i); });
+    }
+    whenClicked(dialog, QStringLiteral("pushButtonFetch"), [this, &dialog] { askColour(dialog); });
+    if (auto *link = dialog.findChild<QLabel *>(QStringLiteral("labelOtherSelect"))) {
+        connect(link, &QLabel::linkActivated, &dialog, [this, &dialog] { askColour(dialog); });
+    }
+}
+
+void HandwritingSettings::followThickness(MRHandWriteDialog &dialog)
+{
+    if (auto *slider = dialog.findChild<QSlider *>(QStringLiteral("spliderThickness"))) {
+        connect(slider, &QSlider::valueChanged, &dialog,
+                [this](int thickness) { current().thickness = thickness; });
+    }
+    for (int i = 0; i < int(opacityButtons.size()); ++i) {
+        whenClicked(dialog, QLatin1String(opacityButtons.at(size_t(i))),
+                    [this, i] { current().opacity = i; });
+    }
+}
+
+void HandwritingSettings::followTracks(MRHandWriteDialog &dialog)
+{
+    for (int i = 0; i < int(m_tracks.size()); ++i) {
+        whenClicked(dialog, QStringLiteral("pushButtonTrack%1").arg(i + 1),
+                    [this, &dialog, i] { show(dialog, i); });
+    }
+}
+
+void HandwritingSettings::followRegion(MRHandWriteDialog &dialog)
+{
+    whenClicked(dialog, QStringLiteral("pushButtonRegionWrite"), [&dialog] { dialog.accept(); });
+    whenClicked(dialog, QStringLiteral("pushButtonRegionWriteSet"), [&dialog] {
+        bool isGiven = false;
+        const int size = QInputDialog::getInt(&dialog, tr("区域手写"), tr("区域的大小（像素）"),
+                                              dialog.GetRegionSize(), 20, 600, 10, &isGiven);
+        if (isGiven)
+            dialog.SetRegionSize(size);
+    });
+}
+
+void HandwritingSettings::askColour(MRHandWriteDialog &dialog)
+{
+    const QColor colour = QColorDialog::getColor(current().colour, &dialog);
+    if (!colour.isValid())
+        return;
+    current().colour = colour;
+    m_colours.last() = colour;
+    dialog.SetCommonColor(m_colours);
+    show(dialog, m_current);
+}
+
+void HandwritingSettings::show(MRHandWriteDialog &dialog, int track)
+{
+    QList<Track *> tracks;
+    for (Track &record : m_tracks) {
+        record.selected = record.id == track;
+        tracks.append(&record);
+    }
+    // Before the dialog moves its slider, so that the thickness goes to the right pen.
+    m_current = track;
+    dialog.SetCommonTrackInfo(tracks);
+}

@@ -1,0 +1,298 @@
+#include "panels/NavigationPanel.h"
+
+#include "pages/PagePainter.h"
+
+#include <QListWidget>
+#include <QPainter>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QStackedWidget>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace {
+
+const QString outline = QStringLiteral("vn_outline");
+const QString thumbnails = QStringLiteral("vn_thumbnail");
+const QString words = QStringLiteral("vn_customtag");
+const QString bookmarks = QStringLiteral("vn_bookmark");
+const QString marks = QStringLiteral("vn_annotation");
+const QString attachments = QStringLiteral("vn_attachment");
+
+constexpr int pageRole = Qt::UserRole;
+constexpr int wordRole = Qt::UserRole + 1;
+constexpr int paintedRole = Qt::UserRole + 2;
+constexpr int leastWidth = 200;
+constexpr QSize thumbnailSize(106, 150);
+
+QString titleOf(const QString &panel)
+{
+    static const QHash<QString, QString> titles = {
+        {outline, NavigationPanel::tr("大纲")},     {thumbnails, NavigationPanel::tr("缩略图")},
+        {words, NavigationPanel::tr("自定义标引")}, {bookmarks, NavigationPanel::tr("书签")},
+        {marks, NavigationPanel::tr("批注")},       {attachments, NavigationPanel::tr("附件")},
+    };
+    return titles.value(panel);
+}
+
+QStringList indexedWords()
+{
+    return {QStringLiteral("文档"), QStringLiteral("页面"), QStringLiteral("搜索"),
+            QStringLiteral("签章"), QStringLiteral("批注"), QStringLiteral("OFD")};
+}
+
+void addItem(QListWidget *list, const QString &text, int page)
+{
+    auto *item = new QListWidgetItem(text, list);
+    item->setData(pageRole, page);
+}
+
+void addNotice(QListWidget *list, const QString &text)
+{
+    auto *item = new QListWidgetItem(text, list);
+    item->setFlags(Qt::NoItemFlags);
+}
+
+QIcon thumbnailOf(const Document &document, int page, qreal ratio)
+{
+    QPixmap pixmap(thumbnailSize * ratio);
+    pixmap.setDevicePixelRatio(ratio);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+    const QSizeF size = document.sizeOf(page);
+    const QSizeF fitting = size.scaled(thumbnailSize, Qt::KeepAspectRatio);
+    const QRectF sheet(
+        QPointF(thumbnailSize.width() - fitting.width(), thumbnailSize.height() - fitting.height())
+            / 2,
+        fitting);
+    painter.save();
+    painter.setClipRect(sheet);
+    painter.translate(sheet.topLeft());
+    painter.scale(fitting.width() / size.width(), fitting.height() / size.height());
+    paintPage(painter, document, page, PageColours::of(Background_Default), PageDecoration());
+    painter.restore();
+    painter.setPen(Qt::gray);
+    painter.drawRect(sheet.toRect().adjusted(0, 0, -1, -1));
+    return QIcon(pixmap);
+}
+
+} // namespace
+
+NavigationPanel::NavigationPanel(const Document &document, QWidget *parent)
+    : QDockWidget(parent)
+    , m_document(document)
+    , m_stack(new QStackedWidget)
+    , m_bookmarkButton(new QPushButton(tr("为当前页添加书签")))
+{
+    setObjectName(QStringLiteral("navigation"));
+    auto *content = new QWidget;
+    auto *layout = new QVBoxLayout(content);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_stack);
+    layout->addWidget(m_bookmarkButton);
+    content->setMinimumWidth(leastWidth);
+    setWidget(content);
+    for (const QString &name : names())
+        addPanel(name);
+    m_lists.value(thumbnails)->setIconSize(thumbnailSize);
+    connect(m_lists.value(thumbnails)->verticalScrollBar(), &QScrollBar::valueChanged, this,
+            &NavigationPanel::paintThumbnails);
+    connect(m_lists.value(thumbnails)->verticalScrollBar(), &QScrollBar::rangeChanged, this,
+            &NavigationPanel::paintThumbnails);
+    addBookmarkButton();
+    hide();
+    connect(&document, &Document::pagesChanged, this, &NavigationPanel::documentOpened);
+    connect(&document, &Document::marksChanged, this, &NavigationPanel::refill);
+    connect(this, &QDockWidget::visibilityChanged, this, &NavigationPanel::shownPanelChanged);
+}
+
+QStringList NavigationPanel::names()
+{
+    return {outline, thumbnails, words, bookmarks, marks, attachments};
+}
+
+QListWidget *NavigationPanel::addPanel(const QString &name)
+{
+    auto *list = new QListWidget;
+    list->setAccessibleName(titleOf(name));
+    m_stack->addWidget(list);
+    m_lists.insert(name, list);
+    connect(list, &QListWidget::itemClicked, this, &NavigationPanel::itemChosen);
+    connect(list, &QListWidget::itemActivated, this, &NavigationPanel::itemChosen);
+    return list;
+}
+
+void NavigationPanel::addBookmarkButton()
+{
+    setTabOrder(m_lists.value(bookmarks), m_bookmarkButton);
+    connect(m_bookmarkButton, &QPushButton::clicked, this, [this] {
+        if (!m_document.isOpen() || m_bookmarks.contains(m_currentPage))
+            return;
+        m_bookmarks.append(m_currentPage);
+        std::sort(m_bookmarks.begin(), m_bookmarks.end());
+        refill();
+    });
+}
+
+void NavigationPanel::toggle(const QString &name)
+{
+    if (shownPanel() == name) {
+        hide();
+        return;
+    }
+    m_panel = name;
+    setWindowTitle(titleOf(name));
+    m_stack->setCurrentWidget(m_lists.value(name));
+    m_bookmarkButton->setVisible(name == bookmarks);
+    show();
+    refill();
+    Q_EMIT shownPanelChanged();
+}
+
+QString NavigationPanel::shownPanel() const
+{
+    return isHidden() ? QString() : m_panel;
+}
+
+void NavigationPanel::documentOpened()
+{
+    if (m_fileName != m_document.fileName()) {
+        m_fileName = m_document.fileName();
+        m_bookmarks.clear();
+    }
+    refill();
+}
+
+void NavigationPanel::refill()
+{
+    if (isHidden())
+        return;
+    QListWidget *list = m_lists.value(m_panel);
+    const int row = list->currentRow();
+    list->clear();
+    if (!m_document.isOpen())
+        addNotice(list, tr("没有打开的文档"));
+    else if (m_panel == outline)
+        fillOutline();
+    else if (m_panel == thumbnails)
+        fillThumbnails();
+    else if (m_panel == words)
+        fillWords();
+    else if (m_panel == bookmarks)
+        fillBookmarks();
+    else if (m_panel == marks)
+        fillMarks();
+    else
+        fillAttachments();
+    list->setCurrentRow(row);
+}
+
+void NavigationPanel::fillOutline()
+{
+    addPlaces(outline, m_document.file().outline);
+    if (!m_document.isGenerated()) {
+        if (m_document.file().outline.isEmpty())
+            addNotice(m_lists.value(outline), tr("本文档没有大纲"));
+        return;
+    }
+    for (int page = 0; page < m_document.pageCount(); ++page) {
+        const QString heading = m_document.page(page).heading;
+        addItem(m_lists.value(outline), QStringLiteral("%1　%2").arg(page + 1).arg(heading), page);
+    }
+}
+
+void NavigationPanel::fillThumbnails()
+{
+    QListWidget *list = m_lists.value(thumbnails);
+    QPixmap blank(thumbnailSize);
+    blank.fill(Qt::white);
+    for (int page = 0; page < m_document.pageCount(); ++page) {
+        addItem(list, QString::number(page + 1), page);
+        list->item(page)->setIcon(blank);
+    }
+    // Where the items are is known only once the list has laid them out.
+    QTimer::singleShot(0, this, &NavigationPanel::paintThumbnails);
+}
+
+void NavigationPanel::paintThumbnails()
+{
+    QListWidget *list = m_lists.value(thumbnails);
+    const QRect visible = list->viewport()->rect();
+    for (int page = 0; page < std::min(list->count(), m_document.pageCount()); ++page) {
+        QListWidgetItem *item = list->item(page);
+        if (item->data(paintedRole).toBool() || !list->visualItemRect(item).intersects(visible))
+            continue;
+        item->setData(paintedRole, true);
+        item->setIcon(thumbnailOf(m_document, page, devicePixelRatioF()));
+    }
+}
+
+void NavigationPanel::addPlaces(const QString &panel, const QList<NamedPlace> &places)
+{
+    for (const NamedPlace &place : places) {
+        const QString text = QString(2 * place.depth, QChar(u'　')) + place.name;
+        if (place.page >= 0)
+            addItem(m_lists.value(panel), text, place.page);
+        else
+            addNotice(m_lists.value(panel), text);
+    }
+}
+
+void NavigationPanel::fillWords()
+{
+    QListWidget *list = m_lists.value(words);
+    for (const QString &word : indexedWords()) {
+        int count = 0;
+        for (int page = 0; page < m_document.pageCount(); ++page)
+            count += int(m_document.page(page).text.count(word));
+        auto *item = new QListWidgetItem(tr("%1（%2 处）").arg(word).arg(count), list);
+        item->setData(wordRole, word);
+    }
+}
+
+void NavigationPanel::fillBookmarks()
+{
+    QListWidget *list = m_lists.value(bookmarks);
+    addPlaces(bookmarks, m_document.file().bookmarks);
+    for (const int page : std::as_const(m_bookmarks)) {
+        if (page < m_document.pageCount())
+            addItem(list, tr("第 %1 页").arg(page + 1), page);
+    }
+    if (list->count() == 0)
+        addNotice(list, tr("还没有书签"));
+}
+
+void NavigationPanel::fillMarks()
+{
+    QListWidget *list = m_lists.value(marks);
+    for (const Mark &mark : m_document.marks()) {
+        const QString place =
+            mark.page == everyPage ? tr("每一页") : tr("第 %1 页").arg(mark.page + 1);
+        const QString text = mark.text.isEmpty() ? QString() : tr("：%1").arg(mark.text);
+        addItem(list, place + QStringLiteral("　") + markName(mark.kind) + text,
+                std::max(0, mark.page));
+    }
+    if (list->count() == 0)
+        addNotice(list, tr("还没有批注"));
+}
+
+void NavigationPanel::fillAttachments()
+{
+    const QStringList names = m_document.file().attachments;
+    for (const QString &name : names)
+        addNotice(m_lists.value(attachments), name);
+    if (names.isEmpty())
+        addNotice(m_lists.value(attachments), tr("本文档没有附件"));
+}
+
+void NavigationPanel::itemChosen(const QListWidgetItem *item)
+{
+    const QString word = item->data(wordRole).toString();
+    if (!word.isEmpty())
+        Q_EMIT wordChosen(word);
+    else if (item->data(pageRole).isValid())
+        Q_EMIT pageChosen(item->data(pageRole).toInt());
+}

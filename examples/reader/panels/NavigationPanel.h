@@ -1,0 +1,60 @@
+#pragma once
+
+#include "document/Document.h"
+
+#include <QDockWidget>
+#include <QHash>
+
+class QListWidget;
+class QListWidgetItem;
+class QPushButton;
+class QStackedWidget;
+
+/** The dock with the navigation panels, each by the object name of its command. */
+class NavigationPanel : public QDockWidget
+{
+    Q_OBJECT
+
+public:
+    explicit NavigationPanel(const Document &document, QWidget *parent = nullptr);
+
+    /** Shows that panel, or hides the dock if it is on show already. */
+    void toggle(const QString &name);
+    /** The panel on show; empty while the dock is hidden. */
+    QString shownPanel() const;
+    /** The page that a new bookmark is for. */
+    void setCurrentPage(int page) { m_currentPage = page; }
+
+    static QStringList names();
+
+Q_SIGNALS:
+    /** The user chose a page, by its index. */
+    void pageChosen(int page);
+    /** The user chose an indexed word. */
+    void wordChosen(const QString &word);
+    void shownPanelChanged();
+
+private:
+    QListWidget *addPanel(const QString &name);
+    void addBookmarkButton();
+    void documentOpened();
+    void refill();
+    void fillOutline();
+    void fillThumbnails();
+    void paintThumbnails();
+    void fillWords();
+    void fillBookmarks();
+    void fillMarks();
+    void fillAttachments();
+    void addPlaces(const QString &panel, const QList<NamedPlace> &places);
+    void itemChosen(const QListWidgetItem *item);
+
+    const Document &m_document;
+    QStackedWidget *m_stack;
+    QHash<QString, QListWidget *> m_lists;
+    QPushButton *m_bookmarkButton;
+    QList<int> m_bookmarks;
+    QString m_fileName; ///< Of the document that the bookmarks are for.
+    QString m_panel;
+    int m_currentPage = 0;
+};

@@ -1,0 +1,75 @@
+#include "panels/PropertiesDialog.h"
+
+#include "document/Document.h"
+
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QFileInfo>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLocale>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr qreal millimetresPerUnit = 25.4 / 96;
+constexpr int valueWidth = 340;
+constexpr int mostLength = 400;
+
+void addRow(QFormLayout *form, const QString &name, const QString &value)
+{
+    auto *label = new QLabel(value.left(mostLength));
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    label->setMinimumWidth(valueWidth);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    form->addRow(PropertiesDialog::tr("%1：").arg(name), label);
+}
+
+QString sizeOf(const Document &document, int page)
+{
+    const QSizeF size = document.sizeOf(page) * millimetresPerUnit;
+    return PropertiesDialog::tr("%1 × %2 毫米（第 %3 页）")
+        .arg(qRound(size.width()))
+        .arg(qRound(size.height()))
+        .arg(page + 1);
+}
+
+void addFile(QFormLayout *form, const Document &document)
+{
+    if (document.isGenerated()) {
+        addRow(form, PropertiesDialog::tr("文档"), document.title());
+        addRow(form, PropertiesDialog::tr("来源"), PropertiesDialog::tr("页面由程序生成"));
+        return;
+    }
+    const OfdFile &file = document.file();
+    addRow(form, PropertiesDialog::tr("文件"), QDir::toNativeSeparators(document.fileName()));
+    addRow(form, PropertiesDialog::tr("大小"), QLocale().formattedDataSize(file.archive.size()));
+    for (const auto &entry : file.information)
+        addRow(form, entry.first, entry.second);
+}
+
+} // namespace
+
+PropertiesDialog::PropertiesDialog(const Document &document, int currentPage, QWidget *parent)
+    : QDialog(parent)
+{
+    setWindowTitle(tr("属性"));
+    auto *form = new QFormLayout;
+    form->setLabelAlignment(Qt::AlignRight | Qt::AlignTop);
+    addFile(form, document);
+    addRow(form, tr("页数"), QString::number(document.pageCount()));
+    addRow(form, tr("页面尺寸"), sizeOf(document, currentPage));
+    addRow(form, tr("字数"), QString::number(document.characterCount()));
+    addRow(form, tr("批注"), QString::number(document.marks().size()));
+    if (!document.file().leftOut.isEmpty())
+        addRow(form, tr("提示"), document.file().leftOut);
+
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close);
+    buttons->button(QDialogButtonBox::Close)->setText(tr("关闭"));
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    auto *layout = new QVBoxLayout(this);
+    layout->addLayout(form);
+    layout->addWidget(buttons);
+}

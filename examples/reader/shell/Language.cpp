@@ -1,0 +1,39 @@
+#include "shell/Language.h"
+
+#include <QCoreApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
+
+#include <memory>
+
+namespace {
+
+/** Where the toolkit keeps the translations of its own dialogs. */
+QString toolkitFolder()
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    return QLibraryInfo::location(QLibraryInfo::TranslationsPath);
+#else
+    return QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+#endif
+}
+
+void installFrom(const QString &folder, const QString &catalogue, const QLocale &locale)
+{
+    auto translator = std::make_unique<QTranslator>(QCoreApplication::instance());
+    // A text without a translation is shown as the sources have it.
+    if (translator->load(locale, catalogue, QStringLiteral("_"), folder))
+        QCoreApplication::installTranslator(translator.release());
+}
+
+} // namespace
+
+void Language::install(const QString &name)
+{
+    const QLocale locale(name);
+    QLocale::setDefault(locale);
+    installFrom(toolkitFolder(), QStringLiteral("qtbase"), locale);
+    installFrom(QStringLiteral(":/mr_toolbar/translations"), QStringLiteral("mrtoolbar"), locale);
+    installFrom(QStringLiteral(":/reader/translations"), QStringLiteral("reader"), locale);
+}

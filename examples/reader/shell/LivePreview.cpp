@@ -1,0 +1,88 @@
+#include "shell/LivePreview.h"
+
+#include "panels/FindingsPanel.h"
+#include "shell/Description.h"
+#include "shell/ReaderWindow.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace {
+
+Finding finding(const DescriptionFault &fault)
+{
+    return {Severity::Error, QStringLiteral("unreadable"), fault.line, fault.column, fault.message};
+}
+
+#ifdef READER_HAS_CHECKER
+QString emptyNotice()
+{
+    return LivePreview::tr("没有发现问题");
+}
+
+QVector<Finding> check(const QByteArray &content, const QString &skin)
+{
+    CheckOptions options;
+    options.skin = skin;
+    return checkDescription(content, options);
+}
+#else
+QString emptyNotice()
+{
+    return LivePreview::tr("文件可以读取；未编入描述检查器，不作进一步检查");
+}
+
+QVector<Finding> check(const QByteArray & /*content*/, const QString & /*skin*/)
+{
+    return {};
+}
+#endif
+
+/** Notes are many, and must not hide what is wrong. */
+bool isWorse(const Finding &one, const Finding &other)
+{
+    return one.severity > other.severity;
+}
+
+bool hasErrors(const QVector<Finding> &findings)
+{
+    return std::any_of(findings.begin(), findings.end(),
+                       [](const Finding &finding) { return finding.severity == Severity::Error; });
+}
+
+} // namespace
+
+LivePreview::LivePreview(ReaderWindow &window, const Options &options)
+    : m_window(window)
+    , m_options(options)
+    , m_panel(new FindingsPanel(emptyNotice(), &window))
+    , m_watcher(options.description)
+{
+    window.addDockWidget(Qt::BottomDockWidgetArea, m_panel);
+    connect(&m_watcher, &FileWatcher::fileRead, this, &LivePreview::showFile);
+    m_watcher.start();
+}
+
+void LivePreview::showFile(const QByteArray &content, const QString &fault)
+{
+    const QString fileName = QFileInfo(m_options.description).fileName();
+    const QString staleName = tr("%1，工具栏未更新").arg(fileName);
+    if (!fault.isEmpty()) {
+        m_panel->setFindings(staleName, {finding({tr("无法读取文件：%1").arg(fault)})});
+        return;
+    }
+    std::optional<DescriptionFault> parseFault;
+    QDomDocument description = Description::parse(content, &parseFault);
+    QVector<Finding> findings = check(content, m_options.skin);
+    // The checker has more to say about a text that is no description, but may not be there.
+    if (parseFault && !hasErrors(findings))
+        findings.prepend(finding(*parseFault));
+    std::stable_sort(findings.begin(), findings.end(), isWorse);
+    m_panel->setFindings(parseFault ? staleName : fileName, findings);
+    if (parseFault)
+        return;
+    if (m_options.clearHistory)
+        Description::addClearHistory(description);
+    m_window.setDescription(description);
+}

@@ -1,0 +1,126 @@
+#include "shell/Options.h"
+
+#include "shell/Description.h"
+
+#include <QCommandLineParser>
+#include <QFileInfo>
+
+namespace {
+
+const QStringList skins = {QStringLiteral("marodi"), QStringLiteral("lum")};
+const QStringList languages = {QStringLiteral("zh_CN"), QStringLiteral("en")};
+
+const QCommandLineOption &skinOption()
+{
+    static const QCommandLineOption option(QStringLiteral("skin"),
+                                           QStringLiteral("Skin to show: marodi or lum (marodi)."),
+                                           QStringLiteral("name"), skins.first());
+    return option;
+}
+
+const QCommandLineOption &descriptionOption()
+{
+    static const QCommandLineOption option(
+        QStringLiteral("description"),
+        QStringLiteral("Toolbar description: a file, or release or debug for one of the skin's own "
+                       "(release)."),
+        QStringLiteral("file"), QStringLiteral("release"));
+    return option;
+}
+
+const QCommandLineOption &languageOption()
+{
+    static const QCommandLineOption option(
+        QStringLiteral("language"),
+        QStringLiteral("Language of the reader: zh_CN or en (zh_CN). The toolbar shows the texts "
+                       "of its description."),
+        QStringLiteral("name"), languages.first());
+    return option;
+}
+
+const QCommandLineOption &screenshotOption()
+{
+    static const QCommandLineOption option(
+        QStringLiteral("screenshot"),
+        QStringLiteral("Save a picture of the window to this .png file and end."),
+        QStringLiteral("file"));
+    return option;
+}
+
+const QCommandLineOption &clearHistoryOption()
+{
+    static const QCommandLineOption option(
+        QStringLiteral("clear-history"),
+        QStringLiteral("Add the entry that clears the recent files to their menu; without it the "
+                       "menu stays empty."));
+    return option;
+}
+
+const QCommandLineOption &watchOption()
+{
+    static const QCommandLineOption option(
+        QStringLiteral("watch"),
+        QStringLiteral("Rebuild the toolbar whenever the file of the description is saved, and "
+                       "list what is wrong with it."));
+    return option;
+}
+
+/** Only a file of one's own is ever saved; the shipped descriptions are part of the library. */
+QString watchFaultOf(const QString &description)
+{
+    if (Description::isShipped(description))
+        return QStringLiteral("--watch needs a file of your own, as --description FILE");
+    if (!QFileInfo(description).isFile())
+        return QStringLiteral("--watch: there is no file '%1'").arg(description);
+    return QString();
+}
+
+QString faultOf(const QCommandLineParser &parser)
+{
+    const QString skin = parser.value(skinOption());
+    if (!skins.contains(skin))
+        return QStringLiteral("--skin takes marodi or lum, not '%1'").arg(skin);
+    const QString language = parser.value(languageOption());
+    if (!languages.contains(language))
+        return QStringLiteral("--language takes zh_CN or en, not '%1'").arg(language);
+    if (parser.positionalArguments().size() > 1)
+        return QStringLiteral("only one file can be opened at a time");
+    if (parser.isSet(screenshotOption()) && parser.value(screenshotOption()).isEmpty())
+        return QStringLiteral("--screenshot takes a file name");
+    if (parser.isSet(watchOption()))
+        return watchFaultOf(parser.value(descriptionOption()));
+    return QString();
+}
+
+} // namespace
+
+Options Options::of(const QStringList &arguments, QString *error)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("A small OFD reader."));
+    parser.addPositionalArgument(
+        QStringLiteral("file"), QStringLiteral("An OFD file; without one the pages are generated."),
+        QStringLiteral("[file]"));
+    parser.addOptions({skinOption(), languageOption(), descriptionOption(), watchOption(),
+                       screenshotOption(), clearHistoryOption()});
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
+                                  QStringLiteral("Show this text and end."));
+    parser.addOption(help);
+
+    Options options;
+    if (!parser.parse(arguments)) {
+        *error = parser.errorText();
+        return options;
+    }
+    if (parser.isSet(help))
+        parser.showHelp();
+    *error = faultOf(parser);
+    options.skin = parser.value(skinOption());
+    options.language = parser.value(languageOption());
+    options.description = parser.value(descriptionOption());
+    options.screenshot = parser.value(screenshotOption());
+    options.file = parser.positionalArguments().value(0);
+    options.watch = parser.isSet(watchOption());
+    options.clearHistory = parser.isSet(clearHistoryOption());
+    return options;
+}

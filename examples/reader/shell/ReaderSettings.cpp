@@ -1,0 +1,58 @@
+#include "shell/ReaderSettings.h"
+
+#include <QFileInfo>
+
+namespace {
+
+constexpr int defaultRecentLimit = 8;
+const QString recentFilesKey = QStringLiteral("recentFiles");
+const QString recentLimitKey = QStringLiteral("recentLimit");
+const QString quickAccessKey = QStringLiteral("quickAccessButtons/");
+
+} // namespace
+
+ReaderSettings::ReaderSettings()
+    : m_settings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("mrtoolbar"),
+                 QStringLiteral("reader"))
+{
+}
+
+QStringList ReaderSettings::recentFiles() const
+{
+    return m_settings.value(recentFilesKey).toStringList().mid(0, recentLimit());
+}
+
+void ReaderSettings::addRecentFile(const QString &fileName)
+{
+    const QString path = QFileInfo(fileName).absoluteFilePath();
+    QStringList files = recentFiles();
+    files.removeAll(path);
+    files.prepend(path);
+    m_settings.setValue(recentFilesKey, QStringList(files.mid(0, recentLimit())));
+}
+
+void ReaderSettings::clearRecentFiles()
+{
+    m_settings.remove(recentFilesKey);
+}
+
+int ReaderSettings::recentLimit() const
+{
+    return m_settings.value(recentLimitKey, defaultRecentLimit).toInt();
+}
+
+void ReaderSettings::setRecentLimit(int limit)
+{
+    m_settings.setValue(recentLimitKey, limit);
+}
+
+QString ReaderSettings::quickAccessButtons(const QString &skin) const
+{
+    return m_settings.value(quickAccessKey + skin).toString();
+}
+
+void ReaderSettings::setQuickAccessButtons(const QString &skin, const QString &buttons)
+{
+    // An empty setting means that none was made; a lone separator, that no button is wanted.
+    m_settings.setValue(quickAccessKey + skin, buttons.isEmpty() ? QStringLiteral(";") : buttons);
+}

@@ -1,0 +1,375 @@
+#include "shell/ReaderWindow.h"
+
+#include "pages/PageView.h"
+#include "panels/HandwritingSettings.h"
+#include "panels/HostPanel.h"
+#include "panels/NavigationPanel.h"
+#include "panels/SearchPanel.h"
+#include "panels/SignalLog.h"
+#include "shell/Description.h"
+#include "shell/KeyboardReach.h"
+
+#include <toolbar/MRToolBar.h>
+
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QDropEvent>
+#include <QLabel>
+#include <QMimeData>
+#include <QPushButton>
+#include <QStatusBar>
+#include <QToolBar>
+#include <QUrl>
+#include <QVBoxLayout>
+
+namespace {
+
+const QString quickAccessKey = QStringLiteral("quickaccessbarbuttons");
+const QString toolBarName = QStringLiteral("mrtoolbar");
+const QString sampleName = QStringLiteral("示例文档.ofd");
+constexpr int messageTime = 6000;
+constexpr int logWidth = 300;
+constexpr QSize windowSize(1280, 800);
+constexpr int referenceDpi = 96;
+
+/** The one local file that is being dragged; empty for anything else. */
+QString droppedFile(const QMimeData &data)
+{
+    const QList<QUrl> urls = data.urls();
+    return urls.size() == 1 ? urls.first().toLocalFile() : QString();
+}
+
+} // namespace
+
+void ReaderParts::say(const QString &message) const
+{
+    window->statusBar()->showMessage(message, messageTime);
+}
+
+ReaderWindow::ReaderWindow(const QDomDocument &description, const QString &skin)
+    : m_skin(skin)
+    , m_colours(HostPanel::firstSkin())
+    , m_view(new PageView(m_document, this))
+    , m_navigation(new NavigationPanel(m_document, this))
+    , m_search(new SearchPanel(m_document, *m_view, this))
+    , m_handwriting(new HandwritingSettings(this))
+    , m_hostPanel(new HostPanel)
+    , m_log(new SignalLog)
+    , m_place(new QLabel)
+    , m_fileCommands(parts())
+    , m_viewCommands(parts())
+    , m_editCommands(parts())
+{
+    setCentralWidget(m_view);
+    statusBar()->addPermanentWidget(m_place);
+    createDocks();
+    createToolBar(description);
+    createCommands();
+    connectKeys();
+    connectToolBar();
+    connectParts();
+    updateTitle();
+    m_report->tellAll(state());
+    setAcceptDrops(true);
+    resize(windowSize * logicalDpiX() / referenceDpi);
+    m_view->setFocus();
+}
+
+ReaderWindow::~ReaderWindow()
+{
+    // The docks go last, with the window, and have no business with a document that is gone.
+    m_document.disconnect();
+    m_document.undoStack().disconnect();
+    m_navigation->disconnect(this);
+}
+
+ReaderParts ReaderWindow::parts()
+{
+    return {this, &m_document, m_view, m_navigation, m_search, m_handwriting, &m_settings};
+}
+
+void ReaderWindow::createDocks()
+{
+    addDockWidget(Qt::LeftDockWidgetArea, m_navigation);
+    addDockWidget(Qt::LeftDockWidgetArea, m_search);
+
+    auto *content = new QWidget;
+    auto *layout = new QVBoxLayout(content);
+    layout->addWidget(m_hostPanel);
+    layout->addWidget(m_log);
+    content->setMinimumWidth(logWidth * logicalDpiX() / referenceDpi);
+    auto *dock = new QDockWidget(tr("宿主"), this);
+    dock->setObjectName(QStringLiteral("host"));
+    dock->setWidget(content);
+    addDockWidget(Qt::RightDockWidgetArea, dock);
+}
+
+void ReaderWindow::createToolBar(const QDomDocument &description)
+{
+    ToolBarSkinStyle skin = m_colours;
+    const QString buttons = m_skin.isEmpty() ? QString() : m_settings.quickAccessButtons(m_skin);
+    if (!buttons.isEmpty())
+        skin.insert(quickAccessKey, buttons);
+    m_description = description;
+    QDomNode root = m_description.documentElement();
+    m_toolBar = std::make_unique<MRToolBar>(this, root, skin, ToolBarLeft);
+    m_report.emplace(*m_toolBar, m_commands);
+    m_log->listenTo(*m_toolBar);
+}
+
+void ReaderWindow::setDescription(QDomDocument description)
+{
+    Description::beginWithTab(description, shownTab());
+    removeToolBar();
+    createToolBar(description);
+    connectToolBar();
+    m_report->tellAll(state());
+}
+
+void ReaderWindow::removeToolBar()
+{
+    auto *bar = findChild<QToolBar *>(toolBarName, Qt::FindDirectChildrenOnly);
+    if (bar->isAncestorOf(focusWidget()))
+        m_view->setFocus();
+    m_report.reset();
+    m_toolBar.reset();
+    // Not later: the next toolbar is made when the former is gone, as both bear the same names.
+    delete bar;
+}
+
+QString ReaderWindow::shownTab() const
+{
+    const QList<QPushButton *> buttons = findChildren<QPushButton *>();
+    for (const QPushButton *button : buttons) {
+        if (button->isChecked()
+            && button->property("module").toString() == QLatin1String("tabbutton"))
+            return button->objectName();
+    }
+    return QString();
+}
+
+void ReaderWindow::createCommands()
+{
+    m_fileCommands.addTo(m_commands);
+    m_viewCommands.addTo(m_commands);
+    m_editCommands.addTo(m_commands);
+}
+
+void ReaderWindow::connectKeys()
+{
+    const auto *keys = new KeyboardReach(this);
+    connect(keys, &KeyboardReach::commandAsked, this, [this](const QString &name) {
+        if (m_commands.isUsable(name, state()))
+            runCommand(name);
+    });
+    connect(keys, &KeyboardReach::escapePressed, this, &ReaderWindow::returnToPages);
+}
+
+void ReaderWindow::returnToPages()
+{
+    if (isFullScreen() && !KeyboardReach::isField(focusWidget()))
+        m_viewCommands.toggleFullScreen();
+    // Its title bar has no button for the keyboard.
+    if (m_search->isAncestorOf(focusWidget()))
+        m_search->hide();
+    m_report->tellFields();
+    m_view->setFocus();
+}
+
+void ReaderWindow::connectToolBar()
+{
+    const MRToolBar *toolBar = m_toolBar.get();
+    connect(toolBar, &MRToolBar::DoActive, this, &ReaderWindow::runCommand);
+    connect(toolBar, &MRToolBar::DoGotoPage, this, [this](int page) {
+        m_view->setCurrentPage(page - 1);
+        m_view->setFocus();
+        stateChanged();
+    });
+    connect(toolBar, &MRToolBar::DoOpenFile, this, &ReaderWindow::open);
+    connect(toolBar, &MRToolBar::DoSetZoomMode, this, [this](const QString &mode) {
+        if (m_document.isOpen())
+            m_view->setZoomMode(ZoomMode::fromName(mode));
+    });
+    connect(toolBar, &MRToolBar::DoSearchContent, m_search, &SearchPanel::search);
+    connect(toolBar, &MRToolBar::DoSetBackground, this, [this](BackgroundStyle style) {
+        m_view->setBackground(style);
+        stateChanged();
+    });
+    connect(toolBar, &MRToolBar::DoRequestAuthority, this, &ReaderWindow::answerRequest);
+    followZoomBox();
+}
+
+void ReaderWindow::connectParts()
+{
+    m_updateTimer.setSingleShot(true);
+    connect(&m_updateTimer, &QTimer::timeout, this, &ReaderWindow::updateToolBar);
+
+    connect(&m_document, &Document::pagesChanged, this, &ReaderWindow::stateChanged);
+    connect(&m_document.undoStack(), &QUndoStack::indexChanged, this, &ReaderWindow::stateChanged);
+    connect(&m_document.undoStack(), &QUndoStack::cleanChanged, this, &ReaderWindow::stateChanged);
+    connect(m_view, &PageView::currentPageChanged, m_navigation, &NavigationPanel::setCurrentPage);
+    connect(m_view, &PageView::currentPageChanged, this, &ReaderWindow::stateChanged);
+    connect(m_view, &PageView::zoomChanged, this, &ReaderWindow::stateChanged);
+    connect(m_view, &PageView::selectionChanged, this, &ReaderWindow::stateChanged);
+    connect(m_view, &PageView::zoomStepAsked, this, [this](bool larger) {
+        if (m_document.isOpen())
+            m_viewCommands.stepZoom(larger);
+    });
+    connect(m_view, &PageView::markDrawn, this,
+            [this](const Mark &mark) { m_editCommands.addDrawn(mark); });
+    connect(m_view, &PageView::inkRubbed, &m_document, &Document::eraseInk);
+
+    connect(m_navigation, &NavigationPanel::pageChosen, m_view, &PageView::setCurrentPage);
+    connect(m_navigation, &NavigationPanel::wordChosen, m_search, &SearchPanel::searchWord);
+    connect(m_navigation, &NavigationPanel::shownPanelChanged, this, &ReaderWindow::stateChanged);
+    connect(m_search, &SearchPanel::found, this,
+            [this](const QString &message) { parts().say(message); });
+
+    connect(m_hostPanel, &HostPanel::skinChosen, this, [this](const ToolBarSkinStyle &colours) {
+        m_colours = colours;
+        m_toolBar->DoSetSkinStyleSlot(colours);
+    });
+    connect(m_hostPanel, &HostPanel::handwritingAsked, this, [this] {
+        m_editCommands.editHandwriting();
+        stateChanged();
+    });
+}
+
+void ReaderWindow::runCommand(const QString &name)
+{
+    if (!m_commands.run(name))
+        parts().say(tr("没有实现的命令：%1").arg(name));
+    stateChanged();
+}
+
+void ReaderWindow::answerRequest()
+{
+    m_report->tellAll(state());
+    followZoomBox();
+}
+
+void ReaderWindow::followZoomBox()
+{
+    // A typed percentage that is one of the box's entries is not reported by the toolbar: the box
+    // only moves to that entry. The reader looks at the box itself, an ordinary child of its
+    // window.
+    const QStringList names = KeyboardReach::zoomBoxNames();
+    for (const QString &name : names) {
+        const auto *box = findChild<QComboBox *>(name);
+        if (!box)
+            continue;
+        connect(box, QOverload<int>::of(&QComboBox::activated), this, &ReaderWindow::readZoomBox,
+                Qt::UniqueConnection);
+    }
+}
+
+void ReaderWindow::readZoomBox(int index)
+{
+    const auto *box = qobject_cast<QComboBox *>(sender());
+    const ZoomMode mode = ZoomMode::fromName(box->itemData(index).toString());
+    if (m_document.isOpen() && mode.isValid())
+        m_view->setZoomMode(mode);
+}
+
+void ReaderWindow::open(const QString &fileName)
+{
+    m_fileCommands.open(fileName);
+    stateChanged();
+}
+
+void ReaderWindow::openSample()
+{
+    m_document.openGenerated(sampleName);
+    m_view->setCurrentPage(0);
+}
+
+ZoomMode ReaderWindow::shownZoom() const
+{
+    // A zoom box would show parts of the name of a mode that it does not offer.
+    const ZoomMode mode = m_view->zoomMode();
+    const bool isFitted = mode.isValid() && mode.kind() != ZoomMode::Percent;
+    return isFitted && !Description::offers(m_description, mode.name())
+               ? ZoomMode(qRound(m_view->percent()))
+               : mode;
+}
+
+ReaderState ReaderWindow::state() const
+{
+    ReaderState state;
+    state.isOpen = m_document.isOpen();
+    state.isModified = m_document.isModified();
+    state.canUndo = m_document.undoStack().canUndo();
+    state.canRedo = m_document.undoStack().canRedo();
+    state.hasSelection = !m_view->selection().isEmpty();
+    state.page = m_document.isOpen() ? m_view->currentPage() + 1 : 0;
+    state.pageCount = m_document.pageCount();
+    state.zoomMode = shownZoom().name();
+    state.layoutMode = ViewCommands::nameOf(m_view->layoutMode());
+    state.tool = m_view->tool().name;
+    state.panel = m_navigation->shownPanel();
+    state.background = m_view->background();
+    state.recentFiles = m_settings.recentFiles();
+    return state;
+}
+
+void ReaderWindow::stateChanged()
+{
+    // One command changes several things; the toolbar is told once, when all is done.
+    m_updateTimer.start(0);
+}
+
+void ReaderWindow::updateToolBar()
+{
+    m_report->tellChanges(state());
+    updateTitle();
+}
+
+void ReaderWindow::updateTitle()
+{
+    const QString application = tr("OFD阅读器");
+    setWindowModified(m_document.isModified());
+    if (!m_document.isOpen()) {
+        setWindowTitle(application);
+        m_place->clear();
+        return;
+    }
+    const QString origin = m_document.isGenerated() ? tr("（生成的页面）") : QStringLiteral(" ");
+    setWindowTitle(QStringLiteral("%1[*]%2- %3").arg(m_document.title(), origin, application));
+    m_place->setText(tr("第 %1 / %2 页　%3%")
+                         .arg(m_view->currentPage() + 1)
+                         .arg(m_document.pageCount())
+                         .arg(m_view->percent(), 0, 'f', 0));
+}
+
+void ReaderWindow::closeEvent(QCloseEvent *event)
+{
+    if (!m_fileCommands.mayLeaveDocument()) {
+        event->ignore();
+        return;
+    }
+    if (!m_skin.isEmpty())
+        m_settings.setQuickAccessButtons(m_skin, m_toolBar->GetQuickAccessButtonList());
+    QMainWindow::closeEvent(event);
+}
+
+void ReaderWindow::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (!droppedFile(*event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+void ReaderWindow::dropEvent(QDropEvent *event)
+{
+    const QString fileName = droppedFile(*event->mimeData());
+    if (fileName.isEmpty())
+        return;
+    event->acceptProposedAction();
+    open(fileName);
+}
+
+void ReaderWindow::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::WindowStateChange)
+        stateChanged();
+    QMainWindow::changeEvent(event);
+}

@@ -1,0 +1,94 @@
+#pragma once
+
+#include "commands/CommandTable.h"
+#include "commands/EditCommands.h"
+#include "commands/FileCommands.h"
+#include "commands/ViewCommands.h"
+#include "document/Document.h"
+#include "pages/ZoomMode.h"
+#include "shell/ReaderSettings.h"
+#include "shell/ToolBarReport.h"
+
+#include <QDomDocument>
+#include <QMainWindow>
+#include <QTimer>
+
+#include <memory>
+#include <optional>
+
+class HostPanel;
+class MRToolBar;
+class NavigationPanel;
+class PageView;
+class QLabel;
+class SearchPanel;
+class SignalLog;
+
+/** The reader: a toolbar made from a description, the pages, and the docks around them. */
+class ReaderWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    /**
+     * @param skin under which name the quick access buttons of this skin are remembered; empty to
+     *             have them as described each time.
+     */
+    ReaderWindow(const QDomDocument &description, const QString &skin);
+    ~ReaderWindow() override;
+
+    /** Replaces the toolbar; the document, and how it is looked at, stay as they are. */
+    void setDescription(QDomDocument description);
+
+    void open(const QString &fileName);
+    /** Opens a document that leaves no trace in the recent files. */
+    void openSample();
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+
+private:
+    ReaderParts parts();
+    void createDocks();
+    void createToolBar(const QDomDocument &description);
+    void removeToolBar();
+    QString shownTab() const;
+    ZoomMode shownZoom() const;
+    void createCommands();
+    void connectKeys();
+    void returnToPages();
+    void connectToolBar();
+    void connectParts();
+    void runCommand(const QString &name);
+    void answerRequest();
+    void followZoomBox();
+    void readZoomBox(int index);
+    ReaderState state() const;
+    void stateChanged();
+    void updateToolBar();
+    void updateTitle();
+
+    const QString m_skin;
+    ToolBarSkinStyle m_colours;
+    QDomDocument m_description;
+    ReaderSettings m_settings;
+    Document m_document;
+    PageView *m_view;
+    NavigationPanel *m_navigation;
+    SearchPanel *m_search;
+    HandwritingSettings *m_handwriting;
+    HostPanel *m_hostPanel;
+    SignalLog *m_log;
+    QLabel *m_place;
+
+    CommandTable m_commands;
+    FileCommands m_fileCommands;
+    ViewCommands m_viewCommands;
+    EditCommands m_editCommands;
+    std::unique_ptr<MRToolBar> m_toolBar;
+    std::optional<ToolBarReport> m_report;
+    QTimer m_updateTimer;
+};

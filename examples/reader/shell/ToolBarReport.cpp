@@ -1,0 +1,110 @@
+#include "shell/ToolBarReport.h"
+
+#include <toolbar/MRToolBar.h>
+
+namespace {
+
+const QString originalMode = QStringLiteral("vzmode_original");
+
+QStringList panelNames()
+{
+    return {QStringLiteral("vn_outline"),    QStringLiteral("vn_thumbnail"),
+            QStringLiteral("vn_customtag"),  QStringLiteral("vn_bookmark"),
+            QStringLiteral("vn_annotation"), QStringLiteral("vn_attachment")};
+}
+
+QStringList zoomButtonNames()
+{
+    return {originalMode, QStringLiteral("vzmode_fitwidth"), QStringLiteral("vzmode_fitheight"),
+            QStringLiteral("vzmode_fitpage")};
+}
+
+} // namespace
+
+ToolBarReport::ToolBarReport(MRToolBar &toolBar, const CommandTable &commands)
+    : m_toolBar(toolBar)
+    , m_commands(commands)
+{
+}
+
+void ToolBarReport::tellAll(const ReaderState &state)
+{
+    m_told = state;
+    tellUsable(state);
+    tellPage();
+    tellZoom();
+    m_toolBar.DoSetBackgroundSlot(state.background);
+    m_toolBar.DoUpdateRecentFileSlot(state.recentFiles);
+    tellChecked(state);
+}
+
+void ToolBarReport::tellChanges(const ReaderState &state)
+{
+    const ReaderState before = m_told;
+    m_told = state;
+    tellUsable(state);
+    // What the user is typing into a field must not be written over without need.
+    if (before.page != state.page || before.pageCount != state.pageCount)
+        tellPage();
+    if (before.zoomMode != state.zoomMode)
+        tellZoom();
+    if (before.background != state.background)
+        m_toolBar.DoSetBackgroundSlot(state.background);
+    if (before.recentFiles != state.recentFiles)
+        m_toolBar.DoUpdateRecentFileSlot(state.recentFiles);
+    tellChecked(state);
+}
+
+void ToolBarReport::tellFields()
+{
+    tellPage();
+    tellZoom();
+}
+
+void ToolBarReport::tellUsable(const ReaderState &state)
+{
+    const QStringList names = m_commands.names();
+    for (const QString &name : names) {
+        QString target = name;
+        m_toolBar.DoSetControlUsableStateSlot(target, m_commands.isUsable(name, state));
+    }
+}
+
+void ToolBarReport::tellChecked(const ReaderState &state)
+{
+    // A control is checked by being triggered, for which it must be enabled.
+    if (!state.isOpen)
+        return;
+    for (const QString &name : panelNames()) {
+        if (name != state.panel)
+            setChecked(name, false);
+    }
+    if (!state.panel.isEmpty())
+        setChecked(state.panel, true);
+
+    const bool isOriginal = state.zoomMode == QLatin1String("vzmode_100p");
+    const QString zoomButton = isOriginal ? originalMode : state.zoomMode;
+    for (const QString &name : zoomButtonNames()) {
+        if (name != zoomButton)
+            setChecked(name, false);
+    }
+    setChecked(zoomButton, true);
+    setChecked(state.layoutMode, true);
+    // Last: whatever else is reported lets go of the shape button.
+    setChecked(state.tool, true);
+}
+
+void ToolBarReport::tellPage()
+{
+    m_toolBar.DoSetPageInfoSlot(m_told.page, m_told.pageCount);
+}
+
+void ToolBarReport::tellZoom()
+{
+    m_toolBar.DoSetZoomModeSlot(m_told.zoomMode);
+}
+
+void ToolBarReport::setChecked(QString name, bool checked)
+{
+    m_toolBar.DoSetControlCheckedStateSlot(name, checked);
+}

@@ -1,0 +1,79 @@
+// A small OFD reader, whose commands all come from the toolbar.
+
+#include "shell/Description.h"
+#include "shell/Language.h"
+#include "shell/LivePreview.h"
+#include "shell/Options.h"
+#include "shell/ReaderWindow.h"
+#include "shell/Screenshot.h"
+
+#include <toolbar/NewToolBar.h>
+
+#include <QApplication>
+#include <QTextStream>
+
+#include <optional>
+
+namespace {
+
+constexpr int lumStyle = 1;
+
+int fail(const QString &reason)
+{
+    QTextStream(stderr) << QCoreApplication::applicationName() << ": " << reason << '\n';
+    return 1;
+}
+
+/** What the toolbar begins with: nothing where a watched file is about to give it. */
+QDomDocument describedToolBar(const Options &options, QString *error)
+{
+    if (options.watch)
+        return QDomDocument();
+    QDomDocument description = Description::read(options.description, options.skin, error);
+    if (error->isEmpty() && options.clearHistory)
+        Description::addClearHistory(description);
+    return description;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    // Icons as fine as the screen; the newer toolkit does so by itself.
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+#endif
+    QApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("mrtoolbar-reader"));
+
+    QString error;
+    const Options options = Options::of(QCoreApplication::arguments(), &error);
+    if (!error.isEmpty())
+        return fail(error);
+    Language::install(options.language);
+    const QDomDocument description = describedToolBar(options, &error);
+    if (!error.isEmpty())
+        return fail(error);
+
+    // The skin is the process's, and is chosen before the first toolbar is made.
+    NewToolBar::uiStyle = options.skin == QLatin1String("lum") ? lumStyle : 0;
+    // The user's buttons of quick access would hide what a watched description says of them.
+    ReaderWindow window(description, options.watch ? QString() : options.skin);
+    std::optional<LivePreview> preview;
+    if (options.watch)
+        preview.emplace(window, options);
+    if (options.file.isEmpty())
+        window.openSample();
+    else
+        window.open(options.file);
+    window.show();
+    if (options.screenshot.isEmpty())
+        return QApplication::exec();
+
+    Screenshot screenshot(&window, options.screenshot);
+    QObject::connect(&screenshot, &Screenshot::saved, &application,
+                     [] { QCoreApplication::exit(0); });
+    QObject::connect(&screenshot, &Screenshot::failed, &application,
+                     [](const QString &reason) { QCoreApplication::exit(fail(reason)); });
+    return QApplication::exec();
+}
