@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
 #include "pages/PageView.h"
 #include "shell/Description.h"
 #include "shell/ReaderWindow.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
 #include "commands/CommandTable.h"
 
 void CommandTable::add(const QStringList &names, Needs needs, const Run &run)

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
 #include "commands/EditCommands.h"
 
 #include "commands/CommandTable.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
 #include "document/Document.h"
 
 #include "document/DocumentEdits.h"

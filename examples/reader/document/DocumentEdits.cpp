@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
 #include "document/DocumentEdits.h"
 
 AddMarkEdit::AddMarkEdit(Document &document, const Mark &mark, const QString &what)

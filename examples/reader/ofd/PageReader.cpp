@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
 #include "ofd/PageReader.h"
 
 #include "ofd/Fault.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
 // What the mouse, the wheel and the keys do on the pages.
 
 #include "pages/PageView.h"

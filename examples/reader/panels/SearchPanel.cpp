@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
 #include "panels/SearchPanel.h"
 
 #include "pages/PageView.h"

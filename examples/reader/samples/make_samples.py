@@ -1,4 +1,7 @@
 #!/usr/bin/env python3
+# SPDX-FileCopyrightText: The MRToolBar authors
+# SPDX-License-Identifier: MIT
+
 """Writes the sample documents beside this script; --check only says whether they are up to date.
 
 The good ones show what the reader can paint, the broken ones what it must refuse.

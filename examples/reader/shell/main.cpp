@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
 // A small OFD reader, whose commands all come from the toolbar.
 
 #include "shell/Description.h"
