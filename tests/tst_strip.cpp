@@ -164,6 +164,53 @@ private Q_SLOTS:
         QVERIFY(bar->toggleViewAction()->isVisible());
     }
 
+    void shouldTakeItsStripAlongAndNoBarOfTheHost()
+    {
+        TestHost host(sections());
+        const QPointer<QToolBar> strip(host.find<QToolBar>("mrtoolbar"));
+        const QPointer<QToolBar> hostBar(host.window().addToolBar("Host's own"));
+        hostBar->addWidget(host.toolBar());
+        host.show();
+        QCOMPARE(host.toolBar()->parentWidget(), hostBar.data());
+
+        delete host.toolBar();
+        runDeferredDeletes();
+        QVERIFY2(hostBar && hostBar->isVisible(), "The host's tool bar went with the toolbar");
+        QVERIFY2(!strip, "An empty strip stays in the window");
+    }
+
+    void shouldEndWithEither_data()
+    {
+        QTest::addColumn<bool>("isMoved");
+        QTest::addColumn<QString>("ended");
+        for (const char *ended : {"mrtoolbar", "host's own", "the window"}) {
+            QTest::addRow("%s, in its strip", ended) << false << ended;
+            QTest::addRow("%s, moved", ended) << true << ended;
+        }
+    }
+
+    void shouldEndWithEither()
+    {
+        QFETCH(bool, isMoved);
+        QFETCH(QString, ended);
+        TestHost host(sections());
+        const QPointer<NewToolBar> toolBar(host.toolBar());
+        const QPointer<QToolBar> strip(host.find<QToolBar>("mrtoolbar"));
+        QToolBar *hostBar = host.window().addToolBar("Host's own");
+        hostBar->setObjectName("host's own");
+        if (isMoved)
+            hostBar->addWidget(toolBar);
+        host.show();
+        if (ended == "the window")
+            host.deleteWindow();
+        else
+            delete host.find<QToolBar>(ended);
+        runDeferredDeletes();
+        const bool staysInStrip = !isMoved && ended == "host's own";
+        QCOMPARE(!toolBar.isNull(), staysInStrip);
+        QCOMPARE(!strip.isNull(), staysInStrip);
+    }
+
     void shouldKeepThePoliciesOfItsParts()
     {
         TestHost host(sections());

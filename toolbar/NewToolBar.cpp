@@ -104,17 +104,19 @@ NewToolBar::NewToolBar(QMainWindow *mainWindow, QDomNode &description, QMap<QStr
     InitSkinStyle(skin);
     setLayout(m_mainLayout);
 
-    m_hostToolBar = m_mainWindow ? m_mainWindow->addToolBar(QStringLiteral("mr_toolbar")) : nullptr;
-    if (!m_hostToolBar)
+    QToolBar *strip =
+        m_mainWindow ? m_mainWindow->addToolBar(QStringLiteral("mr_toolbar")) : nullptr;
+    m_hostToolBar = strip;
+    if (!strip)
         return;
-    m_hostToolBar->setObjectName(Part::strip);
-    m_hostToolBar->setProperty(Property::inToolBar, "true");
-    m_hostToolBar->setContextMenuPolicy(Qt::NoContextMenu);
-    m_hostToolBar->setMovable(false);
+    strip->setObjectName(Part::strip);
+    strip->setProperty(Property::inToolBar, "true");
+    strip->setContextMenuPolicy(Qt::NoContextMenu);
+    strip->setMovable(false);
     // In the window's own context menu the user could only take the toolbar away for good.
-    new ContextMenuStop(m_hostToolBar);
-    m_hostToolBar->toggleViewAction()->setVisible(false);
-    m_hostToolBar->addWidget(this);
+    new ContextMenuStop(strip);
+    strip->toggleViewAction()->setVisible(false);
+    strip->addWidget(this);
     ResetSkinStyle();
 }
 
@@ -126,9 +128,10 @@ NewToolBar::~NewToolBar()
     releaseWidgetsInUse(this);
     giveStylesToMenus(m_menuStyles, m_appButtonWidgets);
 
-    // Without this widget its strip would be empty. A strip that is being deleted itself is no
-    // QToolBar any more while it deletes its children, and a tool bar of the host's is left alone.
-    if (auto *strip = qobject_cast<QToolBar *>(parentWidget()); strip && strip == m_hostToolBar)
+    // Without this widget its strip would be empty, also if the host has moved it into a tool bar
+    // of its own. A strip that is being deleted itself is no QToolBar any more while it deletes its
+    // children.
+    if (auto *strip = qobject_cast<QToolBar *>(m_hostToolBar.data()))
         strip->deleteLater();
 }
 

@@ -220,7 +220,8 @@ private:
     QPointer<QButtonGroup> m_tabButtonGroup;
     QPointer<QStackedWidget> m_toolRowStack;
     NamedList<QPushButton> m_tabButtons; ///< The buttons of the group, by name.
-    QPointer<QToolBar> m_hostToolBar;    ///< Owned by the main window; holds this widget.
+    /** The tool bar of the main window that holds this widget; no QToolBar while it is deleted. */
+    QPointer<QWidget> m_hostToolBar;
     NamedList<QWidget> m_extraGroups;
     NamedList<QToolButton> m_groupButtons;
     float m_scale = 1.0F; ///< Physical dpi of this widget's screen by 96.

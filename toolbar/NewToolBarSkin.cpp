@@ -23,7 +23,7 @@ constexpr QLatin1String plainToolBarRule =
  * Under a sheet of the application, a tool bar keeps the margins of that sheet for good unless it
  * has been polished before it gets ours.
  */
-void leaveApplicationSheet(QToolBar *hostToolBar)
+void leaveApplicationSheet(QWidget *hostToolBar)
 {
     if (qApp->styleSheet().isEmpty())
         return;
@@ -38,7 +38,7 @@ void leaveApplicationSheet(QToolBar *hostToolBar)
  * A button that gets its first sheet before it is polished looks up its rules twice: its answer to
  * the change of style needs them, and the polishing after it discards them.
  */
-void polishFilledRows(const QToolBar *hostToolBar)
+void polishFilledRows(const QWidget *hostToolBar)
 {
     const auto rows = hostToolBar->findChildren<MRMainToolBar *>();
     for (const MRMainToolBar *row : rows) {
@@ -50,7 +50,7 @@ void polishFilledRows(const QToolBar *hostToolBar)
     }
 }
 
-void applySheet(QToolBar *hostToolBar, const QString &sheet)
+void applySheet(QWidget *hostToolBar, const QString &sheet)
 {
     const QString current = hostToolBar->styleSheet();
     // Qt would style every control anew, and each one twice.

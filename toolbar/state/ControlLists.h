@@ -27,7 +27,7 @@ struct ControlLists
     template <typename Widget>
     using Pointer = const QPointer<Widget> &;
 
-    Pointer<QToolBar> wholeToolBar;
+    Pointer<QWidget> wholeToolBar;
     Pointer<QWidget> topLine;
     const NamedList<QWidget> &appButtons; ///< The application button, then the set button.
     Pointer<QToolBar> quickAccessBar;
