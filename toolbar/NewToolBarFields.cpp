@@ -7,6 +7,7 @@
 #include "toolbar/commands/Backgrounds.h"
 
 #include <QAction>
+#include <QActionGroup>
 #include <QLineEdit>
 
 QAction *NewToolBar::GetActionInTotal(QString name)

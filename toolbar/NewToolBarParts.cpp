@@ -11,6 +11,7 @@
 #include "toolbar/widgets/MRSearchBar.h"
 
 #include <QAction>
+#include <QActionGroup>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMenu>

@@ -3,6 +3,7 @@
 
 # Compares what LIBRARY exports, as NM tells it, with what is listed in LIST, whole classes or single
 # members, and looks for code that LIBRARY would run on loading.
+cmake_minimum_required(VERSION 3.25)
 file(STRINGS ${LIST} listed REGEX "^[^#]")
 
 execute_process(COMMAND ${NM} --dynamic --demangle --defined-only ${LIBRARY}

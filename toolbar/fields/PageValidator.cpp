@@ -3,8 +3,6 @@
 
 #include "toolbar/fields/PageValidator.h"
 
-#include "toolbar/QtCompat.h"
-
 #include <QLineEdit>
 #include <QSignalBlocker>
 
