@@ -16,7 +16,6 @@
 #include "toolbar/widgets/MRSearchBar.h"
 
 #include <QAction>
-#include <QComboBox>
 #include <QMenu>
 #include <QToolBar>
 #include <QToolButton>
@@ -204,7 +203,7 @@ void NewToolBar::Inner_DoAddtionalControlActionSlot()
 
 bool NewToolBar::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_parts->zoom.box())
+    if (m_parts->zoom.isBox(watched))
         m_parts->zoom.watch(*event);
     if (event->type() == QEvent::ActionAdded)
         markOverflowMenu(watched);

@@ -143,9 +143,10 @@ public:
 
     void expectReset(MRToolBar &facade)
     {
-        m_total = 0;
         const int heardBefore = m_heard;
         facade.DoResetToolbarSlot();
+        // Last: the user may go to a page while the host answers the report of the zoom.
+        m_total = 0;
         // The host may have set anything in its answer to the zoom.
         if (m_heard != heardBefore)
             return;

@@ -56,6 +56,7 @@ void ZoomBox::take(QComboBox *box, const QStringList &modes)
 {
     setTypable(box, box->isEditable() || box->currentText().endsWith(QLatin1Char('%')));
     m_box = box;
+    m_identity = box;
     m_index = box->currentIndex();
     m_modes = modes;
     box->setToolTip(hint());

@@ -25,6 +25,8 @@ class ZoomBox : public QObject
 public:
     /** The list; null before there is one and after it has gone. */
     const QPointer<QComboBox> &box() const;
+    /** Whether the object is the list, even if that is being destroyed and no list any more. */
+    bool isBox(const QObject *object) const { return object == m_identity; }
 
     /** Makes @p box the list from now on; its entries stand for @p modes. */
     void take(QComboBox *box, const QStringList &modes);
@@ -57,6 +59,7 @@ private:
     void showHint();
 
     QPointer<QComboBox> m_box;
+    const QObject *m_identity = nullptr;
     QStringList m_modes; ///< Names of the predefined entries, in the order of the list.
     int m_index = 0;     ///< Of the entry on show; beyond the predefined ones for any other zoom.
     QString m_customText;
