@@ -67,6 +67,13 @@ void giveStylesToMenus(const QList<CustomMenuStyle *> &styles, const NamedList<Q
     }
 }
 
+QWidget *makeTopLine()
+{
+    auto *line = new QWidget(nullptr, Qt::FramelessWindowHint);
+    line->setObjectName(Part::topLine);
+    return line;
+}
+
 void showTabs(const QList<QAbstractButton *> &tabs, const QList<bool> &visibleTabs)
 {
     for (int i = 0; i < tabs.size(); ++i)
@@ -166,9 +173,8 @@ bool NewToolBar::InitWidget()
     if (!InitLayout())
         return false;
 
-    m_topWidget = new QWidget(nullptr, Qt::FramelessWindowHint);
+    m_topWidget = makeTopLine();
     m_mainLayout->addWidget(m_topWidget);
-    m_topWidget->setObjectName(Part::topLine);
 
     bool customiseVisible = false;
     QList<bool> visibleTabs;
@@ -198,8 +204,7 @@ bool NewToolBar::InitWidget()
     // The Tab key goes along the top line, then down to the row.
     QWidgetList line = m_appButtonWidgets.objects() + buttonsOf<QToolButton>(m_quickAccessBar);
     line.append(customise);
-    for (QPushButton *tab : m_tabButtons)
-        line.append(tab);
+    line += QWidgetList(tabs.begin(), tabs.end());
     line.append(m_searchBar);
     line += buttonsOf<QPushButton>(m_searchBar);
     line.append(m_searchSetButton);
