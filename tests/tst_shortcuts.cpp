@@ -61,6 +61,9 @@ public:
     /** Presses the key with the focus in a widget, as a program and as the window system would. */
     void press(QWidget *focused)
     {
+        // A menu that has just been closed may still be the active window.
+        window().activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window()));
         focused->setFocus(Qt::TabFocusReason);
         m_active.clear();
         m_hostCalls = 0;
