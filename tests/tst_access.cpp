@@ -9,6 +9,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QStackedWidget>
+#include <QToolBar>
 
 namespace {
 
@@ -97,6 +98,41 @@ private Q_SLOTS:
             QVERIFY2(before->mapToGlobal(QPoint()).x() < after->mapToGlobal(QPoint()).x(),
                      qPrintable(before->objectName() + " > " + after->objectName()));
         }
+    }
+
+    void shouldGiveTheFocusByNameToWhatIsOnShowOnly()
+    {
+        const auto host = TestHost::withShipped(QStringLiteral("marodi/mr_toolbar.release.xml"));
+        auto *document = new QLineEdit;
+        host->window().setCentralWidget(document);
+        host->window().resize(host->scaled(500), host->scaled(400));
+        host->show();
+        host->enableEverything();
+        const auto giveFocus = [&host](const char *name) {
+            return host->facade().DoSetFocusSlot(QLatin1String(name));
+        };
+        host->facade().DoSetPageInfoSlot(3, 12);
+        for (const char *name : {"st_input", "d_gotopage"}) {
+            QVERIFY2(giveFocus(name), name);
+            const auto *field = host->find<QLineEdit>(QLatin1String(name));
+            QCOMPARE(QApplication::focusWidget(), field);
+            QCOMPARE(field->selectedText(), field->text());
+            QTRY_COMPARE(field->visibleRegion().boundingRect(), field->rect());
+        }
+        QVERIFY(giveFocus(""));
+        QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("menu_file"));
+
+        document->setFocus();
+        host->setUsable(QStringLiteral("d_gotopage"), false);
+        for (const char *name : {"d_gotopage", "st_icon", "no control"}) {
+            QVERIFY2(!giveFocus(name), name);
+            QCOMPARE(QApplication::focusWidget(), document);
+        }
+        host->setUsable(QStringLiteral("d_gotopage"), true);
+        host->setVisible(QStringLiteral("d_gotopage"), false);
+        QVERIFY(!giveFocus("d_gotopage"));
+        delete host->find<QToolBar>(QStringLiteral("mrtoolbar"));
+        QVERIFY(!giveFocus(""));
     }
 
     void shouldReturnTheFocusToTheDocumentByEscape_data()

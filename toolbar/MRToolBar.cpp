@@ -189,3 +189,8 @@ void MRToolBar::DoResetToolbarSlot()
     if (m_toolBar)
         m_toolBar->ResetToolbarState();
 }
+
+bool MRToolBar::DoSetFocusSlot(const QString &objName)
+{
+    return m_toolBar && m_toolBar->SetControlFocus(objName);
+}

@@ -160,6 +160,15 @@ public Q_SLOTS:
     void DoSetSkinStyleSlot(ToolBarSkinStyle style);
     /** Back to actual size, no page and nothing checked; nothing is enabled or shown by it. */
     void DoResetToolbarSlot();
+    /**
+     * Gives the keyboard focus to the control of that name, for a key of the host's such as Ctrl+F.
+     * Its row scrolls to it; the text of a field is selected, and a box that takes no text opens
+     * its list. With an empty name the focus goes to the first control that the Tab key stops at.
+     *
+     * @return false, with nothing changed, for a control that is not on show, disabled, or never
+     *         takes the focus. No tab is opened for it.
+     */
+    bool DoSetFocusSlot(const QString &objName);
 
 private:
     void connectToolBar();

@@ -77,6 +77,7 @@ public:
     QString GetQuickAccessButtonList();
     QString GetToolBarStyleSheet();
     void ResetToolbarState();
+    bool SetControlFocus(const QString &name);
     /** @} */
 
     /** The skin's directory of resources, with its trailing slash. */

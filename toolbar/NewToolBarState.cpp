@@ -5,6 +5,7 @@
 
 #include "toolbar/NewToolBarParts.h"
 #include "toolbar/description/Names.h"
+#include "toolbar/widgets/FocusEntry.h"
 #include "toolbar/widgets/MRScrollWidget.h"
 
 #include <QStackedWidget>
@@ -61,6 +62,11 @@ bool NewToolBar::IsSupportByToolBar(QString name)
 QRect NewToolBar::GetControlGeometry(QString name)
 {
     return m_parts->states.geometry(name);
+}
+
+bool NewToolBar::SetControlFocus(const QString &name)
+{
+    return name.isEmpty() ? FocusEntry::enterFirst(this) : FocusEntry::enterControl(this, name);
 }
 
 void NewToolBar::ResetToolbarState()

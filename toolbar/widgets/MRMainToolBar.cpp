@@ -16,6 +16,8 @@ MRMainToolBar::MRMainToolBar(QWidget *parent)
     , m_extensionName(m_extension ? m_extension->objectName() : QString())
 {
     setProperty(Property::inToolBar, "true");
+    if (m_extension)
+        m_extension->setAccessibleName(tr("更多"));
 }
 
 bool MRMainToolBar::event(QEvent *event)

@@ -4,12 +4,12 @@
 #include "commands/FileCommands.h"
 
 #include "commands/CommandTable.h"
+#include "commands/RecentFiles.h"
 #include "document/Document.h"
 #include "pages/Export.h"
 #include "pages/PageView.h"
 #include "pages/Printing.h"
 #include "panels/PropertiesDialog.h"
-#include "shell/ReaderSettings.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -59,7 +59,7 @@ void FileCommands::addTo(CommandTable &table)
     table.add(name("f_property"), Needs::Document, [this](const QString &) { showProperties(); });
     table.add(name("f_exit"), Needs::Nothing, [this](const QString &) { m_parts.window->close(); });
     table.add(name("f_clearhistory"), Needs::Nothing,
-              [this](const QString &) { m_parts.settings->clearRecentFiles(); });
+              [this](const QString &) { m_parts.recentFiles->clearRecentFiles(); });
     table.add(name("f_saveenv"), Needs::Document,
               [this](const QString &) { m_parts.say(tr("保存信封：示例不生成数字信封")); });
     table.add(name("e_preference"), Needs::Nothing, [this](const QString &) { showPreferences(); });
@@ -79,7 +79,7 @@ void FileCommands::open(const QString &fileName)
         return;
     }
     m_savedFile.clear();
-    m_parts.settings->addRecentFile(fileName);
+    m_parts.recentFiles->addRecentFile(fileName);
     m_parts.view->setCurrentPage(0);
     m_parts.view->setFocus();
     const QString leftOut = m_parts.document->file().leftOut;
@@ -198,9 +198,9 @@ void FileCommands::showPreferences()
     bool isGiven = false;
     const int limit =
         QInputDialog::getInt(m_parts.window, tr("设置"), tr("最近打开的文件的数量"),
-                             m_parts.settings->recentLimit(), 1, mostRecentFiles, 1, &isGiven);
+                             m_parts.recentFiles->recentLimit(), 1, mostRecentFiles, 1, &isGiven);
     if (isGiven)
-        m_parts.settings->setRecentLimit(limit);
+        m_parts.recentFiles->setRecentLimit(limit);
 }
 
 void FileCommands::showAbout() const

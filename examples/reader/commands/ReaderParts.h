@@ -9,7 +9,7 @@ class NavigationPanel;
 class PageView;
 class QMainWindow;
 class QString;
-class ReaderSettings;
+class RecentFiles;
 class SearchPanel;
 
 /** What commands work on. The window owns all of it. */
@@ -21,7 +21,7 @@ struct ReaderParts
     NavigationPanel *navigation = nullptr;
     SearchPanel *search = nullptr;
     HandwritingSettings *handwriting = nullptr;
-    ReaderSettings *settings = nullptr;
+    RecentFiles *recentFiles = nullptr;
 
     /** Shows a line in the status bar for a while. */
     void say(const QString &message) const;

@@ -8,16 +8,14 @@
 #include "pages/PageView.h"
 #include "panels/NavigationPanel.h"
 #include "panels/SearchPanel.h"
+#include "reach/ToolBarReach.h"
 
-#include <QLineEdit>
 #include <QMainWindow>
 #include <QMap>
 #include <QMessageBox>
 #include <QStatusBar>
 
 namespace {
-
-const QString searchFieldName = QStringLiteral("st_input");
 
 const QMap<QString, LayoutMode> &layouts()
 {
@@ -162,11 +160,6 @@ void ViewCommands::showInk() const
 
 void ViewCommands::findInToolBar()
 {
-    // The toolbar is an ordinary child of the window, its field bears the name of the description.
-    if (auto *field = m_parts.window->findChild<QLineEdit *>(searchFieldName)) {
-        field->setFocus(Qt::ShortcutFocusReason);
-        field->selectAll();
-    } else {
+    if (!ToolBarReach::enterSearchField(*m_parts.window))
         m_parts.search->open();
-    }
 }

@@ -3,7 +3,6 @@
 
 #include "document/Document.h"
 
-#include "document/DocumentEdits.h"
 #include "document/PageGenerator.h"
 
 #include <QFileInfo>

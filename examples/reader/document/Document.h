@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "document/Mark.h"
+#include "document/DocumentEdits.h"
 #include "document/OfdFile.h"
 
 #include <QList>
@@ -15,7 +15,7 @@
  *
  * Everything that changes the document, or the way its pages are turned, can be undone.
  */
-class Document : public QObject
+class Document : public QObject, private EditableDocument
 {
     Q_OBJECT
 
@@ -43,7 +43,7 @@ public:
     const PageContent *contentOf(int page) const { return m_pages.at(page).content.get(); }
     /** As wide as the widest page and as high as the highest. */
     QSizeF largestSize() const { return m_largestSize; }
-    const QList<Mark> &marks() const { return m_marks; }
+    const QList<Mark> &marks() const override { return m_marks; }
     bool hasPageOf(const Mark &mark) const;
     int characterCount() const;
 
@@ -70,18 +70,14 @@ Q_SIGNALS:
     void turned();
 
 private:
-    friend class AddMarkEdit;
-    friend class RemoveMarkEdit;
-    friend class InsertPageEdit;
-    friend class TurnEdit;
-
     void replace(const QString &fileName, const QList<Page> &pages, const OfdFile &file);
-    void placeMark(int position, const Mark &mark);
-    void removeMark(int id);
-    void placePage(int index, const Page &page);
-    void removePage(int index);
-    void turnBy(int quarters);
     void pagesReplaced();
+
+    void placeMark(int position, const Mark &mark) override;
+    void removeMark(int id) override;
+    void placePage(int index, const Page &page) override;
+    void removePage(int index) override;
+    void turnBy(int quarters) override;
 
     QString m_fileName;
     OfdFile m_file;

@@ -3,7 +3,7 @@
 
 #include "document/DocumentEdits.h"
 
-AddMarkEdit::AddMarkEdit(Document &document, const Mark &mark, const QString &what)
+AddMarkEdit::AddMarkEdit(EditableDocument &document, const Mark &mark, const QString &what)
     : QUndoCommand(what)
     , m_document(document)
     , m_mark(mark)
@@ -20,7 +20,7 @@ void AddMarkEdit::undo()
     m_document.removeMark(m_mark.id);
 }
 
-RemoveMarkEdit::RemoveMarkEdit(Document &document, int position)
+RemoveMarkEdit::RemoveMarkEdit(EditableDocument &document, int position)
     : QUndoCommand(tr("擦除笔迹"))
     , m_document(document)
     , m_position(position)
@@ -38,7 +38,8 @@ void RemoveMarkEdit::undo()
     m_document.placeMark(m_position, m_mark);
 }
 
-InsertPageEdit::InsertPageEdit(Document &document, int index, const Page &page, const QString &what)
+InsertPageEdit::InsertPageEdit(EditableDocument &document, int index, const Page &page,
+                               const QString &what)
     : QUndoCommand(what)
     , m_document(document)
     , m_index(index)
@@ -56,7 +57,7 @@ void InsertPageEdit::undo()
     m_document.removePage(m_index);
 }
 
-TurnEdit::TurnEdit(Document &document, int quarters, const QString &what)
+TurnEdit::TurnEdit(EditableDocument &document, int quarters, const QString &what)
     : QUndoCommand(what)
     , m_document(document)
     , m_quarters(quarters)

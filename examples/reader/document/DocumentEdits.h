@@ -3,36 +3,54 @@
 
 #pragma once
 
-#include "document/Document.h"
+#include "document/Mark.h"
+#include "document/Page.h"
 
 #include <QCoreApplication>
 #include <QUndoCommand>
+
+/** What edits do to a document. Nothing else does, or it could not be undone. */
+class EditableDocument
+{
+public:
+    EditableDocument() = default;
+    virtual ~EditableDocument() = default;
+    Q_DISABLE_COPY(EditableDocument)
+
+    virtual const QList<Mark> &marks() const = 0;
+    virtual void placeMark(int position, const Mark &mark) = 0;
+    virtual void removeMark(int id) = 0;
+    virtual void placePage(int index, const Page &page) = 0;
+    virtual void removePage(int index) = 0;
+    /** Turns all pages by quarters of a circle, clockwise. */
+    virtual void turnBy(int quarters) = 0;
+};
 
 /** A mark put on a page. */
 class AddMarkEdit : public QUndoCommand
 {
 public:
-    AddMarkEdit(Document &document, const Mark &mark, const QString &what);
+    AddMarkEdit(EditableDocument &document, const Mark &mark, const QString &what);
     void redo() override;
     void undo() override;
 
 private:
-    Document &m_document;
+    EditableDocument &m_document;
     Mark m_mark;
 };
 
-/** A mark rubbed out; it comes back where it was in the order of drawing. */
+/** A mark erased; undoing puts it back where it was in the order of drawing. */
 class RemoveMarkEdit : public QUndoCommand
 {
     Q_DECLARE_TR_FUNCTIONS(RemoveMarkEdit)
 
 public:
-    RemoveMarkEdit(Document &document, int position);
+    RemoveMarkEdit(EditableDocument &document, int position);
     void redo() override;
     void undo() override;
 
 private:
-    Document &m_document;
+    EditableDocument &m_document;
     int m_position;
     Mark m_mark;
 };
@@ -43,13 +61,13 @@ class TurnEdit : public QUndoCommand
 public:
     static constexpr int kind = 1;
 
-    TurnEdit(Document &document, int quarters, const QString &what);
+    TurnEdit(EditableDocument &document, int quarters, const QString &what);
     void redo() override;
     void undo() override;
     int id() const override { return kind; }
 
 private:
-    Document &m_document;
+    EditableDocument &m_document;
     int m_quarters;
 };
 
@@ -57,12 +75,12 @@ private:
 class InsertPageEdit : public QUndoCommand
 {
 public:
-    InsertPageEdit(Document &document, int index, const Page &page, const QString &what);
+    InsertPageEdit(EditableDocument &document, int index, const Page &page, const QString &what);
     void redo() override;
     void undo() override;
 
 private:
-    Document &m_document;
+    EditableDocument &m_document;
     int m_index;
     Page m_page;
 };

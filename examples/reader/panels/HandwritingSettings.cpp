@@ -3,21 +3,19 @@
 
 #include "panels/HandwritingSettings.h"
 
+#include "reach/ToolBarReach.h"
+
 #include <QColorDialog>
 #include <QInputDialog>
 #include <QLabel>
 #include <QPushButton>
 #include <QSlider>
 
-#include <array>
-
 namespace {
 
 constexpr int largestThickness = 20;
 constexpr int fullOpacity = 3;
-constexpr std::array<const char *, 4> opacityButtons = {
-    "pushButtonOpacity25p", "pushButtonOpacity50p", "pushButtonOpacity75p",
-    "pushButtonOpacity100p"};
+constexpr int opacitySteps = 4;
 
 QList<QColor> firstColours()
 {
@@ -25,12 +23,12 @@ QList<QColor> firstColours()
             QColor(0xE0, 0x7B, 0x00), Qt::magenta, Qt::darkRed, Qt::cyan, Qt::yellow};
 }
 
-/** Calls @p then when the user clicks the button of that name. */
+/** Calls @p then when the user clicks a button, if there is one. */
 template <typename Then>
-void whenClicked(MRHandWriteDialog &dialog, const QString &name, Then then)
+void whenClicked(QPushButton *button, QObject *context, Then then)
 {
-    if (auto *button = dialog.findChild<QPushButton *>(name))
-        QObject::connect(button, &QPushButton::clicked, &dialog, then);
+    if (button)
+        QObject::connect(button, &QPushButton::clicked, context, then);
 }
 
 } // namespace
@@ -57,10 +55,11 @@ QString HandwritingSettings::edit(const QString &pen, QWidget *parent)
     dialog.SetCommonColor(m_colours);
     dialog.SetRegionSize(m_regionSize);
     show(dialog, m_current);
-    followColours(dialog);
-    followThickness(dialog);
-    followTracks(dialog);
-    followRegion(dialog);
+    const HandwritingControls controls = ToolBarReach::controlsOf(dialog);
+    followColours(dialog, controls);
+    followThickness(dialog, controls);
+    followTracks(dialog, controls);
+    followRegion(dialog, controls);
     dialog.exec();
     m_regionSize = dialog.GetRegionSize();
     return PageTool::penNames().value(m_current);
@@ -73,47 +72,48 @@ PageTool HandwritingSettings::withInk(PageTool tool) const
         return tool;
     const Track &track = m_tracks.at(size_t(index));
     tool.colour = track.colour;
-    tool.colour.setAlphaF(qreal(track.opacity + 1) / int(opacityButtons.size()));
+    tool.colour.setAlphaF(qreal(track.opacity + 1) / opacitySteps);
     tool.width = std::max(1, track.thickness);
     return tool;
 }
 
-void HandwritingSettings::followColours(MRHandWriteDialog &dialog)
+void HandwritingSettings::followColours(MRHandWriteDialog &dialog,
+                                        const HandwritingControls &controls)
 {
-    for (int i = 0; i < m_colours.size(); ++i) {
-        whenClicked(dialog, QStringLiteral("pushButtonColor%1").arg(i + 1),
+    for (int i = 0; i < std::min(m_colours.size(), controls.colours.size()); ++i) {
+        whenClicked(controls.colours.at(i), &dialog,
                     [this, i] { current().colour = m_colours.at(i); });
     }
-    whenClicked(dialog, QStringLiteral("pushButtonFetch"), [this, &dialog] { askColour(dialog); });
-    if (auto *link = dialog.findChild<QLabel *>(QStringLiteral("labelOtherSelect"))) {
-        connect(link, &QLabel::linkActivated, &dialog, [this, &dialog] { askColour(dialog); });
+    whenClicked(controls.pickColour, &dialog, [this, &dialog] { askColour(dialog); });
+    if (controls.otherColours) {
+        connect(controls.otherColours, &QLabel::linkActivated, &dialog,
+                [this, &dialog] { askColour(dialog); });
     }
 }
 
-void HandwritingSettings::followThickness(MRHandWriteDialog &dialog)
+void HandwritingSettings::followThickness(MRHandWriteDialog &dialog,
+                                          const HandwritingControls &controls)
 {
-    if (auto *slider = dialog.findChild<QSlider *>(QStringLiteral("spliderThickness"))) {
-        connect(slider, &QSlider::valueChanged, &dialog,
+    if (controls.thickness) {
+        connect(controls.thickness, &QSlider::valueChanged, &dialog,
                 [this](int thickness) { current().thickness = thickness; });
     }
-    for (int i = 0; i < int(opacityButtons.size()); ++i) {
-        whenClicked(dialog, QLatin1String(opacityButtons.at(size_t(i))),
-                    [this, i] { current().opacity = i; });
-    }
+    for (int i = 0; i < opacitySteps; ++i)
+        whenClicked(controls.opacities.value(i), &dialog, [this, i] { current().opacity = i; });
 }
 
-void HandwritingSettings::followTracks(MRHandWriteDialog &dialog)
+void HandwritingSettings::followTracks(MRHandWriteDialog &dialog,
+                                       const HandwritingControls &controls)
 {
-    for (int i = 0; i < int(m_tracks.size()); ++i) {
-        whenClicked(dialog, QStringLiteral("pushButtonTrack%1").arg(i + 1),
-                    [this, &dialog, i] { show(dialog, i); });
-    }
+    for (int i = 0; i < int(m_tracks.size()); ++i)
+        whenClicked(controls.tracks.value(i), &dialog, [this, &dialog, i] { show(dialog, i); });
 }
 
-void HandwritingSettings::followRegion(MRHandWriteDialog &dialog)
+void HandwritingSettings::followRegion(MRHandWriteDialog &dialog,
+                                       const HandwritingControls &controls)
 {
-    whenClicked(dialog, QStringLiteral("pushButtonRegionWrite"), [&dialog] { dialog.accept(); });
-    whenClicked(dialog, QStringLiteral("pushButtonRegionWriteSet"), [&dialog] {
+    whenClicked(controls.writeInRegion, &dialog, [&dialog] { dialog.accept(); });
+    whenClicked(controls.changeRegion, &dialog, [&dialog] {
         bool isGiven = false;
         const int size = QInputDialog::getInt(&dialog, tr("区域手写"), tr("区域的大小（像素）"),
                                               dialog.GetRegionSize(), 20, 600, 10, &isGiven);

@@ -11,11 +11,13 @@
 
 #include <vector>
 
+struct HandwritingControls;
+
 /**
  * The settings of the pens, and the library's dialog for them.
  *
- * The dialog shows the records and leaves them alone, so what the user does in it is followed here,
- * by the object names of its controls.
+ * The dialog shows the records and does not change them, so what the user does in it is followed
+ * here, control by control.
  */
 class HandwritingSettings : public QObject
 {
@@ -31,10 +33,10 @@ public:
     PageTool withInk(PageTool tool) const;
 
 private:
-    void followColours(MRHandWriteDialog &dialog);
-    void followThickness(MRHandWriteDialog &dialog);
-    void followTracks(MRHandWriteDialog &dialog);
-    void followRegion(MRHandWriteDialog &dialog);
+    void followColours(MRHandWriteDialog &dialog, const HandwritingControls &controls);
+    void followThickness(MRHandWriteDialog &dialog, const HandwritingControls &controls);
+    void followTracks(MRHandWriteDialog &dialog, const HandwritingControls &controls);
+    void followRegion(MRHandWriteDialog &dialog, const HandwritingControls &controls);
     void askColour(MRHandWriteDialog &dialog);
     void show(MRHandWriteDialog &dialog, int track);
     Track &current() { return m_tracks.at(size_t(m_current)); }

@@ -3,56 +3,19 @@
 
 #include "shell/KeyboardReach.h"
 
+#include "reach/ToolBarReach.h"
+
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QMap>
-#include <QScrollArea>
 #include <QShortcut>
 #include <QStatusBar>
-#include <QToolBar>
 
 namespace {
 
 constexpr int messageTime = 6000;
-
-/** The one on show, as rows that are not opened keep theirs. */
-QWidget *shownChild(const QWidget *parent, const QString &name)
-{
-    const QList<QWidget *> widgets = parent->findChildren<QWidget *>(name);
-    for (QWidget *widget : widgets) {
-        if (widget->isVisible() && widget->isEnabled())
-            return widget;
-    }
-    return nullptr;
-}
-
-/** A row that is wider than the window scrolls by itself only for the Tab key. */
-void bringIntoView(QWidget *field)
-{
-    for (QWidget *parent = field->parentWidget(); parent; parent = parent->parentWidget()) {
-        auto *area = qobject_cast<QScrollArea *>(parent);
-        if (!area)
-            continue;
-        // The toolkit's own look at a field is content with its cursor.
-        const QPoint middle = field->mapTo(area->widget(), field->rect().center());
-        area->ensureVisible(middle.x(), middle.y(), field->width(), 0);
-    }
-}
-
-/** Has what is typed replace the text; of a box that takes none, the list is opened. */
-void offerChoice(QWidget *field)
-{
-    auto *edit = qobject_cast<QLineEdit *>(field);
-    auto *box = qobject_cast<QComboBox *>(field);
-    if (box)
-        edit = box->lineEdit();
-    if (edit)
-        edit->selectAll();
-    else if (box)
-        box->showPopup();
-}
 
 } // namespace
 
@@ -66,11 +29,6 @@ KeyboardReach::KeyboardReach(QMainWindow *window)
     // Later, when it is known whether another widget, or another window, takes the focus.
     connect(qApp, &QApplication::focusChanged, this, &KeyboardReach::keepFocus,
             Qt::QueuedConnection);
-}
-
-QStringList KeyboardReach::zoomBoxNames()
-{
-    return {QStringLiteral("v_zoom"), QStringLiteral("v_zoomlist")};
 }
 
 bool KeyboardReach::isField(const QWidget *widget)
@@ -104,13 +62,15 @@ void KeyboardReach::addCommandKeys()
 
 void KeyboardReach::addPlaceKeys()
 {
-    addKey(QStringLiteral("F10"), [this] { enterToolBar(); });
+    addKey(QStringLiteral("F10"), [this] { ToolBarReach::enterToolBar(*m_window); });
     addKey(QStringLiteral("Ctrl+G"), [this] {
-        enterField({QStringLiteral("d_gotopage"), QStringLiteral("d_gotopageinput")},
-                   tr("工具栏现在没有可用的页码框"));
+        if (!ToolBarReach::enterPageField(*m_window))
+            say(tr("工具栏现在没有可用的页码框"));
     });
-    addKey(QStringLiteral("Ctrl+M"),
-           [this] { enterField(zoomBoxNames(), tr("工具栏现在没有可用的缩放框")); });
+    addKey(QStringLiteral("Ctrl+M"), [this] {
+        if (!ToolBarReach::enterZoomBox(*m_window))
+            say(tr("工具栏现在没有可用的缩放框"));
+    });
 }
 
 void KeyboardReach::addKey(const QString &key, const std::function<void()> &press)
@@ -119,32 +79,9 @@ void KeyboardReach::addKey(const QString &key, const std::function<void()> &pres
     connect(shortcut, &QShortcut::activated, this, press);
 }
 
-void KeyboardReach::enterField(const QStringList &names, const QString &absence)
+void KeyboardReach::say(const QString &message) const
 {
-    for (const QString &name : names) {
-        if (QWidget *field = shownChild(m_window, name)) {
-            field->setFocus(Qt::ShortcutFocusReason);
-            bringIntoView(field);
-            offerChoice(field);
-            return;
-        }
-    }
-    m_window->statusBar()->showMessage(absence, messageTime);
-}
-
-void KeyboardReach::enterToolBar()
-{
-    const auto *bar = m_window->findChild<QToolBar *>(QString(), Qt::FindDirectChildrenOnly);
-    if (!bar)
-        return;
-    for (QWidget *next = bar->nextInFocusChain(); next != bar; next = next->nextInFocusChain()) {
-        const bool takesFocus =
-            next->isVisible() && next->isEnabled() && (next->focusPolicy() & Qt::TabFocus) != 0;
-        if (takesFocus && bar->isAncestorOf(next)) {
-            next->setFocus(Qt::ShortcutFocusReason);
-            return;
-        }
-    }
+    m_window->statusBar()->showMessage(message, messageTime);
 }
 
 void KeyboardReach::keepFocus()

@@ -4,7 +4,7 @@
 #pragma once
 
 #include <QObject>
-#include <QStringList>
+#include <QString>
 
 #include <functional>
 
@@ -22,8 +22,6 @@ public:
     /** @param window shows the toolbar and, in its middle, the pages. It owns this object. */
     explicit KeyboardReach(QMainWindow *window);
 
-    /** The combo boxes that the shipped descriptions have for the zoom. */
-    static QStringList zoomBoxNames();
     /** Whether one types into the widget, which then is what Escape leaves first. */
     static bool isField(const QWidget *widget);
 
@@ -35,8 +33,7 @@ private:
     void addCommandKeys();
     void addPlaceKeys();
     void addKey(const QString &key, const std::function<void()> &press);
-    void enterField(const QStringList &names, const QString &absence);
-    void enterToolBar();
+    void say(const QString &message) const;
     void keepFocus();
 
     QMainWindow *m_window;

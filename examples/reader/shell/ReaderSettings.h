@@ -3,22 +3,23 @@
 
 #pragma once
 
+#include "commands/RecentFiles.h"
+
 #include <QSettings>
 #include <QStringList>
 
 /** What the reader remembers from one run to the next. */
-class ReaderSettings
+class ReaderSettings : public RecentFiles
 {
 public:
     ReaderSettings();
 
     QStringList recentFiles() const;
-    /** Puts a file first; the same file further down is dropped. */
-    void addRecentFile(const QString &fileName);
-    void clearRecentFiles();
+    void addRecentFile(const QString &fileName) override;
+    void clearRecentFiles() override;
 
-    int recentLimit() const;
-    void setRecentLimit(int limit);
+    int recentLimit() const override;
+    void setRecentLimit(int limit) override;
 
     /** The quick access buttons as the toolbar of that skin gave them; empty on the first run. */
     QString quickAccessButtons(const QString &skin) const;

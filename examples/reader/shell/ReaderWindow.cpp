@@ -9,6 +9,7 @@
 #include "panels/NavigationPanel.h"
 #include "panels/SearchPanel.h"
 #include "panels/SignalLog.h"
+#include "reach/ToolBarReach.h"
 #include "shell/Description.h"
 #include "shell/KeyboardReach.h"
 
@@ -19,7 +20,6 @@
 #include <QDropEvent>
 #include <QLabel>
 #include <QMimeData>
-#include <QPushButton>
 #include <QStatusBar>
 #include <QToolBar>
 #include <QUrl>
@@ -28,9 +28,7 @@
 namespace {
 
 const QString quickAccessKey = QStringLiteral("quickaccessbarbuttons");
-const QString toolBarName = QStringLiteral("mrtoolbar");
 const QString sampleName = QStringLiteral("示例文档.ofd");
-constexpr int messageTime = 6000;
 constexpr int logWidth = 300;
 constexpr QSize windowSize(1280, 800);
 constexpr int referenceDpi = 96;
@@ -43,11 +41,6 @@ QString droppedFile(const QMimeData &data)
 }
 
 } // namespace
-
-void ReaderParts::say(const QString &message) const
-{
-    window->statusBar()->showMessage(message, messageTime);
-}
 
 ReaderWindow::ReaderWindow(const QDomDocument &description, const QString &skin)
     : m_skin(skin)
@@ -122,7 +115,7 @@ void ReaderWindow::createToolBar(const QDomDocument &description)
 
 void ReaderWindow::setDescription(QDomDocument description)
 {
-    Description::beginWithTab(description, shownTab());
+    Description::beginWithTab(description, ToolBarReach::shownTab(*this));
     removeToolBar();
     createToolBar(description);
     connectToolBar();
@@ -131,24 +124,13 @@ void ReaderWindow::setDescription(QDomDocument description)
 
 void ReaderWindow::removeToolBar()
 {
-    auto *bar = findChild<QToolBar *>(toolBarName, Qt::FindDirectChildrenOnly);
+    QToolBar *bar = ToolBarReach::toolBarOf(*this);
     if (bar->isAncestorOf(focusWidget()))
         m_view->setFocus();
     m_report.reset();
     m_toolBar.reset();
     // Not later: the next toolbar is made when the former is gone, as both bear the same names.
     delete bar;
-}
-
-QString ReaderWindow::shownTab() const
-{
-    const QList<QPushButton *> buttons = findChildren<QPushButton *>();
-    for (const QPushButton *button : buttons) {
-        if (button->isChecked()
-            && button->property("module").toString() == QLatin1String("tabbutton"))
-            return button->objectName();
-    }
-    return QString();
 }
 
 void ReaderWindow::createCommands()
@@ -253,14 +235,9 @@ void ReaderWindow::answerRequest()
 
 void ReaderWindow::followZoomBox()
 {
-    // A typed percentage that is one of the box's entries is not reported by the toolbar: the box
-    // only moves to that entry. The reader looks at the box itself, an ordinary child of its
-    // window.
-    const QStringList names = KeyboardReach::zoomBoxNames();
-    for (const QString &name : names) {
-        const auto *box = findChild<QComboBox *>(name);
-        if (!box)
-            continue;
+    // DoSetZoomMode() does not report everything that the user chooses in the box.
+    const QList<QComboBox *> boxes = ToolBarReach::zoomBoxes(*this);
+    for (const QComboBox *box : boxes) {
         connect(box, QOverload<int>::of(&QComboBox::activated), this, &ReaderWindow::readZoomBox,
                 Qt::UniqueConnection);
     }

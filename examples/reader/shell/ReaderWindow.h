@@ -58,7 +58,6 @@ private:
     void createDocks();
     void createToolBar(const QDomDocument &description);
     void removeToolBar();
-    QString shownTab() const;
     ZoomMode shownZoom() const;
     void createCommands();
     void connectKeys();
