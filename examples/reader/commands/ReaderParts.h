@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <functional>
+
 class Document;
 class HandwritingSettings;
 class NavigationPanel;
@@ -22,6 +24,8 @@ struct ReaderParts
     SearchPanel *search = nullptr;
     HandwritingSettings *handwriting = nullptr;
     RecentFiles *recentFiles = nullptr;
+    /** Gives the focus to a control of the toolbar; false if it is not on show. */
+    std::function<bool(const QString &name)> focusControl;
 
     /** Shows a line in the status bar for a while. */
     void say(const QString &message) const;

@@ -8,7 +8,6 @@
 #include "pages/PageView.h"
 #include "panels/NavigationPanel.h"
 #include "panels/SearchPanel.h"
-#include "reach/ToolBarReach.h"
 
 #include <QMainWindow>
 #include <QMap>
@@ -160,6 +159,6 @@ void ViewCommands::showInk() const
 
 void ViewCommands::findInToolBar()
 {
-    if (!ToolBarReach::enterSearchField(*m_parts.window))
+    if (!m_parts.focusControl(QStringLiteral("st_input")))
         m_parts.search->open();
 }

@@ -13,15 +13,18 @@
 #include <QShortcut>
 #include <QStatusBar>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int messageTime = 6000;
 
 } // namespace
 
-KeyboardReach::KeyboardReach(QMainWindow *window)
+KeyboardReach::KeyboardReach(QMainWindow *window, FocusControl focusControl)
     : QObject(window)
     , m_window(window)
+    , m_focusControl(std::move(focusControl))
 {
     addCommandKeys();
     addPlaceKeys();
@@ -62,14 +65,21 @@ void KeyboardReach::addCommandKeys()
 
 void KeyboardReach::addPlaceKeys()
 {
-    addKey(QStringLiteral("F10"), [this] { ToolBarReach::enterToolBar(*m_window); });
-    addKey(QStringLiteral("Ctrl+G"), [this] {
-        if (!ToolBarReach::enterPageField(*m_window))
-            say(tr("工具栏现在没有可用的页码框"));
-    });
-    addKey(QStringLiteral("Ctrl+M"), [this] {
-        if (!ToolBarReach::enterZoomBox(*m_window))
-            say(tr("工具栏现在没有可用的缩放框"));
+    addKey(QStringLiteral("F10"), [this] { m_focusControl(QString()); });
+    // What the field and the box are called in the shipped descriptions.
+    addPlaceKey(QStringLiteral("Ctrl+G"),
+                {QStringLiteral("d_gotopage"), QStringLiteral("d_gotopageinput")},
+                tr("工具栏现在没有可用的页码框"));
+    addPlaceKey(QStringLiteral("Ctrl+M"), ToolBarReach::zoomBoxNames(),
+                tr("工具栏现在没有可用的缩放框"));
+}
+
+void KeyboardReach::addPlaceKey(const QString &key, const QStringList &names,
+                                const QString &absence)
+{
+    addKey(key, [this, names, absence] {
+        if (std::none_of(names.cbegin(), names.cend(), m_focusControl))
+            m_window->statusBar()->showMessage(absence, messageTime);
     });
 }
 
@@ -77,11 +87,6 @@ void KeyboardReach::addKey(const QString &key, const std::function<void()> &pres
 {
     auto *shortcut = new QShortcut(QKeySequence(key), m_window);
     connect(shortcut, &QShortcut::activated, this, press);
-}
-
-void KeyboardReach::say(const QString &message) const
-{
-    m_window->statusBar()->showMessage(message, messageTime);
 }
 
 void KeyboardReach::keepFocus()

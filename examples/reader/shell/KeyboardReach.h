@@ -4,7 +4,7 @@
 #pragma once
 
 #include <QObject>
-#include <QString>
+#include <QStringList>
 
 #include <functional>
 
@@ -19,8 +19,11 @@ class KeyboardReach : public QObject
     Q_OBJECT
 
 public:
+    /** Gives the focus to a control of the toolbar by name; false if it is not on show. */
+    using FocusControl = std::function<bool(const QString &name)>;
+
     /** @param window shows the toolbar and, in its middle, the pages. It owns this object. */
-    explicit KeyboardReach(QMainWindow *window);
+    KeyboardReach(QMainWindow *window, FocusControl focusControl);
 
     /** Whether one types into the widget, which then is what Escape leaves first. */
     static bool isField(const QWidget *widget);
@@ -33,8 +36,9 @@ private:
     void addCommandKeys();
     void addPlaceKeys();
     void addKey(const QString &key, const std::function<void()> &press);
-    void say(const QString &message) const;
+    void addPlaceKey(const QString &key, const QStringList &names, const QString &absence);
     void keepFocus();
 
     QMainWindow *m_window;
+    FocusControl m_focusControl;
 };

@@ -81,7 +81,16 @@ ReaderWindow::~ReaderWindow()
 
 ReaderParts ReaderWindow::parts()
 {
-    return {this, &m_document, m_view, m_navigation, m_search, m_handwriting, &m_settings};
+    return {this,        &m_document,
+            m_view,      m_navigation,
+            m_search,    m_handwriting,
+            &m_settings, [this](const QString &name) { return focusControl(name); }};
+}
+
+bool ReaderWindow::focusControl(const QString &name)
+{
+    // The toolbar is replaced when its description changes.
+    return m_toolBar->DoSetFocusSlot(name);
 }
 
 void ReaderWindow::createDocks()
@@ -142,7 +151,8 @@ void ReaderWindow::createCommands()
 
 void ReaderWindow::connectKeys()
 {
-    const auto *keys = new KeyboardReach(this);
+    const auto *keys =
+        new KeyboardReach(this, [this](const QString &name) { return focusControl(name); });
     connect(keys, &KeyboardReach::commandAsked, this, [this](const QString &name) {
         if (m_commands.isUsable(name, state()))
             runCommand(name);

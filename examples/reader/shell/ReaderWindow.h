@@ -58,6 +58,7 @@ private:
     void createDocks();
     void createToolBar(const QDomDocument &description);
     void removeToolBar();
+    bool focusControl(const QString &name);
     ZoomMode shownZoom() const;
     void createCommands();
     void connectKeys();
