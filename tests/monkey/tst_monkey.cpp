@@ -130,10 +130,8 @@ private:
     {
         QEventLoop loop;
         QTimer::singleShot(0, &loop, [this, &loop] {
-            for (int steps = m_random.between(1, 4); steps > 0 && exists(); --steps) {
-                const bool isHost = m_random.oneIn(3);
-                tell("  in a loop: " + (isHost ? m_host.step() : m_user.step(*m_window)));
-            }
+            for (int steps = m_random.between(1, 4); steps > 0 && exists(); --steps)
+                tell("  in a loop: " + moveInALoop());
             if (exists() && m_random.oneIn(8)) {
                 tell("  in a loop: delete");
                 deleteAnyWay();
@@ -142,6 +140,14 @@ private:
             QTimer::singleShot(1, &loop, &QEventLoop::quit);
         });
         loop.exec();
+    }
+
+    QString moveInALoop()
+    {
+        // The loop may be the answer to a tab that is being opened.
+        if (m_random.oneIn(3))
+            return m_user.clickTab(*m_window);
+        return m_random.oneIn(3) ? m_host.step() : m_user.step(*m_window);
     }
 
     void deleteAnyWay()
