@@ -30,11 +30,12 @@ bool addsOnlyDigits(const QString &text, const QString &before)
 {
     const QString others = withoutDigits(text);
     const QString otherBefore = withoutDigits(before);
-    qsizetype from = 0;
+    auto from = otherBefore.cbegin();
     for (const QChar character : others) {
-        from = otherBefore.indexOf(character, from) + 1;
-        if (from == 0)
+        from = std::find(from, otherBefore.cend(), character);
+        if (from == otherBefore.cend())
             return false;
+        ++from;
     }
     return true;
 }
