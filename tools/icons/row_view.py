@@ -79,11 +79,13 @@ def zoom_out(d):
 
 
 def _page_step(d, forward, to_end):
-    shift = 2 if to_end else 0
-    triangle = [(15.5 + shift, 4.5), (15.5 + shift, 19.5), (7.5 + shift, 12)]
-    d.polygon(mirrored(triangle, 12, forward), stroke="accent", fill="tint", pen=SLANT)
+    """Turns the page: to its neighbour, or as far as the pages go."""
+    _view_page(d)
+    shift = 2.5 if to_end else 0
+    d.polyline(mirrored([(14 + shift, 7.5), (9.5 + shift, 12), (14 + shift, 16.5)], 12, forward),
+               stroke="accent", pen=BOLD)
     if to_end:
-        d.polyline(mirrored([(6, 5), (6, 19)], 12, forward), pen=BOLD)
+        d.polyline(mirrored([(7, 8), (7, 16)], 12, forward), stroke="accent", pen=BOLD)
 
 
 def first_page(d):

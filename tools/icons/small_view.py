@@ -4,7 +4,7 @@
 """Glyphs of the view row on the 16 pixel grid."""
 
 from drawing import BOLD, MARK, SLANT, path_data
-from parts import arrow, magnifier, mirrored, page, plus, sheet, solid_head, text_lines
+from parts import arrow, chevron, magnifier, mirrored, page, plus, sheet, solid_head, text_lines
 
 
 def hand_tool(d):
@@ -104,11 +104,13 @@ def goto_page(d):
 
 
 def _step(d, forward, to_end):
+    """Turns the page: to its neighbour, or as far as the pages go."""
+    sheet(d, 2.5, 1.5, 11, 13)
     shift = 1.5 if to_end else 0
-    triangle = [(10.5 + shift, 2.5), (10.5 + shift, 13.5), (4.5 + shift, 8)]
-    d.polygon(mirrored(triangle, 8, forward), stroke="accent", fill="tint", pen=SLANT)
+    chevron(d, mirrored([(9.25 + shift, 5), (6.75 + shift, 8), (9.25 + shift, 11)], 8, forward),
+            pen=BOLD, stroke="accent")
     if to_end:
-        d.polyline(mirrored([(3, 3), (3, 13)], 8, forward), pen=BOLD)
+        d.polyline(mirrored([(4.5, 4.5), (4.5, 11.5)], 8, forward), stroke="accent")
 
 
 def first_page(d):
