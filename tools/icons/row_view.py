@@ -24,11 +24,13 @@ def text_select(d):
 
 
 def _rotate(d, mirror):
-    sheet(d, 9.5, 8.5, 5, 7, fill="tint")
+    """A page and the quarter turn that is made with it."""
     at, sweep = (lambda x: 24 - x, 0) if mirror else (lambda x: x, 1)
-    d.path(path_data("M", at(20), 12, f"A8 8 0 1 {sweep}", at(18), 6.7), stroke="accent",
+    page_x = 12.5 if mirror else 2.5
+    sheet(d, page_x, 9.5, 9, 12)
+    d.path(path_data("M", at(6), 5, f"A12 12 0 0 {sweep}", at(18), 17), stroke="accent",
            pen=BOLD)
-    d.polyline([(at(18.5), 2.5), (at(18.5), 7), (at(14), 7)], stroke="accent", pen=BOLD)
+    d.polyline([(at(14.5), 13.5), (at(18), 17), (at(21.5), 13.5)], stroke="accent", pen=BOLD)
 
 
 def rotate_clockwise(d):

@@ -25,11 +25,12 @@ def text_select(d):
 
 
 def _rotate(d, mirror):
-    sheet(d, 6.5, 6.5, 3, 4, fill="tint")
+    """A page and the quarter turn that is made with it."""
     at, sweep = (lambda x: 16 - x, 0) if mirror else (lambda x: x, 1)
-    d.path(path_data("M", at(13.5), 8.5, f"A5.5 5.5 0 1 {sweep}", at(12.2), 4.9),
-           stroke="accent", pen=MARK)
-    d.polyline([(at(12.5), 1.5), (at(12.5), 5), (at(9), 5)], stroke="accent", pen=MARK)
+    sheet(d, 8.5 if mirror else 1.5, 6.5, 6, 8)
+    d.path(path_data("M", at(4), 3, f"A8 8 0 0 {sweep}", at(12), 11), stroke="accent", pen=BOLD,
+           cap="butt")
+    solid_head(d, at(12), 13, 3, (0, 1))
 
 
 def rotate_clockwise(d):
