@@ -118,28 +118,33 @@ def double_page(d):
 
 
 def _flow(d, x, width):
-    """The foot of one page above the head of the next."""
-    right = x + width
-    d.path(path_data("M", x, 2, "V", 9.5, "a1 1 0 0 0 1 1H", right - 1, "a1 1 0 0 0 1-1V", 2),
-           fill="paper", cap="butt")
-    d.path(path_data("M", x, 22, "V", 14.5, "a1 1 0 0 1 1-1H", right - 1, "a1 1 0 0 1 1 1V", 22),
-           fill="paper", cap="butt")
-    text_lines(d, x + 2, right - 2, (4.5, 7.5, 16.5, 19.5), stroke="accent")
+    """A page and the next one, which goes on below the edge."""
+    sheet(d, x, 2.5, width, 12)
+    d.path(path_data("M", x, 22, "V", 18.5, "a1 1 0 0 1 1-1H", x + width - 1, "a1 1 0 0 1 1 1V",
+                     22), fill="paper", cap="butt")
+    text_lines(d, x + 2, x + width - 2, (5.5, 8.5, 11.5, 20.5))
 
 
 def single_flow(d):
-    _flow(d, 4.5, 15)
+    _flow(d, 2.5, 11)
+    arrow(d, (19, 4), (19, 20), 3, pen=BOLD, both=True)
 
 
 def double_flow(d):
-    _flow(d, 2.5, 8)
-    _flow(d, 13.5, 8)
+    _flow(d, 1.5, 6)
+    _flow(d, 9.5, 6)
+    arrow(d, (20, 4), (20, 20), 2, pen=BOLD, both=True)
+
+
+def _spread(d, tips, tails):
+    """A screen and two arrows along its diagonal."""
+    d.rect(2.5, 4.5, 19, 15, 1, fill="paper")
+    for tip, tail in zip(tips, tails):
+        arrow(d, tail, tip, 4, pen=BOLD)
 
 
 def full_screen(d):
-    for x, y, sx, sy in ((3, 4, 1, 1), (21, 4, -1, 1), (3, 20, 1, -1), (21, 20, -1, -1)):
-        d.polyline([(x + sx * 5, y), (x, y), (x, y + sy * 5)], pen=BOLD)
-    d.rect(7.5, 8.5, 9, 7, 1, stroke="accent", fill="tint")
+    _spread(d, [(18, 8), (6, 16)], [(14, 12), (10, 12)])
 
 
 def background(d):
@@ -149,8 +154,7 @@ def background(d):
 
 
 def exit_full_screen(d):
-    for x, y, sx, sy in ((8, 9, -1, -1), (16, 9, 1, -1), (8, 15, -1, 1), (16, 15, 1, 1)):
-        d.polyline([(x + sx * 5, y), (x, y), (x, y + sy * 5)], stroke="accent", pen=BOLD)
+    _spread(d, [(14, 11), (10, 13)], [(18, 7), (6, 17)])
 
 
 def goto_page(d):

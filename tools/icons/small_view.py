@@ -141,28 +141,36 @@ def double_page(d):
         text_lines(d, x + 2, x + 3, (5.5, 7.5, 9.5), stroke="accent")
 
 
-def _flow(d, x, width, rows):
-    """The foot of one page above the head of the next."""
+def _flow(d, x, width):
+    """A page and the next one, which goes on below the edge."""
+    d.rect(x, 1.5, width, 8, 0.5, fill="paper")
     right = x + width
-    for edge, near, turn, sweep in ((1, 5.5, 1, 0), (15, 10.5, -1, 1)):
-        d.path(path_data("M", x, edge, "V", near, f"a1 1 0 0 {sweep} 1", turn, "H", right - 1,
-                         f"a1 1 0 0 {sweep} 1", -turn, "V", edge), fill="paper", cap="butt")
-    text_lines(d, x + 2, right - 2, rows, stroke="accent")
+    d.polyline([(x, 15), (x, 11.5), (right, 11.5), (right, 15)], fill="paper", cap="butt")
+
+
+def _scroll(d):
+    arrow(d, (13, 2), (13, 14), 2, pen=BOLD, both=True)
 
 
 def single_flow(d):
-    _flow(d, 3.5, 9, (3.5, 12.5))
+    _flow(d, 1.5, 7)
+    text_lines(d, 3.5, 6.5, (4.5, 6.5))
+    _scroll(d)
 
 
 def double_flow(d):
-    _flow(d, 1.5, 5, (3.5, 12.5))
-    _flow(d, 9.5, 5, (3.5, 12.5))
+    _flow(d, 1.5, 3)
+    _flow(d, 6.5, 3)
+    _scroll(d)
 
 
 def full_screen(d):
-    for x, y, sx, sy in ((2, 3, 1, 1), (14, 3, -1, 1), (2, 13, 1, -1), (14, 13, -1, -1)):
-        d.polyline([(x + sx * 3, y), (x, y), (x, y + sy * 3)], pen=BOLD)
-    d.rect(5.5, 6.5, 5, 3, stroke="accent", fill="tint")
+    d.rect(1.5, 2.5, 13, 11, 1, fill="paper")
+    for tip_x, tip_y, way in ((13, 4, -1), (3, 12, 1)):
+        d.polygon([(tip_x, tip_y), (tip_x + 4 * way, tip_y), (tip_x, tip_y - 4 * way)],
+                  stroke=None, fill="accent")
+        d.line(tip_x + 2 * way, tip_y - 2 * way, tip_x + 4 * way, tip_y - 4 * way,
+               stroke="accent", pen=MARK)
 
 
 def background(d):
