@@ -4,8 +4,8 @@
 """Glyphs of seals and of the proof marks: the 24 pixel grid."""
 
 from drawing import BOLD, MARK, SLANT
-from parts import (arrow, check, cross, dashed_frame, mirrored, plus, round_seal, sheet,
-                   text_lines)
+from parts import (arrow, check, cross, dashed_frame, mirrored, plus, round_seal,
+                   sheet, star, text_lines)
 
 
 def seal_sign(d):
@@ -13,22 +13,28 @@ def seal_sign(d):
 
 
 def chapter(d):
-    d.rect(4, 4, 16, 16, 2, stroke="red", fill="rose", pen=BOLD)
-    for points in ([(11, 7), (8, 8.5), (8, 16), (11, 16)], [(8, 12), (11, 12)],
-                   [(14, 17), (14, 8), (17, 8), (17, 14)]):
-        d.polyline(points, stroke="red", pen=BOLD)
+    """A square seal, carved like a fret, in the corner of a page."""
+    d.path("M8 21.5H3.5a1 1 0 0 1-1-1V3.5a1 1 0 0 1 1-1H12.5L17.5 7.5V8", fill="paper")
+    d.polyline([(12.5, 2.5), (12.5, 7.5), (17.5, 7.5)])
+    d.rect(10, 10, 12, 12, 1, stroke=None, fill="red")
+    d.polyline([(12.5, 20), (12.5, 12.5), (19.5, 12.5), (19.5, 19.5), (15.5, 19.5), (15.5, 15.5),
+                (17, 15.5)], stroke="paper", cap="butt")
 
 
 def page_seal(d):
-    for x in (2.5, 13.5):
-        sheet(d, x, 3.5, 8, 17)
-    round_seal(d, 12, 12, 6, 4)
+    """A seal across the edges of pages that lie on each other."""
+    for x, y in ((8.5, 2.5), (5.5, 5.5), (2.5, 8.5)):
+        sheet(d, x, y, 11, 13)
+    round_seal(d, 16, 16, 5, 3.5)
 
 
 def seal_mark(d):
-    round_seal(d, 9, 15, 6, 3.5)
-    d.polygon([(17.5, 3.5), (21.5, 6.5), (17.5, 9.5)], stroke="accent", fill="accent")
-    d.line(17.5, 2.5, 17.5, 21.5)
+    """A seal in a pin that shows where on the page it belongs."""
+    sheet(d, 2.5, 2.5, 15, 19)
+    text_lines(d, 5.5, 9.5, (6.5, 9.5, 12.5))
+    d.path("M16 21.5C12 17 10 14 10 11.5a6 6 0 0 1 12 0C22 14 20 17 16 21.5z", stroke="red",
+           fill="rose", pen=BOLD)
+    d.polygon(star(16, 12, 3.8), stroke=None, fill="red")
 
 
 def stamp(d):

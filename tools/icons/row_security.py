@@ -8,8 +8,9 @@ from parts import check, cross, sheet, star, text_lines
 
 
 def _seal_to_mark(d):
-    d.circle(9, 9, 6, stroke="red", fill="rose", pen=BOLD)
-    d.polygon(star(9, 9.3, 3.8), stroke=None, fill="red")
+    """A seal that is open where the mark stands."""
+    d.path("M10 17A7 7 0 1 1 17 10", stroke="red", fill="rose", pen=BOLD, cap="butt")
+    d.polygon(star(10, 10.4, 4.3), stroke=None, fill="red")
 
 
 def seal_verify(d):

@@ -5,7 +5,7 @@
 
 from drawing import BOLD, MARK, SLANT
 from parts import (arrow, check, cross, dashed_frame, mirrored, plus, round_seal, sheet,
-                   solid_head)
+                   solid_head, star, text_lines)
 
 
 def seal_sign(d):
@@ -13,24 +13,29 @@ def seal_sign(d):
 
 
 def page_seal(d):
-    for x in (1.5, 9.5):
-        sheet(d, x, 1.5, 5, 13)
-    d.circle(8, 8, 4, stroke="red", fill="rose", pen=BOLD)
-    d.rect(7, 7, 2, 2, stroke=None, fill="red")
+    """A seal across the edges of pages that lie on each other."""
+    for x, y in ((4.5, 1.5), (1.5, 4.5)):
+        sheet(d, x, y, 8, 10)
+    d.circle(10.5, 10.5, 3.5, stroke="red", fill="rose", pen=BOLD)
+    d.circle(10.5, 10.5, 1, stroke=None, fill="red")
 
 
 def chapter(d):
-    d.rect(2, 2, 12, 12, 1, stroke="red", fill="rose", pen=BOLD)
-    for points in ([(7.5, 5), (5.5, 6), (5.5, 10.5), (7.5, 10.5)], [(5.5, 8.5), (7.5, 8.5)],
-                   [(9.5, 11), (9.5, 5.5), (11, 5.5), (11, 9)]):
-        d.polyline(points, stroke="red")
+    """A square seal, carved like a fret, in the corner of a page."""
+    d.path("M5 14.5H2.5a1 1 0 0 1-1-1V2.5a1 1 0 0 1 1-1H8.5L11.5 4.5V6", fill="paper")
+    d.polyline([(8.5, 1.5), (8.5, 4.5), (11.5, 4.5)])
+    d.rect(6, 7, 9, 8, 1, stroke=None, fill="red")
+    d.polyline([(8.5, 14), (8.5, 8.5), (12.5, 8.5), (12.5, 12.5), (10.5, 12.5), (10.5, 10)],
+               stroke="paper", cap="butt")
 
 
 def seal_mark(d):
-    d.circle(5.5, 10.5, 3.5, stroke="red", fill="rose", pen=BOLD)
-    d.circle(5.5, 10.5, 1, stroke=None, fill="red")
-    d.polygon([(11.5, 2.5), (14.5, 4.5), (11.5, 6.5)], stroke="accent", fill="accent")
-    d.line(11.5, 1.5, 11.5, 14.5)
+    """A seal in a pin that shows where on the page it belongs."""
+    sheet(d, 1.5, 1.5, 10, 13)
+    text_lines(d, 3.5, 6.5, (4.5,))
+    d.path("M10.5 14C8 11.5 7 10 7 8.5a3.5 3.5 0 0 1 7 0C14 10 13 11.5 10.5 14z", stroke="red",
+           fill="rose", pen=BOLD)
+    d.circle(10.5, 8.5, 1, stroke=None, fill="red")
 
 
 def stamp(d):
@@ -41,8 +46,9 @@ def stamp(d):
 
 
 def _small_seal(d):
-    d.circle(6, 6, 4, stroke="red", fill="rose", pen=BOLD)
-    d.circle(6, 6, 1.25, stroke=None, fill="red")
+    """A seal that is open where the mark stands."""
+    d.path("M7 12A5 5 0 1 1 12 7", stroke="red", fill="rose", pen=BOLD, cap="butt")
+    d.polygon(star(7, 7.3, 3.4), stroke=None, fill="red")
 
 
 def seal_verify(d):
