@@ -4,8 +4,7 @@
 """Glyphs of the navigation panels and the page backgrounds on the 24 pixel grid."""
 
 from drawing import BOLD, MARK, SLANT
-from parts import (bubble, cut_page, plus, sheet, shield, solid_head, sun, text_lines,
-                   twinkle)
+from parts import bubble, page, plus, sheet, sun, text_lines, twinkle
 
 
 def navigator(d):
@@ -64,9 +63,9 @@ def attachment_add(d):
 
 
 def background_default(d):
-    cut_page(d)
-    d.path("M14 17.5a3.5 3.5 0 1 1 3.5 3.5", stroke="accent", pen=BOLD)
-    solid_head(d, 14, 20, 3, (0, 1))
+    page(d, 4.5, 2.5, 15, 19, 5)
+    text_lines(d, 7.5, 11.5, (7.5,))
+    text_lines(d, 7.5, 16.5, (11.5, 14.5, 17.5))
 
 
 def background_daytime(d):
@@ -79,14 +78,17 @@ def background_nighttime(d):
 
 
 def background_eye_guard(d):
-    shield(d)
-    d.path("M6.5 11.5C9.5 7.5 14.5 7.5 17.5 11.5C14.5 15.5 9.5 15.5 6.5 11.5z", stroke="accent",
-           fill="paper", pen=SLANT)
-    d.circle(12, 11.5, 1.6, stroke=None, fill="accent")
+    """A page of a gentle colour, with an eye."""
+    page(d, 4.5, 2.5, 15, 19, 5, fill="tint")
+    d.path("M6.5 14C9.5 9.5 14.5 9.5 17.5 14C14.5 18.5 9.5 18.5 6.5 14z", stroke="accent",
+           fill="paper", pen=MARK)
+    d.circle(12, 14, 2, stroke=None, fill="accent")
 
 
 def background_parchment(d):
-    d.rect(6.5, 5.5, 11, 13, fill="yellow")
-    text_lines(d, 9.5, 14.5, (9.5, 12, 14.5))
-    for y in (2.5, 17.5):
-        d.rect(3.5, y, 17, 4, 2, fill="paper")
+    """A sheet of parchment that rolls up at its ends."""
+    d.path("M6.5 16V5.5a3 3 0 0 1 3-3H19a2.5 2.5 0 0 0-2.5 2.5V18.5a3 3 0 0 1-3 3H12V16z",
+           fill="yellow")
+    d.path("M16.5 6.5H21.5V5a2.5 2.5 0 0 0-5 0z", fill="paper")
+    d.path("M13.5 21.5H5.5a3 3 0 0 1-3-3V16.5H10.5V18.5a3 3 0 0 0 3 3z", fill="paper")
+    text_lines(d, 9.5, 13.5, (7.5, 10.5, 13.5))

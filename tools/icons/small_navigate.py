@@ -4,8 +4,8 @@
 """Glyphs of the navigation panels, the page backgrounds and the tabs on the 16 pixel grid."""
 
 from drawing import BOLD, MARK, SLANT
-from parts import (arrow, bubble, check, cross, cut_page, plus, sheet, shield, solid_head, sun,
-                   text_lines, twinkle)
+from parts import (arrow, bubble, check, cross, page, plus, sheet, shield, sun, text_lines,
+                   twinkle)
 
 
 def navigator(d):
@@ -88,9 +88,9 @@ def attachment_save(d):
 
 
 def background_default(d):
-    cut_page(d)
-    d.path("M9.5 12a2.5 2.5 0 1 1 2.5 2.5", stroke="accent", pen=MARK)
-    solid_head(d, 9.5, 13, 2, (0, 1))
+    page(d, 2.5, 1.5, 11, 13, 3)
+    text_lines(d, 5.5, 8.5, (5.5,))
+    text_lines(d, 5.5, 10.5, (8.5, 11.5))
 
 
 def background_daytime(d):
@@ -103,17 +103,18 @@ def background_nighttime(d):
 
 
 def background_eye_guard(d):
-    shield(d)
-    d.path("M4.5 8C6.5 5.3 9.5 5.3 11.5 8C9.5 10.7 6.5 10.7 4.5 8z", stroke="accent",
-           fill="paper", pen=SLANT)
-    d.rect(7, 7, 2, 2, stroke=None, fill="accent")
+    """A page of a gentle colour, with an eye."""
+    page(d, 2.5, 1.5, 11, 13, 3, fill="tint")
+    d.path("M3.5 9C6 5 10 5 12.5 9C10 13 6 13 3.5 9z", stroke="accent", fill="paper", pen=SLANT)
+    d.rect(7, 8, 2, 2, stroke=None, fill="accent")
 
 
 def background_parchment(d):
-    d.rect(4.5, 3.5, 7, 9, fill="yellow")
-    text_lines(d, 6.5, 9.5, (6.5, 8.5))
-    for y in (1.5, 11.5):
-        d.rect(2.5, y, 11, 3, 1.5, fill="paper")
+    """A sheet of parchment that rolls up at its ends."""
+    d.path("M4.5 11V3.5a2 2 0 0 1 2-2H12.5a2 2 0 0 0-1 2V12.5a2 2 0 0 1-2 2H8V11z", fill="yellow")
+    d.path("M11.5 4.5H14.5V3a1.5 1.5 0 0 0-3 0z", fill="paper")
+    d.path("M9.5 14.5H3.5a2 2 0 0 1-2-2V11.5H7.5V12.5a2 2 0 0 0 2 2z", fill="paper")
+    text_lines(d, 6.5, 9.5, (5.5, 7.5))
 
 
 def tab_read(d):
