@@ -49,37 +49,35 @@ def _cell(d, x, y, size=6, stroke="ink"):
 
 
 def revision_add(d):
-    _cell(d, 2.5, 14.5)
-    _cell(d, 15.5, 14.5)
-    d.polyline([(8.5, 12), (12, 16.5), (15.5, 12)], stroke="red", pen=MARK)
-    plus(d, 12, 6, 3, stroke="red")
+    text_lines(d, 2.5, 21.5, (3.5, 8.5))
+    text_lines(d, 2.5, 10.5, (13.5, 18.5))
+    plus(d, 17, 17, 4, stroke="red")
 
 
 def revision_delete(d):
-    _cell(d, 3.5, 11.5, 7)
-    d.path("M3 15H16a4 4 0 1 0-4-4V20", stroke="red", pen=BOLD)
+    text_lines(d, 2.5, 21.5, (3.5, 11.5, 19.5))
+    cross(d, 12, 11.5, 4.5, pen=BOLD)
 
 
 def revision_insertline(d):
-    _cell(d, 2.5, 8.5)
-    _cell(d, 15.5, 8.5)
-    d.line(12, 4, 12, 19, stroke="red", pen=BOLD)
-    for edge, point in ((2.5, 6), (20.5, 17)):
-        d.polygon([(8.5, edge), (15.5, edge), (12, point)], stroke="red", fill="red")
+    text_lines(d, 2.5, 21.5, (3.5,))
+    for x in (2.5, 15.5):
+        d.line(x, 9.5, x + 6, 9.5)
+    d.polyline([(6, 19), (12, 12), (18, 19)], stroke="red", pen=BOLD)
 
 
 def revision_replace(d):
-    _cell(d, 3.5, 3.5, 7)
-    d.line(2.5, 11.5, 11.5, 2.5, stroke="red", pen=MARK)
-    d.polyline([(14, 6), (18, 6), (18, 11)], stroke="red", pen=BOLD)
-    d.polyline([(15, 9), (18, 12), (21, 9)], stroke="red", pen=BOLD)
-    _cell(d, 14.5, 14.5, 7, stroke="accent")
+    text_lines(d, 2.5, 13.5, (6.5,))
+    cross(d, 8, 6.5, 3, pen=BOLD)
+    d.polyline([(16, 6), (18, 6), (18, 15)], stroke="red", pen=BOLD)
+    d.polyline([(14.5, 11.5), (18, 15), (21.5, 11.5)], stroke="red", pen=BOLD)
+    d.line(10, 20, 21, 20, stroke="accent", pen=BOLD)
 
 
 def revision_moveout(d):
-    dashed_frame(d, 2.5, 12.5, 9, corner=2, bridge=1)
-    arrow(d, (7, 17), (12, 12), 4, stroke="red", pen=BOLD)
-    _cell(d, 14.5, 2.5, 7)
+    text_lines(d, 2.5, 14.5, (3.5, 20.5))
+    dashed_frame(d, 2.5, 7.5, 9, corner=2, bridge=1)
+    arrow(d, (7, 12), (21, 12), 4, stroke="red", pen=BOLD)
 
 
 def _spacing(d, cells, tails, tips):

@@ -73,38 +73,35 @@ def _cell(d, x, y, size=4, stroke="ink"):
 
 
 def revision_add(d):
-    _cell(d, 1.5, 10.5)
-    _cell(d, 10.5, 10.5)
-    d.polyline([(5.5, 9), (8, 12), (10.5, 9)], stroke="red", pen=MARK)
-    plus(d, 8, 4, 2, stroke="red")
+    text_lines(d, 1.5, 14.5, (2.5, 5.5))
+    text_lines(d, 1.5, 6.5, (8.5, 11.5))
+    plus(d, 12, 11, 3, stroke="red")
 
 
 def revision_delete(d):
-    _cell(d, 2.5, 7.5, 5)
-    d.path("M2 10H11a3 3 0 1 0-3-3V14", stroke="red", pen=BOLD)
+    text_lines(d, 1.5, 13.5, (2.5, 7.5, 12.5))
+    cross(d, 7.5, 7.5, 3, pen=BOLD)
 
 
 def revision_insertline(d):
-    _cell(d, 1.5, 5.5)
-    _cell(d, 10.5, 5.5)
-    d.line(8, 3, 8, 13, stroke="red", pen=BOLD)
-    for edge, point in ((1.5, 4), (14.5, 12)):
-        d.polygon([(5.5, edge), (10.5, edge), (8, point)], stroke="red", fill="red")
+    text_lines(d, 1.5, 14.5, (2.5,))
+    for x in (1.5, 10.5):
+        d.line(x, 6.5, x + 4, 6.5)
+    d.polyline([(4, 13), (8, 8), (12, 13)], stroke="red", pen=BOLD)
 
 
 def revision_replace(d):
-    _cell(d, 1.5, 1.5, 5)
-    d.line(1.6, 7, 7, 1.6, stroke="red", pen=SLANT)
-    d.polyline([(9.5, 3), (12, 3), (12, 5)], stroke="red", pen=BOLD)
-    solid_head(d, 12, 8, 2.5, (0, 1), stroke="red")
-    _cell(d, 9.5, 9.5, 5, stroke="accent")
+    text_lines(d, 1.5, 7.5, (4.5,))
+    cross(d, 4.5, 4.5, 2.5)
+    d.polyline([(10, 4), (12, 4), (12, 8)], stroke="red", pen=BOLD)
+    solid_head(d, 12, 11, 3, (0, 1), stroke="red")
+    d.line(6, 14, 14, 14, stroke="accent", pen=BOLD)
 
 
 def revision_moveout(d):
-    dashed_frame(d, 1.5, 8.5, 6, corner=1, bridge=1)
-    d.polyline([(4, 7), (4, 4), (5, 4)], stroke="red", pen=BOLD)
-    solid_head(d, 8, 4, 2.5, (1, 0), stroke="red")
-    _cell(d, 9.5, 1.5, 5)
+    text_lines(d, 1.5, 10.5, (1.5, 14.5))
+    dashed_frame(d, 1.5, 4.5, 7, corner=1, bridge=1)
+    arrow(d, (5, 8), (14, 8), 3, stroke="red", pen=BOLD)
 
 
 def _spacing(d, cells, tails, tips):
