@@ -3,7 +3,7 @@
 
 """What several glyphs are made of. Coordinates are those of the stroke's centre."""
 
-from math import cos, pi, sin
+from math import cos, hypot, pi, sin, sqrt
 
 from drawing import BOLD, HAIR, MARK, SLANT, number, path_data
 
@@ -183,13 +183,33 @@ def sun(d, centre, radius, inner, outer):
     d.circle(centre, centre, radius, stroke="accent", fill="yellow", pen=SLANT)
 
 
+def bulges(d, circles, **style):
+    """The outline around overlapping circles (x, y, radius), which go round clockwise."""
+    ends = [_outer_crossing(one, other) for one, other in zip(circles, circles[1:] + circles[:1])]
+    data = path_data("M", *ends[-1])
+    for (_, _, radius), end in zip(circles, ends):
+        data += path_data(f"A{number(radius)} {number(radius)} 0 0 1", *end)
+    d.path(data + "z", **style)
+
+
+def _outer_crossing(one, other):
+    """Where two circles cross, on the left of the way from the first to the second."""
+    (x, y, radius), (to_x, to_y, other_radius) = one, other
+    distance = hypot(to_x - x, to_y - y)
+    along = (distance ** 2 + radius ** 2 - other_radius ** 2) / (2 * distance)
+    aside = sqrt(radius ** 2 - along ** 2)
+    way_x, way_y = (to_x - x) / distance, (to_y - y) / distance
+    return x + along * way_x + aside * way_y, y + along * way_y - aside * way_x
+
+
 def gear(d, centre, outer, root, hole):
     """A gear wheel; each tooth is a trapezium on the root circle."""
-    step, points = 2 * pi / GEAR_TEETH, []
+    points = []
     for tooth in range(GEAR_TEETH):
-        for radius, offset in ((root, -0.30), (outer, -0.17), (outer, 0.17), (root, 0.30)):
-            angle = (tooth + offset) * step - pi / 2
-            points.append((centre + radius * cos(angle), centre + radius * sin(angle)))
+        out_x, out_y = (f(tooth * 2 * pi / GEAR_TEETH) for f in (sin, cos))
+        for along, across in ((root, -2), (outer, -1.5), (outer, 1.5), (root, 2)):
+            points.append((centre + along * out_x + across * out_y,
+                           centre - along * out_y + across * out_x))
     d.polygon(points, fill="tint", pen=SLANT)
     d.circle(centre, centre, hole, fill="paper", pen=SLANT)
 

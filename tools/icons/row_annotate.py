@@ -4,7 +4,7 @@
 """Glyphs of the annotation row: text marks, shapes, pens and erasers on the 24 pixel grid."""
 
 from drawing import BOLD, MARK, SLANT
-from parts import badge, bubble, cross, cut_page, letter_a, page, text_lines, wave
+from parts import badge, bubble, bulges, cross, cut_page, letter_a, page, text_lines, wave
 
 
 def _marked_letter(d):
@@ -75,10 +75,8 @@ def polyline(d):
 
 
 def cloud(d):
-    bump = "a2.7 2.7 0 0 1 "
-    d.path("M4.5 7.5" + "".join(bump + step for step in
-                                     ["5 0"] * 3 + ["0 5"] * 2 + ["-5 0"] * 3 + ["0-5"] * 2) + "z",
-           fill="tint", pen=SLANT)
+    bulges(d, [(6, 13.5, 3.5), (9.8, 9.1, 4.6), (15.6, 10, 3.6), (18.3, 14, 3.2), (15, 14.3, 4.7),
+               (9, 14.3, 4.7)], fill="tint", pen=SLANT)
 
 
 def shape(d):

@@ -61,9 +61,9 @@ def print_mask(d):
 
 def set_(d):
     if d.grid == 16:
-        small_gear(d, 8, radius=3.75, rim=2.3, tip=6.9)
+        small_gear(d, 8, radius=3.5, rim=3, tip=7)
     else:
-        gear(d, *d.by_grid(g20=(10, 8, 6.1, 2.5), g24=(12, 9.5, 7.3, 3)))
+        gear(d, *d.by_grid(g20=(10, 8.5, 5.8, 2.5), g24=(12, 9.5, 6.5, 3)))
 
 
 def _turn_back(d, mirror):

@@ -4,7 +4,7 @@
 """Glyphs of the annotation row on the 16 pixel grid."""
 
 from drawing import BOLD, MARK, SLANT
-from parts import bubble, cross, letter_a, page, text_lines, wave
+from parts import bubble, bulges, cross, letter_a, page, text_lines, wave
 
 
 def highlight(d):
@@ -62,9 +62,8 @@ def polyline(d):
 
 
 def cloud(d):
-    bump = "a2.1 2.1 0 0 1 "
-    d.path("M3 5.5" + "".join(bump + step for step in ["3.33 0"] * 3 + ["0 3.5"] * 2
-                               + ["-3.33 0"] * 3 + ["0-3.5"] * 2) + "z", fill="tint", pen=SLANT)
+    bulges(d, [(4.1, 9.3, 2.6), (7, 6.2, 3.2), (11.5, 8.9, 3), (10, 9.9, 3.1), (6, 9.9, 3.1)],
+           fill="tint", pen=SLANT)
 
 
 def shape(d):
