@@ -32,11 +32,14 @@ def delete_line(d):
 
 
 def display_mask(d):
-    d.rect(2.5, 4.5, 19, 13, 1, fill="paper")
-    d.line(8.5, 20.5, 15.5, 20.5)
+    """A screen on which parts of the text are covered."""
+    d.rect(2.5, 3.5, 19, 14, 1, fill="paper")
+    d.line(7.5, 20.5, 16.5, 20.5)
     d.line(12, 18, 12, 20, pen=BOLD, cap="butt")
-    text_lines(d, 5.5, 18.5, (7.5,), stroke="accent")
-    d.rect(5, 10, 14, 5, stroke=None, fill="ink")
+    d.rect(5, 6, 9, 3, stroke=None, fill="ink")
+    d.rect(10, 12, 9, 3, stroke=None, fill="ink")
+    text_lines(d, 16.5, 18.5, (7.5,), stroke="accent")
+    text_lines(d, 5.5, 7.5, (13.5,), stroke="accent")
 
 
 def _node(d, x, y):

@@ -54,9 +54,11 @@ def print_(d):
 
 
 def print_mask(d):
-    _printer(d, *d.by_grid(g16=(1.5, 14.5, 4.5, 1.5, 5.5, 8.5, 14.5),
-                           g24=(2.5, 21.5, 6.5, 2.5, 8.5, 12.5, 21.5)))
-    d.rect(*d.by_grid(g16=(6, 10, 4, 3), g24=(9, 15, 6, 4)), stroke=None, fill="ink")
+    """A printed page on which a part of the text is covered."""
+    _printer(d, *d.by_grid(g16=(1.5, 14.5, 4.5, 1.5, 4.5, 7.5, 14.5),
+                           g24=(2.5, 21.5, 6.5, 2.5, 7.5, 11.5, 21.5)))
+    d.rect(*d.by_grid(g16=(6, 9, 4, 2), g24=(9, 14, 6, 3)), stroke=None, fill="ink")
+    d.line(*d.by_grid(g16=(6.5, 12.5, 9.5, 12.5), g24=(9.5, 18.5, 14.5, 18.5)), stroke="accent")
 
 
 def set_(d):

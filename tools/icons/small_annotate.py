@@ -182,11 +182,14 @@ def affix_image(d):
 
 
 def display_mask(d):
-    d.rect(1.5, 2.5, 13, 9, 1, fill="paper")
-    d.line(5.5, 14.5, 10.5, 14.5)
+    """A screen on which parts of the text are covered."""
+    d.rect(1.5, 1.5, 13, 10, 1, fill="paper")
+    d.line(4.5, 14.5, 11.5, 14.5)
     d.line(8, 12, 8, 14, pen=BOLD, cap="butt")
-    text_lines(d, 4, 12, (4.5,), stroke="accent")
-    d.rect(4, 6, 8, 4, stroke=None, fill="ink")
+    d.rect(3, 4, 6, 2, stroke=None, fill="ink")
+    d.rect(7, 8, 6, 2, stroke=None, fill="ink")
+    text_lines(d, 10.5, 12.5, (5.5,), stroke="accent")
+    text_lines(d, 3.5, 5.5, (8.5,), stroke="accent")
 
 
 def annot_hide(d):
