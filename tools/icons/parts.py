@@ -22,12 +22,12 @@ def sheet(d, x, y, width, height, **style):
 
 def page(d, x, y, width, height, fold, **style):
     """A page with its upper right corner folded."""
-    right, bottom = x + width, y + height
+    right, bottom, outline = x + width, y + height, style.get("stroke", "ink")
     d.path(
         path_data("M", x + 1, y, "H", right - fold, "L", right, y + fold, "V", bottom - 1,
                   "a1 1 0 0 1-1 1H", x + 1, "a1 1 0 0 1-1-1V", y + 1, "a1 1 0 0 1 1-1z"),
         **dict({"fill": "paper"}, **style))
-    d.polyline([(right - fold, y), (right - fold, y + fold), (right, y + fold)])
+    d.polyline([(right - fold, y), (right - fold, y + fold), (right, y + fold)], stroke=outline)
 
 
 def text_lines(d, x, right, rows, stroke="ink"):

@@ -4,7 +4,7 @@
 """Glyphs of documents on the 24 pixel grid: file commands, finding, selecting."""
 
 from drawing import BOLD, MARK, SLANT
-from parts import (arrow, binoculars, check, cross, cut_page, dashed_frame, padlock, page,
+from parts import (arrow, binoculars, cross, cut_page, dashed_frame, padlock, page,
                    sheet, text_lines)
 
 
@@ -115,8 +115,8 @@ def select_all(d):
 
 
 def select_page(d):
-    page(d, 4.5, 2.5, 15, 19, 5, fill="tint")
-    check(d, 12, 14, 3.5, pen=BOLD)
+    dashed_frame(d, 2.5, 2.5, 19, corner=3, bridge=5)
+    page(d, 7.5, 5.5, 9, 13, 4, fill="tint", stroke="accent")
 
 
 def unselect(d):
@@ -125,9 +125,11 @@ def unselect(d):
 
 
 def track_info(d):
-    d.path("M5 19.5H14.5a3.5 3.5 0 0 0 0-7H9a3.5 3.5 0 0 1 0-7H14", pen=MARK)
-    d.circle(4.5, 19.5, 2, fill="paper", pen=SLANT)
-    d.circle(17.5, 5.5, 2.75, stroke="accent", fill="tint", pen=MARK)
+    """The trace of a pen, and a note about it."""
+    d.path("M2.5 15C5 5 10.5 0.5 11.5 4.5C12.5 9 5 14.5 8 16", pen=BOLD)
+    d.circle(16, 16, 5.5, stroke="accent", fill="paper", pen=MARK)
+    d.rect(15, 12, 2, 2, stroke=None, fill="accent")
+    d.rect(15, 15, 2, 5, stroke=None, fill="accent")
 
 
 def save_envelope(d):

@@ -23,9 +23,11 @@ def outline(d):
 
 
 def thumbnail(d):
-    for x, y in ((4.5, 2.5), (13.5, 2.5), (13.5, 13.5)):
-        sheet(d, x, y, 6, 8)
-    sheet(d, 4.5, 13.5, 6, 8, stroke="accent", fill="tint")
+    """Small pages in a column, one of them chosen, beside the page that it shows."""
+    sheet(d, 2.5, 3.5, 5, 7, stroke="accent", fill="tint")
+    sheet(d, 2.5, 13.5, 5, 7)
+    sheet(d, 10.5, 3.5, 11, 17)
+    text_lines(d, 13.5, 18.5, (8.5, 11.5, 14.5))
 
 
 def custom_tag(d):

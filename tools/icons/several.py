@@ -101,11 +101,14 @@ def arrow_down(d):
 
 
 def software_mark(d):
-    """An "i" in a circle beside three capitals, on a grid of 33 by 11."""
+    """An "i" in a circle beside a program's window, on a grid of 33 by 11."""
     d.circle(5.5, 5.5, 5)
     d.line(5.5, 5.5, 5.5, 7.5)
     d.rect(5, 3, 1, 1, stroke=None, fill="ink")
-    d.rect(13.5, 1.5, 5, 8, 2.5)
-    d.polyline([(25.5, 1.5), (21.5, 1.5), (21.5, 9.5)])
-    d.line(21.5, 5.5, 24.5, 5.5)
-    d.path("M28.5 1.5H30.5a2 2 0 0 1 2 2V7.5a2 2 0 0 1-2 2H28.5z")
+    d.rect(15.5, 0.5, 17, 10, 1)
+    d.line(15.5, 3.5, 32.5, 3.5)
+    for x in (26, 28, 30):
+        d.rect(x, 2, 1, 1, stroke=None, fill="ink")
+    d.rect(16, 4, 4, 6, stroke=None, fill="tint")
+    d.line(22.5, 6.5, 29.5, 6.5)
+    d.line(22.5, 8.5, 27.5, 8.5)

@@ -4,7 +4,7 @@
 """Glyphs of documents and pages on the 16 pixel grid: file menu, editing, page tools."""
 
 from drawing import BOLD, MARK, SLANT
-from parts import (arrow, check, cross, cut_page, padlock, page, plus, sheet,
+from parts import (arrow, cross, cut_page, dashed_frame, padlock, page, plus, sheet,
                    solid_head, text_lines)
 
 
@@ -119,5 +119,5 @@ def replace_page(d):
 
 
 def select_page(d):
-    page(d, 2.5, 1.5, 10, 13, 3, fill="tint")
-    check(d, 7.5, 9.5, 2.5)
+    dashed_frame(d, 1.5, 1.5, 13, corner=2, bridge=3)
+    page(d, 4.5, 3.5, 7, 9, 3, fill="tint", stroke="accent")

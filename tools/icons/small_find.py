@@ -67,9 +67,11 @@ def unselect(d):
 
 
 def track_info(d):
-    d.path("M3.5 13.5H10a2.5 2.5 0 0 0 0-5H6a2.5 2.5 0 0 1 0-5H9", pen=SLANT)
-    d.circle(2.5, 13.5, 1, fill="paper")
-    d.circle(11.5, 3.5, 2, stroke="accent", fill="tint", pen=SLANT)
+    """The trace of a pen, and a note about it."""
+    d.path("M1.5 9C3.5 2 7 0.5 7.5 3C8 6 3.5 9.5 5.5 10.5", pen=BOLD)
+    d.circle(10.5, 10.5, 4, stroke="accent", fill="paper", pen=SLANT)
+    d.rect(10, 8, 1, 1, stroke=None, fill="accent")
+    d.rect(10, 10, 1, 3, stroke=None, fill="accent")
 
 
 def menu(d):

@@ -24,9 +24,11 @@ def outline(d):
 
 
 def thumbnail(d):
-    for x, y in ((2.5, 1.5), (9.5, 1.5), (9.5, 9.5)):
-        sheet(d, x, y, 4, 5)
-    sheet(d, 2.5, 9.5, 4, 5, stroke="accent", fill="tint")
+    """Small pages in a column, one of them chosen, beside the page that it shows."""
+    sheet(d, 1.5, 1.5, 4, 5, stroke="accent", fill="tint")
+    sheet(d, 1.5, 9.5, 4, 5)
+    sheet(d, 8.5, 1.5, 6, 13)
+    text_lines(d, 10.5, 12.5, (5.5, 7.5, 9.5))
 
 
 def custom_tag(d):
