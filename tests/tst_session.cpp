@@ -11,6 +11,8 @@
 #include <QMenu>
 #include <QToolBar>
 
+#include <utility>
+
 namespace {
 
 /** A host that works through a shipped toolbar with mouse and keys and notes what it hears. */
@@ -26,15 +28,15 @@ public:
         note("DoGotoPage", &MRToolBar::DoGotoPage);
         QObject::connect(facade, &MRToolBar::DoSetBackground, facade,
                          [this](BackgroundStyle style) {
-                             log.append(QStringLiteral("DoSetBackground %1").arg(style));
+                             m_log.append(QStringLiteral("DoSetBackground %1").arg(style));
                          });
         QObject::connect(facade, &MRToolBar::DoSearchContent, facade, [this](SearchOption option) {
             const QString direction = option.direction == 1 ? "forwards" : "backwards";
             const QString cases = option.noCase ? "in any case" : "in this case";
-            log.append("DoSearchContent " + option.content + ' ' + direction + ' ' + cases);
+            m_log.append("DoSearchContent " + option.content + ' ' + direction + ' ' + cases);
         });
         QObject::connect(facade, &MRToolBar::DoRequestAuthority, facade, [this] {
-            log.append(QStringLiteral("DoRequestAuthority"));
+            m_log.append(QStringLiteral("DoRequestAuthority"));
             reportStates();
         });
         reportStates();
@@ -80,7 +82,8 @@ public:
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     }
 
-    QStringList log;
+    /** What the host has heard since the last call. */
+    QStringList takeLog() { return std::exchange(m_log, {}); }
 
 private:
     /** Opens a menu and clicks through these entries. */
@@ -95,7 +98,7 @@ private:
     void note(const char *name, Signal signal)
     {
         QObject::connect(&m_host->facade(), signal, &m_host->facade(), [this, name](auto value) {
-            log.append(QStringLiteral("%1 %2").arg(QLatin1String(name)).arg(value));
+            m_log.append(QStringLiteral("%1 %2").arg(QLatin1String(name)).arg(value));
         });
     }
 
@@ -106,12 +109,62 @@ private:
             m_host->setUsable(name, false);
     }
 
+    QStringList m_log;
     std::unique_ptr<TestHost> m_host;
 };
 
+void chooseFromMenusAndTheFirstRow(Session &session)
+{
+    session.clickMenu("menu_file", {"f_open"});
+    session.clickMenu("menu_file", {"menu_help", "h_productinfo"});
+    session.clickMenu("menu_file", {"f_save"}); // Disabled.
+    session.clickOnRow("qbar_f_print");
+    session.clickOnRow("qbar_f_save"); // Disabled.
+    session.clickOnRow("t_handtool");
+    session.clickMenu("ab_set", {"menu_view", "menu_view_pagelayout", "vpmode_doublepage"});
+}
+
+void enterPagesAndZooms(Session &session)
+{
+    TestHost &host = session.host();
+    auto *page = host.find<QLineEdit>("d_gotopageinput");
+    session.enter(page, "7");
+    session.enter(page, "99");
+    QCOMPARE(page->text(), QStringLiteral("7/25"));
+    auto *zoom = host.find<QComboBox>("v_zoomlist");
+    zoom->setFocus();
+    QTest::keyClick(zoom, Qt::Key_End);
+    session.enter(zoom->lineEdit(), "37");
+    session.enter(zoom->lineEdit(), "100"); // An entry of the list, so the box moves there.
+    session.clickOnRow("vzmode_fitwidth");
+    host.facade().DoSetZoomModeSlot("vzmode_fitwidth");
+}
+
+void chooseOnOtherTabs(Session &session)
+{
+    session.click("tb_annot");
+    session.clickOnRow("tt_highlight");
+    session.clickDrop("tp_shape", "tp_arrow");
+    session.clickOnRow("tp_shape"); // Repeats the entry.
+    session.host().setChecked("t_handtool", true);
+    session.click("tb_security");
+    session.clickOnRow("t_sealsign");
+    session.click("tb_annot"); // Its row exists already.
+}
+
+void searchAndFold(Session &session)
+{
+    session.enter(session.host().find<QLineEdit>("st_input"), "OFD");
+    session.click("st_prev");
+    session.clickMenu("st_set", {"st_option_nocase"});
+    session.click("st_next");
+    for (const char *button : {"e_preference", "t_fold", "t_extend"})
+        session.click(button);
+}
+
 } // namespace
 
-/** A long use of a shipped toolbar by mouse and keys, and the signals that the host gets in it. */
+/** A long use of a shipped toolbar by mouse and keys, and the signals that the host gets. */
 class SessionTest : public QObject
 {
     Q_OBJECT
@@ -120,69 +173,36 @@ private Q_SLOTS:
     void shouldReportEveryStepOfASession()
     {
         Session session;
-        TestHost &host = session.host();
-        host.facade().DoSetPageInfoSlot(1, 25);
-        session.clickMenu("menu_file", {"f_open"});
-        session.clickMenu("menu_file", {"menu_help", "h_productinfo"});
-        session.clickMenu("menu_file", {"f_save"}); // Not usable.
-        session.clickOnRow("qbar_f_print");
-        session.clickOnRow("qbar_f_save"); // Not usable either.
-        session.clickOnRow("t_handtool");
-        session.clickMenu("ab_set", {"menu_view", "menu_view_pagelayout", "vpmode_doublepage"});
+        MRToolBar &facade = session.host().facade();
+        facade.DoSetPageInfoSlot(1, 25);
+        chooseFromMenusAndTheFirstRow(session);
+        QCOMPARE(
+            session.takeLog(),
+            QStringList({"DoRequestAuthority", "DoActive f_open", "DoActive h_productinfo",
+                         "DoActive f_print", "DoActive t_handtool", "DoActive vpmode_doublepage"}));
 
-        auto *page = host.find<QLineEdit>("d_gotopageinput");
-        session.enter(page, "7");
-        session.enter(page, "99");
-        QCOMPARE(page->text(), QStringLiteral("7/25"));
-        auto *zoom = host.find<QComboBox>("v_zoomlist");
-        zoom->setFocus();
-        QTest::keyClick(zoom, Qt::Key_End);
-        session.enter(zoom->lineEdit(), "37");
-        session.enter(zoom->lineEdit(), "100"); // On the list already.
-        session.clickOnRow("vzmode_fitwidth");
-        host.facade().DoSetZoomModeSlot("vzmode_fitwidth");
+        enterPagesAndZooms(session);
+        QCOMPARE(
+            session.takeLog(),
+            QStringList({"DoGotoPage 7", "DoSetZoomMode vzmode_6400p", "DoSetZoomMode vzmode_37p",
+                         "DoActive vzmode_fitwidth", "DoSetZoomMode vzmode_fitwidth"}));
+
         session.clickDrop("v_foreground", "background_nighttime");
-        host.facade().DoSetBackgroundSlot(Background_Eyeguard);
+        facade.DoSetBackgroundSlot(Background_Eyeguard);
+        QCOMPARE(session.takeLog(), QStringList("DoSetBackground 2"));
 
-        session.click("tb_annot");
-        session.clickOnRow("tt_highlight");
-        session.clickDrop("tp_shape", "tp_arrow");
-        session.clickOnRow("tp_shape"); // Once more the same.
-        host.setChecked("t_handtool", true);
-        session.click("tb_security");
-        session.clickOnRow("t_sealsign");
-        session.click("tb_annot"); // Filled already.
+        chooseOnOtherTabs(session);
+        QCOMPARE(session.takeLog(),
+                 QStringList({"DoRequestAuthority", "DoActive tt_highlight", "DoActive tp_arrow",
+                              "DoActive tp_arrow", "DoRequestAuthority", "DoActive t_sealsign"}));
 
-        session.enter(host.find<QLineEdit>("st_input"), "OFD");
-        session.click("st_prev");
-        session.clickMenu("st_set", {"st_option_nocase"});
-        session.click("st_next");
-        for (const char *button : {"e_preference", "t_fold", "t_extend"})
-            session.click(button);
-        host.facade().DoResetToolbarSlot();
-        QCOMPARE(session.log, QStringList({"DoRequestAuthority",
-                                           "DoActive f_open",
-                                           "DoActive h_productinfo",
-                                           "DoActive f_print",
-                                           "DoActive t_handtool",
-                                           "DoActive vpmode_doublepage",
-                                           "DoGotoPage 7",
-                                           "DoSetZoomMode vzmode_6400p",
-                                           "DoSetZoomMode vzmode_37p",
-                                           "DoActive vzmode_fitwidth",
-                                           "DoSetZoomMode vzmode_fitwidth",
-                                           "DoSetBackground 2",
-                                           "DoRequestAuthority",
-                                           "DoActive tt_highlight",
-                                           "DoActive tp_arrow",
-                                           "DoActive tp_arrow",
-                                           "DoRequestAuthority",
-                                           "DoActive t_sealsign",
-                                           "DoSearchContent OFD forwards in this case",
-                                           "DoSearchContent OFD backwards in this case",
-                                           "DoSearchContent OFD forwards in any case",
-                                           "DoActive e_preference",
-                                           "DoSetZoomMode vzmode_original"}));
+        searchAndFold(session);
+        facade.DoResetToolbarSlot();
+        QCOMPARE(session.takeLog(),
+                 QStringList({"DoSearchContent OFD forwards in this case",
+                              "DoSearchContent OFD backwards in this case",
+                              "DoSearchContent OFD forwards in any case", "DoActive e_preference",
+                              "DoSetZoomMode vzmode_original"}));
     }
 };
 

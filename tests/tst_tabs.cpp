@@ -81,6 +81,53 @@ void actInLoop(TestHost &host, const QString &steps)
     loop.exec();
 }
 
+void addAnswer(const char *name, const QStringList &tabs, const char *steps, const char *answer,
+               int tab, bool isFolded = false)
+{
+    QTest::newRow(name) << tabs << steps << answer << tab << isFolded;
+}
+
+void addAnswersOfCheckableTabs()
+{
+    const QStringList plain{shown, checkable, checkable};
+    addAnswer("hides the tab on show", plain, "click 1", "hide 0", 1);
+    addAnswer("hides the tab on show, not the next clicked", plain, "click 2", "hide 0", 2);
+    addAnswer("disables the tab on show", plain, "click 2", "disable 0", 2);
+    addAnswer("hides all others", plain, "click 2", "hide 0,hide 1", 2);
+    addAnswer("sends all states", plain, "click 1", "enable 0,enable 1,enable 2", 1);
+    addAnswer("sends all states twice", plain, "click 2", "enable 0,enable 1,enable 0,enable 2", 2);
+    addAnswer("opens another tab", plain, "click 1", "click 2", 2);
+    addAnswer("opens another tab by its position", plain, "click 1", "open 2", 2);
+    addAnswer("opens the tab, too", plain, "click 1", "click 1", 1);
+    addAnswer("opens another tab, then the tab", plain, "click 1", "click 2,click 1", 1);
+    addAnswer("returns to the tab on show", plain, "click 1", "click 0", 0);
+    addAnswer("leaves the tab on show, then returns", plain, "click 1", "enable 0,click 0", 0);
+    addAnswer("opens the tab and folds it", plain, "click 1", "click 1,click 1", 1, true);
+    addAnswer("opens the tab, then hides it", plain, "click 1", "click 1,hide 1", 2);
+    addAnswer("is asked while the rows are folded", plain, "click 0,click 1", "click 1", 1);
+    addAnswer("has left a tab and disables it", plain, "hide 0", "disable 0", 1);
+    addAnswer("has left a tab and opens another", plain, "hide 0", "click 2", 2);
+    addAnswer("has left a tab and leaves another", plain, "enable 0", "click 2,hide 2", 0);
+    addAnswer("has opened the tab before", plain, "click 1,click 0,click 1", "", 1);
+    addAnswer("has no tab on show at first", {checkable, checkable}, "click 0", "", 0);
+    addAnswer("has no tab on show at first, opens one", {checkable, checkable}, "click 0",
+              "click 0", 0);
+    addAnswer("has no tab on show at first, hides it", {checkable, checkable}, "click 0", "hide 0",
+              1);
+}
+
+void addAnswersOfAnUncheckableTab()
+{
+    const QStringList mixed{shown, uncheckable, checkable};
+    addAnswer("has a tab that takes no check", mixed, "click 1", "", 1);
+    addAnswer("opens a tab that takes no check twice", mixed, "click 1", "click 1", 1);
+    addAnswer("hides the tab on show for it", mixed, "click 1", "hide 0", 1);
+    addAnswer("returns from it", mixed, "click 1", "click 0", 0);
+    addAnswer("opens another one instead of it", mixed, "click 1", "click 2", 2);
+    addAnswer("leaves it", mixed, "click 1,hide 1", "", 2);
+    addAnswer("begins with it", {shown, uncheckable + " checked='true'"}, "", "", 1);
+}
+
 } // namespace
 
 /** Tabs and their rows, also when the host changes them as it is asked for the states of a row. */
@@ -289,44 +336,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("answer");
         QTest::addColumn<int>("tab");
         QTest::addColumn<bool>("isFolded");
-        const QStringList plain{shown, checkable, checkable};
-        const auto row = [](const char *name, const QStringList &tabs, const char *steps,
-                            const char *answer, int tab, bool isFolded = false) {
-            QTest::newRow(name) << tabs << steps << answer << tab << isFolded;
-        };
-        row("hides the tab on show", plain, "click 1", "hide 0", 1);
-        row("hides the tab on show, not the next clicked", plain, "click 2", "hide 0", 2);
-        row("disables the tab on show", plain, "click 2", "disable 0", 2);
-        row("hides all others", plain, "click 2", "hide 0,hide 1", 2);
-        row("sends all states", plain, "click 1", "enable 0,enable 1,enable 2", 1);
-        row("sends all states twice", plain, "click 2", "enable 0,enable 1,enable 0,enable 2", 2);
-        row("opens another tab", plain, "click 1", "click 2", 2);
-        row("opens another tab by its position", plain, "click 1", "open 2", 2);
-        row("opens the tab, too", plain, "click 1", "click 1", 1);
-        row("opens another tab, then the tab", plain, "click 1", "click 2,click 1", 1);
-        row("returns to the tab on show", plain, "click 1", "click 0", 0);
-        row("leaves the tab on show, then returns", plain, "click 1", "enable 0,click 0", 0);
-        row("opens the tab and folds it", plain, "click 1", "click 1,click 1", 1, true);
-        row("opens the tab, then hides it", plain, "click 1", "click 1,hide 1", 2);
-        row("is asked while the rows are folded", plain, "click 0,click 1", "click 1", 1);
-        row("has left a tab and disables it", plain, "hide 0", "disable 0", 1);
-        row("has left a tab and opens another", plain, "hide 0", "click 2", 2);
-        row("has left a tab and leaves another", plain, "enable 0", "click 2,hide 2", 0);
-        row("has opened the tab before", plain, "click 1,click 0,click 1", "", 1);
-        row("has no tab on show at first", {checkable, checkable}, "click 0", "", 0);
-        row("has no tab on show at first, opens one", {checkable, checkable}, "click 0", "click 0",
-            0);
-        row("has no tab on show at first, hides it", {checkable, checkable}, "click 0", "hide 0",
-            1);
-
-        const QStringList mixed{shown, uncheckable, checkable};
-        row("has a tab that takes no check", mixed, "click 1", "", 1);
-        row("opens a tab that takes no check twice", mixed, "click 1", "click 1", 1);
-        row("hides the tab on show for it", mixed, "click 1", "hide 0", 1);
-        row("returns from it", mixed, "click 1", "click 0", 0);
-        row("opens another one instead of it", mixed, "click 1", "click 2", 2);
-        row("leaves it", mixed, "click 1,hide 1", "", 2);
-        row("begins with it", {shown, uncheckable + " checked='true'"}, "", "", 1);
+        addAnswersOfCheckableTabs();
+        addAnswersOfAnUncheckableTab();
     }
 
     void shouldShowTheRowOfTheCheckedTabAfterAnAnswer()

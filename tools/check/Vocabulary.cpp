@@ -11,6 +11,7 @@
 #include <QHash>
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 #include <vector>
 
@@ -18,56 +19,59 @@ namespace {
 
 struct RoleTraits
 {
+    Role role;
     const char *noun;
     const char *attributes; ///< What the toolbar looks at, separated by blanks.
 };
 
+constexpr RoleTraits allTraits[]{
+    {Role::Root, "the root", "prefix"},
+    {Role::AppButton, "an application button", "name action text icon tooltip"},
+    {Role::QuickButton, "a quick access button",
+     "name action text icon tooltip available checkable visible"},
+    {Role::QuickSet, "the customise button", "name action text icon tooltip visible"},
+    {Role::Tab, "a tab", "name action text checkable checked visible scalable"},
+    {Role::RowButton, "a button of a tool row",
+     "name action text icon tooltip group checkable checked visible "
+     "usable available doubleclick"},
+    {Role::RowMenu, "a menu of a tool row",
+     "name action text icon tooltip index checkable switchable "
+     "withaction visible usable available"},
+    {Role::ButtonGroup, "a button group", "visible"},
+    {Role::GroupButton, "a button of a group",
+     "name action text icon tooltip group checkable checked visible "
+     "usable available doubleclick"},
+    {Role::GroupMenu, "a menu of a group",
+     "name action text icon tooltip index checkable switchable "
+     "withaction visible usable available"},
+    {Role::ComboBox, "a combo box", "name action text index editable visible"},
+    {Role::Item, "an entry of a combo box", "name action text"},
+    {Role::RowLabel, "a label of a tool row", "name action text visible"},
+    {Role::RowField, "a field of a tool row", "name action text visible"},
+    {Role::Separator, "a separator", ""},
+    {Role::Extra, "an extra group", "usable"},
+    {Role::ExtraLabel, "a label of an extra group", "name action text"},
+    {Role::ExtraField, "a field of an extra group", "name action tooltip"},
+    {Role::ExtraButton, "a button of an extra group", "name action text icon tooltip"},
+    {Role::SubMenu, "a sub-menu", "name action text icon visible"},
+    {Role::MenuEntry, "a menu entry",
+     "name action text icon tooltip group shortcut checkable checked visible "
+     "usable available doubleclick"},
+    {Role::SearchLabel, "the label of the search bar", "name action text icon"},
+    {Role::SearchField, "the search field", "name action tooltip"},
+    {Role::SearchButton, "a search button", "name action text icon tooltip usable"},
+    {Role::SearchSet, "the button of the search options",
+     "name action text icon tooltip checkable"},
+    {Role::AdditionalButton, "an additional button",
+     "name action text icon tooltip checkable checked"},
+};
+
 const RoleTraits &traits(Role role)
 {
-    static const QHash<int, RoleTraits> table{
-        {int(Role::Root), {"the root", "prefix"}},
-        {int(Role::AppButton), {"an application button", "name action text icon tooltip"}},
-        {int(Role::QuickButton),
-         {"a quick access button", "name action text icon tooltip available checkable visible"}},
-        {int(Role::QuickSet), {"the customise button", "name action text icon tooltip visible"}},
-        {int(Role::Tab), {"a tab", "name action text checkable checked visible scalable"}},
-        {int(Role::RowButton),
-         {"a button of a tool row", "name action text icon tooltip group checkable checked visible "
-                                    "usable available doubleclick"}},
-        {int(Role::RowMenu),
-         {"a menu of a tool row", "name action text icon tooltip index checkable switchable "
-                                  "withaction visible usable available"}},
-        {int(Role::ButtonGroup), {"a button group", "visible"}},
-        {int(Role::GroupButton),
-         {"a button of a group", "name action text icon tooltip group checkable checked visible "
-                                 "usable available doubleclick"}},
-        {int(Role::GroupMenu),
-         {"a menu of a group", "name action text icon tooltip index checkable switchable "
-                               "withaction visible usable available"}},
-        {int(Role::ComboBox), {"a combo box", "name action text index editable visible"}},
-        {int(Role::Item), {"an entry of a combo box", "name action text"}},
-        {int(Role::RowLabel), {"a label of a tool row", "name action text visible"}},
-        {int(Role::RowField), {"a field of a tool row", "name action text visible"}},
-        {int(Role::Separator), {"a separator", ""}},
-        {int(Role::Extra), {"an extra group", "usable"}},
-        {int(Role::ExtraLabel), {"a label of an extra group", "name action text"}},
-        {int(Role::ExtraField), {"a field of an extra group", "name action tooltip"}},
-        {int(Role::ExtraButton), {"a button of an extra group", "name action text icon tooltip"}},
-        {int(Role::SubMenu), {"a sub-menu", "name action text icon visible"}},
-        {int(Role::MenuEntry),
-         {"a menu entry", "name action text icon tooltip group shortcut checkable checked visible "
-                          "usable available doubleclick"}},
-        {int(Role::SearchLabel), {"the label of the search bar", "name action text icon"}},
-        {int(Role::SearchField), {"the search field", "name action tooltip"}},
-        {int(Role::SearchButton), {"a search button", "name action text icon tooltip usable"}},
-        {int(Role::SearchSet),
-         {"the button of the search options", "name action text icon tooltip checkable"}},
-        {int(Role::AdditionalButton),
-         {"an additional button", "name action text icon tooltip checkable checked"}},
-    };
-    static const RoleTraits section{"a section", ""};
-    const auto found = table.find(int(role));
-    return found == table.end() ? section : *found;
+    static constexpr RoleTraits section{Role::Nothing, "a section", ""};
+    const auto found = std::find_if(std::begin(allTraits), std::end(allTraits),
+                                    [role](const RoleTraits &each) { return each.role == role; });
+    return found == std::end(allTraits) ? section : *found;
 }
 
 using Kinds = std::vector<std::pair<const char *, Role>>;

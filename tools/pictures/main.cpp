@@ -38,15 +38,8 @@ bool readSkinMap(const QString &path, QMap<QString, QString> *map)
     return true;
 }
 
-} // namespace
-
-int main(int argc, char *argv[])
+void addOptions(QCommandLineParser &parser)
 {
-#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
-    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-#endif
-    QApplication application(argc, argv);
-    QCommandLineParser parser;
     parser.setApplicationDescription(
         QStringLiteral("Takes a picture of every tab, state and menu of a toolbar."));
     parser.addHelpOption();
@@ -62,6 +55,27 @@ int main(int argc, char *argv[])
         {QStringLiteral("out"), QStringLiteral("file of the picture"), QStringLiteral("file"),
          QStringLiteral("toolbar.png")},
     });
+}
+
+/** Reads a description from a file, or the one of the skin that is called "release" or "debug". */
+bool readDescription(const QString &name, const QString &skin, QDomDocument *document)
+{
+    const bool isShipped = name == QLatin1String("release") || name == QLatin1String("debug");
+    const QString shipped = QStringLiteral(":/mr_toolbar/Resources/%1/mr_toolbar.%2.xml");
+    QFile file(isShipped ? shipped.arg(skin, name) : name);
+    return file.open(QIODevice::ReadOnly) && document->setContent(file.readAll());
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+#endif
+    QApplication application(argc, argv);
+    QCommandLineParser parser;
+    addOptions(parser);
     parser.process(application);
 
     const QString skin = parser.value(QStringLiteral("skin"));
@@ -70,14 +84,8 @@ int main(int argc, char *argv[])
     NewToolBar::uiStyle = skin == QLatin1String("lum") ? 1 : 0;
 
     const QString description = parser.value(QStringLiteral("description"));
-    const bool isShipped =
-        description == QLatin1String("release") || description == QLatin1String("debug");
-    QFile file(
-        isShipped
-            ? QStringLiteral(":/mr_toolbar/Resources/%1/mr_toolbar.%2.xml").arg(skin, description)
-            : description);
     QDomDocument document;
-    if (!file.open(QIODevice::ReadOnly) || !document.setContent(file.readAll()))
+    if (!readDescription(description, skin, &document))
         return fail(QStringLiteral("cannot read '%1'").arg(description));
     QMap<QString, QString> skinMap;
     if (!readSkinMap(parser.value(QStringLiteral("skin-map")), &skinMap))
