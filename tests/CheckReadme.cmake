@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: The MRToolBar authors
 # SPDX-License-Identifier: MIT
 
-# Fails unless the README shows the smallest host exactly as it is built, but for its licence lines.
+# Fails unless the README shows the source of the smallest host exactly, without its licence lines.
 file(READ ${README} readme)
 file(READ ${SOURCE} source)
 string(REGEX REPLACE "^(// SPDX-[^\n]*\n)+\n" "" source "${source}")

@@ -13,7 +13,7 @@
 
 namespace {
 
-/** Everything on show that a person works with. */
+/** The visible widgets that a user operates. */
 QWidgetList shownControls(const QWidget *area)
 {
     QWidgetList controls;
@@ -28,7 +28,7 @@ QWidgetList shownControls(const QWidget *area)
     return controls;
 }
 
-/** The container of an arrow of a scrolling row, and a button that the description leaves bare. */
+/** Whether it is the container of a scroll arrow, or a button described without text and icon. */
 bool isWithoutMeaning(const QWidget *control)
 {
     const auto *button = qobject_cast<const QAbstractButton *>(control);
@@ -38,7 +38,7 @@ bool isWithoutMeaning(const QWidget *control)
 
 } // namespace
 
-/** Accessible names and roles, and the use by keys alone. */
+/** Accessible names and roles, and the use by the keyboard alone. */
 class AccessTest : public QObject
 {
     Q_OBJECT
@@ -164,7 +164,7 @@ private Q_SLOTS:
             QTest::keyClick(field, Qt::Key_Escape);
             QCOMPARE(QApplication::focusWidget(), document);
         }
-        // A click on a command leaves the document its focus.
+        // A click on a command does not take the focus from the document.
         host->click(QStringLiteral("e_preference"));
         QCOMPARE(QApplication::focusWidget(), document);
     }

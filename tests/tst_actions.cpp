@@ -22,7 +22,7 @@ MRMainToolBar *rowOf(const TestHost &host)
     return host.find<MRMainToolBar>(QStringLiteral("row"));
 }
 
-/** What stands on the row: "|" for a separator, else the name, "()" for a group's panel. */
+/** The contents of the row: "|" for a separator, "()" for the panel of a group, else the name. */
 QString contents(const TestHost &host)
 {
     QStringList names;
@@ -36,7 +36,7 @@ QString contents(const TestHost &host)
 
 } // namespace
 
-/** What stands on a row, how wide it is and what it shows. */
+/** The controls of a row: their kinds, widths and texts. */
 class ActionsTest : public QObject
 {
     Q_OBJECT
@@ -65,7 +65,7 @@ private Q_SLOTS:
 
     void shouldSizeButtonsByTheirTexts_data()
     {
-        QTest::addColumn<QString>("control"); // Its name is "c".
+        QTest::addColumn<QString>("control"); // Its object name is "c".
         QTest::addColumn<double>("width");    // In pixels at 96 dpi.
         const auto button = [](const char *text) {
             return QStringLiteral("<button name='c' text='%1'/>").arg(text);
@@ -82,7 +82,7 @@ private Q_SLOTS:
         QTest::newRow("menu, long") << menu("text='ABCDEF'", "e") << 4 * 18.0 + 12.0;
         QTest::newRow("entry shown") << menu("text='A' index='1'", "abc") << 3 * 22.0 + 12.0;
         QTest::newRow("entry, long") << menu("text='A' index='1'", "abcdef") << 4 * 22.0 + 12.0;
-        // The entry that the button takes out of its menu does not count.
+        // The text of the entry that is not in the menu any more does not widen the button.
         QTest::newRow("own entry")
             << menu("text='A' index='2' withaction='true'", "abcd") << 2.5 * 22.0 + 12.0;
         QTest::newRow("beyond") << menu("text='ABC' index='7'", "a") << 3 * 22.0 + 12.0;
@@ -151,7 +151,7 @@ private Q_SLOTS:
         QTest::newRow("text='M' switchable='true'") << QStringList{"M", "", "one", "two"};
         QTest::newRow("text='M' index='2'") << QStringList{"Two   ", "two", "one", "two"};
         QTest::newRow("text='M' index='3'") << QStringList{"M  ", "", "one", "two"};
-        // One that the button has for its own also lends it its tooltip.
+        // With withaction the button also takes the tooltip of the entry.
         QTest::newRow("index='2' withaction='true'") << QStringList{"Two   ", "two", "one"};
         QTest::newRow("index='1' withaction='true' tooltip='Tip'")
             << QStringList{"One   ", "one", "two"};

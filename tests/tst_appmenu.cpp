@@ -44,7 +44,7 @@ private Q_SLOTS:
         }
         QVERIFY(host.facade().IsSupportByToolBar("h_info"));
         QVERIFY(host.facade().IsSupportByToolBar("s_one"));
-        QVERIFY2(!host.facade().IsSupportByToolBar("m3"), "There is room for two menus only");
+        QVERIFY2(!host.facade().IsSupportByToolBar("m3"), "Only the first two menus are used");
     }
 
     void shouldKeepNewEntriesDisabledUntilTheHostAnswers()

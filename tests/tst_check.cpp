@@ -62,7 +62,7 @@ QByteArray extra(const QByteArray &controls)
     return row("<extra usable='true'>" + controls + "</extra>", scalable);
 }
 
-/** A fault, where it stands, and what is to be found: severity, rule and line; or nothing. */
+/** A fragment with a fault, and the expected severity, rule and line; none for no fault. */
 struct Fault
 {
     QByteArray (*place)(const QByteArray &);
@@ -153,7 +153,7 @@ constexpr Fault faults[]{
      "<menu name='f_openrecent'><menuitem action='f_clearhistory'/></menu>"},
     {menu, "note recent-files-clear-history 3",
      "<menu name='f_openrecent'><menuitem action='no_file'/></menu>"},
-    // What is in order.
+    // Without a fault.
     {whole, "", "\xEF\xBB\xBF<uiconfig prefix=''/>"},
     {whole, "",
      "<uiconfig prefix='' xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' "
@@ -176,7 +176,7 @@ constexpr Fault faults[]{
 
 } // namespace
 
-/** What an author is told of a description. */
+/** The findings of the description checker. */
 class CheckTest : public QObject
 {
     Q_OBJECT
@@ -210,7 +210,7 @@ private Q_SLOTS:
 
         const QString skinName = skin == lum ? "lum" : "marodi";
         QStringList found = summary(checkDescription(TestDocuments::content(path), {skinName}));
-        QVERIFY2(!found.isEmpty(), "The documents have their oddities");
+        QVERIFY2(!found.isEmpty(), "The shipped documents have known findings");
         QCOMPARE(found.filter(QRegularExpression("^(error|warning)")), QStringList());
     }
 
@@ -233,7 +233,7 @@ private Q_SLOTS:
         QCOMPARE(summary(checkDescription(description, {"lum"})),
                  QStringList("warning icon-missing 3"));
 
-        // The action has its icon from the row, which is built first.
+        // The shared action gets its icon from the row, which is built first.
         const QByteArray shipped =
             TestDocuments::content(TestDocuments::shippedPath("marodi/mr_toolbar.debug.xml"));
         QCOMPARE(summary(checkDescription(shipped)).filter("icon-missing"),
@@ -255,7 +255,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("description");
         QTest::addColumn<int>("exitCode");
-        QTest::addColumn<QByteArray>("output"); // The options name the case.
+        QTest::addColumn<QByteArray>("output"); // The options are the tag of the row.
         const auto add = [](const char *options, const QByteArray &description, int exitCode,
                             const QByteArray &output) {
             QTest::newRow(options) << description << exitCode << output;
@@ -288,7 +288,7 @@ private Q_SLOTS:
         QCOMPARE(result.exitCode, exitCode);
         QVERIFY2(output.isEmpty() ? result.output.isEmpty() : result.output.startsWith(output),
                  result.output.constData());
-        // One clear line, and only where something is wrong with the call.
+        // One line, and only if the call itself is wrong.
         QCOMPARE(int(result.error.count('\n')), exitCode == 2 ? 1 : 0);
     }
 

@@ -23,7 +23,7 @@ using namespace CheckDocuments;
 
 namespace {
 
-/** What the parser has read of an element, but for names that it may read in two ways. */
+/** The values that the parser has read, without the names, which two attributes can set. */
 QVariantList valuesOf(const Controller &record)
 {
     return {record.type,  record.text,    record.icon,      record.group,   record.shortcut,
@@ -47,7 +47,7 @@ void compareRecords(const QList<Controller *> &records, const QVector<int> &elem
 
 } // namespace
 
-/** Whether the description check agrees with what the parser reads and what the toolbar builds. */
+/** Whether the description checker agrees with the parser and with what the toolbar builds. */
 class CheckAgreementTest : public QObject
 {
     Q_OBJECT

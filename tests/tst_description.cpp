@@ -13,7 +13,7 @@
 
 namespace {
 
-/** The names and sections of records and of all below them. */
+/** The names and sections of records and of all their descendants. */
 QStringList placesOf(const QList<Controller *> &records)
 {
     QStringList places;
@@ -26,7 +26,7 @@ QStringList placesOf(const QList<Controller *> &records)
 
 } // namespace
 
-/** Reads whole descriptions into records. */
+/** The reading of descriptions into records. */
 class DescriptionTest : public QObject
 {
     Q_OBJECT
@@ -128,7 +128,7 @@ private Q_SLOTS:
         QCOMPARE(sections,
                  QStringList({"toolbar_appbutton", "toolbar_quickaccessbar", "toolbar_tabbar",
                               "toolbar_searchbar", "toolbar_addtional"}));
-        // The description check looks after the other icons; these nothing shows yet.
+        // The description checker checks the other icons. No control shows these.
         const QString icons = path.section('/', 0, -2) + "/icons/";
         const QList<QDomElement> elements = elementsBelow(root);
         for (const QDomElement &element : elements) {

@@ -39,7 +39,7 @@ QWidget *rowButton(const TestHost &host, const QString &name)
     return host.find<MRMainToolBar>(QStringLiteral("row"))->widgetForAction(host.action(name));
 }
 
-/** A click that the window system reports as having happened at that time. */
+/** A click with that time stamp in milliseconds, as the window system reports it. */
 void clickAt(TestHost &host, const QString &name, int time)
 {
     const QWidget *button = rowButton(host, name);
@@ -50,7 +50,7 @@ void clickAt(TestHost &host, const QString &name, int time)
 
 } // namespace
 
-/** What the host hears of a command, and checking by name, of which it hears nothing. */
+/** The signals for commands, and checking by name, which emits no signal. */
 class DispatchTest : public QObject
 {
     Q_OBJECT
@@ -58,7 +58,7 @@ class DispatchTest : public QObject
 private Q_SLOTS:
     void shouldReportACommand()
     {
-        // What two triggers report: commands, and a background as its number.
+        // The signals of two triggers: commands by name, backgrounds by number.
         const QList<std::pair<QString, QString>> rows{
             {"f_print", "f_print f_print"},  {"menu_f_open", "f_open f_open"},
             {"menu_none", "none none"},      {"menuf_open", "menuf_open menuf_open"},
@@ -66,7 +66,7 @@ private Q_SLOTS:
             {"background_nighttime", "2 2"}, {"background_eyeguard", "3 3"},
             {"background_parchment", "4 4"}, {"menu_background_daytime", "0 0"}};
         for (const auto &[name, reported] : rows) {
-            // No background waits for a second click, whatever its description says.
+            // Backgrounds ignore the attribute doubleclick.
             const bool isBackground = name.contains("background");
             TestHost host(
                 row(button("f_open") + button(name, isBackground ? "doubleclick='true'" : "")));
@@ -109,7 +109,7 @@ private Q_SLOTS:
             QVERIFY2(active.isEmpty(), qPrintable(clicks));
             if (!single.isEmpty()) {
                 QTRY_COMPARE_WITH_TIMEOUT(active.count(), 1, 2000);
-                QVERIFY2(clock.elapsed() >= 230, "The wait for a second click was too short");
+                QVERIFY2(clock.elapsed() >= 230, "The single click was reported too early");
             }
             QTest::qWait(300);
             QCOMPARE(clicks + ": " + TestHost::texts(active).join(""), clicks + ": " + single);
@@ -117,7 +117,7 @@ private Q_SLOTS:
         }
     }
 
-    void shouldTellClicksApartByWhenTheyHappened_data()
+    void shouldTellDoubleClicksByTheirTimeStamps_data()
     {
         QTest::addColumn<QString>("clicks");
         QTest::addColumn<int>("gap"); // From each click to the next, in milliseconds.
@@ -135,7 +135,7 @@ private Q_SLOTS:
         row("ab", 600, "ab", "");
     }
 
-    void shouldTellClicksApartByWhenTheyHappened()
+    void shouldTellDoubleClicksByTheirTimeStamps()
     {
         QFETCH(QString, clicks);
         QFETCH(int, gap);
@@ -143,7 +143,7 @@ private Q_SLOTS:
         host.showEnabled();
         const QSignalSpy active(&host.facade(), &MRToolBar::DoActive);
         const QSignalSpy doubleActive(&host.facade(), &MRToolBar::DoDoubleActive);
-        // All at once, as after a time in which the host was busy.
+        // All clicks are delivered at once, as after a time in which the host was busy.
         int time = 1000;
         for (const QChar name : clicks)
             clickAt(host, name, time += gap);
@@ -152,10 +152,10 @@ private Q_SLOTS:
         QTEST(TestHost::texts(doubleActive).join(""), "twice");
     }
 
-    void shouldGoByTheClockWhereNoEventTellsTheTime_data()
+    void shouldUseTheClockForTriggersWithoutTimeStamp_data()
     {
-        QTest::addColumn<bool>("isClicked"); // By a program, which sends the event to the button.
-        QTest::addColumn<int>("busy"); // Milliseconds for which the host then does something else.
+        QTest::addColumn<bool>("isClicked"); // By an event without time stamp, else by trigger().
+        QTest::addColumn<int>("busy"); // Milliseconds between the two without event processing.
         QTest::addColumn<QString>("heard");
         QTest::newRow("triggers") << false << 0 << "twice";
         QTest::newRow("clicks") << true << 0 << "twice";
@@ -163,13 +163,13 @@ private Q_SLOTS:
         QTest::newRow("clicks while busy") << true << 300 << "a a";
     }
 
-    void shouldGoByTheClockWhereNoEventTellsTheTime()
+    void shouldUseTheClockForTriggersWithoutTimeStamp()
     {
         QFETCH(bool, isClicked);
         QFETCH(int, busy);
         TestHost host(row(button("a", "doubleclick='true'")));
         host.showEnabled();
-        // An earlier click of the user has nothing to do with it.
+        // The time of an earlier click of the user must not count.
         clickAt(host, "a", 1000);
         QTest::qWait(300);
         QStringList heard;
@@ -283,7 +283,7 @@ private Q_SLOTS:
         host.action("menu_c")->trigger();
         QCOMPARE(TestHost::texts(active), QStringList("c"));
         QVERIFY(!host.action("c")->isChecked());
-        host.setUsable("c", true); // From now on it is like any other.
+        host.setUsable("c", true); // The first trigger has made it available.
         QVERIFY(host.action("c")->isEnabled());
     }
 
@@ -296,7 +296,7 @@ private Q_SLOTS:
         for (const QString name : {"tw_watermark_add", "tp_else", "my tp_tool:x", "tool"}) {
             for (const bool checked : {true, false}) {
                 host.setChecked("tp_arrow", true);
-                QVERIFY(shapes->isChecked()); // In line with its menu.
+                QVERIFY(shapes->isChecked()); // As the entry of its menu.
                 host.setChecked(name, checked);
                 QVERIFY2(shapes->isChecked() == (name != "tool"), qPrintable(name));
                 QCOMPARE(pens->isChecked(), host.action("tool")->isChecked());
@@ -306,13 +306,13 @@ private Q_SLOTS:
 
     void shouldMoveADropButtonOnFromAHiddenEntry()
     {
-        // Which entries are hidden one after the other, and the one that the button then has.
+        // The entries that are hidden one after the other, and the button's entry afterwards.
         const QList<std::tuple<QString, QString, QString>> rows{
-            {"index='2'", "1", "2"}, // Another one.
+            {"index='2'", "1", "2"}, // Not the current entry.
             {"index='2'", "2", "3"},
             {"index='3'", "3", "1"},
             {"index='1'", "21", "3"},
-            {"index='1'", "231", "1"}, // There is no other one.
+            {"index='1'", "231", "1"}, // No visible entry is left.
             {"index='2' withaction='true'", "2", "1"},
             {"index='2' withaction='true'", "12", "3"}};
         for (const auto &[attributes, hidden, current] : rows) {

@@ -15,7 +15,7 @@
 
 namespace {
 
-/** A row that is no child of a main window, with a drop button that offers three shapes. */
+/** A row outside a main window, with a drop button that has three shapes in its menu. */
 class Row
 {
 public:
@@ -36,7 +36,7 @@ public:
         action->SetSwichable(true);
     }
 
-    /** Puts the button on the row, and a copy into a menu as the row does for want of room. */
+    /** Puts the button on the row and a copy into a menu, as the row does if it is too narrow. */
     void addWithCopy()
     {
         row->addAction(action);
@@ -67,7 +67,7 @@ public:
 
 } // namespace
 
-/** The drop button on a row and its copy in the menu of what the row has no room for. */
+/** The drop button on a row, and its copy in the overflow menu of the row. */
 class DropButtonTest : public QObject
 {
     Q_OBJECT
@@ -94,7 +94,7 @@ private Q_SLOTS:
         QCOMPARE(repeated.count(), 2);
         QVERIFY(button->isChecked() && fixture.line->isChecked());
 
-        // An entry without an icon leaves the one there is.
+        // An entry without an icon does not change the icon of the button.
         fixture.plain->trigger();
         QCOMPARE(button->text(), QStringLiteral("Plain   "));
         QCOMPARE(shownColour(*button), QColor(Qt::red));
@@ -102,28 +102,28 @@ private Q_SLOTS:
 
     void shouldOpenTheMenuByKeyAndWithNothingToRepeat_data()
     {
-        QTest::addColumn<QString>("fate"); // Of the entry that a click would repeat.
-        for (const char *fate : {"none", "disabled", "deleted", "usable"})
-            QTest::newRow(fate) << fate;
+        QTest::addColumn<QString>("entry"); // The state of the entry that a click repeats.
+        for (const char *entry : {"none", "disabled", "deleted", "usable"})
+            QTest::newRow(entry) << entry;
     }
 
     void shouldOpenTheMenuByKeyAndWithNothingToRepeat()
     {
-        QFETCH(QString, fate);
+        QFETCH(QString, entry);
         Row fixture;
         fixture.row->addAction(fixture.action);
         fixture.show();
         MRDropButton *button = fixture.button();
         const QSignalSpy triggered(&fixture.menu, &QMenu::triggered);
-        if (fate != "none")
+        if (entry != "none")
             button->SetAction(fixture.line);
-        fixture.line->setEnabled(fate != "disabled");
-        if (fate == "deleted")
+        fixture.line->setEnabled(entry != "disabled");
+        if (entry == "deleted")
             delete fixture.line;
 
         QMenu *popped = nullptr;
         whenMenuPops([&popped](QMenu *menu) { popped = menu; });
-        if (fate == "usable")
+        if (entry == "usable")
             QTest::keyClick(button, Qt::Key_Down, Qt::AltModifier);
         else
             QTest::mouseClick(button, Qt::LeftButton, {}, bodyOf(button));
@@ -150,7 +150,7 @@ private Q_SLOTS:
     void shouldKeepTheCopyInStepWithTheRow()
     {
         Row fixture;
-        fixture.action->SetAction(fixture.line); // By default, so that nothing is checked yet.
+        fixture.action->SetAction(fixture.line); // Does not check the entry.
         fixture.addWithCopy();
         MRDropButton *button = fixture.button();
         QCOMPARE(button->text(), QStringLiteral("Line   "));
@@ -181,13 +181,13 @@ private Q_SLOTS:
         Row fixture;
         fixture.addWithCopy();
         fixture.show();
-        // Of a row that is disabled as a whole, too.
+        // Also on a disabled row.
         fixture.row->setEnabled(false);
         fixture.action->setEnabled(false);
         fixture.row->setEnabled(true);
         QVERIFY(!fixture.button()->isEnabled() && !fixture.copy->isEnabled());
         fixture.action->setEnabled(true);
-        fixture.button()->setEnabled(false); // Set by itself; the action decides.
+        fixture.button()->setEnabled(false); // The state of the action overrides this.
         fixture.action->setEnabled(true);
         QVERIFY(fixture.button()->isEnabled() && fixture.copy->isEnabled());
 
@@ -234,7 +234,7 @@ private Q_SLOTS:
         QTRY_VERIFY(fixture.button()->isHidden());
         QVERIFY(extension->menu());
 
-        // Showing what there is no room for leaves it where it is.
+        // Showing the action does not move the button from the overflow menu to the row.
         fixture.action->setVisible(true);
         QTRY_VERIFY(fixture.button()->isHidden());
 
@@ -273,7 +273,7 @@ private Q_SLOTS:
             fixture.row->addAction(fixture.action);
             fixture.show();
             MRDropButton *button = fixture.button();
-            // As on a tool row; the style sheets alone would move the arrow.
+            // The size on a row, because the style sheets alone would move the arrow.
             button->setFixedSize(90, 50);
             const QString body = HoverSheets::dropButton(false, false, skin == lum, 1.0);
             const QString arrow = HoverSheets::dropButton(false, isSplit, skin == lum, 1.0);
@@ -283,7 +283,7 @@ private Q_SLOTS:
             QTest::mouseMove(button, arrowOf(button));
             QTRY_COMPARE(button->styleSheet(), arrow);
 
-            // The sheet is set anew on every move.
+            // A move of the pointer sets the style sheet again.
             button->setStyleSheet(QString());
             QTest::mouseMove(button, arrowOf(button) + QPoint(0, 1));
             QTRY_COMPARE(button->styleSheet(), arrow);

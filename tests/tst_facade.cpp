@@ -8,14 +8,14 @@ using namespace Describe;
 
 namespace {
 
-/** A facade without a toolbar, of which the boundary itself is all that is left. */
+/** A facade without a toolbar. */
 struct Bare
 {
     QDomNode description;
     MRToolBar facade{nullptr, description, {}, ToolBarLeft};
 };
 
-/** Calls everything of a facade that has no toolbar, or none any more. */
+/** Calls every slot and query of a facade whose toolbar does not exist or was deleted. */
 void verifyIsNeutral(MRToolBar &facade)
 {
     QString name = "a";
@@ -34,7 +34,7 @@ void verifyIsNeutral(MRToolBar &facade)
 
 } // namespace
 
-/** The boundary between the host and the library. */
+/** The class MRToolBar: its signals, slots and queries. */
 class FacadeTest : public QObject
 {
     Q_OBJECT
@@ -56,7 +56,7 @@ private Q_SLOTS:
     void shouldSendTheTotalBeforeThePage()
     {
         Bare from;
-        // Two spies would not show the order; a second facade brings both into one signal.
+        // Two spies would not show the order, so a second facade receives both signals.
         Bare recorder;
         for (const char *signal :
              {SIGNAL(Inner_DoSetTotalPage(QString)), SIGNAL(Inner_DoSetPageNum(QString))})
@@ -72,7 +72,7 @@ private Q_SLOTS:
         }
     }
 
-    void shouldDeclareWhatHostsConnectToByText()
+    void shouldDeclareTheSignaturesForStringConnections()
     {
         const QString expected =
             "Inner_DoSetControlUsableState(QString&,bool) "

@@ -16,7 +16,7 @@
 
 using namespace Describe;
 
-/** The buttons of a group, and how any button looks while the pointer is over it. */
+/** The buttons of a group, and the hover sheets of all split buttons. */
 class GroupButtonTest : public QObject
 {
     Q_OBJECT
@@ -43,7 +43,7 @@ private Q_SLOTS:
 
         button.SetDefaultAction(&drawn);
         QCOMPARE(shownColour(button), QColor(Qt::red));
-        bare.toggle(); // The button no longer follows what it showed before.
+        bare.toggle(); // The button is not connected to its former action any more.
         button.SetDefaultAction(nullptr);
         QCOMPARE(button.defaultAction(), &drawn);
         QCOMPARE(shownColour(button), QColor(Qt::red));
@@ -66,7 +66,7 @@ private Q_SLOTS:
             window.show();
             QVERIFY(QTest::qWaitForWindowExposed(&window));
 
-            // Nothing moves until there is a state to show.
+            // A button that is not checkable gets no hover sheet.
             QTest::mouseMove(&button, bodyOf(&button));
             QTest::qWait(50);
             QCOMPARE(button.styleSheet(), initial);
@@ -75,7 +75,7 @@ private Q_SLOTS:
             QTest::mouseMove(&button, bodyOf(&button) + QPoint(1, 0));
             QTRY_COMPARE(button.styleSheet(), HoverSheets::groupButton(false, skin == lum));
             button.setStyleSheet(QString());
-            QTest::mouseMove(&button, arrowOf(&button)); // Where there is no menu, there is none.
+            QTest::mouseMove(&button, arrowOf(&button)); // Only with a menu there is an arrow.
             QTRY_COMPARE(button.styleSheet(), HoverSheets::groupButton(hasMenu, skin == lum));
 
             movePointerAway();
@@ -98,7 +98,7 @@ private Q_SLOTS:
         };
         using HoverSheets::dropButton;
         using HoverSheets::groupButton;
-        // Qt cannot read the sheet of the body on a row in marodi, so that one colours nothing.
+        // The sheet "row, body" is left out: Qt cannot parse it, so it has no effect.
         add("row, arrow", dropButton(false, true, false, 1.0), {grey, grey, grey});
         add("row, arrow, lum", dropButton(false, true, true, 1.0), {white, white, white});
         add("row, body, lum", dropButton(false, false, true, 1.0), {hovered, pressed, checked});
@@ -145,8 +145,8 @@ private Q_SLOTS:
             QVERIFY(item);
             QCOMPARE(item->widget()->objectName(), place.key());
         }
-        QCOMPARE(grid->count(), places.size()); // A child that becomes nothing leaves no hole.
-        // Elements without attributes have no type, and nothing is made of them.
+        QCOMPARE(grid->count(), places.size()); // A skipped child leaves no empty cell.
+        // Elements without attributes have no type, so no widget is made for them.
         QCOMPARE(host.find<MRMainToolBar>("row")->actions().size(), 1);
     }
 
@@ -187,7 +187,7 @@ private Q_SLOTS:
         QStringList texts(pick->text());
         const bool isSplit = attributes.startsWith("checkable");
         QCOMPARE(pick->popupMode() == QToolButton::MenuButtonPopup, isSplit);
-        if (isSplit) // As wide as the longest of its texts.
+        if (isSplit) // The width is that of the longest entry.
             QCOMPARE(pick->width(), host.scaled(6 * 24.0 + 12.0));
         host.action("one")->trigger();
         texts.append(pick->text());

@@ -20,7 +20,7 @@ size_t bytesInUse()
     return info.uordblks + info.hblkhd;
 }
 
-/** Makes a toolbar, shows it, opens every tab and menu, sets states and deletes it. */
+/** Makes a toolbar, opens every tab and menu, sets states and deletes it. */
 void useOneToolbar(QMainWindow &window, const QDomDocument &description)
 {
     QDomElement root = description.documentElement();
@@ -45,7 +45,7 @@ void useOneToolbar(QMainWindow &window, const QDomDocument &description)
 
 } // namespace
 
-/** The memory of a process that makes and deletes many toolbars. */
+/** The heap of a process that makes and deletes many toolbars. */
 class GrowthTest : public QObject
 {
     Q_OBJECT
@@ -66,10 +66,10 @@ private Q_SLOTS:
         const SkinChoice choice(skin);
         constexpr int warmUp = 10;
         constexpr int toolbars = 200;
-        // The allocator's own rounding; a single lost control per toolbar would be more.
+        // For the rounding of the allocator. One leaked control per toolbar would exceed it.
         constexpr size_t tolerance = size_t{64} * 1024;
 
-        // One window for all of them: Qt and the X server keep a little of every window.
+        // One window for all toolbars, because Qt and the X server keep memory of every window.
         const QDomDocument document = TestDocuments::read(TestDocuments::shippedPath(name));
         QMainWindow window;
         window.resize(1300, 600);

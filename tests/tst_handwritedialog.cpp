@@ -18,7 +18,7 @@
 
 namespace {
 
-/** Track records as a host would own them. */
+/** Track records, owned as by a host. */
 struct Tracks
 {
     explicit Tracks(int count, int selected = -1)
@@ -102,8 +102,7 @@ void sendMouse(QWidget *widget, QEvent::Type type, const QPoint &global, Qt::Mou
 
 } // namespace
 
-/** The dialog of handwriting: what it shows of what its host sets, and its use by mouse and keys.
- */
+/** The handwriting dialog: how it shows the host's tracks, and its use by mouse and keyboard. */
 class HandWriteDialogTest : public QObject
 {
     Q_OBJECT
@@ -305,7 +304,7 @@ private Q_SLOTS:
         QCOMPARE(dialog.thickness(), QString("9"));
         QTest::keyClick(dialog.slider(), Qt::Key_Home);
         QCOMPARE(dialog.thickness(), QString("0"));
-        // Enter on a control must not press some button that happens to be the default.
+        // Enter on a control must not click a default button.
         QTest::keyClick(dialog.slider(), Qt::Key_Return);
         QCOMPARE(dialog.checkedIn("buttonColorGroup"), -1);
         QVERIFY(dialog.isVisible());
@@ -323,7 +322,7 @@ private Q_SLOTS:
             visited.append(dialog.focusWidget()->objectName());
             QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
         } while (dialog.focusWidget() != dialog.colourButton(2) && visited.size() < 50);
-        // A label takes the focus before its link does.
+        // A label gets the focus before its link.
         visited.removeDuplicates();
         QCOMPARE(visited.join(' '),
                  QString("pushButtonColor3 pushButtonFetch labelOtherSelect spliderThickness "
@@ -375,7 +374,7 @@ private Q_SLOTS:
             }
             sendMouse(widget, QEvent::MouseButtonRelease, press, Qt::LeftButton);
             const QPoint after = dialog.pos();
-            // A move that belongs to no press on the dialog, as one that a control lets through.
+            // A move without a press on the dialog, such as one that a control ignores.
             sendMouse(widget, QEvent::MouseMove, press + QPoint(9, 9), Qt::LeftButton);
             QVERIFY2(dialog.pos() == after, name);
         }

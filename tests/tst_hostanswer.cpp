@@ -31,7 +31,7 @@ const QString everyMenu =
         + comboBox("v_zoom", choice("vzmode_10p", "10%") + choice("vzmode_50p", "50%"),
                    "editable='true' index='1'"));
 
-/** How the user gets at a command: what is opened, then what is chosen. */
+/** How the user chooses a command: the control that opens the menu, then the entries. */
 struct MenuPath
 {
     QString opener;
@@ -79,7 +79,7 @@ void chooseZoom(const QComboBox *box, bool byKeys)
 
 } // namespace
 
-/** What the host may do in its answer to a choice, also in an event loop of its own. */
+/** Deletion by the host in a slot that a choice has called, also in a nested event loop. */
 class HostAnswerTest : public QObject
 {
     Q_OBJECT
@@ -125,11 +125,11 @@ private Q_SLOTS:
             QMessageBox question(QMessageBox::Question, "Host", "Save changes?");
             QTimer::singleShot(0, &question, [&] {
                 deleteBy(way, host);
-                // What is deleted later goes in the loop of the question.
+                // Deferred deletions are run by the event loop of the message box.
                 QTimer::singleShot(20, &question, &QDialog::reject);
             });
             question.exec();
-            QVERIFY2(!toolBar, "It is still there when the question is answered");
+            QVERIFY2(!toolBar, "The toolbar still exists after the message box");
         };
         connect(&host.facade(), &MRToolBar::DoActive, this, answer);
         connect(&host.facade(), &MRToolBar::DoOpenFile, this, answer);
@@ -147,7 +147,7 @@ private Q_SLOTS:
     }
 
 private:
-    /** Shows the host with every menu made and every command enabled. */
+    /** Shows the host with all menus filled and all commands enabled. */
     static void prepare(TestHost &host)
     {
         host.toolBar()->Inner_DoDelayLoadMenuSlot();
@@ -175,7 +175,7 @@ private:
             whenMenuPops([path, byKeys](QMenu *menu) {
                 byKeys ? pressEntries(menu, path.entries) : clickEntries(menu, path.entries);
             });
-            // The button may be deleted in its own click, so the test does not wait in that click.
+            // The click may delete the button, so the test does not call click() itself.
             auto *opener = openerOf(host, path.opener);
             const bool isSplit = qobject_cast<QToolButton *>(opener);
             QMetaObject::invokeMethod(opener, isSplit ? "showMenu" : "click", Qt::QueuedConnection);

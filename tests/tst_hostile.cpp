@@ -18,7 +18,7 @@
 #include <functional>
 #include <limits>
 
-/** What the host does when it hears of a command. */
+/** The host's answer to a command. */
 using Answer = std::function<void(TestHost &)>;
 Q_DECLARE_METATYPE(Answer)
 
@@ -28,13 +28,13 @@ namespace {
 
 const QString plainRow = row(button("plain"));
 
-/** A row of these controls with a plain one at the end. */
+/** A row of these controls with a plain button at the end. */
 QString rowWithLast(const QString &controls)
 {
     return row(controls + button("last"));
 }
 
-/** A description whose only application menu holds one menu inside the other. */
+/** A description whose only application menu has menus nested to that depth. */
 QDomDocument nestedMenus(int depth)
 {
     QDomDocument document;
@@ -60,7 +60,7 @@ void verifyReports(TestHost &host, const QString &command)
 
 } // namespace
 
-/** Huge, malformed and misleading descriptions, skins and screens, and calls at unusual times. */
+/** Huge, malformed and inconsistent descriptions, skins and screens, and calls at unusual times. */
 class HostileTest : public QObject
 {
     Q_OBJECT
@@ -92,7 +92,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("depth");
         QTest::addColumn<TestHost::SkinMap>("skin");
-        // With a style sheet, Qt goes up all parents of every menu for its rules.
+        // With a style sheet Qt visits all ancestors of every menu to find its rules.
         QTest::newRow("with its sheet") << 1000 << TestHost::SkinMap();
         QTest::newRow("without") << 10000 << TestHost::SkinMap{{"externalqss", ""}};
     }
@@ -106,7 +106,7 @@ private Q_SLOTS:
         auto window = std::make_unique<QMainWindow>();
         MRToolBar facade(window.get(), root, skin, ToolBarLeft);
         window->findChild<NewToolBar *>()->Inner_DoDelayLoadMenuSlot();
-        // The innermost has no children, so it is an item.
+        // The innermost menu has no children, so it becomes an entry.
         QVERIFY(facade.IsSupportByToolBar(QStringLiteral("m%1").arg(depth - 1)));
         window.reset();
         runDeferredDeletes();
@@ -211,7 +211,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, key);
         QFETCH(QString, value);
-        const WarningTrap trap; // Qt may warn; nothing else may happen.
+        const WarningTrap trap; // Qt may warn of the sheet.
         TestHost host(plainRow, {{key, value}});
         host.show();
         host.facade().DoSetSkinStyleSlot({{key, value}});
@@ -227,7 +227,7 @@ private Q_SLOTS:
 
     void shouldIgnoreAnImpossibleScreenDensity()
     {
-        const int none = std::numeric_limits<int>::min(); // What Qt makes of no size.
+        const int none = std::numeric_limits<int>::min(); // Qt's result for a screen without size.
         for (const int told : {none, -1, 0, 5, 25, 31, 100000})
             QCOMPARE(ScreenDensity::credible(told), 96);
         for (const int told : {32, 96, 192, 600})

@@ -26,7 +26,7 @@ public:
     void remove() { QCoreApplication::removeTranslator(&m_translator); }
 
 private:
-    QTranslator m_translator; // Removes itself.
+    QTranslator m_translator; // Its destructor removes it from the application.
 };
 
 const QLocale english(QLocale::English);
@@ -37,7 +37,7 @@ QString textOf(const QWidget &dialog, const QString &name)
     return dialog.findChild<QWidget *>(name)->property("text").toString();
 }
 
-/** All that a widget shows or that a screen reader says of it. */
+/** All texts of a widget: shown ones, its tooltip and its accessible texts. */
 QStringList textsOf(const QWidget *widget)
 {
     return {widget->windowTitle(), widget->toolTip(), widget->accessibleName(),
@@ -76,7 +76,7 @@ QStringList arrowNames()
 
 } // namespace
 
-/** The texts of the library in the language of the host. */
+/** The translation of the library's own texts. */
 class LanguagesTest : public QObject
 {
     Q_OBJECT
@@ -115,7 +115,7 @@ private Q_SLOTS:
         dialog.SetCommonTrackInfo(tracks);
         dialog.show();
         QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-        QTRY_COMPARE(textOf(dialog, "labelPreview"), QString()); // The picture of a line.
+        QTRY_COMPARE(textOf(dialog, "labelPreview"), QString()); // It shows a picture instead.
 
         const Language language(english);
         QTRY_COMPARE(dialog.windowTitle(), QString("Handwriting settings"));

@@ -42,7 +42,7 @@ void deletePart(const QString &part, TestHost &host)
 
 } // namespace
 
-/** The orders in which a host may delete the parts, and what may be open at that moment. */
+/** The orders in which a host may delete window, facade and toolbar, also with a menu open. */
 class LifetimeTest : public QObject
 {
     Q_OBJECT
@@ -51,7 +51,7 @@ private Q_SLOTS:
     void shouldAllowEveryOrderOfDeletion_data()
     {
         QTest::addColumn<QString>("part");
-        // Without one, there is only the wait for a second click.
+        // Empty: only the timer of the double click is running.
         QTest::addColumn<QString>("openMenuOf");
         for (const char *part : {"window", "facade", "toolbar", "host tool bar"}) {
             for (const char *button : {"", "menu_file", "ab_set", "qt_set", "drop", "st_set"})
@@ -79,7 +79,7 @@ private Q_SLOTS:
                 isDeleted = true;
                 deletePart(part, host);
             });
-            // The button may be deleted in its own click, so the test does not wait in that click.
+            // The click may delete the button, so the test does not call click() itself.
             QMetaObject::invokeMethod(host.find<QAbstractButton>(openMenuOf), "click",
                                       Qt::QueuedConnection);
             QTRY_VERIFY(isDeleted);
@@ -90,7 +90,7 @@ private Q_SLOTS:
         QVERIFY(!QApplication::activePopupWidget());
         QCOMPARE(active.count(), part == "facade" ? 1 : 0);
         if (part.endsWith("bar"))
-            QVERIFY2(host.window().findChildren<QToolBar *>().isEmpty(), "An empty strip stays");
+            QVERIFY2(host.window().findChildren<QToolBar *>().isEmpty(), "An empty strip remains");
         if (part != "facade")
             QVERIFY(!host.facade().IsSupportByToolBar("plain"));
     }
@@ -127,7 +127,7 @@ private Q_SLOTS:
             QTest::keyClick(field, Qt::Key_Return);
         } else {
             auto *action = host.find<QAction>(control);
-            action->setEnabled(true); // Menus and quick buttons wait for the host's answer.
+            action->setEnabled(true); // Entries and quick access buttons are disabled at first.
             action->trigger();
         }
         QVERIFY2(!toolBar, "The handler was not called");

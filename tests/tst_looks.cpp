@@ -19,7 +19,7 @@ int textWidth(const QWidget *widget, const QString &text)
     return widget->fontMetrics().size(Qt::TextShowMnemonic, text.trimmed()).width();
 }
 
-/** What is wrong with how the text and the icon of the button stand in it; empty if nothing is. */
+/** Why the text or the icon does not fit into the button; empty if both fit. */
 QString faultOf(const QToolButton *button)
 {
     const int width = textWidth(button, button->text());
@@ -71,7 +71,7 @@ void collectFaults(const QWidget *parent, QStringList &faults)
     }
 }
 
-/** Controls that are higher than the row on show, and rows that are higher than their place. */
+/** Adds controls that are higher than the row on show, and rows that are higher than their page. */
 void collectProtruding(const QWidget *row, QStringList &faults)
 {
     if (!row)
@@ -109,7 +109,7 @@ bool isBlank(const QImage &image)
 
 } // namespace
 
-/** Sizes, icons and pictures of toolbars, at the density of the screen that there is. */
+/** Sizes, icons and pictures of toolbars at the density of the current screen. */
 class LooksTest : public QObject
 {
     Q_OBJECT
@@ -185,7 +185,7 @@ private Q_SLOTS:
         for (const QString &name : names) {
             const QString icon = host->toolBar()->GetIconPath(name);
             if (icon.isEmpty() && !name.contains(QLatin1Char('/')))
-                continue; // Named without its folder on purpose.
+                continue; // A name without folder has no icon, which is deliberate.
             QVERIFY2(!icon.isEmpty(), qPrintable(name + " does not resolve"));
             const QImage image = QIcon(icon).pixmap(24).toImage();
             QVERIFY2(!isBlank(image), qPrintable(name + " is blank"));
@@ -196,7 +196,7 @@ private Q_SLOTS:
 
     void shouldRoundTheShownTabInTheCompactSkin()
     {
-        // Qt draws no round corner that is larger than half of the height.
+        // Qt draws a square corner if its radius exceeds half of the height.
         const SkinChoice choice(lum);
         const auto host = TestHost::withShipped("lum/mr_toolbar.release.xml");
         host->show();

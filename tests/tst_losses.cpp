@@ -15,7 +15,7 @@ using namespace Describe;
 
 namespace {
 
-/** Every kind of control, in every area. */
+/** Every kind of control in every area. */
 QString everything()
 {
     const QString group = "<buttongroup name='g'>" + button("g_one") + menu("g_menu", item("g_a"))
@@ -49,7 +49,7 @@ QString everything()
            + section("addtional", button("h_help") + button("t_fold"));
 }
 
-/** A host whose tabs have been opened, the first one last, and whose menus have been filled. */
+/** A host with all rows and menus filled and the first tab on show. */
 std::unique_ptr<TestHost> openedHost()
 {
     auto host = std::make_unique<TestHost>(everything());
@@ -65,7 +65,7 @@ std::unique_ptr<TestHost> openedHost()
     return host;
 }
 
-/** The actions and widgets that bear names of the description. */
+/** The actions and widgets with names of the description. */
 QObjectList controlsOf(const TestHost &host)
 {
     const QString description = everything();
@@ -88,7 +88,7 @@ QStringList namesOf(const QObjectList &objects)
     return names;
 }
 
-/** Every state and question by name, twice. */
+/** Sets and queries every state by name, twice. */
 void stateAll(TestHost &host, const QStringList &controlNames)
 {
     const QStringList areas{"appbutton", "toptoolbar",  "quickaccessbar", "searchbar",
@@ -111,7 +111,7 @@ void stateAll(TestHost &host, const QStringList &controlNames)
     }
 }
 
-/** What else a host may report. */
+/** Calls the other slots of the facade. */
 void reportAll(MRToolBar &facade)
 {
     facade.GetQuickAccessButtonList();
@@ -124,7 +124,7 @@ void reportAll(MRToolBar &facade)
     facade.DoResetToolbarSlot();
 }
 
-/** What a user may do with what is there. */
+/** Uses all remaining controls as a user does. */
 void useAll(TestHost &host)
 {
     for (const int width : {1, 1300}) {
@@ -157,16 +157,16 @@ void goOnWith(TestHost &host, const QStringList &names)
 
 } // namespace
 
-/** What becomes of the toolbar when the host takes away what is not its own. */
+/** The toolbar after the host has deleted or removed some of its controls. */
 class LossTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    // Where the allocator can, it spoils what is freed, so that it is of no use to anybody.
+    // glibc then overwrites freed memory, so that its use is noticed.
     void initTestCase() { mallopt(M_PERTURB, 0xa5); }
 
-    void shouldDoWithoutADeletedControl_data()
+    void shouldWorkWithoutADeletedControl_data()
     {
         QTest::addColumn<int>("position");
         const auto host = openedHost();
@@ -180,7 +180,7 @@ private Q_SLOTS:
         }
     }
 
-    void shouldDoWithoutADeletedControl()
+    void shouldWorkWithoutADeletedControl()
     {
         QFETCH(int, position);
         const auto host = openedHost();
@@ -190,7 +190,7 @@ private Q_SLOTS:
         goOnWith(*host, names);
     }
 
-    void shouldDoWithoutWhatIsTakenOutOfARow()
+    void shouldWorkWithoutActionsRemovedFromARow()
     {
         for (const char *tab : {"first", "second", "third"}) {
             const auto host = openedHost();
@@ -201,7 +201,7 @@ private Q_SLOTS:
         }
     }
 
-    void shouldKnowNothingOfADeletedControl()
+    void shouldNotFindADeletedControl()
     {
         const auto host = openedHost();
         delete host->action("two");
@@ -213,7 +213,7 @@ private Q_SLOTS:
         QVERIFY(!host->facade().GetCompositeVisible("second"));
     }
 
-    void shouldListWhatIsAlive()
+    void shouldListLivingObjectsOnly()
     {
         QObject owner;
         NamedList<QObject> list;
@@ -230,7 +230,7 @@ private Q_SLOTS:
         QCOMPARE(list.objects(), (QObjectList{objects.at(1), objects.at(2), objects.at(3)}));
         QVERIFY(!list.at(0) && list.at(1) == objects.at(1) && !list.at(5) && !list.at(-1));
 
-        // In the middle of a loop.
+        // A control is deleted during the iteration.
         QStringList seen;
         for (QObject *object : list) {
             seen.append(object->objectName());

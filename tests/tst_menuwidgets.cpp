@@ -18,7 +18,7 @@
 
 namespace {
 
-/** A bubble whose pointer begins at @p start and has that size. */
+/** The picture of a bubble whose pointer begins at @p start and has that size. */
 QImage bubbleImage(int direction, int start, const QSize &pointer)
 {
     CCR_ToolTipWidget bubble(nullptr);
@@ -71,7 +71,7 @@ private Q_SLOTS:
         button.setGeometry(300, 200, 60, 20);
         window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&window));
-        QTest::mouseClick(&button, Qt::LeftButton); // There is no menu yet, and nothing happens.
+        QTest::mouseClick(&button, Qt::LeftButton); // Without a menu a click has no effect.
 
         QMenu menu(&window);
         menu.addAction("Entry");
@@ -137,7 +137,7 @@ private Q_SLOTS:
         for (int closing = 1; closing <= 2; ++closing) {
             bubble.show();
             QTRY_VERIFY_WITH_TIMEOUT(!bubble.isVisible(), 3000);
-            QVERIFY2(clock.elapsed() >= 1890 * closing, "It closed before its time");
+            QVERIFY2(clock.elapsed() >= 1890 * closing, "The bubble closed too early");
         }
     }
 
@@ -179,7 +179,7 @@ private Q_SLOTS:
             QCOMPARE(bubbleImage(direction, 10, {30, 20}), bubbleImage(0, 10, {30, 20}));
         for (const int direction : {0, 1, 4}) {
             for (const int length : {least, -1000, 1000, most}) {
-                // Far away to the right, the pointer is nowhere beside the body.
+                // A pointer beyond the right end does not touch the body.
                 const QImage image = bubbleImage(direction, length, {30, 20});
                 QCOMPARE(image.pixelColor(100, 60), QColor(245, 245, 245));
                 QVERIFY(length < 0 || image.pixelColor(12, 3).alpha() == 0);

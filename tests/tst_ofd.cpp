@@ -49,7 +49,7 @@ QColor at(const QImage &image, qreal x, qreal y)
     return image.pixelColor(qRound(x * pixelsPerMillimetre), qRound(y * pixelsPerMillimetre));
 }
 
-/** How much of a part of the page, given in millimetres, is not paper: 0 to 1. */
+/** The painted share, 0 to 1, of an area of the page in millimetres. */
 qreal inkIn(const QImage &image, const QRectF &part)
 {
     const QRect pixels =
@@ -76,13 +76,13 @@ QRect inHundredths(const QRectF &place)
 
 } // namespace
 
-/** Opening, understanding, painting and refusing OFD files. */
+/** Reading and painting OFD files, and refusing broken ones. */
 class OfdTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void samplesAgreeWithTheirScript()
+    void shouldMatchTheScriptThatWritesTheSamples()
     {
         QProcess script;
         script.start("python3", {QDir(OFD_SAMPLES).filePath("make_samples.py"), "--check"});
@@ -90,7 +90,7 @@ private Q_SLOTS:
         QVERIFY2(script.exitCode() == 0, script.readAllStandardError().constData());
     }
 
-    void samplesAreUnderstood_data()
+    void shouldReadTheSamples_data()
     {
         QTest::addColumn<int>("pages");
         QTest::addColumn<QSizeF>("lastSize");
@@ -101,7 +101,7 @@ private Q_SLOTS:
         QTest::newRow("template") << 2 << QSizeF(210, 297) << "块中之块\n模板在前\n批注外观";
     }
 
-    void samplesAreUnderstood()
+    void shouldReadTheSamples()
     {
         QFETCH(int, pages);
         QFETCH(QString, text);
@@ -117,7 +117,7 @@ private Q_SLOTS:
         QVERIFY(painter.unpaintable().isEmpty());
     }
 
-    void informationAndPlacesAreRead()
+    void shouldReadInformationOutlineAndBookmarks()
     {
         const auto document = sample("text");
         QVERIFY(document);
@@ -130,20 +130,20 @@ private Q_SLOTS:
         QCOMPARE(document->bookmarks.value(0).title, QString("小页"));
     }
 
-    void charactersStandWhereTheyAreToldTo()
+    void shouldPlaceCharactersByTheirDistances()
     {
         const auto document = sample("text");
         QVERIFY(document);
         Ofd::Painter painter(document);
         const Ofd::PageText text = textOf(*document, 0, painter.fonts());
-        // Boundary 20 40, baseline 4 below, "g 17 4": the fifth character is 16 to the right.
+        // Boundary 20 40, baseline 4 below it, distances "g 17 4": the fifth one is at 20 + 16.
         const int start = int(text.text.indexOf("页面由文字"));
         const QRectF box = text.boxes.at(start + 4);
         QCOMPARE(box.left(), 36.0);
         QVERIFY(box.top() < 44 && box.bottom() > 44 && box.height() < 5);
     }
 
-    void brokenFilesAreRefusedAndLeaveTheOpenDocument_data()
+    void shouldRefuseABrokenFileAndKeepTheOpenDocument_data()
     {
         QTest::addColumn<QString>("reason");
         QTest::newRow("broken-truncated") << "不完整";
@@ -161,7 +161,7 @@ private Q_SLOTS:
         QTest::newRow("no-such-file") << "不存在";
     }
 
-    void brokenFilesAreRefusedAndLeaveTheOpenDocument()
+    void shouldRefuseABrokenFileAndKeepTheOpenDocument()
     {
         QFETCH(QString, reason);
         Document document;
@@ -171,7 +171,6 @@ private Q_SLOTS:
         const QSignalSpy changes(&document, &Document::pagesChanged);
         QVERIFY(!document.open(samplePath(QTest::currentDataTag()), &error));
         QVERIFY2(error.contains(reason), qPrintable(error));
-        // One sentence.
         QCOMPARE(error.count("。"), 1);
         QVERIFY(error.endsWith("。"));
         QCOMPARE(changes.size(), 0);
@@ -180,7 +179,7 @@ private Q_SLOTS:
         QCOMPARE(document.title(), QString("text.ofd"));
     }
 
-    void everyTruncationIsRefusedOrRead()
+    void shouldRefuseEveryTruncatedFile()
     {
         QFile file(samplePath("template"));
         QVERIFY(file.open(QIODevice::ReadOnly));
@@ -197,7 +196,7 @@ private Q_SLOTS:
         }
     }
 
-    void turningIsUndoneAndIsNoModification()
+    void shouldUndoTurningAndNotCountItAsAModification()
     {
         Document document;
         QString error;
@@ -215,7 +214,7 @@ private Q_SLOTS:
         QVERIFY(document.isModified());
     }
 
-    void distancesAreUnfolded()
+    void shouldExpandRepeatedDistances()
     {
         constexpr int most = 4;
         const QList<std::pair<const char *, QVector<qreal>>> unfolded{{"1 2 3", {1, 2, 3}},
@@ -229,7 +228,7 @@ private Q_SLOTS:
             QVERIFY2(Ofd::Values::deltas(text, most) == distances, text);
     }
 
-    void pathsFollowTheirCommands_data()
+    void shouldBuildAPathFromItsCommands_data()
     {
         QTest::addColumn<QRectF>("bounds");
         QTest::newRow("M 1 2 L 11 7") << QRectF(1, 2, 10, 5);
@@ -247,14 +246,14 @@ private Q_SLOTS:
         QTest::newRow("") << QRectF();
     }
 
-    void pathsFollowTheirCommands()
+    void shouldBuildAPathFromItsCommands()
     {
         QFETCH(QRectF, bounds);
         const QRectF found = Ofd::pathFromData(QTest::currentDataTag()).boundingRect();
         QCOMPARE(inHundredths(found), inHundredths(bounds));
     }
 
-    void inkIsWhereItBelongs_data()
+    void shouldPaintTheExpectedColours_data()
     {
         QTest::addColumn<int>("page");
         QTest::addColumn<QPointF>("place");
@@ -263,7 +262,7 @@ private Q_SLOTS:
         QTest::newRow("paths: non-zero") << 0 << QPointF(40, 42) << QColor(250, 210, 60);
         QTest::newRow("paths: even-odd") << 0 << QPointF(100, 42) << white;
         QTest::newRow("paths: arc") << 0 << QPointF(50, 90) << QColor(60, 140, 70);
-        QTest::newRow("paths: arc's mouth") << 0 << QPointF(30, 110) << white;
+        QTest::newRow("paths: outside the arc") << 0 << QPointF(30, 110) << white;
         QTest::newRow("paths: inside the clip") << 0 << QPointF(160, 100) << QColor(120, 60, 160);
         QTest::newRow("paths: outside the clip") << 0 << QPointF(142, 82) << white;
         QTest::newRow("paths: alpha over red") << 0 << QPointF(160, 160) << QColor(130, 60, 130);
@@ -274,7 +273,7 @@ private Q_SLOTS:
         QTest::newRow("image: by matrix") << 0 << QPointF(25, 25) << QColor(150, 200, 240);
         QTest::newRow("image: by boundary") << 0 << QPointF(125, 48) << QColor(60, 140, 70);
         QTest::newRow("image: turned") << 0 << QPointF(141, 62) << QColor(150, 200, 240);
-        QTest::newRow("image: beside the turned") << 0 << QPointF(122, 62) << white;
+        QTest::newRow("image: beside the turned one") << 0 << QPointF(122, 62) << white;
         QTest::newRow("template: background") << 1 << QPointF(105, 10) << QColor(210, 230, 250);
         QTest::newRow("template: CMYK") << 1 << QPointF(40, 50) << QColor(255, 55, 255);
         QTest::newRow("template: composite") << 0 << QPointF(35, 70) << QColor(250, 210, 60);
@@ -284,7 +283,7 @@ private Q_SLOTS:
         QTest::newRow("text: corner of a triangle") << 0 << QPointF(45.5, 162.5) << white;
     }
 
-    void inkIsWhereItBelongs()
+    void shouldPaintTheExpectedColours()
     {
         QFETCH(int, page);
         QFETCH(QPointF, place);
@@ -295,7 +294,7 @@ private Q_SLOTS:
         QVERIFY2(isNear(found, colour), qPrintable(found.name()));
     }
 
-    void textHasInkInItsBoxesOnly()
+    void shouldPaintTextInsideItsBoxesOnly()
     {
         const auto document = sample("text");
         QVERIFY(document);

@@ -14,7 +14,7 @@ using namespace Describe;
 
 namespace {
 
-/** A host on the screen with a page field. */
+/** A visible host window with a page field. */
 class PageHost : public TestHost
 {
 public:
@@ -35,7 +35,7 @@ public:
         QTest::keyClick(field, Qt::Key_Return);
     }
 
-    /** A page that there is not, in a document of so many pages. */
+    /** Enters a page number outside of a document with that many pages. */
     void refuse(int currentPage, int total)
     {
         facade().DoSetPageInfoSlot(currentPage, total);
@@ -64,7 +64,7 @@ public:
 
 } // namespace
 
-/** What the page field takes and reports, and the total of pages beside it. */
+/** The input and the reports of the page field, and the total of pages beside it. */
 class PageFieldTest : public QObject
 {
     Q_OBJECT
@@ -72,16 +72,16 @@ class PageFieldTest : public QObject
 private Q_SLOTS:
     void shouldRefusePagesOutsideTheDocument_data()
     {
-        QTest::addColumn<int>("page"); // 0 when refused. What is typed names the case.
+        QTest::addColumn<int>("page"); // 0 when refused. The typed text is the tag of the row.
         QTest::addColumn<QString>("shown");
         QTest::newRow("1") << 1 << "1";
         QTest::newRow("25") << 25 << "25";
         QTest::newRow("7/25") << 7 << "7/25";
         QTest::newRow("7/") << 7 << "7/";
-        QTest::newRow("-7x/2/5 ") << 7 << "7/25"; // The keys that belong to no page do nothing.
+        QTest::newRow("-7x/2/5 ") << 7 << "7/25"; // Invalid characters are not accepted.
         for (const char *outside : {"26", "99999999999999", "26/99"})
             QTest::newRow(outside) << 0 << "3/25";
-        for (const char *noPage : {"0", "00", "/7", "0/25"}) // Return does nothing.
+        for (const char *noPage : {"0", "00", "/7", "0/25"}) // Return has no effect.
             QTest::newRow(noPage) << 0 << noPage;
         for (const char *nothing : {"x", "-", " ", "\u0663", "\uff17"})
             QTest::newRow(nothing) << 0 << "";
@@ -98,7 +98,7 @@ private Q_SLOTS:
         host.enter(QString::fromUtf8(QTest::currentDataTag()));
         QCOMPARE(host.takePages(), page ? QString::number(page) : QString());
         QTEST(host.field->text(), "shown");
-        host.enter("99"); // The page entered stands as the current one without an answer.
+        host.enter("99"); // The entered page is the current one, also if the host does not answer.
         QCOMPARE(host.field->text(), QStringLiteral("%1/25").arg(page ? page : 3));
     }
 
@@ -120,7 +120,7 @@ private Q_SLOTS:
 
     void shouldTakePagesOnlyWhateverItShows_data()
     {
-        QTest::addColumn<bool>("isRefusal"); // The text comes after a page that there is not.
+        QTest::addColumn<bool>("isRefusal"); // The text is entered after a refused page.
         QTest::newRow("3/12") << true;
         QTest::newRow("-3/12") << true;
         QTest::newRow("3/-12") << true;
@@ -175,7 +175,7 @@ private Q_SLOTS:
             {"/",
              {{0, "/"}, {9, "/9"}, {120, "/120"}, {7, "/7"}, {0, "/ "}, {0, "/ "}, {25, "/25"}}},
             {"of pages", {{12, "of12pages"}, {3, "of3pages"}}}};
-        // Without a label of its own, the total stands in the caption of the field.
+        // Without a label for it, the caption of the field shows the total.
         for (const QString &described :
              {field("d_gotopage", "text='x'") + label("d_totalpagelabel", "%1"),
               field("d_gotopage", "text='%1'")}) {

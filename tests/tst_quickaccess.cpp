@@ -51,15 +51,15 @@ private Q_SLOTS:
         QTest::addColumn<QString>("setting");
         QTest::addColumn<bool>("described");
         QTest::addColumn<bool>("shown");
-        QTest::addColumn<QString>("listed"); // The name is that of the case.
+        QTest::addColumn<QString>("listed"); // The button's name is the tag of the row.
         QTest::newRow("qbar_e_undo") << "save;undo;" << false << true << "undo;";
         QTest::newRow("qbar_f_open") << "a;open" << false << true << "open;";
         QTest::newRow("qbar_f_open") << "Open;openall;" << true << false << "open;";
-        // The shortest prefix, every occurrence of it, and of one prefix only.
+        // The prefix "qbar_", a prefix that occurs twice, and a prefix before another one.
         QTest::newRow("qbar_zoom") << "zoom;" << false << true << "zoom;";
         QTest::newRow("qbar_f_aqbar_f_b") << "ab;" << false << true << "ab;";
         QTest::newRow("qbar_e_qbar_x") << "qbar_x;" << false << true << "qbar_x;";
-        // Without a prefix, or with one further on, the description decides.
+        // Without a prefix at the start of the name, the description decides.
         QTest::newRow("own") << "save;" << true << true << "";
         QTest::newRow("own") << "own;" << false << false << "";
         QTest::newRow("x_qbar_y") << "y;" << false << false << "";
@@ -81,7 +81,7 @@ private Q_SLOTS:
                                                        {"redo;nothing;open", "open;redo;"},
                                                        {";", ""}};
         for (const auto &[setting, list] : lists) {
-            // The second time around, with the list that the host has stored.
+            // The second time with the list that the first toolbar has returned.
             for (const QString &stored : {setting, list.isEmpty() ? setting : list}) {
                 const auto host =
                     TestHost::withShipped("marodi/mr_toolbar.release.xml", {{settingKey, stored}});
@@ -100,7 +100,7 @@ private Q_SLOTS:
         const QList<QAction *> entries = host.find<QMenu>("qt_set")->actions();
         QCOMPARE(entries.size(), qsizetype(5));
         QCOMPARE(entries.first()->text(), QString("Customise"));
-        QVERIFY2(!entries.first()->isEnabled(), "The title is no entry");
+        QVERIFY2(!entries.first()->isEnabled(), "The title is not disabled");
 
         const QList<std::pair<QString, QString>> steps{{"qbar_e_undo", "open;undo;"},
                                                        {"qbar_f_open", "undo;"},
@@ -110,7 +110,8 @@ private Q_SLOTS:
             whenMenuPops([name = clicked](QMenu *menu) { clickEntry(menu, entryOf(menu, name)); });
             host.click("qt_set");
             QCOMPARE(host.facade().GetQuickAccessButtonList(), list);
-            QVERIFY2(barOf(host)->isVisible() != list.isEmpty(), "An empty bar is not to be seen");
+            QVERIFY2(barOf(host)->isVisible() != list.isEmpty(),
+                     "The bar is visible without buttons, or hidden with some");
         }
         QCOMPARE(active.count(), 0);
     }

@@ -41,7 +41,7 @@ QStringList manyPaths(int count)
     return paths;
 }
 
-/** A host whose menus have been filled, with a list of recent files. */
+/** A host with filled menus and a list of recent files. */
 class RecentHost : public TestHost
 {
 public:
@@ -61,7 +61,7 @@ public:
     }
 };
 
-/** Counts what a widget gets of some kinds of events. */
+/** Counts the events of some types that a widget gets. */
 class EventCounter : public QObject
 {
 public:
@@ -83,7 +83,7 @@ private:
     int m_count = 0;
 };
 
-/** A language that has a colon behind the number of an entry. */
+/** A translation with a colon after the number of an entry. */
 class ColonTranslator : public QTranslator
 {
 public:
@@ -97,7 +97,7 @@ public:
 
 } // namespace
 
-/** The list of recent files in the application menu. */
+/** The recent files in the application menu. */
 class RecentFilesTest : public QObject
 {
     Q_OBJECT
@@ -108,7 +108,7 @@ private Q_SLOTS:
         TestHost host(recentSection(bothEnds));
         const QSignalSpy files(&host.facade(), &MRToolBar::DoOpenFile);
         const QStringList paths{"/docs/a.ofd", "/docs/b;c.ofd", "relative/d.ofd"};
-        host.facade().DoUpdateRecentFileSlot(paths); // Too early, and without a consequence.
+        host.facade().DoUpdateRecentFileSlot(paths); // No effect before the menus are filled.
         host.toolBar()->Inner_DoDelayLoadMenuSlot();
         const auto *menu = host.find<QMenu>("menu_f_openrecent");
 
@@ -142,9 +142,9 @@ private Q_SLOTS:
         }
     }
 
-    void shouldReportAClearedHistoryOnce()
+    void shouldReportTheClearingOfRecentFilesOnce()
     {
-        // In the menu alone, and shared with a tool row.
+        // In the menu only, and also on a row.
         for (const QString &otherPlace : {QString(), row(button("f_clearhistory"))}) {
             RecentHost host({"/a.ofd", "/b.ofd"}, otherPlace);
             const QSignalSpy active(&host.facade(), &MRToolBar::DoActive);
@@ -155,7 +155,7 @@ private Q_SLOTS:
         }
     }
 
-    void shouldFillAgainAfterAClearedHistory()
+    void shouldListRecentFilesAgainAfterClearing()
     {
         RecentHost host({"/a.ofd"});
         host.menu()->actions().last()->trigger();
@@ -216,7 +216,7 @@ private Q_SLOTS:
     {
         RecentHost host({"/a.ofd", "/b.ofd"});
         const QSignalSpy files(&host.facade(), &MRToolBar::DoOpenFile);
-        // As hosts do: what was opened last comes first.
+        // Hosts put the file that was opened last first.
         connect(&host.facade(), &MRToolBar::DoOpenFile, &host.facade(), [&host] {
             host.report({"/b.ofd", "/a.ofd", "/c.ofd"});
         });

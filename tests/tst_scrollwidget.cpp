@@ -78,7 +78,7 @@ private Q_SLOTS:
         QTRY_VERIFY(fixture.arrow("right")->isVisible());
         QVERIFY(!fixture.arrow("left")->isVisible());
 
-        // A row that changes its own width, and one that is scrolled by the focus.
+        // The row changes its width, and the focus scrolls it.
         fixture.row->setFixedWidth(200);
         QTRY_VERIFY(!fixture.arrow("right")->isVisible());
         fixture.row->setFixedWidth(rowWidth);
@@ -113,10 +113,10 @@ private Q_SLOTS:
         QTRY_COMPARE(fixture.bar()->value(), 0);
         QTRY_VERIFY(!fixture.arrow("left")->isVisible());
 
-        fixture.bar()->setValue(200); // In the middle, to their side.
+        fixture.bar()->setValue(200); // From the middle, each arrow scrolls by a step.
         fixture.click("right");
         QTRY_VERIFY(fixture.bar()->value() > 200);
-        fixture.click("right"); // Still moving.
+        fixture.click("right"); // Ignored during the animation.
         QTRY_VERIFY(!fixture.isMoving());
         QCOMPARE(fixture.bar()->value(), 380);
         fixture.click("left");
@@ -135,7 +135,7 @@ private Q_SLOTS:
                 fixture.bar()->setValue(200);
                 turnWheel(target, delta);
                 QTRY_VERIFY(!fixture.isMoving() || fixture.bar()->value() != 200);
-                turnWheel(target, delta); // Ignored while it moves.
+                turnWheel(target, delta); // Ignored during the animation.
                 QTRY_VERIFY(!fixture.isMoving());
                 QCOMPARE(fixture.bar()->value(), value);
             }
@@ -149,7 +149,7 @@ private Q_SLOTS:
             fixture.combo->setEditable(isEditable);
             QWidget *target =
                 isEditable ? static_cast<QWidget *>(fixture.combo->lineEdit()) : fixture.combo;
-            // At the last entry, too, where the combo box itself has nothing left to do.
+            // Also at the last entry, where the combo box ignores the wheel.
             fixture.combo->setCurrentIndex(28);
             for (int turn = 0; turn < 2; ++turn) {
                 turnWheel(target, QPoint(0, -120));
@@ -164,7 +164,7 @@ private Q_SLOTS:
         const ScrolledRow fixture(400);
         fixture.combo->showPopup();
         QAbstractItemView *list = fixture.combo->view();
-        // Over the row, where the pointer alone doesn't tell the two apart.
+        // The list covers the row, so that the position of the pointer is inside both.
         list->window()->move(fixture.row->mapToGlobal(QPoint(0, 0)));
         list->window()->resize(150, 60);
         QTRY_VERIFY(list->verticalScrollBar()->maximum() > 0);
@@ -178,7 +178,7 @@ private Q_SLOTS:
     void shouldIgnoreTheWheelOutsideTheRow()
     {
         const ScrolledRow fixture(400);
-        QWidget other(fixture.row, Qt::Tool); // A window of its own, if below the row.
+        QWidget other(fixture.row, Qt::Tool); // A window, although it is a child of the row.
         other.setGeometry(600, 600, 100, 100);
         other.show();
         QVERIFY(QTest::qWaitForWindowExposed(&other));
@@ -188,7 +188,7 @@ private Q_SLOTS:
         turnWheel(&other, QPoint(0, 120));
         QVERIFY(!fixture.isMoving());
 
-        // Nor does the row answer for an event that the pointer is not there for.
+        // The row ignores a wheel event while the pointer is somewhere else.
         movePointerAway();
         QWheelEvent stray(QPoint(5, 5), QPoint(5, 5), QPoint(), QPoint(0, 120), Qt::NoButton,
                           Qt::NoModifier, Qt::NoScrollPhase, false);

@@ -58,7 +58,7 @@ SearchOption lastOf(const QSignalSpy &spy)
 
 } // namespace
 
-/** The search fields and the additional controls at the right end. */
+/** The search fields and the additional controls. */
 class SearchTest : public QObject
 {
     Q_OBJECT
@@ -107,13 +107,13 @@ private Q_SLOTS:
         searchFor(host, "st_input", "then");
         QCOMPARE(searches.count(), 2);
         QVERIFY2(lastOf(searches).direction == 1 && !lastOf(searches).newSearch,
-                 "One search has left its mark on the next");
+                 "The former search affects this one");
     }
 
     void shouldSearchFromAnyFieldOfARow_data()
     {
         QTest::addColumn<QString>("field");
-        QTest::addColumn<QString>("main"); // What stands in the field that allows the search.
+        QTest::addColumn<QString>("main"); // The text of the main field, which must not be empty.
         QTest::addColumn<QString>("own");
         QTest::addColumn<QString>("button");
         QTest::addColumn<QString>("searched");
@@ -153,7 +153,7 @@ private Q_SLOTS:
     void shouldKeepASearchApartFromOneInItsHandler_data()
     {
         QTest::addColumn<QString>("control");
-        QTest::addColumn<QString>("answer"); // What the host presses when it hears of the first.
+        QTest::addColumn<QString>("answer"); // The button that the host clicks in its answer.
         QTest::addColumn<QStringList>("searches");
         const QStringList inner{"second 1 new", "main 0 repeated"};
         QTest::newRow("main within second") << "gis_next"
@@ -161,7 +161,7 @@ private Q_SLOTS:
         QTest::newRow("second within main")
             << "st_prev"
             << "gis_next" << QStringList{"main 0 repeated", "second 1 new"};
-        // One control that searches twice, with another search in between.
+        // One control emits two searches, with another search in between.
         QTest::newRow("main within second, which goes on")
             << "gis_input_next"
             << "st_prev" << inner + QStringList("second 1 new");
@@ -249,7 +249,7 @@ private Q_SLOTS:
         QTest::addColumn<int>("skin");
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("prompt");
-        QTest::addColumn<int>("resting"); // At 96 dpi; 0: by the sheet, and for good.
+        QTest::addColumn<int>("resting"); // Width without focus at 96 dpi; 0 if fixed.
         QTest::newRow("marodi") << marodi << "st_input"
                                 << "点此查找文本" << 108;
         QTest::newRow("lum") << lum << "st_input"

@@ -15,7 +15,7 @@
 
 namespace {
 
-/** A host that works through a shipped toolbar with mouse and keys and notes what it hears. */
+/** A host that uses a shipped toolbar by mouse and keys and logs the signals. */
 class Session
 {
 public:
@@ -47,7 +47,7 @@ public:
 
     void click(const QString &button) { m_host->click(button); }
 
-    /** Clicks the command where it stands on a tool bar that is on the screen. */
+    /** Clicks the command on a visible row or quick access bar. */
     void clickOnRow(const QString &command)
     {
         const QList<QToolBar *> rows = m_host->window().findChildren<QToolBar *>();
@@ -61,7 +61,7 @@ public:
                 }
             }
         }
-        QFAIL(qPrintable(command + " stands on no row"));
+        QFAIL(qPrintable(command + " is on no row"));
     }
 
     void clickMenu(const QString &button, const QStringList &entries)

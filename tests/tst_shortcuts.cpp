@@ -29,7 +29,7 @@ QString tabs(const QString &controls, const QString &otherControls = button("pla
     return row(controls, tab("other", otherControls));
 }
 
-/** A host with a field of its own and, if wanted, a shortcut for the key. */
+/** A host with a field of its own and, if requested, a shortcut for the key. */
 class KeyHost : public TestHost
 {
 public:
@@ -58,7 +58,7 @@ public:
         enableEverything();
     }
 
-    /** Presses the key with the focus in a widget, as a program and as the window system would. */
+    /** Sends the key to the focused widget, both directly and through the window. */
     void press(QWidget *focused)
     {
         // A menu that has just been closed may still be the active window.
@@ -75,7 +75,7 @@ public:
     int hostCalls() const { return m_hostCalls; }
     QStringList commands() const { return texts(m_active); }
 
-    /** Wherever the focus may be: in the host's field and in the controls of the toolbar. */
+    /** The widgets that may have the focus: the host's field and the controls of the toolbar. */
     QWidgetList focusPlaces() const
     {
         QWidgetList places{m_field};
@@ -95,7 +95,7 @@ private:
 
 } // namespace
 
-/** The key sequences of the description's entries. */
+/** The shortcuts of entries in the description. */
 class ShortcutTest : public QObject
 {
     Q_OBJECT

@@ -46,7 +46,7 @@ QString shippedTemplate(int skin)
 
 } // namespace
 
-/** From a skin's map of colours to the style sheet of a toolbar. */
+/** From a skin map to the style sheet of the toolbar. */
 class SkinTest : public QObject
 {
     Q_OBJECT
@@ -63,7 +63,8 @@ private Q_SLOTS:
         const QRegularExpression placeholder("\\[[A-Z][A-Za-z.]*\\]");
         for (const int skin : {marodi, lum}) {
             const QString sheet = shippedTemplate(skin);
-            QVERIFY2(!sheet.startsWith(QChar(QChar::ByteOrderMark)), "The mark is read as text");
+            QVERIFY2(!sheet.startsWith(QChar(QChar::ByteOrderMark)),
+                     "The byte-order mark is read as text");
             QSet<QString> names;
             for (auto match = placeholder.globalMatch(sheet); match.hasNext();)
                 names.insert(match.next().captured());
@@ -105,12 +106,12 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("skin");
         QTest::addColumn<SkinMap>("given");
-        // Of the colours at the start from those after a switch.
+        // How the colours after construction differ from those after a switch.
         QTest::addColumn<SkinMap>("deviation");
         const SkinMap hoverIsPressed{{"[MainColor.hover]", "rgb(183,185,190)"},
                                      {"[MainColor.pressed]", QString()}};
         const SkinMap hover{{"[MainColor.hover]", "blue"}};
-        // No sheet has the light colour itself.
+        // The sheets do not use [LightColor], so a value refers to it.
         const SkinMap pressed{{"[MainColor.pressed]", "red"}, {"[Color.checked]", "[LightColor]"}};
         const SkinMap fontSize{{"[DefaultFontSize]", "[LightColor]"}};
         QTest::newRow("lum") << lum << SkinMap{} << SkinMap{};
@@ -145,7 +146,7 @@ private Q_SLOTS:
         const SkinMap &defaults = skin == lum ? lumDefaults : marodiDefaults;
         QVERIFY(isApplied(expected(with(with(defaults, given), deviation))));
 
-        // Where the sheet goes is settled: the key is one like any other by now.
+        // After construction the key externalqss has no special meaning.
         SkinMap colours = with(given, {{"[ToolBarBgColor]", "#ABCDEF"}});
         if (colours.remove(external) == 0)
             colours.insert(external, QString(""));
@@ -162,8 +163,8 @@ private Q_SLOTS:
             {marodi, "icon16/Print.svg", "marodi/icons/icon16/Print.svg"},
             {lum, "/icon16/Print.svg", "lum/icons//icon16/Print.svg"},
             {marodi, "h_software.svg", "marodi/icons/h_software.svg"},
-            {lum, "h_software.svg", ""}, // The other skin's.
-            {marodi, "Print.svg", ""},   // In a directory of its size.
+            {lum, "h_software.svg", ""}, // An icon of the other skin.
+            {marodi, "Print.svg", ""},   // The directory of the size is missing.
             {marodi, "", ""}};
         for (const auto &[skin, name, path] : rows) {
             const SkinChoice choice(skin);
@@ -172,7 +173,7 @@ private Q_SLOTS:
         }
     }
 
-    void shouldGiveQtNoReasonToWarn_data()
+    void shouldCauseNoWarnings_data()
     {
         QTest::addColumn<int>("skin");
         QTest::addColumn<QString>("document");
@@ -183,7 +184,7 @@ private Q_SLOTS:
             << lum << "lum/mr_toolbar.release.xml" << SkinMap{{"[MainColor]", "red"}};
     }
 
-    void shouldGiveQtNoReasonToWarn()
+    void shouldCauseNoWarnings()
     {
         QFETCH(int, skin);
         QFETCH(QString, document);

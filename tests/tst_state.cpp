@@ -22,7 +22,7 @@ QString foldControls()
     return section("addtional", button("h_info") + button("t_fold"));
 }
 
-/** A toolbar that has every area. */
+/** The sections of a toolbar with every area. */
 QString everything()
 {
     return section("appbutton", menu("menu_file", item("f_exit"))
@@ -37,7 +37,7 @@ QString everything()
            + foldControls();
 }
 
-/** Which of the places of "x" (tab and buttons) are enabled, a letter each. */
+/** A letter for each enabled control with the name "x". */
 QString enabledPlaces(TestHost &host)
 {
     QString places;
@@ -64,7 +64,7 @@ QString enabledPlaces(TestHost &host)
 
 } // namespace
 
-/** Enabled and visible by name: areas, single controls, and the questions about them. */
+/** The enabled and visible states by name, of areas and single controls, and their queries. */
 class StateTest : public QObject
 {
     Q_OBJECT
@@ -93,7 +93,7 @@ private Q_SLOTS:
         host.showEnabled();
         host.find<MRMainToolBar>("a")->setObjectName("a_row");
         const bool isArea = !members.isEmpty();
-        if (!isArea) // None of these is to change.
+        if (!isArea) // None of these may change.
             members = QStringList{"mrtoolbar", "menu_file", "top_widget", "b", "h_info", "a_row"};
         const auto holding = [&host, &members](bool (QWidget::*state)() const) {
             return std::count_if(members.begin(), members.end(), [&](const QString &member) {
@@ -108,7 +108,7 @@ private Q_SLOTS:
         }
         for (const bool on : {true, false, true}) {
             host.setUsable(name, on);
-            // Nothing is enabled by name any more once the whole toolbar has been disabled.
+            // While the whole toolbar is disabled, no state by name enables anything.
             const bool isOn = on && host.find<QToolBar>("mrtoolbar")->isEnabled();
             QCOMPARE(holding(&QWidget::isEnabled), isOn || !isArea ? members.size() : 0);
             QCOMPARE(host.facade().GetCompositeEnable(name), isOn && isArea);
@@ -118,16 +118,16 @@ private Q_SLOTS:
     void shouldLookANameUpPlaceByPlace_data()
     {
         QTest::addColumn<QString>("row");  // Controls of the row on show.
-        QTest::addColumn<QString>("tabs"); // Behind it.
+        QTest::addColumn<QString>("tabs"); // The tabs after it.
         QTest::addColumn<QString>("sections");
-        QTest::addColumn<QString>("left"); // The places still enabled afterwards.
+        QTest::addColumn<QString>("left"); // The controls still enabled afterwards.
         const QString tabX = tab("x", {});
         const QString grouped = group("g", button("x"));
         const QString unavailable = group("g", button("x", "available='false'"));
         const QString additional = section("addtional", button("x"));
         const QString app = section("appbutton", menu("x", {}));
         const QString quick = section("quickaccessbar", button("qbar_x") + button("qbar_f_x"));
-        // Its action does not follow by name, so that what happens to the button alone shows.
+        // Its action ignores states by name, so that the test sees those of the button alone.
         const QString drop = menu("x", {}, "available='false'");
         QTest::newRow("action, additional") << button("x") << "" << additional << "";
         QTest::newRow("action, tab, application button") << button("x") << tabX << app << "";
@@ -165,10 +165,10 @@ private Q_SLOTS:
         host.setUsable("x", false);
         QVERIFY(stack->isEnabledTo(strip));
         strip->setEnabled(true);
-        QVERIFY(host.action("x")->isEnabled()); // A disabled toolbar takes no states by name.
+        QVERIFY(host.action("x")->isEnabled()); // A disabled toolbar ignores states by name.
         stack->setEnabled(false);
         host.setUsable("x", true);
-        QVERIFY(!stack->isEnabled()); // Only the first one does.
+        QVERIFY(!stack->isEnabled()); // Only the first report enables the rows.
     }
 
     void shouldSetOnlyTheFirstActionWhileTheRowIsDisabled()
@@ -194,13 +194,13 @@ private Q_SLOTS:
         host.setVisible("pen", false);
         QVERIFY(!host.action("pen")->isVisible() && !host.action("menu_pen")->isVisible());
         QVERIFY(host.action("pen/red")->isVisible());
-        QVERIFY(!host.facade().GetCompositeVisible("n/r")); // Asked for by its whole name.
+        QVERIFY(!host.facade().GetCompositeVisible("n/r")); // Queries need the whole name.
         QVERIFY(host.facade().GetCompositeVisible("big pen/red"));
     }
 
     void shouldShowQuickAccessButtonsByTheirNames()
     {
-        // What is left of set button, open and print; capitals when they are ticked.
+        // The visible ones of set, open and print; a capital if the entry is checked.
         const QMap<QString, QString> left{{"toolbar_quickaccessbar/set", "-OP"},
                                           {"toolbar_quickaccessbar/f_open", "s-P"},
                                           {"toolbar_quickaccessbar/qbar", "s--"},
@@ -266,11 +266,11 @@ private Q_SLOTS:
         };
         QVERIFY(enabled("x") && enabled("menu_file") && enabled("ab_set"));
         QVERIFY(!enabled("nothing") && !enabled("h_info") && !enabled("") && !enabled("f_exit"));
-        // The entry that opens a menu goes by the name of the menu.
+        // The entry that opens a menu has the name of the menu.
         QVERIFY(enabled("menu_edit"));
         host.setUsable("menu_edit", false);
         QVERIFY(!enabled("menu_edit"));
-        // Of two tabs of a name the last one answers.
+        // Of two tabs with one name the last one is queried.
         host.window().findChildren<QPushButton *>("b").last()->setEnabled(false);
         QVERIFY(!enabled("b") && enabled("a"));
         QVERIFY(!host.facade().GetControlCheckedState("x"));
@@ -300,7 +300,7 @@ private Q_SLOTS:
         TestHost host(row(controls));
         const QSignalSpy backgrounds(&host.facade(), &MRToolBar::DoSetBackground);
         const QSignalSpy active(&host.facade(), &MRToolBar::DoActive);
-        for (const int style : {1, 7, 2, -1, 3, 4, 0}) { // Unknown ones are the default.
+        for (const int style : {1, 7, 2, -1, 3, 4, 0}) { // Unknown values mean the default.
             host.facade().DoSetBackgroundSlot(static_cast<BackgroundStyle>(style));
             for (const QString &name : names)
                 QCOMPARE(host.action("background_" + name)->isChecked(),

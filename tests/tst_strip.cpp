@@ -18,7 +18,7 @@ namespace {
 
 const QString controls = button("one") + label("text", "Text") + comboBox("list", choice("a", "A"));
 
-/** A toolbar with something in each of its areas. */
+/** The sections of a toolbar with a control in each area. */
 QString sections()
 {
     return section("appbutton", menu("menu_file", item("f_open")))
@@ -44,7 +44,7 @@ QStringList textsOf(const QMenu *menu)
     return texts;
 }
 
-/** Closes the menu on show; returns what it offered. */
+/** Closes the open menu and returns the texts of its entries. */
 QStringList takePoppedTexts()
 {
     QCoreApplication::processEvents();
@@ -58,7 +58,7 @@ QStringList takePoppedTexts()
 
 } // namespace
 
-/** The tool bar of the window that holds the toolbar. */
+/** The strip: the QToolBar "mrtoolbar" of the main window, which contains the toolbar. */
 class StripTest : public QObject
 {
     Q_OBJECT
@@ -89,7 +89,7 @@ private Q_SLOTS:
         host.show();
         const auto *widget = host.find<QWidget>(name);
         QVERIFY(widget->rect().contains(place));
-        // While the rows are disabled and when they are not.
+        // With disabled rows and with enabled ones.
         for (int state = 0; state < 2; ++state) {
             rightClick(widget, place);
             QCOMPARE(takePoppedTexts(), QStringList());
@@ -141,7 +141,7 @@ private Q_SLOTS:
         QCOMPARE(textsOf(menu.get()), QStringList("Host's own"));
     }
 
-    void shouldLeaveTheWindowWithoutAMenuThatHasNothingToOffer()
+    void shouldNotOpenAMenuWithoutEntries()
     {
         TestHost host(sections());
         host.window().menuBar()->addMenu("Host's own");
@@ -164,7 +164,7 @@ private Q_SLOTS:
         QVERIFY(bar->toggleViewAction()->isVisible());
     }
 
-    void shouldTakeItsStripAlongAndNoBarOfTheHost()
+    void shouldDeleteItsStripAndNoBarOfTheHost()
     {
         TestHost host(sections());
         const QPointer<QToolBar> strip(host.find<QToolBar>("mrtoolbar"));
@@ -175,24 +175,25 @@ private Q_SLOTS:
 
         delete host.toolBar();
         runDeferredDeletes();
-        QVERIFY2(hostBar && hostBar->isVisible(), "The host's tool bar went with the toolbar");
+        QVERIFY2(hostBar && hostBar->isVisible(),
+                 "The host's QToolBar was deleted with the toolbar");
         QVERIFY2(!strip, "An empty strip stays in the window");
     }
 
-    void shouldEndWithEither_data()
+    void shouldBeDeletedWithItsBarOrItsWindow_data()
     {
         QTest::addColumn<bool>("isMoved");
-        QTest::addColumn<QString>("ended");
-        for (const char *ended : {"mrtoolbar", "host's own", "the window"}) {
-            QTest::addRow("%s, in its strip", ended) << false << ended;
-            QTest::addRow("%s, moved", ended) << true << ended;
+        QTest::addColumn<QString>("deleted");
+        for (const char *deleted : {"mrtoolbar", "host's own", "the window"}) {
+            QTest::addRow("%s, in its strip", deleted) << false << deleted;
+            QTest::addRow("%s, moved", deleted) << true << deleted;
         }
     }
 
-    void shouldEndWithEither()
+    void shouldBeDeletedWithItsBarOrItsWindow()
     {
         QFETCH(bool, isMoved);
-        QFETCH(QString, ended);
+        QFETCH(QString, deleted);
         TestHost host(sections());
         const QPointer<NewToolBar> toolBar(host.toolBar());
         const QPointer<QToolBar> strip(host.find<QToolBar>("mrtoolbar"));
@@ -201,12 +202,12 @@ private Q_SLOTS:
         if (isMoved)
             hostBar->addWidget(toolBar);
         host.show();
-        if (ended == "the window")
+        if (deleted == "the window")
             host.deleteWindow();
         else
-            delete host.find<QToolBar>(ended);
+            delete host.find<QToolBar>(deleted);
         runDeferredDeletes();
-        const bool staysInStrip = !isMoved && ended == "host's own";
+        const bool staysInStrip = !isMoved && deleted == "host's own";
         QCOMPARE(!toolBar.isNull(), staysInStrip);
         QCOMPARE(!strip.isNull(), staysInStrip);
     }

@@ -52,7 +52,7 @@ QStackedWidget *stack(const TestHost &host)
     return host.find<QStackedWidget>(QStringLiteral("tabwidget"));
 }
 
-/** A user or host that does one thing after the other, such as "click 1" or "hide 0". */
+/** Performs the steps, separated by commas, of a user or host, such as "click 1" or "hide 0". */
 void act(TestHost &host, const QString &steps)
 {
     const QStringList all = steps.split(',', Qt::SkipEmptyParts);
@@ -130,7 +130,7 @@ void addAnswersOfAnUncheckableTab()
 
 } // namespace
 
-/** Tabs and their rows, also when the host changes them as it is asked for the states of a row. */
+/** Tabs and their rows, also when the host changes them in its answer to DoRequestAuthority(). */
 class TabsTest : public QObject
 {
     Q_OBJECT
@@ -170,7 +170,7 @@ private Q_SLOTS:
         TestHost host(threeTabs());
         host.show();
         bool isShown = true;
-        // Hidden and shown again, the additional controls bring back the button in force.
+        // Hiding and showing the additional controls must not change which button is visible.
         const auto verifyButtons = [&host, &isShown] {
             for (int time = 0; time < 2; ++time) {
                 QCOMPARE(host.find<QPushButton>("t_fold")->isVisible(), isShown);
@@ -189,7 +189,7 @@ private Q_SLOTS:
         QVERIFY(!host.toolBar()->InitMainToolBar(QString()));
         host.setVisible("toolbar_maintoolbar", true);
         QVERIFY(!stack(host)->isVisible());
-        host.toolBar()->InitMainToolBar("1"); // Of the tab on show.
+        host.toolBar()->InitMainToolBar("1"); // The tab on show.
         QVERIFY(stack(host)->isVisible());
         host.setVisible("toolbar_maintoolbar", false);
         isShown = false;
@@ -273,7 +273,7 @@ private Q_SLOTS:
 
     void shouldLeaveTheShownTabWhenItIsHiddenOrDisabled_data()
     {
-        QTest::addColumn<int>("current"); // Of three tabs.
+        QTest::addColumn<int>("current"); // The index of the tab on show, of three.
         QTest::addColumn<QStringList>("disabled");
         QTest::addColumn<int>("next");
         QTest::newRow("the next one") << 0 << QStringList() << 1;
@@ -311,7 +311,7 @@ private Q_SLOTS:
     {
         TestHost host(threeTabs() + section("appbutton", menu("0", {})));
         host.find<MRMenuButton>("0")->setEnabled(false);
-        for (const bool isFurther : {false, true}) { // Moving on ends the search for the name.
+        for (const bool isFurther : {false, true}) { // Leaving the tab ends the lookup of the name.
             host.setUsable("0", true);
             QCOMPARE(stack(host)->currentIndex(), 1);
             QCOMPARE(host.find<MRMenuButton>("0")->isEnabled(), isFurther);

@@ -23,7 +23,7 @@ bool isReachable(const QWidget *widget)
     return window->childAt(middle) == widget;
 }
 
-/** The arrow on that side of the strip, or null while it is hidden. */
+/** The arrow on that side of the tabs; null while it is hidden. */
 TabStripArrow *arrow(const TestHost &host, bool isLeft)
 {
     const auto *strip = dynamic_cast<TabStrip *>(
@@ -47,7 +47,7 @@ QString manyTabs(int count)
 
 } // namespace
 
-/** The line of menus, tabs and search field in windows that are too narrow for it. */
+/** The top line in windows that are too narrow for it. */
 class TopLineTest : public QObject
 {
     Q_OBJECT

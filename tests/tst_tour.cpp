@@ -16,7 +16,7 @@
 
 namespace {
 
-/** A user who points at everything on show, opens every menu and uses every command. */
+/** A user who hovers every visible control, opens every menu and triggers every command. */
 class Tour
 {
 public:
@@ -36,7 +36,7 @@ public:
         const QList<QPointer<QPushButton>> buttons = shown<QPushButton>(line);
         for (const QPointer<QPushButton> &button : buttons) {
             hover(button);
-            // QPushButton::menu() knows nothing of the application menus.
+            // QPushButton::menu() is null for the application buttons.
             const auto *menuButton = qobject_cast<MRMenuButton *>(button);
             if (button->menu() || (menuButton && menuButton->GetMenu()))
                 popMenu(button, button->rect().center());
@@ -120,7 +120,7 @@ private:
     void useCommand(QToolButton *button)
     {
         const QAction *action = button->defaultAction();
-        // The first use of a control that the host cannot do anything with is swallowed.
+        // The first trigger of an unavailable control is not reported.
         if (!ActionData::isAvailable(action) || action->objectName().isEmpty())
             return;
 
@@ -140,7 +140,7 @@ private:
 
 } // namespace
 
-/** Points at, opens and triggers all of a toolbar; also for the sanitizers to find faults in. */
+/** Uses every control of a toolbar, mainly for the sanitizers. */
 class TourTest : public QObject
 {
     Q_OBJECT

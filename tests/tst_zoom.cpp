@@ -39,7 +39,7 @@ QString zoomControls(int index)
 constexpr int predefined = 6;
 constexpr int fiftyPercent = 4; // 1-based, as descriptions count.
 
-/** A host on the screen with a zoom box. */
+/** A visible host window with a zoom box. */
 class ZoomHost : public TestHost
 {
 public:
@@ -51,7 +51,7 @@ public:
         showEnabled();
     }
 
-    /** Text of any script, as an input method would hand it over. */
+    /** Enters text of any script, as an input method does. */
     void type(const QString &text)
     {
         QVERIFY(box->isEditable());
@@ -67,7 +67,7 @@ public:
         QTest::keyClick(box, Qt::Key_Return);
     }
 
-    /** Walks the list to the entry of that mode, as the keyboard does, and takes it. */
+    /** Chooses the entry of that mode from the list, by the keyboard. */
     void choose(const QString &mode)
     {
         box->showPopup();
@@ -76,7 +76,7 @@ public:
         QTest::keyClick(list, Qt::Key_Return);
     }
 
-    /** The modes that the user has asked for since the last call. */
+    /** The modes that were reported since the last call. */
     QStringList takeModes()
     {
         const QStringList taken = texts(modes);
@@ -114,9 +114,9 @@ private Q_SLOTS:
 
     void shouldReportATypedZoom_data()
     {
-        QTest::addColumn<QString>("mode"); // Empty for none. What is typed names the case.
+        QTest::addColumn<QString>("mode"); // Empty for none. The typed text is the tag of the row.
         QTest::addColumn<QString>("shown");
-        for (const char *kept : {"37", "12.50", "050", "64"}) // A longer entry begins with 64.
+        for (const char *kept : {"37", "12.50", "050", "64"}) // The list has 6400, too.
             QTest::newRow(kept) << QString("vzmode_%1p").arg(kept) << QString(kept) + '%';
         for (const char *followed : {"37.5xyz", "37.5%", "37.5 %", "37.5.1"})
             QTest::newRow(followed) << QString("vzmode_37.5p") << "37.5%";
@@ -128,7 +128,7 @@ private Q_SLOTS:
             QTest::newRow(qPrintable(large)) << none << "6400%";
         for (const char *unchanged : {"50", "abc", ".5", "5.", "-5", " 5", "%", "\u0663\u0667"})
             QTest::newRow(unchanged) << none << "50%";
-        QTest::newRow("\b") << none << "50%"; // The key, which leaves nothing.
+        QTest::newRow("\b") << none << "50%"; // Backspace, which empties the field.
     }
 
     void shouldReportATypedZoom()
@@ -157,7 +157,7 @@ private Q_SLOTS:
             QCOMPARE(host.box->currentText(), text);
         }
         QTest::mouseClick(host.box->lineEdit(), Qt::LeftButton);
-        QTest::keyClick(host.box, Qt::Key_Up); // The list is walked with the arrows, too.
+        QTest::keyClick(host.box, Qt::Key_Up); // The arrow keys also move in the list.
         QCOMPARE(host.takeModes(), QStringList("vzmode_6400p"));
     }
 
@@ -183,10 +183,10 @@ private Q_SLOTS:
         const QString custom = "vzmode_custom";
         QTest::newRow("vzmode_100p") << QString("100%") << "vzmode_original";
         QTest::newRow("vzmode_10p") << "10%" << custom;
-        QTest::newRow("vzmode_50p") << "50%" << custom; // On show already.
+        QTest::newRow("vzmode_50p") << "50%" << custom; // Already shown.
         QTest::newRow("vzmode_37p") << "37%" << custom;
         QTest::newRow("vzmode_37.5P") << "37.5%" << custom;
-        QTest::newRow("vzmode_clip") << "cli%" << QString(); // No percentage.
+        QTest::newRow("vzmode_clip") << "cli%" << QString(); // Not a percentage.
         QTest::newRow("vzmode_fitpage") << "Page" << QString();
     }
 
@@ -196,7 +196,7 @@ private Q_SLOTS:
         ZoomHost host;
         QSignalSpy active(&host.facade(), &MRToolBar::DoActive);
         int answers = 0;
-        // A host that confirms whatever it hears must not start a loop.
+        // A host that confirms every report must not cause an endless loop.
         connect(&host.facade(), &MRToolBar::DoSetZoomMode, &host.facade(), [&](QString heard) {
             QVERIFY(++answers < 5);
             host.facade().DoSetZoomModeSlot(heard);
@@ -258,7 +258,7 @@ private Q_SLOTS:
         QVERIFY(host.takeModes().isEmpty());
         host.enter("letters");
         QCOMPARE(host.box->currentText(), QStringLiteral("37%"));
-        host.box->setCurrentIndex(fiftyPercent - 1); // On show before the report.
+        host.box->setCurrentIndex(fiftyPercent - 1); // Already shown before the report.
         QCOMPARE(host.takeModes(), QStringList("vzmode_50p"));
         host.enter("38");
         host.facade().DoSetZoomModeSlot("vzmode_38p"); // The host confirms.

@@ -19,7 +19,7 @@
 
 namespace {
 
-/** The objects may delete one another. */
+/** Guarded pointers, because the use of one object may delete others. */
 template <typename Object>
 QList<QPointer<Object>> guarded(const QObject *parent)
 {
@@ -27,7 +27,7 @@ QList<QPointer<Object>> guarded(const QObject *parent)
     return {objects.begin(), objects.end()};
 }
 
-/** What a click on would wait for the user. */
+/** Whether a click runs the event loop of a menu, which ends only when the user closes the menu. */
 bool opensMenu(const QAbstractButton *button)
 {
     const auto *pushButton = qobject_cast<const QPushButton *>(button);
@@ -97,7 +97,8 @@ private:
                 continue;
             setUsable(action->objectName(), true);
             action->activate(QAction::Hover);
-            // Twice, as the first time may be swallowed and the second may be a double click.
+            // Twice: the first trigger of an unavailable control is not reported, and the second
+            // trigger may complete a double click.
             action->activate(QAction::Trigger);
             action->activate(QAction::Trigger);
         }

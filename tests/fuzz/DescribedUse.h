@@ -6,9 +6,9 @@
 #include <QByteArray>
 
 /**
- * Makes a toolbar of the description, if it is well-formed, opens every tab and menu, fires every
- * command, sets every state by name, and deletes it. No menu is left to wait for the user.
+ * Makes a toolbar from the description if it is well-formed, opens every tab and menu, triggers
+ * every command, sets every state by name and deletes the toolbar. No menu stays open.
  *
- * Skin and alignment follow from the description itself, so that a run can be repeated.
+ * Skin and alignment are computed from the description, so that a run can be repeated.
  */
 void useDescription(const QByteArray &xml);

@@ -34,13 +34,13 @@ const QStringList values =
             "f_openrecentfile no_file f_clearhistory ab_set menu_file toolbar_whole mrtoolbar "
             "tabwidget top_widget ../../.. icon16/Set.svg <b>&amp; Ctrl+O");
 
-/** The element itself and all below it. */
+/** The element and all its descendants. */
 QList<QDomElement> elementsOf(const QDomElement &root)
 {
     return QList<QDomElement>{root} + elementsBelow(root);
 }
 
-/** Changes descriptions so that they stay well-formed: by elements and attributes, not by bytes. */
+/** Changes elements and attributes instead of bytes, so that descriptions stay well-formed. */
 class DescriptionMutator
 {
 public:
@@ -49,7 +49,7 @@ public:
     {
     }
 
-    /** A few changes later; empty if @p xml is not well-formed. */
+    /** The description after a few changes; empty if @p xml is not well-formed. */
     QByteArray mutated(const QByteArray &xml)
     {
         constexpr int mostChanges = 4;
@@ -70,7 +70,7 @@ private:
 
     QString anyValue(const QDomDocument &document)
     {
-        // Controls meet by their names, so a value that is in the document is worth as much as any.
+        // Many rules depend on two controls with one name, so values of the document are reused.
         const QDomNamedNodeMap known = anyElement(document).attributes();
         if (known.isEmpty() || m_random.below(2) == 0)
             return m_random.oneOf<QString>(values);
@@ -116,7 +116,7 @@ private:
     {
         if (element == document.documentElement())
             return;
-        // Half of the times what is below it moves up.
+        // In half of the cases the children take the place of the element.
         for (QDomNode parent = element.parentNode();
              m_random.below(2) == 0 && element.hasChildNodes();)
             parent.insertBefore(element.firstChild(), element);
@@ -142,11 +142,11 @@ size_t LLVMFuzzerMutate(uint8_t *data, size_t size, size_t maxSize);
 int LLVMFuzzerInitialize(int *argc, char ***argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    // The platform says with every window what it cannot do.
+    // The platform plug-in logs its missing features with every window.
     qputenv("QT_LOGGING_RULES", "*=false");
-    // Some 100 widgets a run, and each would ask for the accessibility bus.
+    // Each of the 100 or so widgets of a run would look for the accessibility bus.
     qputenv("QT_ACCESSIBILITY", "0");
-    // Never deleted: the fuzzer ends the process where it stands.
+    // Never deleted: the fuzzer exits without returning from here.
     new QApplication(*argc, *argv);
     return 0;
 }
@@ -159,8 +159,8 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 
 size_t LLVMFuzzerCustomMutator(uint8_t *data, size_t size, size_t maxSize, unsigned int seed)
 {
-    // Bytes that are changed at random are most often no document any more, and then nothing of
-    // the toolbar is reached; a part of them tests the parser.
+    // Random changes of bytes mostly give XML that is not well-formed, which tests the XML parser
+    // and nothing of the toolbar. So only a share of the inputs is changed by bytes.
     constexpr unsigned int shareOfBytes = 8;
     if (seed % shareOfBytes == 0)
         return LLVMFuzzerMutate(data, size, maxSize);

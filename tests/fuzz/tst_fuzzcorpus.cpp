@@ -6,7 +6,7 @@
 #include <QDir>
 #include <QTest>
 
-/** Descriptions that have crashed the toolbar once, and the shipped ones. */
+/** Descriptions that crashed an earlier version of the toolbar, and the shipped ones. */
 class FuzzCorpusTest : public QObject
 {
     Q_OBJECT
@@ -34,7 +34,7 @@ private Q_SLOTS:
         useDescription(file.readAll());
         QVERIFY(!QApplication::activePopupWidget());
         const auto widgetsKept = QApplication::allWidgets().size() - widgetsBefore;
-        // Qt makes a few once, for its first window and its first tooltip.
+        // Qt creates a few widgets of its own for the first window and the first tooltip.
         QVERIFY2(widgetsKept <= 4, qPrintable(QString::number(widgetsKept)));
     }
 };

@@ -1,18 +1,18 @@
 # SPDX-FileCopyrightText: The MRToolBar authors
 # SPDX-License-Identifier: MIT
 
-# Takes the fenced blocks out of the guides, each into a file of its own below <folder>.
+# Writes each fenced block of the guides into a file of its own below <folder>.
 #
-# What becomes of a block is said by the line that opens it:
+# The line that opens a block gives its kind:
 #   cpp           a complete source file
 #   cpp host      the body of a function that has the host's window and toolBar
 #   cpp skin-map  a declaration of a skin map
 #   xml           a description, one section of one, or (xml row) the controls of a tool row;
 #                 picture=<name> asks for its picture
-#   cmake, sh, text  for the reader only
-# Any other block is an error, so that none escapes the check.
+#   cmake, sh, text  not checked
+# Any other block is an error, so that every block is checked on purpose or left out on purpose.
 
-# guides_write(<file> <content>): leaves an unchanged file alone, for nothing to be built anew.
+# guides_write(<file> <content>): does not touch an unchanged file, so that nothing is rebuilt.
 function(guides_write file content)
     set(former "")
     if(EXISTS ${file})
@@ -37,7 +37,7 @@ function(guides_store guide number info code folder)
     elseif(info STREQUAL "cpp skin-map")
         set_property(GLOBAL APPEND_STRING PROPERTY GUIDE_SKIN_MAPS "// ${name}\n${code}\n")
     elseif(info MATCHES "^xml( row)?( picture=([a-z-]+))?$")
-        # The file's name tells the test and the taker of pictures what the block is.
+        # The test and the program that takes the pictures read the kind from the file name.
         set(kind section)
         if(CMAKE_MATCH_1)
             set(kind row)
@@ -83,7 +83,7 @@ function(guides_extract guide folder)
     endwhile()
 endfunction()
 
-# guides_remove_others(<folder>): removes the descriptions that are in no guide any more.
+# guides_remove_others(<folder>): removes descriptions that no guide contains any more.
 function(guides_remove_others folder)
     get_property(known GLOBAL PROPERTY GUIDE_DESCRIPTIONS)
     file(GLOB_RECURSE files ${folder}/*.xml)

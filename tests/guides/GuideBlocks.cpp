@@ -10,7 +10,7 @@
 
 namespace {
 
-/** Tags of what is no command, or no widget or action of its own. */
+/** Tags of elements that are not commands or have no widget or action of their own. */
 const QStringList frames{"tabbutton", "buttongroup", "extra", "item"};
 
 QByteArray wholeDocument(const QByteArray &code, const QString &kind)

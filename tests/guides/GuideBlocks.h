@@ -7,7 +7,7 @@
 #include <QList>
 #include <QString>
 
-/** One description out of the guides. */
+/** One description from the guides. */
 struct GuideBlock
 {
     QString name;             ///< Such as "description-format-3".
@@ -16,8 +16,8 @@ struct GuideBlock
     QDomDocument description; ///< The whole document that the block stands in.
 };
 
-/** The descriptions below @p folder, pieces of one completed to whole documents. */
+/** The descriptions below @p folder; fragments are completed to whole documents. */
 QList<GuideBlock> guideBlocks(const QString &folder);
 
-/** The object names of the controls in a description, without tabs and what only holds others. */
+/** The object names of the controls in a description, without tabs and other containers. */
 QStringList controlNames(const QDomElement &description);

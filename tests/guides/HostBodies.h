@@ -3,7 +3,7 @@
 
 #pragma once
 
-// What the pieces of host code in the guides may use without saying so.
+// The includes and variables that the fragments of host code in the guides use undeclared.
 
 #include <toolbar/MRToolBar.h>
 #include <toolbar/NewToolBar.h>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The MRToolBar authors
 // SPDX-License-Identifier: MIT
 
-// Takes the pictures of the guides: of the descriptions that ask for one, and of the skin maps.
+// Takes the pictures of the guides: of the descriptions marked with picture=, and of the skin maps.
 
 #include "GuideBlocks.h"
 #include "SkinMaps.h"
@@ -30,7 +30,7 @@ struct Look
     ToolBarSkinStyle map;
 };
 
-/** Whether the description says of a command that it is not usable. */
+/** Whether the description disables a command. */
 bool isUnusable(const QDomElement &description, const QString &name)
 {
     const QList<QDomElement> elements = elementsBelow(description);

@@ -36,7 +36,7 @@ QString contentOf(const QString &name)
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
-/** The anchors that a page of Markdown gets from its headings. */
+/** The anchors that the headings of a Markdown page get. */
 QStringList anchorsOf(const QString &name)
 {
     static const QRegularExpression heading("\n#+ ([^\n]+)");
@@ -49,7 +49,7 @@ QStringList anchorsOf(const QString &name)
     return anchors;
 }
 
-/** Everything of a record that comes from an attribute. */
+/** All fields of a record that are read from attributes. */
 QVariantList valuesOf(const Controller &record)
 {
     return {record.text,     record.name,       record.icon,       record.arrow,
@@ -60,7 +60,7 @@ QVariantList valuesOf(const Controller &record)
             record.scalable, record.withaction, record.doubleclick};
 }
 
-/** Whether the parser stores an attribute: one of these values then leaves its default. */
+/** Whether the parser stores an attribute: then one of these values changes a field's default. */
 bool isKnownAttribute(const QString &name)
 {
     QDomDocument document;
@@ -106,13 +106,13 @@ double contrast(const QColor &one, const QColor &other)
     return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
 }
 
-/** What stands on the grounds of a skin in colours that no map changes. */
+/** The fixed colours of texts and icons, and the skin map's keys of their backgrounds. */
 struct FixedColours
 {
     int skin;
-    QStringList strip; ///< Keys of the grounds under white text and icons.
-    QStringList row;   ///< Keys of the grounds under dark text.
-    QStringList rest;  ///< Of those, the ones that icons are looked at on.
+    QStringList topLine; ///< Keys of the backgrounds of white text and icons.
+    QStringList row;     ///< Keys of the backgrounds of dark text.
+    QStringList rest;    ///< Those of them that show icons for longer than a press.
     QString text;
     QStringList icons;
 };
@@ -134,7 +134,7 @@ const FixedColours lumColours{
 
 } // namespace
 
-/** Whether the guides agree with the library; their code is compiled beside this test. */
+/** Whether the guides agree with the library. Their code is compiled by the target guide_blocks. */
 class GuidesTest : public QObject
 {
     Q_OBJECT
@@ -165,7 +165,7 @@ private Q_SLOTS:
              section = section.nextSiblingElement()) {
             const auto before = records.size();
             ParseXMLElement(&section, &records);
-            QVERIFY2(records.size() > before, "A section that is none, or an empty one");
+            QVERIFY2(records.size() > before, "A section is unknown or empty");
         }
         DeleteUnitControl(&records);
 
@@ -236,7 +236,7 @@ private Q_SLOTS:
         QFETCH(int, skin);
         const SkinChoice choice(skin);
         const FixedColours &fixed = skin == lum ? lumColours : marodiColours;
-        // Complete, and without a key that nothing comes of.
+        // The map has every key that the sheet uses, and no other one.
         const QString sheet = LoadQss(Skin::resourceDirectory() + "qssfile.qss");
         const ToolBarSkinStyle whole = Skin::initialMap(map);
         for (auto entry = whole.cbegin(); entry != whole.cend(); ++entry)
@@ -253,7 +253,7 @@ private Q_SLOTS:
             }
             return true;
         };
-        QVERIFY(isReadable(fixed.strip, "#ffffff", 4.5));
+        QVERIFY(isReadable(fixed.topLine, "#ffffff", 4.5));
         QVERIFY(isReadable(fixed.row, fixed.text, 4.5));
         for (const QString &icon : fixed.icons)
             QVERIFY(isReadable(fixed.rest, icon, 3.0));
@@ -270,7 +270,7 @@ private Q_SLOTS:
 
     void shouldRelyOnTheColoursOfTheSheets()
     {
-        // The colours that shouldOfferReadableSkins() holds for fixed are the sheets' and icons'.
+        // shouldOfferReadableSkins() relies on these colours of the sheets and icons.
         for (const FixedColours &fixed : {marodiColours, lumColours}) {
             const SkinChoice choice(fixed.skin);
             const QString sheet = LoadQss(Skin::resourceDirectory() + "qssfile.qss");

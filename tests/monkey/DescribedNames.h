@@ -10,12 +10,12 @@
 #include <QSet>
 #include <QStringList>
 
-/** The names in a description, by what they may come back as. */
+/** The names in a description, by the signals that may report them. */
 struct DescribedNames
 {
     explicit DescribedNames(const QDomDocument &document)
     {
-        // A menu's way to a command and a quick button report the command's own name.
+        // An entry "menu_…" and a quick access button are reported under the command's name.
         static const QRegularExpression prefixes("^(menu_)?(qbar_)?");
         const QList<QDomElement> elements = elementsBelow(document.documentElement());
         for (const QDomElement &element : elements) {
@@ -24,7 +24,7 @@ struct DescribedNames
                 continue;
             all.append(name);
             commands.insert(QString(name).remove(prefixes));
-            // Clearing the history is reported by the menu, which keeps the name as it is.
+            // The menu of recent files reports this entry itself, under its full name.
             if (name.contains("f_clearhistory"))
                 commands.insert(name);
             if (element.attribute("doubleclick") == "true")

@@ -22,7 +22,7 @@ inline const QStringList hostileNames =
             "toolbar_quickaccessbar/a/b v_zoom d_gotopage f_ %1%2 \"};QWidget{ <b> mrtoolbar "
             "tabwidget top_widget");
 
-/** A host that says anything at any time. */
+/** A host that makes any call at any time. */
 class RandomHost
 {
 public:
@@ -33,14 +33,14 @@ public:
     {
     }
 
-    /** From now on this host has another window. */
+    /** Gives the host another window. */
     void setWindow(MRToolBar *facade, QMainWindow *window)
     {
         m_facade = facade;
         m_window = window;
     }
 
-    /** One call of the facade; the name of it. */
+    /** Makes one call of the facade and returns its name. */
     QString step()
     {
         using Act = QString (RandomHost::*)();
@@ -54,7 +54,7 @@ public:
         return kind < 11 ? ask() : setState();
     }
 
-    /** Reports every control as usable, as hosts do when they are asked for the states. */
+    /** Reports every control as usable, as hosts do on DoRequestAuthority(). */
     QString enableEverything()
     {
         for (QString name : std::as_const(m_names))
@@ -62,7 +62,7 @@ public:
         return "enable everything";
     }
 
-    /** Shows or hides a tab, most often the one that its own call has just opened. */
+    /** Shows or hides a tab, most often the one on show, which opens the next one. */
     QString showTab()
     {
         const auto tabs = m_window->findChildren<QPushButton *>();
@@ -99,9 +99,9 @@ private:
 
     QString setState()
     {
-        // Nothing comes back from a toolbar that has been disabled as a whole.
+        // Rare, because no state by name enables a toolbar again that is disabled as a whole.
         QString name = m_random.oneIn(120) ? "toolbar_whole" : anyName();
-        // More is given than is taken, or little would be left to use.
+        // More controls are enabled and shown than not, or soon few would be left to use.
         const bool state = m_random.below(3) > 0;
         const QString told = QStringLiteral(" %1 %2").arg(name.left(40)).arg(state);
         switch (m_random.below(3)) {

@@ -8,8 +8,7 @@
 
 #include <random>
 
-/** Everything that is random in a run comes from here, so that the seed determines the whole run.
- */
+/** All random numbers of a run, so that the seed determines the whole run. */
 class RandomSource
 {
 public:
@@ -18,7 +17,7 @@ public:
     {
     }
 
-    /** From 0 to @p bound - 1. Not the library's distribution, which differs between systems. */
+    /** From 0 to @p bound - 1. Distributions of the standard library differ between systems. */
     int below(int bound) { return static_cast<int>(m_engine() % static_cast<unsigned int>(bound)); }
 
     int between(int least, int most) { return least + below(most - least + 1); }

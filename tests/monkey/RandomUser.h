@@ -18,7 +18,7 @@
 #include <algorithm>
 #include <iterator>
 
-/** The children of a window that can be seen. */
+/** The visible children of a window. */
 template <typename Widget>
 QList<QWidget *> shown(const QWidget &window)
 {
@@ -31,7 +31,7 @@ QList<QWidget *> shown(const QWidget &window)
     return widgets;
 }
 
-/** A user who does anything at any time. */
+/** A user who makes any gesture at any time. */
 class RandomUser
 {
 public:
@@ -40,7 +40,7 @@ public:
     {
     }
 
-    /** One gesture somewhere in the window; a description of it. */
+    /** Makes one gesture somewhere in the window and returns a text about it. */
     QString step(QWidget &window)
     {
         using Gesture = void (RandomUser::*)(QPointer<QWidget>);
@@ -64,7 +64,7 @@ public:
         return name + target;
     }
 
-    /** A click on one of the tabs on show; a description of it. */
+    /** Clicks one of the visible tabs and returns a text about it. */
     QString clickTab(const QWidget &window)
     {
         QList<QWidget *> tabs;
@@ -80,7 +80,7 @@ public:
         return "click tab " + name;
     }
 
-    /** One gesture at a menu or a list that is open; most often the one that closes it. */
+    /** Makes one gesture in an open menu or list, most often the one that closes it. */
     QString stepInPopup(QWidget &popup)
     {
         auto *menu = qobject_cast<QMenu *>(&popup);
@@ -116,7 +116,7 @@ private:
 
     void clickOnce(const QPointer<QWidget> &widget, const QPoint &place)
     {
-        // A menu may open in the first half, and the widget may be deleted before the second.
+        // A menu may open on the press, and the widget may be deleted before the release.
         QTest::mousePress(widget.data(), Qt::LeftButton, {}, place);
         if (widget)
             QTest::mouseRelease(widget.data(), Qt::LeftButton, {}, place);
@@ -166,7 +166,7 @@ private:
         const Qt::Key key = m_random.oneOf(keys);
         const auto [modifier, modifierKey] = m_random.oneOf(modifiers);
         QTest::keyPress(focused.data(), key, modifier);
-        // QTest would go on to release the modifier on a widget that the key has deleted.
+        // QTest would release the modifier on a widget that the key press has deleted.
         for (const Qt::Key released : {key, modifierKey}) {
             QKeyEvent event(QEvent::KeyRelease, released, modifier);
             if (focused && released != Qt::Key_unknown)
@@ -215,7 +215,7 @@ private:
         }
         if (kind == 3 && place.isValid()) {
             const QString name = entry->objectName();
-            // Qt keeps a menu in existence in its own events.
+            // Qt guards a menu against deletion in its own events.
             QTest::mouseClick(&menu, Qt::LeftButton, {}, place.center());
             return "choose " + name;
         }

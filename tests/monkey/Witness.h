@@ -31,7 +31,7 @@ inline bool isTypedZoomMode(const QString &mode)
     return percent >= 10.0 && percent <= 6400.0;
 }
 
-/** The quick buttons and the entries that show and hide them have one name by design. */
+/** Quick access buttons and the entries that show and hide them share their names by design. */
 inline bool belongsToQuickAccess(const QAction *action)
 {
     const QString owner = action->parent() ? action->parent()->objectName() : QString();
@@ -47,18 +47,18 @@ int checkedAmong(const QList<Control *> &controls)
     return count;
 }
 
-/** Checks the invariants of a toolbar, whatever is done to it. */
+/** Checks the invariants of a toolbar during random use. */
 class Witness : public QObject
 {
 public:
-    /** @param react what the host does when it hears of something */
+    /** @param react is called on every signal, as the host's answer. */
     Witness(DescribedNames names, std::function<void()> react)
         : m_names(std::move(names))
         , m_react(std::move(react))
     {
     }
 
-    /** To be called with every new toolbar. */
+    /** Call this with every new toolbar. */
     void watch(MRToolBar &facade, QMainWindow &window)
     {
         m_toolBar = window.findChild<NewToolBar *>();
@@ -87,7 +87,7 @@ public:
         }
     }
 
-    /** To be called once a window has been deleted. */
+    /** Call this after a window has been deleted. */
     void checkNothingIsLeft()
     {
         const QWidgetList widgets = QApplication::allWidgets();
@@ -99,7 +99,7 @@ public:
 
     /** The first violation of an invariant; empty as long as there is none. */
     QString fault() const { return m_fault; }
-    /** How often each signal has come, for the report of a run. */
+    /** How often each signal was emitted, for the report of a run. */
     QString heard() const
     {
         QStringList counts;
@@ -108,7 +108,7 @@ public:
         return counts.join(", ");
     }
 
-    // What the host says.
+    // The calls of the host.
 
     void noteVisibleCall(const QString &name)
     {
@@ -128,7 +128,7 @@ public:
     {
         const QString wanted = name.section(':', 0, 0);
         const QPointer<QAction> action = m_toolBar->GetActionInTotal(wanted);
-        // The menu of recent files reports what is triggered in it, whoever triggers it.
+        // The menu of recent files reports every trigger of its entries, also one by name.
         const bool isReportedByMenu = wanted.contains("f_clearhistory");
         const int heardBefore = m_heard;
 
@@ -145,9 +145,9 @@ public:
     {
         const int heardBefore = m_heard;
         facade.DoResetToolbarSlot();
-        // Last: the user may go to a page while the host answers the report of the zoom.
+        // After the call: the user may go to a page while the host answers DoSetZoomMode().
         m_total = 0;
-        // The host may have set anything in its answer to the zoom.
+        // The host may have checked controls in its answer to DoSetZoomMode().
         if (m_heard != heardBefore)
             return;
         for (const QString &name : std::as_const(m_names.all))
@@ -166,7 +166,7 @@ private:
         require(!m_isSilenceDue, signal + " answers a check by name");
         ++m_heard;
         ++m_heardSignals[signal];
-        // What the host does now is not to be silent.
+        // Calls that the host makes in its answer may cause signals.
         const bool wasSilenceDue = std::exchange(m_isSilenceDue, false);
         m_react();
         m_isSilenceDue = wasSilenceDue;
@@ -179,7 +179,7 @@ private:
             hear("DoActive");
         });
         connect(&facade, &MRToolBar::DoSetZoomMode, this, [this](const QString &mode) {
-            // An entry without text has no mode either.
+            // An entry without text has no mode.
             const bool isKnown = mode.isEmpty() || m_names.zoomModes.contains(mode);
             require(isKnown || isTypedZoomMode(mode), "'" + mode + "' is no zoom mode");
             hear("DoSetZoomMode");
@@ -241,7 +241,7 @@ private:
         const auto actions = toolBar.findChildren<QAction *>();
         for (const QAction *action : actions) {
             const QString name = action->objectName();
-            // Widgets on a row have actions of another kind, one a place.
+            // Widgets on a row have a QWidgetAction for each place.
             if (name.isEmpty() || name == "f_openrecentfile"
                 || action->metaObject() != &QAction::staticMetaObject
                 || belongsToQuickAccess(action))

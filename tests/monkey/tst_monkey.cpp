@@ -17,7 +17,7 @@ constexpr int stepsOfShortRun = 1500;
 constexpr int stepsBetweenReports = 5000;
 constexpr int movesTold = 12;
 
-/** Toolbars, one after the other, between a random host and a random user. */
+/** A random host and a random user that use one toolbar after the other. */
 class Monkey
 {
 public:
@@ -42,7 +42,7 @@ public:
             deleteToolBar();
             makeToolBar();
         }
-        // The host may have deleted the window in its answer to the request for the first states.
+        // The host may have deleted the window in its answer to the first signal.
         if (!exists())
             return;
         tell(m_random.oneIn(3) ? m_host.step() : m_user.step(*m_window));
@@ -103,7 +103,7 @@ private:
             QTest::qWait(longerThanAnyWait);
     }
 
-    /** What the host does on a signal, now and then on a signal that its own call has caused. */
+    /** The host's answer to a signal, which may cause further signals. */
     void react()
     {
         constexpr int mostDepth = 3;
@@ -125,7 +125,7 @@ private:
         --m_depth;
     }
 
-    /** A host that asks the user something: anything may happen until there is an answer. */
+    /** The host runs an event loop, as a message box does. */
     void answerInALoop()
     {
         QEventLoop loop;
@@ -136,7 +136,7 @@ private:
                 tell("  in a loop: delete");
                 deleteAnyWay();
             }
-            // What is to be deleted later goes in this loop.
+            // Objects passed to deleteLater() are deleted in this loop.
             QTimer::singleShot(1, &loop, &QEventLoop::quit);
         });
         loop.exec();
@@ -168,11 +168,11 @@ private:
         }
     }
 
-    /** Menus and lists wait for the user in an event loop of their own, and so may the host. */
+    /** Closes popups from outside, because menus and lists run event loops of their own. */
     void waitForPopups()
     {
         QTimer::singleShot(0, &m_witness, [this] {
-            waitForPopups(); // First, as the use of a popup may not end before the next one.
+            waitForPopups(); // First, because usePopup() may return only after the next popup.
             usePopup();
         });
     }
@@ -235,7 +235,7 @@ private Q_SLOTS:
                                     .arg(monkey.fault(), monkey.lastMoves())));
         }
         qInfo("%d steps from seed %u: %s", steps, seed, qPrintable(monkey.heard()));
-        // A run in which the host has heard of nothing proves nothing.
+        // A run without signals would check nothing.
         if (steps >= stepsOfShortRun)
             QVERIFY(monkey.heard().contains("DoActive"));
     }

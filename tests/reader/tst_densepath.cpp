@@ -42,7 +42,7 @@ Ofd::Object filled(const QString &data, Qt::FillRule rule)
     return object;
 }
 
-/** Data of a path; the place of a point is a function of its number. */
+/** Data of a path through @p count points; @p place gives the position of each by its index. */
 template <typename Place>
 QString through(int count, Place place)
 {
@@ -73,7 +73,7 @@ QString acrossThePage(int count)
                    [&](int) { return QPointF(random.bounded(210.0), random.bounded(297.0)); });
 }
 
-/** Lines that cross each other under all angles. */
+/** Lines that cross each other at all angles. */
 QString rosette(int count, int turns)
 {
     return through(count, [=](int i) {
@@ -103,7 +103,7 @@ QImage painted(const Ofd::Object &object)
     return image;
 }
 
-/** The path made of lines so short that the toolkit has nothing to flatten. */
+/** The path as lines so short that Qt has no curve to flatten. */
 QPainterPath withoutCurves(const QPainterPath &path)
 {
     constexpr qreal fineness = 64;
@@ -116,7 +116,7 @@ QPainterPath withoutCurves(const QPainterPath &path)
     return flat;
 }
 
-/** What the toolkit makes of an object that is a path. */
+/** The path object as Qt paints it. */
 QImage expected(const Ofd::Object &object)
 {
     QImage image = blank();
@@ -151,7 +151,7 @@ int difference(QRgb a, QRgb b)
                      std::abs(qBlue(a) - qBlue(b))});
 }
 
-/** How many pixels differ by more than a rounding of their shade. */
+/** How many pixels differ by more than a rounding error. */
 int differencesBetween(const QImage &one, const QImage &other)
 {
     constexpr int rounding = 32;
@@ -177,13 +177,13 @@ Ofd::Object clippedBy(Ofd::Object object, const QString &data)
 
 } // namespace
 
-/** Paths with lines upon lines, which the reader paints by itself. */
-class TestDensePath : public QObject
+/** Paths of very many lines, which the reader paints without Qt's rasteriser. */
+class DensePathTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void aMillionPointsTakeSeconds_data()
+    void shouldPaintAMillionPointsInSeconds_data()
     {
         QTest::addColumn<QString>("use");
         QTest::addColumn<QString>("course");
@@ -203,9 +203,9 @@ private Q_SLOTS:
                                                           << "across";
     }
 
-    void aMillionPointsTakeSeconds()
+    void shouldPaintAMillionPointsInSeconds()
     {
-        // Of the processor, however busy the machine is, and with some patience for sanitizers.
+        // Processor time, which does not depend on other programs, with room for sanitizers.
         constexpr int mostSeconds = 20;
         QFETCH(QString, use);
         QFETCH(QString, course);
@@ -226,7 +226,7 @@ private Q_SLOTS:
         QVERIFY(inkOf(image) > 50000);
     }
 
-    void theyLookAsTheToolkitPaintsThem_data()
+    void shouldLookAsQtPaintsThem_data()
     {
         QTest::addColumn<Ofd::Object>("object");
         const QString course = rosette(400, 15);
@@ -267,7 +267,7 @@ private Q_SLOTS:
         QTest::newRow("gradient") << styled;
     }
 
-    void theyLookAsTheToolkitPaintsThem()
+    void shouldLookAsQtPaintsThem()
     {
         constexpr int mostDifferences = 200;
         QFETCH(Ofd::Object, object);
@@ -279,5 +279,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestDensePath)
+QTEST_MAIN(DensePathTest)
 #include "tst_densepath.moc"

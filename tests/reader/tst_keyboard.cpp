@@ -18,7 +18,7 @@
 
 namespace {
 
-/** The reader with a shipped description, on the screen and in front. */
+/** The reader with a shipped description, in the active window. */
 struct Reader
 {
     explicit Reader(const QString &skin)
@@ -31,7 +31,7 @@ struct Reader
         QTRY_VERIFY(view->hasFocus());
     }
 
-    /** To whatever has the focus, as the window system does. */
+    /** Sends a key to the focus widget, as the window system does. */
     static void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
         QWidget *receiver = QApplication::focusWidget();
@@ -43,7 +43,7 @@ struct Reader
         QTest::keyClicks(QApplication::focusWidget(), text);
         press(Qt::Key_Return);
     }
-    /** What the focus is in, or on. */
+    /** Whether the focus is in the toolbar. */
     bool isInToolBar() const
     {
         return window.findChild<QToolBar *>()->isAncestorOf(QApplication::focusWidget());
@@ -56,26 +56,26 @@ struct Reader
 
 } // namespace
 
-/** What a reader without a mouse relies on. */
-class TestKeyboard : public QObject
+/** The use of the reader by the keyboard alone. */
+class KeyboardTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void everyPlaceIsReachedAndLeft_data()
+    void shouldReachAndLeaveEveryFieldByKeys_data()
     {
         QTest::addColumn<int>("style");
         QTest::newRow("marodi") << 0;
         QTest::newRow("lum") << 1;
     }
 
-    void everyPlaceIsReachedAndLeft()
+    void shouldReachAndLeaveEveryFieldByKeys()
     {
         QFETCH(int, style);
         NewToolBar::uiStyle = style;
         Reader reader(QTest::currentDataTag());
 
-        // A box that shows no percentage takes no text, and opens its list.
+        // A zoom box that shows no percentage is not editable and opens its list.
         Reader::press(Qt::Key_M, Qt::ControlModifier);
         QTRY_VERIFY(QApplication::activePopupWidget());
         QTest::keyClick(QApplication::activePopupWidget()->focusWidget(), Qt::Key_End);
@@ -111,9 +111,12 @@ private Q_SLOTS:
         QVERIFY(QGuiApplication::clipboard()->text().size() > 100);
     }
 
-    void theTabKeyStopsOnlyAtWhatIsSeen_data() { everyPlaceIsReachedAndLeft_data(); }
+    void shouldReachNamedControlsAndThePagesByTheTabKey_data()
+    {
+        shouldReachAndLeaveEveryFieldByKeys_data();
+    }
 
-    void theTabKeyStopsOnlyAtWhatIsSeen()
+    void shouldReachNamedControlsAndThePagesByTheTabKey()
     {
         QFETCH(int, style);
         NewToolBar::uiStyle = style;
@@ -135,5 +138,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestKeyboard)
+QTEST_MAIN(KeyboardTest)
 #include "tst_keyboard.moc"

@@ -37,7 +37,7 @@ bool isOfToolBar(const QWidget *widget)
            && (qobject_cast<const QToolBar *>(widget) || isOfToolBar(widget->parentWidget()));
 }
 
-/** The Chinese texts of a window but for those of the toolbar, which its description gives. */
+/** The Chinese texts of a window without those of the toolbar, which are the description's. */
 QStringList chineseTexts(const QWidget &window)
 {
     static const QRegularExpression chinese("[\\x{3000}-\\x{9fff}\\x{ff00}-\\x{ffef}]");
@@ -52,14 +52,15 @@ QStringList chineseTexts(const QWidget &window)
 
 } // namespace
 
-class TestReaderLanguage : public QObject
+/** The language of the reader, the library and the dialogs of Qt. */
+class ReaderLanguageTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void initTestCase() { Language::install("en"); }
 
-    void theWindowHasNoOtherTextsThanEnglish()
+    void shouldShowEnglishTextsOnly()
     {
         QString error;
         ReaderWindow window(Description::read("release", "marodi", &error), QString());
@@ -78,7 +79,7 @@ private Q_SLOTS:
                  qPrintable(status.join('\n')));
     }
 
-    void whatIsWrongWithAFileIsToldInEnglish()
+    void shouldReportTheFaultOfAFileInEnglish()
     {
         Document document;
         QString error;
@@ -86,21 +87,21 @@ private Q_SLOTS:
         QCOMPARE(error, QString("The file is encrypted and cannot be opened."));
     }
 
-    void theLibraryAndTheToolkitFollow()
+    void shouldTranslateTheLibraryAndSetTheLocale()
     {
         QCOMPARE(MRHandWriteDialog().windowTitle(), QString("Handwriting settings"));
         QCOMPARE(QLocale().language(), QLocale::English);
     }
 
-    void theToolkitSpeaksTheLanguageAsWell()
+    void shouldTranslateTheDialogsOfQt()
     {
         Language::install("zh_CN");
         if (QCoreApplication::translate("QPlatformTheme", "Cancel") == QString("Cancel"))
-            QSKIP("The toolkit's own translations are not installed.");
+            QSKIP("The translations of Qt are not installed.");
         QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), QString("取消"));
         QCOMPARE(MRHandWriteDialog().windowTitle(), QString("手写设置"));
     }
 };
 
-QTEST_MAIN(TestReaderLanguage)
+QTEST_MAIN(ReaderLanguageTest)
 #include "tst_readerlanguage.moc"

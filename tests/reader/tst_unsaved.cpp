@@ -17,7 +17,7 @@
 
 namespace {
 
-/** A window whose document has a mark that is not saved. */
+/** A window whose document has an unsaved mark. */
 struct Reader
 {
     Reader()
@@ -67,7 +67,7 @@ void choose(const QString &file, QFileDialog *chooser)
     QTest::keyClick(field, Qt::Key_Return);
 }
 
-/** Answers dialogs, whose event loops run inside of what opens them. */
+/** Answers dialogs by a timer, because their event loops block the test. */
 class User
 {
 public:
@@ -95,8 +95,8 @@ private:
 
 } // namespace
 
-/** Leaving a document whose changes are not saved. */
-class TestUnsaved : public QObject
+/** Closing a document with unsaved changes. */
+class UnsavedTest : public QObject
 {
     Q_OBJECT
 
@@ -107,21 +107,21 @@ private Q_SLOTS:
         qputenv("XDG_CONFIG_HOME", "/nowhere"); // Not the user's own settings.
     }
 
-    void theAnswerDecides_data()
+    void shouldFollowTheAnswerToTheQuestion_data()
     {
         QTest::addColumn<int>("answer");
         QTest::addColumn<QString>("file");
         QTest::addColumn<bool>("isSaved");
         QTest::addColumn<bool>("isClosed");
-        QTest::newRow("Enter saves") << int(Enter) << "marks.pdf" << true << true;
-        QTest::newRow("no file is chosen") << int(Enter) << "" << false << false;
-        QTest::newRow("no folder for the file") << int(Enter) << "none/marks.pdf" << false << false;
-        QTest::newRow("a file without marks") << int(Enter) << "marks.txt" << true << false;
-        QTest::newRow("Escape stays") << int(Escape) << "" << false << false;
-        QTest::newRow("discarding") << int(Discard) << "" << false << true;
+        QTest::newRow("Enter, saved") << int(Enter) << "marks.pdf" << true << true;
+        QTest::newRow("Enter, no file chosen") << int(Enter) << "" << false << false;
+        QTest::newRow("Enter, missing folder") << int(Enter) << "none/marks.pdf" << false << false;
+        QTest::newRow("Enter, format without marks") << int(Enter) << "marks.txt" << true << false;
+        QTest::newRow("Escape") << int(Escape) << "" << false << false;
+        QTest::newRow("discard") << int(Discard) << "" << false << true;
     }
 
-    void theAnswerDecides()
+    void shouldFollowTheAnswerToTheQuestion()
     {
         QFETCH(int, answer);
         QFETCH(QString, file);
@@ -140,5 +140,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestUnsaved)
+QTEST_MAIN(UnsavedTest)
 #include "tst_unsaved.moc"

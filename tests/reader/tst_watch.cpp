@@ -19,7 +19,7 @@
 
 namespace {
 
-/** A description with a command on each of two tabs, the first on show. */
+/** A description with two tabs and a command on each; the first tab is on show. */
 QByteArray describing(const QByteArray &name, const QByteArray &more = {})
 {
     QByteArray text = R"(<uiconfig prefix=""><toolbar_tabbar>
@@ -30,7 +30,7 @@ QByteArray describing(const QByteArray &name, const QByteArray &more = {})
     return text.replace("NAME", name).replace("MORE", more);
 }
 
-/** A window that follows a file. */
+/** A window that is rebuilt whenever a file is saved. */
 struct Preview
 {
     Preview()
@@ -49,7 +49,8 @@ struct Preview
         QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
     }
     bool has(const QString &name) const { return window.findChild<QObject *>(name) != nullptr; }
-    QStringList findings() const // The line and the rule of each.
+    /** The line and the rule of each finding. */
+    QStringList findings() const
     {
         QStringList list;
         const auto *table = window.findChild<QTableWidget *>();
@@ -66,9 +67,11 @@ struct Preview
 
 } // namespace
 
-class TestWatch : public QObject
+/** The reader's --watch: a toolbar that is rebuilt whenever its description is saved. */
+class WatchTest : public QObject
 {
     Q_OBJECT
+
 private Q_SLOTS:
     void initTestCase() { qputenv("XDG_CONFIG_HOME", "/nowhere"); } // Not the user's own settings.
 
@@ -78,17 +81,18 @@ private Q_SLOTS:
         for (const char *way : {"overwritten", "in steps", "replaced", "moved aside", "linked"})
             QTest::addRow("%s", way) << way;
     }
+
     void shouldFollowTheFileHoweverItIsSaved()
     {
         QFETCH(const QString, way);
         Preview preview;
-        for (const QByteArray name : {"x_second", "x_third"}) { // The watch must outlive a save.
+        for (const QByteArray name : {"x_second", "x_third"}) { // The first save must not end it.
             const std::string backup = preview.path + '~' + name.toStdString();
             if (way == "in steps")
                 preview.save(describing(name).chopped(20));
             else if (way == "moved aside")
                 std::filesystem::rename(preview.path, backup);
-            else if (way == "linked") // What was watched lives on under another name.
+            else if (way == "linked") // The watched file remains, under another name.
                 std::filesystem::create_hard_link(preview.path, backup);
             const bool isReplaced = way == "replaced" || way == "linked";
             preview.save(describing(name), isReplaced ? ".new" : "");
@@ -99,16 +103,17 @@ private Q_SLOTS:
         }
     }
 
-    void shouldKeepTheToolBarAndSayWhatIsWrong_data()
+    void shouldKeepTheToolBarAndListFindings_data()
     {
         QTest::addColumn<QByteArray>("content");
         QTest::addColumn<QString>("finding");
         QTest::newRow("not well-formed") << describing("x_new").chopped(20) << "5 xml-syntax";
         QTest::newRow("something else") << QByteArray("<html/>") << "1 wrong-root";
         QTest::newRow("empty") << QByteArray("") << "1 xml-syntax";
-        QTest::newRow("gone") << QByteArray() << " unreadable";
+        QTest::newRow("removed") << QByteArray() << " unreadable";
     }
-    void shouldKeepTheToolBarAndSayWhatIsWrong()
+
+    void shouldKeepTheToolBarAndListFindings()
     {
         QFETCH(const QByteArray, content);
         QFETCH(const QString, finding);
@@ -121,7 +126,7 @@ private Q_SLOTS:
         QCOMPARE(preview.findings(), QStringList("3 unknown-attribute"));
     }
 
-    void shouldLeaveTheDocumentAsItIsLookedAt()
+    void shouldKeepTheViewOfTheDocument()
     {
         Preview preview;
         auto *view = preview.window.findChild<PageView *>();
@@ -140,7 +145,7 @@ private Q_SLOTS:
         const QList<int> before = look();
         QVERIFY(!before.contains(0));
         preview.save(describing("x_new"));
-        QTRY_VERIFY(preview.has("x_new_too")); // It is on the tab that was on show.
+        QTRY_VERIFY(preview.has("x_new_too")); // Only the row on show is filled.
         QCOMPARE(look(), before);
         const auto *field = preview.window.findChild<QLineEdit *>("d_gotopage");
         QCOMPARE(field->text(), QString::number(before.at(0) + 1));
@@ -148,5 +153,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestWatch)
+QTEST_MAIN(WatchTest)
 #include "tst_watch.moc"

@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: The MRToolBar authors
 # SPDX-License-Identifier: MIT
 
-# Makes the Debian packages and sees them come and go in a root of their own.
+# Makes the Debian packages, and installs and removes them in a root directory of their own.
 #
 #   cmake -DCPACK=... -DDPKG=... -DBUILD=... -DROOT=... -P CheckPackages.cmake
 
@@ -14,7 +14,7 @@ function(run)
     endif()
 endfunction()
 
-# dpkg_in_root(WORD...): leaves this machine's own packages alone, and needs no rights.
+# dpkg_in_root(WORD...): does not touch the packages of the machine and needs no root rights.
 function(dpkg_in_root)
     run(${DPKG} --root=${ROOT} --force-not-root --force-script-chrootless --force-depends
         --log=/dev/null ${ARGN})

@@ -1,8 +1,8 @@
 # SPDX-FileCopyrightText: The MRToolBar authors
 # SPDX-License-Identifier: MIT
 
-# Sees, by READELF, that LIBRARY stays loaded once it is. A plug-in that is linked with it may be
-# unloaded while Qt still knows its types, resources and translations.
+# Checks with READELF that LIBRARY is never unloaded. A plug-in that is linked with it may be
+# unloaded while Qt still refers to its types, resources and translations.
 execute_process(COMMAND ${READELF} --dynamic --wide ${LIBRARY}
     OUTPUT_VARIABLE output COMMAND_ERROR_IS_FATAL ANY)
 if(NOT output MATCHES "FLAGS_1[^\n]*NODELETE")

@@ -1,8 +1,8 @@
 # SPDX-FileCopyrightText: The MRToolBar authors
 # SPDX-License-Identifier: MIT
 
-# Compares what LIBRARY exports, as NM tells it, with what is listed in LIST, whole classes or single
-# members, and looks for code that LIBRARY would run on loading.
+# Compares the symbols that LIBRARY exports, as NM prints them, with the classes and single members
+# in LIST, and looks for code that LIBRARY would run on loading.
 cmake_minimum_required(VERSION 3.25)
 file(STRINGS ${LIST} listed REGEX "^[^#]")
 
@@ -13,7 +13,7 @@ string(REPLACE "\n" ";" lines "${output}")
 
 set(exported "")
 foreach(line IN LISTS lines)
-    # An address, a letter for the kind, the name. The linker's own marks are no C++ names.
+    # An address, a letter for the kind, the name. Symbols of the linker are not C++ names.
     if(NOT line MATCHES "^[0-9a-f]+ [A-Za-z] (.+)$")
         continue()
     endif()
@@ -28,8 +28,7 @@ foreach(line IN LISTS lines)
     string(REGEX REPLACE
         "^(typeinfo name for|typeinfo for|vtable for|(non-)?virtual thunk to|guard variable for) "
         "" name "${name}")
-    # Templates of the standard library and of Qt's type system carry a visibility of
-    # their own.
+    # Templates of the standard library and of Qt's meta-type system set their own visibility.
     if(name MATCHES "^([a-z ]+ )?(std::|QMetaType|QMetaAssociation)")
         continue()
     endif()
@@ -49,8 +48,8 @@ if(NOT exported STREQUAL listed)
     message(FATAL_ERROR "The library exports\n  ${exported}\nand not\n  ${listed}")
 endif()
 
-# The resources register themselves. A constant that has to be set up costs every program that is
-# linked with the library, whether it makes a toolbar or not.
+# Resources register themselves on loading. A constant with a dynamic initialiser would cost every
+# program that is linked with the library, also without a toolbar.
 execute_process(COMMAND ${NM} --defined-only ${LIBRARY}
     OUTPUT_VARIABLE output ERROR_QUIET COMMAND_ERROR_IS_FATAL ANY)
 string(REGEX MATCHALL "_GLOBAL__sub_I_[^\n]+" initialisers "${output}")

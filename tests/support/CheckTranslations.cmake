@@ -1,15 +1,15 @@
 # SPDX-FileCopyrightText: The MRToolBar authors
 # SPDX-License-Identifier: MIT
 
-# Lets lupdate, called by UPDATE, bring copies of the CATALOGUES in FOLDER up to date. A source text
-# that a catalogue lacks comes out as unfinished, one that no source has any more as vanished.
+# Updates copies of the CATALOGUES in FOLDER with lupdate, called by UPDATE. A source text that a
+# catalogue lacks is then marked as unfinished, one that no source has any more as vanished.
 set(faults "")
 foreach(catalogue IN LISTS CATALOGUES)
     cmake_path(GET catalogue FILENAME name)
     file(COPY ${catalogue} DESTINATION ${FOLDER})
     execute_process(COMMAND ${UPDATE} -ts ${FOLDER}/${name} COMMAND_ERROR_IS_FATAL ANY)
     file(READ ${FOLDER}/${name} text)
-    # Lists of CMake have no use for these.
+    # Brackets and semicolons have a meaning in CMake lists.
     string(REGEX REPLACE "[][;]" "." text "${text}")
     if(NOT text MATCHES "<message")
         list(APPEND faults "${name} is empty")

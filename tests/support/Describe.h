@@ -5,7 +5,7 @@
 
 #include <QString>
 
-/** Pieces of descriptions, whose buttons, entries and tabs show their own names. */
+/** Fragments of descriptions. Buttons, entries and tabs have their names as texts. */
 namespace Describe {
 
 inline QString section(const QString &name, const QString &controls)
@@ -18,7 +18,7 @@ inline QString button(const QString &name, const QString &more = {})
     return QStringLiteral("<button name='%1' text='%1' %2/>").arg(name, more);
 }
 
-/** A button whose menu the toolbar fills with these entries, as that of the search options. */
+/** A button with a menu of these entries, such as that of the search options. */
 inline QString optionsButton(const QString &name, const QString &entries)
 {
     return QStringLiteral("<button name='%1' text='%1'>%2</button>").arg(name, entries);
@@ -54,7 +54,7 @@ inline QString comboBox(const QString &name, const QString &choices, const QStri
     return QStringLiteral("<combobox name='%1' %3>%2</combobox>").arg(name, choices, more);
 }
 
-/** One of the choices of a combo box. */
+/** An entry of a combo box. */
 inline QString choice(const QString &name, const QString &text)
 {
     return QStringLiteral("<item action='%1' text='%2'/>").arg(name, text);
@@ -65,7 +65,7 @@ inline QString group(const QString &name, const QString &controls)
     return QStringLiteral("<buttongroup name='%1'>%2</buttongroup>").arg(name, controls);
 }
 
-/** The controls at the right end of a row, which only scalable tabs have. */
+/** The extra group at the right end of a row, which only scalable tabs have. */
 inline QString extra(const QString &controls)
 {
     return QStringLiteral("<extra usable='true'>%1</extra>").arg(controls);
@@ -77,7 +77,7 @@ inline QString tab(const QString &name, const QString &controls, const QString &
         .arg(name, controls, more);
 }
 
-/** A tab "row" on show with these controls, and others behind it. */
+/** A tab "row" on show with these controls, and further tabs after it. */
 inline QString row(const QString &controls, const QString &otherTabs = {})
 {
     return section("tabbar", tab("row", controls, "checked='true'") + otherTabs);

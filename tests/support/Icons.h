@@ -19,7 +19,7 @@ inline QColor shownColour(const QToolButton &button)
     return button.icon().pixmap(16, 16).toImage().pixelColor(8, 8);
 }
 
-/** The path of a blue picture of 60 by 40 pixels in the folder; empty if it cannot be written. */
+/** Saves a blue picture of 60 by 40 pixels and returns its path; empty if that fails. */
 inline QString savedPicture(const QTemporaryDir &folder)
 {
     const QString path = folder.filePath(QStringLiteral("pen.png"));

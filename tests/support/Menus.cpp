@@ -49,7 +49,7 @@ void clickEntries(QMenu *menu, const QStringList &names)
         QAction *entry = entryOf(menu, name);
         QVERIFY2(entry, qPrintable(name));
         const QPointer<QMenu> subMenu = entry->menu();
-        clickEntry(menu, entry); // A command may end anything that is used here.
+        clickEntry(menu, entry); // A command may delete the menu and the entry.
         if (name == names.last())
             return;
         QTRY_VERIFY(subMenu->isVisible());

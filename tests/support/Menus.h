@@ -10,7 +10,7 @@
 class QAction;
 class QMenu;
 
-/** Runs @p action when a menu has popped up, then closes whatever is left of it. */
+/** Runs @p action when a menu has popped up, then closes the menus that are still open. */
 void whenMenuPops(const std::function<void(QMenu *)> &action);
 
 /** The entry of that name, or the one that opens the menu of that name. */

@@ -24,7 +24,7 @@ void turnWheel(QWidget *target, const QPoint &delta)
     QWidget *window = target->window();
     QWheelEvent event(target->mapTo(window, centre), global, QPoint(), delta, Qt::NoButton,
                       Qt::NoModifier, Qt::NoScrollPhase, false);
-    // Only what comes from the window system is passed on to the parents.
+    // Qt propagates wheel events to the parents only if they are spontaneous.
     QSpontaneKeyEvent::setSpontaneous(&event);
     qApp->notify(window->windowHandle(), &event);
 }

@@ -7,12 +7,12 @@
 
 class QWidget;
 
-/** Away from every window, so that nothing is hovered over before a test says so. */
+/** Moves the pointer away from every window, so that no widget is hovered at first. */
 void movePointerAway();
 
 /** Turns the wheel over the middle of a widget, as the windowing system would report it. */
 void turnWheel(QWidget *target, const QPoint &delta);
 
-/** Places on a split button: the part that repeats a command and the part that opens the menu. */
+/** Positions on a split button: the body repeats a command, the arrow opens the menu. */
 QPoint bodyOf(const QWidget *button);
 QPoint arrowOf(const QWidget *button);

@@ -32,7 +32,7 @@ void TestDocuments::addShipped()
     QTest::addColumn<QString>("path");
     QTest::newRow("marodi release") << marodi << shippedPath("marodi/mr_toolbar.release.xml");
     QTest::newRow("marodi debug") << marodi << shippedPath("marodi/mr_toolbar.debug.xml");
-    // The two of this skin differ in white space only.
+    // One row: the two descriptions of this skin differ in white space only.
     QTest::newRow("lum") << lum << shippedPath("lum/mr_toolbar.release.xml");
 }
 

@@ -6,7 +6,7 @@
 #include <QDomDocument>
 #include <QString>
 
-/** The descriptions that tests of whole toolbars go through. */
+/** The descriptions for tests of whole toolbars. */
 namespace TestDocuments {
 
 /** A description that is shipped, such as "marodi/mr_toolbar.release.xml". */
@@ -14,13 +14,13 @@ QString shippedPath(const QString &name);
 
 QByteArray content(const QString &path);
 
-/** The description in a file; ends the test if there is none. */
+/** The description in a file; ends the test program if it cannot be read. */
 QDomDocument read(const QString &path);
 
 /** The columns "skin" and "path" with a row for each shipped description. */
 void addShipped();
 
-/** The same, and the description that has every control, in both skins. */
+/** The same, and the reader's showcase.xml, which has every control, in both skins. */
 void addAll();
 
 } // namespace TestDocuments

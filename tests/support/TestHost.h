@@ -24,7 +24,7 @@ public:
     explicit SkinChoice(int style)
         : m_previous(std::exchange(NewToolBar::uiStyle, style))
     {
-        // Widgets that no toolbar has been made for want to know it, too.
+        // Needed by widgets that a test creates without a toolbar.
         Skin::followSelector(&NewToolBar::uiStyle);
     }
     ~SkinChoice() { NewToolBar::uiStyle = m_previous; }
@@ -37,7 +37,7 @@ private:
 constexpr int marodi = 0;
 constexpr int lum = 1;
 
-/** A host window with a toolbar, made of the sections of a description. */
+/** A host window with a toolbar, made from the sections of a description. */
 class TestHost
 {
 public:
@@ -57,7 +57,7 @@ public:
     /** The rows stay disabled until the host has reported a first state. */
     void enableRows() { setUsable(QStringLiteral("no control"), true); }
     void showEnabled();
-    /** Reports every control as usable, as hosts do when they are asked for the states. */
+    /** Reports every control as usable, as hosts do on DoRequestAuthority(). */
     void enableEverything();
 
     QMainWindow &window() { return *m_window; }
@@ -70,7 +70,7 @@ public:
     /** The command of that name; null if there is none. */
     QAction *action(const QString &name) const { return toolBar()->GetActionInTotal(name); }
     QList<QPushButton *> shownTabs() const;
-    /** Opens each tab that is shown and calls @p look with its name. */
+    /** Opens each visible tab and calls @p look with its name. */
     void openEachTab(const std::function<void(const QString &)> &look);
     /** Device-independent pixels of a length given in pixels at 96 dpi. */
     int scaled(double designPixels) const;
@@ -88,7 +88,7 @@ public:
     void setVisible(QString name, bool visible);
     void setChecked(QString name, bool checked);
 
-    /** The first argument of every emission that the spy has seen. */
+    /** The first argument of every emission that the spy has recorded. */
     static QStringList texts(const QSignalSpy &spy);
 
 private:
@@ -99,5 +99,5 @@ private:
     std::unique_ptr<MRToolBar> m_facade;
 };
 
-/** Lets what is due happen, and what is to be deleted go. */
+/** Processes all pending events, deferred deletions included. */
 void runDeferredDeletes();

@@ -5,7 +5,7 @@
 
 #include <QStringList>
 
-/** Collects the warnings of Qt as long as it exists. */
+/** Collects the warnings of Qt during its lifetime. */
 class WarningTrap
 {
 public:

@@ -5,7 +5,7 @@
 
 #include <QStringList>
 
-/** A list of words from a text, for long lists without blanks in their entries. */
+/** The words of a text, for long lists of names without blanks. */
 inline QStringList words(const char *text)
 {
     return QString::fromUtf8(text).split(QLatin1Char(' '));
