@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The MRToolBar authors
 // SPDX-License-Identifier: MIT
 
-// Shows the handwriting settings with six tracks, and prints the track list when it is closed.
+// Shows the handwriting dialog with six tracks and prints the tracks when the dialog is closed.
 
 #include "toolbar/handwrite/MRHandWriteDialog.h"
 
@@ -14,7 +14,7 @@ int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
 
-    // The host owns the records; they outlive the dialog, which is made after them.
+    // The dialog does not own the tracks, so they are declared before it.
     std::array<Track, 6> records = {{
         {1, Qt::black, 2, 10, 3, false, QString()},
         {2, Qt::red, 4, 10, 3, false, QString()},

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The MRToolBar authors
 // SPDX-License-Identifier: MIT
 
-// A notepad whose toolbar comes from a description of its own, with icons of its own.
+// A notepad with its own description and its own icons.
 
 #include <toolbar/MRToolBar.h>
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The MRToolBar authors
 // SPDX-License-Identifier: MIT
 
-// A dark toolbar: the host finishes the library's sheet with rules of its own and applies it.
+// A dark toolbar: the host adds its own rules to the library's style sheet and applies the result.
 
 #include <toolbar/MRToolBar.h>
 #include <toolbar/NewToolBar.h>

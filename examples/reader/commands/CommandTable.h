@@ -10,7 +10,7 @@
 
 #include <functional>
 
-/** What must be the case for a command to be of use. */
+/** The condition under which a command is enabled. */
 enum class Needs
 {
     Nothing,
@@ -23,18 +23,18 @@ enum class Needs
     Selection
 };
 
-/** The commands of the reader, by the object names under which the toolbar reports them. */
+/** The commands of the reader by the names that the toolbar reports. */
 class CommandTable
 {
 public:
-    /** What a command does; the name tells which of several commands was meant. */
+    /** The effect of a command; the name distinguishes commands that share a function. */
     using Run = std::function<void(const QString &name)>;
 
     void add(const QStringList &names, Needs needs, const Run &run);
-    /** A control that is enabled and disabled, but whose effect arrives by another signal. */
+    /** A control that is enabled and disabled here, but reported by a signal of its own. */
     void addControl(const QStringList &names, Needs needs);
 
-    /** Returns false for a name without a command. */
+    /** Runs the command of that name; returns false if there is none. */
     bool run(const QString &name) const;
 
     QStringList names() const { return m_names; }

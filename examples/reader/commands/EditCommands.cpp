@@ -21,7 +21,7 @@ const QColor sealColour(0xC8, 0x1E, 0x1E);
 const QColor watermarkColour(0x60, 0x60, 0x60);
 constexpr quint32 insertedPageSeed = 20;
 
-/** Groups of tools, and the tool that a click on the group's own button means. */
+/** Groups of tools, and the tool that a click on the button of a group chooses. */
 const QMap<QString, QString> &groupTools()
 {
     static const QMap<QString, QString> tools = {
@@ -44,7 +44,7 @@ QPolygonF cornersOf(const QRectF &rect)
     return corners;
 }
 
-/** The places of stamps are chosen for a generated page; others may be smaller. */
+/** Moves a stamp inside the page: its place fits a generated page, others may be smaller. */
 QRectF movedInto(QRectF rect, QSizeF page)
 {
     rect.moveRight(std::min(rect.right(), page.width()));
@@ -112,7 +112,7 @@ void EditCommands::addPages(CommandTable &table)
 
 void EditCommands::addStamps(CommandTable &table)
 {
-    // What is put on a page belongs to the document, and is written in its language.
+    // Not translated: the text becomes a part of the document.
     table.add(name("t_sealsign"), Needs::Document, [this](const QString &) {
         place(MarkKind::RoundSeal, QRectF(520, 830, 170, 170), QStringLiteral("示例单位专用章"));
     });
@@ -147,7 +147,7 @@ void EditCommands::useTool(const QString &name)
     if (tool.gesture != PageTool::MarkText || view->selection().isEmpty())
         return;
 
-    // Text that is selected already is marked at once.
+    // A tool for text marks the current selection at once.
     const QList<Mark> marks = view->marksOnSelection();
     view->setSelection({});
     for (const Mark &mark : marks)
@@ -219,7 +219,7 @@ void EditCommands::selectPages(int first, int last)
             selection.append({page, 0, length});
     }
     m_parts.view->setSelection(selection);
-    // The key that copies belongs to the pages.
+    // Ctrl+C is a shortcut of the page view.
     m_parts.view->setFocus();
     m_parts.say(tr("已选择 %1 个字").arg(m_parts.view->selectedText().size()));
 }

@@ -11,7 +11,7 @@
 class CommandTable;
 class QString;
 
-/** Everything that changes the document: tools, stamps, pages, and taking it back. */
+/** The commands that change the document: tools, stamps, pages, undo and redo. */
 class EditCommands
 {
     Q_DECLARE_TR_FUNCTIONS(EditCommands)
@@ -23,7 +23,7 @@ public:
 
     void useTool(const QString &name);
     void editHandwriting();
-    /** Puts on the page what the user drew; for a box of text asks what it says. */
+    /** Adds what the user drew to the document; asks for the text of a text box. */
     void addDrawn(Mark mark);
 
 private:

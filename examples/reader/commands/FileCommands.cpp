@@ -89,7 +89,7 @@ void FileCommands::open(const QString &fileName)
 
 void FileCommands::refuse(const QString &fileName, const QString &reason) const
 {
-    // Not exec(): a file named on the command line is opened before the window is up.
+    // Not exec(): a file of the command line is opened before the window is shown.
     auto *box = new QMessageBox(QMessageBox::Warning, tr("无法打开"),
                                 tr("无法打开“%1”：%2").arg(QFileInfo(fileName).fileName(), reason),
                                 QMessageBox::Ok, m_parts.window);
@@ -110,7 +110,7 @@ bool FileCommands::mayLeaveDocument()
     QPushButton *saving = box.addButton(tr("保存"), QMessageBox::AcceptRole);
     const QPushButton *discarding = box.addButton(tr("不保存"), QMessageBox::DestructiveRole);
     QPushButton *cancelling = box.addButton(tr("取消"), QMessageBox::RejectRole);
-    // Without a default button of its own, the toolkit would take the first that it lays out.
+    // Without a default button, Qt would use the first one of the layout.
     box.setDefaultButton(saving);
     box.setEscapeButton(cancelling);
     box.exec();
@@ -175,7 +175,7 @@ QString FileCommands::askFileToWrite() const
                                              {pdfFilter(), QStringLiteral(".pdf")},
                                              {textFilter(), QStringLiteral(".txt")}};
     QStringList filters = {pdfFilter(), textFilter()};
-    // The package is copied as it is, so it comes first as long as nothing would be lost.
+    // The OFD format comes first as long as it loses nothing: it copies the file without changes.
     if (!m_parts.document->isGenerated())
         filters.insert(m_parts.document->isModified() ? 1 : 0, ofdFilter());
     const QFileInfo file(m_parts.document->fileName());

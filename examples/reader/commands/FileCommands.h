@@ -10,7 +10,7 @@
 
 class CommandTable;
 
-/** Files, settings and what the reader says of itself. */
+/** The commands for files, for settings and for information about the reader. */
 class FileCommands
 {
     Q_DECLARE_TR_FUNCTIONS(FileCommands)
@@ -21,21 +21,20 @@ public:
     void addTo(CommandTable &table);
 
     /**
-     * Opens a file and remembers it, unless mayLeaveDocument() refuses. A file that cannot be
-     * opened leaves the open document alone; one message tells why.
+     * Opens a file and adds it to the recent files, unless mayLeaveDocument() returns false. A file
+     * that cannot be opened does not change the open document; one message tells why.
      */
     void open(const QString &fileName);
     /**
-     * Whether the open document may be replaced or closed: it is unchanged, or the user has
-     * answered the question that this asks. Of a file that could not be saved completely nothing is
-     * lost: the document stays.
+     * Whether the open document may be replaced or closed: it is unchanged, or the user was asked
+     * and has saved or discarded the changes. After an incomplete save it may not.
      */
     bool mayLeaveDocument();
 
 private:
     void askAndOpen();
     void close();
-    // Whether nothing of the document is left to be saved.
+    // Returns whether the document has no unsaved changes afterwards.
     bool save();
     bool saveAs();
     bool saveTo(const QString &fileName);

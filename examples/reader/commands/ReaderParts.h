@@ -14,7 +14,7 @@ class QString;
 class RecentFiles;
 class SearchPanel;
 
-/** What commands work on. The window owns all of it. */
+/** The objects that commands use. The window owns them. */
 struct ReaderParts
 {
     QMainWindow *window = nullptr;

@@ -7,7 +7,7 @@
 
 #include <QStringList>
 
-/** All that the toolbar shows of the reader. */
+/** The state of the reader as the toolbar shows it. */
 struct ReaderState
 {
     bool isOpen = false;

@@ -62,7 +62,7 @@ void ViewCommands::addPages(CommandTable &table)
     table.add(name("d_lastpage"), Needs::LaterPage, [this](const QString &) {
         m_parts.view->setCurrentPage(m_parts.document->pageCount() - 1);
     });
-    // The two names that the field has in the shipped descriptions.
+    // The names of the page field in the shipped descriptions.
     table.addControl({QStringLiteral("d_gotopage"), QStringLiteral("d_gotopageinput")},
                      Needs::Document);
 }

@@ -11,7 +11,7 @@
 class CommandTable;
 class QString;
 
-/** Pages, zoom, layout, panels and search. */
+/** The commands for pages, zoom, layout, panels and search. */
 class ViewCommands
 {
     Q_DECLARE_TR_FUNCTIONS(ViewCommands)

@@ -13,7 +13,7 @@
 
 namespace {
 
-/** Not qHash(), whose values differ from run to run and from version to version. */
+/** Not qHash(), whose values differ between runs and versions of Qt. */
 quint32 seedOf(const QString &name)
 {
     quint32 seed = 2166136261U;
@@ -23,7 +23,7 @@ quint32 seedOf(const QString &name)
     return seed;
 }
 
-/** How far a point is from the way between two others. */
+/** The distance of a point from a line segment. */
 qreal distanceTo(const QLineF &way, QPointF point)
 {
     const QPointF along = way.p2() - way.p1();

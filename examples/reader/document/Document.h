@@ -11,9 +11,9 @@
 #include <QUndoStack>
 
 /**
- * A document with marks on its pages, which come from an OFD file or are generated.
+ * A document with marks on its pages. The pages are read from an OFD file or generated.
  *
- * Everything that changes the document, or the way its pages are turned, can be undone.
+ * Every change of the document and every rotation of its pages can be undone.
  */
 class Document : public QObject, private EditableDocument
 {
@@ -22,7 +22,7 @@ class Document : public QObject, private EditableDocument
 public:
     explicit Document(QObject *parent = nullptr);
 
-    /** On a fault leaves everything as it is and tells in one sentence what is wrong. */
+    /** On failure changes nothing and sets @p error to one sentence. */
     bool open(const QString &fileName, QString *error);
     /** Generates pages; the name is their seed, so that one name always gives the same text. */
     void openGenerated(const QString &name);
@@ -31,17 +31,17 @@ public:
     bool isOpen() const { return !m_pages.isEmpty(); }
     QString fileName() const { return m_fileName; }
     QString title() const;
-    /** What else came with the pages; empty for generated ones. */
+    /** The further content of the file; empty for generated pages. */
     const OfdFile &file() const { return m_file; }
     bool isGenerated() const { return m_file.archive.isEmpty(); }
 
     int pageCount() const { return int(m_pages.size()); }
-    /** The page with its text; only for the size of a page there is a cheaper way. */
+    /** The page with its text, which takes time on the first call; sizeOf() does not need it. */
     const Page &page(int index) const;
     QSizeF sizeOf(int page) const { return m_pages.at(page).size; }
-    /** What paints the page; nullptr for a generated one, which is made of its lines. */
+    /** The content that paints the page; nullptr for a generated page, painted from its lines. */
     const PageContent *contentOf(int page) const { return m_pages.at(page).content.get(); }
-    /** As wide as the widest page and as high as the highest. */
+    /** The width of the widest page and the height of the highest. */
     QSizeF largestSize() const { return m_largestSize; }
     const QList<Mark> &marks() const override { return m_marks; }
     bool hasPageOf(const Mark &mark) const;
@@ -49,24 +49,24 @@ public:
 
     QUndoStack &undoStack() { return m_undoStack; }
     const QUndoStack &undoStack() const { return m_undoStack; }
-    /** Whether more than the turning of pages has changed since the last saving. */
+    /** Whether there are unsaved changes; a rotation of the pages is none. */
     bool isModified() const;
 
-    /** By how many quarters of a circle the pages are turned, clockwise: 0 to 3. */
+    /** The rotation of the pages, clockwise, in quarter turns: 0 to 3. */
     int quarters() const { return m_quarters; }
     void turn(int quarters, const QString &what);
 
     void addMark(Mark mark, const QString &what);
-    /** Takes away the ink that passes within @p radius of a point. */
+    /** Removes the ink that passes within @p radius of a point. */
     void eraseInk(int page, QPointF point, qreal radius);
     void insertPage(int index, const Page &page, const QString &what);
 
 Q_SIGNALS:
-    /** Marks came or went. */
+    /** Marks were added or removed. */
     void marksChanged();
-    /** Pages came or went; the marks may have moved with them. */
+    /** Pages were added or removed; the pages of marks may have changed. */
     void pagesChanged();
-    /** The pages are turned another way. */
+    /** The rotation of the pages has changed. */
     void turned();
 
 private:
@@ -81,7 +81,7 @@ private:
 
     QString m_fileName;
     OfdFile m_file;
-    /** Texts are filled in when they are asked for, which changes nothing that anyone could see. */
+    /** Mutable because the text of a page is read on the first request. */
     mutable QList<Page> m_pages;
     QSizeF m_largestSize;
     QList<Mark> m_marks;

@@ -9,7 +9,7 @@
 #include <QCoreApplication>
 #include <QUndoCommand>
 
-/** What edits do to a document. Nothing else does, or it could not be undone. */
+/** The operations of undo commands. Only they call these, so that every change can be undone. */
 class EditableDocument
 {
 public:
@@ -22,11 +22,11 @@ public:
     virtual void removeMark(int id) = 0;
     virtual void placePage(int index, const Page &page) = 0;
     virtual void removePage(int index) = 0;
-    /** Turns all pages by quarters of a circle, clockwise. */
+    /** Rotates all pages clockwise by quarter turns. */
     virtual void turnBy(int quarters) = 0;
 };
 
-/** A mark put on a page. */
+/** Adds a mark to a page. */
 class AddMarkEdit : public QUndoCommand
 {
 public:
@@ -39,7 +39,7 @@ private:
     Mark m_mark;
 };
 
-/** A mark erased; undoing puts it back where it was in the order of drawing. */
+/** Removes a mark; undo restores its position in the order of painting. */
 class RemoveMarkEdit : public QUndoCommand
 {
     Q_DECLARE_TR_FUNCTIONS(RemoveMarkEdit)
@@ -55,7 +55,7 @@ private:
     Mark m_mark;
 };
 
-/** The pages turned. It changes what is seen but nothing that would be saved. */
+/** Rotates the pages, which does not modify the document. */
 class TurnEdit : public QUndoCommand
 {
 public:
@@ -71,7 +71,7 @@ private:
     int m_quarters;
 };
 
-/** A page inserted before the one at an index. */
+/** Inserts a page before the one at an index. */
 class InsertPageEdit : public QUndoCommand
 {
 public:

@@ -7,7 +7,7 @@
 #include <QPolygonF>
 #include <QString>
 
-/** What can be put on a page. The order of drawing is the order of the marks, not of this list. */
+/** The kinds of marks. Marks are painted in the order of their list, not in that of the kinds. */
 enum class MarkKind
 {
     Highlight,
@@ -36,7 +36,7 @@ enum class MarkKind
     Watermark
 };
 
-/** A mark that stands on every page bears this page index. */
+/** The page index of a mark that is on every page. */
 constexpr int everyPage = -1;
 
 /** One mark on a page, in page units. */
@@ -53,5 +53,5 @@ struct Mark
     QRectF rect() const { return points.boundingRect(); }
 };
 
-/** What a mark is called in lists. */
+/** The name of a kind of mark, for lists. */
 QString markName(MarkKind kind);

@@ -17,7 +17,7 @@ QRectF toPageUnits(const QRectF &rect)
     return QRectF(rect.topLeft() * unitsPerMillimetre, rect.size() * unitsPerMillimetre);
 }
 
-/** One page of a document whose painter all its pages share. */
+/** One page of a document; all pages share a painter. */
 class OfdPageContent : public PageContent
 {
 public:

@@ -10,7 +10,7 @@
 #include <QPair>
 #include <QStringList>
 
-/** A place in a document that somebody gave a name. */
+/** An entry of the outline or a bookmark. */
 struct NamedPlace
 {
     QString name;
@@ -18,7 +18,7 @@ struct NamedPlace
     int page = -1; ///< Counted from 0; -1 if it leads nowhere.
 };
 
-/** What the reader knows of a file besides its pages. All of it is empty for generated pages. */
+/** What the reader reads from a file besides its pages. All is empty for generated pages. */
 struct OfdFile
 {
     Q_DECLARE_TR_FUNCTIONS(OfdFile)
@@ -31,6 +31,6 @@ public:
     QStringList attachments;
     QString leftOut; ///< One line about what cannot be shown; empty if all can.
 
-    /** Reads a file; on a fault changes nothing and tells in one sentence what is wrong. */
+    /** Reads a file; on failure changes nothing and sets @p error to one sentence. */
     bool read(const QString &fileName, QList<Page> *pages, QString *error);
 };

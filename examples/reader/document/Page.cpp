@@ -14,7 +14,7 @@ QFont TextLine::font() const
     QFont font;
     font.setPixelSize(pixelSize);
     font.setBold(bold);
-    // Hinted widths would depend on the zoom, and hits would not sit on their words.
+    // Hinted widths depend on the zoom, so rectangles of hits would not match their words.
     font.setHintingPreference(QFont::PreferNoHinting);
     return font;
 }
@@ -76,7 +76,7 @@ qreal Page::distanceTo(const TextLine &line, QPointF point) const
     const qreal down = std::abs(line.rect.center().y() - point.y());
     if (boxes.isEmpty())
         return down;
-    // Lines from a file may stand side by side.
+    // Lines of a file may be side by side, so the horizontal distance counts.
     const qreal aside = std::abs(line.rect.center().x() - point.x()) - line.rect.width() / 2;
     return std::max(0.0, down - line.rect.height() / 2) + std::max(0.0, aside);
 }

@@ -17,7 +17,7 @@ struct Page;
 /** Size of a generated page, in page units: pixels of an A4 sheet at 96 dpi. */
 constexpr QSizeF pageSize(794, 1123);
 
-/** What stands on a page that was read from a file. */
+/** The content of a page that was read from a file. */
 class PageContent
 {
 public:
@@ -25,9 +25,9 @@ public:
     virtual ~PageContent() = default;
     Q_DISABLE_COPY(PageContent)
 
-    /** Paints it in page units, from the page's top left corner, without paper. */
+    /** Paints the content in page units from the top left corner of the page, without paper. */
     virtual void paint(QPainter &painter) const = 0;
-    /** Gives the page its text, lines and boxes. */
+    /** Sets the text, lines and boxes of the page. */
     virtual void readText(Page &page) const = 0;
 };
 
@@ -46,8 +46,8 @@ struct TextLine
 /**
  * A page as a text with its lines in page units.
  *
- * A generated page is made of its lines, and a line break in its text ends a paragraph. A page from
- * a file has a content that paints it; there a line break ends a line.
+ * A generated page is painted from its lines, and a line break in its text ends a paragraph. A page
+ * from a file has a content that paints it, and a line break in its text ends a line.
  */
 struct Page
 {
@@ -55,12 +55,12 @@ struct Page
     QString heading;
     QString text;
     QList<TextLine> lines;
-    /** Where each character of the text stands; empty on a page that its lines can tell it of. */
+    /** The rectangle of each character; empty on a generated page, where the lines suffice. */
     QVector<QRectF> boxes;
     std::shared_ptr<const PageContent> content;
     bool isTextRead = true; ///< Of a page from a file the text is read when somebody asks for it.
 
-    /** Where a range of the text stands, one rectangle a line. */
+    /** The rectangles of a range of the text, one for each line. */
     QList<QRectF> rectsOf(int start, int length) const;
 
     /** The position in the text that is nearest to a point; -1 on a page without text. */

@@ -61,7 +61,7 @@ QStringList sentences()
 QString paragraph(QRandomGenerator &random)
 {
     const QStringList choices = sentences();
-    QString text = QStringLiteral("　　"); // The two blanks that begin a Chinese paragraph.
+    QString text = QStringLiteral("　　"); // A Chinese paragraph begins with two blanks.
     const int count = 3 + int(random.bounded(4));
     for (int i = 0; i < count; ++i)
         text += choices.at(int(random.bounded(int(choices.size()))));
@@ -85,7 +85,7 @@ bool isLatin(QChar character)
     return character.unicode() < 0x80 && character.isLetterOrNumber();
 }
 
-/** How many characters from @p from on fit into a line; a comma or full stop may hang over. */
+/** How many characters starting at @p from fit into a line; a comma or full stop may exceed it. */
 int fittingLength(const QString &text, int from, const QFontMetricsF &metrics, qreal width)
 {
     int length = 0;
@@ -98,7 +98,7 @@ int fittingLength(const QString &text, int from, const QFontMetricsF &metrics, q
             break;
         ++length;
     }
-    // A word of letters goes to the next line whole.
+    // A word of letters is not broken.
     int whole = length;
     while (whole > 0 && from + whole < text.size() && isLatin(text.at(from + whole))
            && isLatin(text.at(from + whole - 1)))
@@ -118,7 +118,7 @@ QStringList linesOf(const QString &text, const QFontMetricsF &metrics, qreal wid
     return lines;
 }
 
-/** Returns false, with nothing added, for a paragraph that the page has no room for. */
+/** Adds a paragraph; returns false and adds nothing if it does not fit on the page. */
 bool appendParagraph(Page &page, const QString &text, qreal *top)
 {
     TextLine sample;

@@ -5,10 +5,10 @@
 
 #include "document/Page.h"
 
-/** Makes pages out of nothing but numbers: the same seed gives the same text every time. */
+/** Generates pages from a seed: the same seed always gives the same text. */
 namespace PageGenerator {
 
-/** How many pages a document of that seed has. */
+/** The number of pages of the document with that seed. */
 int pageCount(quint32 seed);
 
 /** The page of that number, counted from 1. */

@@ -78,7 +78,7 @@ QColor ColourReader::colourOf(const QVector<qreal> &values, const Space &space) 
 {
     const qreal most = std::pow(2, space.bits) - 1;
     const auto part = [&](int i) { return float(std::clamp(values.value(i) / most, 0.0, 1.0)); };
-    // A value that has not the parts of its space is taken for what its parts look like.
+    // A value with another number of components than its space is read by that number.
     if (values.size() == 1 && (space.type == QLatin1String("GRAY") || space.palette.isEmpty()))
         return QColor::fromRgbF(part(0), part(0), part(0));
     if (values.size() == 4)

@@ -13,7 +13,7 @@
 
 namespace Ofd {
 
-/** Colours and gradients, in the colour spaces of the document. */
+/** Reads colours and gradients, in the colour spaces of the document. */
 class ColourReader
 {
 public:
@@ -25,7 +25,7 @@ public:
     void addSpace(const XmlElement &space);
     void setDefaultSpace(const QString &id) { m_defaultSpace = id; }
 
-    /** Nothing if the parent has no such colour, or one of a kind that is left out. */
+    /** The child element as a brush; nothing if it is missing or of an unsupported kind. */
     std::optional<QBrush> read(const XmlElement &parent, const char *name) const;
 
 private:

@@ -22,7 +22,7 @@ QPointF pointAtY(QPointF from, QPointF to, double y)
     return QPointF(from.x() + (to.x() - from.x()) * (y - from.y()) / (to.y() - from.y()), y);
 }
 
-/** How much of a pixel is inside edges that go around it so many times. */
+/** The coverage of a pixel that the edges wind around so many times. */
 double coverOf(double windings, Qt::FillRule rule)
 {
     const double turns = std::abs(windings);
@@ -60,7 +60,7 @@ void CoverageMask::addEdge(QPointF from, QPointF to)
 {
     const double height = m_area.height();
     const auto [top, bottom] = std::minmax({from.y(), to.y()});
-    // Written so that what is not a number is refused as well.
+    // This form of the comparison also refuses values that are not a number.
     if (!(top < bottom && top < height && bottom > 0 && std::isfinite(from.x() - to.x())))
         return;
     const auto withinRows = [&](QPointF point) {
@@ -74,7 +74,7 @@ void CoverageMask::addEdgeBesideArea(QPointF from, QPointF to)
 {
     const double width = m_area.width();
     const auto [left, right] = std::minmax({from.x(), to.x()});
-    // An edge counts for what is to the right of it.
+    // An edge only changes pixels to its right.
     if (left >= width)
         return;
     for (const double side : {0.0, width}) {

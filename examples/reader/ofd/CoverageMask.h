@@ -12,10 +12,10 @@
 namespace Ofd {
 
 /**
- * How much of each pixel of an area is covered by polygons. All points are in device pixels.
+ * The coverage of each pixel of an area by polygons. All points are in device pixels.
  *
- * An edge costs as much as it crosses pixels, however many other edges cross the same ones. The
- * toolkit's rasteriser searches a list of all crossings of the row for each, and takes seconds for
+ * The time for an edge depends on the pixels that it crosses, and not on other edges. Qt's
+ * rasteriser searches a list of all crossings of the scan line for each edge, and takes seconds for
  * a few hundred edges across the page.
  */
 class CoverageMask
@@ -25,9 +25,9 @@ public:
 
     QRect area() const { return m_area; }
 
-    /** Adds a polygon, which is closed, to the shape that the next settle() completes. */
+    /** Adds a polygon, which is closed automatically, to the shape that settle() completes. */
     void addPolygon(const QPolygonF &polygon);
-    /** Covers what the shape encloses besides what is covered already, and begins another one. */
+    /** Adds the inside of the shape to the coverage and begins another shape. */
     void settle(Qt::FillRule rule);
 
     /** The coverage as alpha. */
@@ -40,9 +40,9 @@ private:
     void addCrossings(double *row, double left, double right, double cover) const;
 
     QRect m_area;
-    /** One column more than the area has: an edge leaves a part of its cover to the next pixel. */
+    /** One column more than the area: an edge adds a part of its coverage to the next pixel. */
     int m_stride;
-    /** By how much the cover of a pixel is more than that of the one to the left. */
+    /** The difference of coverage between a pixel and the one to its left. */
     std::vector<double> m_changes;
     QImage m_coverage;
 };

@@ -12,7 +12,7 @@ namespace Ofd {
 
 namespace {
 
-/** A place in the pattern of a pen. */
+/** A position in the dash pattern of a pen. */
 class PatternPlace
 {
 public:

@@ -9,7 +9,7 @@
 
 namespace Ofd {
 
-/** What the dashes of a pen, which is as wide as it says, leave of a line. */
+/** The dashes of a line that is drawn with a pen, whose width must not be zero. */
 QList<QPolygonF> dashesOf(const QPolygonF &line, const QPen &pen);
 
 } // namespace Ofd

@@ -18,11 +18,11 @@ namespace Ofd {
 
 namespace {
 
-/** In device pixels. The toolkit paints paths below this length as fast. */
+/** In device pixels. Qt paints shorter paths as fast. */
 constexpr qreal moderateLength = 20000;
-/** Length of the edges for each pixel of the area. With more, single pixels mean nothing. */
+/** Length of edges for each pixel of the area. Above this, single pixels show no detail. */
 constexpr qreal crowdedLength = 16;
-/** Side of the squares, in pixels, that a crowded area is made of. */
+/** Side of the squares, in pixels, that a crowded area is computed in. */
 constexpr int coarseSide = 4;
 
 QRectF deviceRect(const QPainter &painter)
@@ -31,7 +31,7 @@ QRectF deviceRect(const QPainter &painter)
     return QRectF(0, 0, painter.device()->width() * ratio, painter.device()->height() * ratio);
 }
 
-/** All pixels that show something of a rectangle, in whole coarse squares. */
+/** The visible pixels of a rectangle, extended to whole coarse squares. */
 QRect visibleArea(const QPainter &painter, const QRectF &rect)
 {
     const QTransform toDevice = painter.deviceTransform();
@@ -47,7 +47,7 @@ QRect visibleArea(const QPainter &painter, const QRectF &rect)
     return QRect(first * coarseSide, end * coarseSide - QPoint(1, 1));
 }
 
-/** Whether the edges are so long altogether that they cover each other many times over. */
+/** Whether the total length of the edges is so large that they overlap many times. */
 bool isCrowded(const QList<QPolygonF> &lines, const QRect &area)
 {
     const QRectF shown(area);
@@ -73,7 +73,7 @@ QImage insideOf(const QPainter &painter, const QPainterPath &path, const QRect &
     return mask.image().scaled(area.size());
 }
 
-/** Paints what is in an area through a mask of the same size. */
+/** Paints an area through a mask of the same size. */
 void paintThrough(QPainter &painter, const QRect &area, const QImage &mask,
                   const std::function<void(QPainter &)> &paint)
 {

@@ -11,20 +11,20 @@ class QPainterPath;
 class QPen;
 
 /**
- * Painting of paths whose lines cross each other so often that the toolkit would take minutes.
+ * Painting of paths whose lines cross each other so often that Qt would take minutes.
  *
- * They look as the toolkit paints them but for the last bits of a shade. Only where lines lie over
- * each other many times in every pixel, what they enclose is coarse.
+ * The result is that of Qt, with rounding differences. Only where lines overlap many times in every
+ * pixel, the enclosed area is coarse.
  */
 namespace Ofd::DensePath {
 
-/** Whether a path is better painted here; never for a device that is not made of pixels. */
+/** Whether a path should be painted here; false for devices without pixels, such as PDF files. */
 bool isDense(const QPainter &painter, const QPainterPath &path);
 
 void fill(QPainter &painter, const QPainterPath &path, const QBrush &brush);
 void stroke(QPainter &painter, const QPainterPath &path, const QPen &pen);
 
-/** Has @p paint paint, with another painter of the same space, what shows inside the path only. */
+/** Calls @p paint with a painter of the same coordinates, and shows the result inside the path. */
 void paintInside(QPainter &painter, const QPainterPath &path,
                  const std::function<void(QPainter &)> &paint);
 

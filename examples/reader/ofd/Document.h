@@ -22,7 +22,7 @@ struct Font
     QString file; ///< Its entry in the package; empty for a font that is not embedded.
 };
 
-/** What pages refer to by identifier; one space of names for the whole document. */
+/** The resources that pages refer to by identifiers, which are unique in the document. */
 struct Resources
 {
     QHash<QString, Font> fonts;
@@ -33,11 +33,11 @@ struct Resources
 struct Page
 {
     QRectF area; ///< What of the page's space is the sheet.
-    /** From the back to the front; a template is one object that its pages share. */
+    /** From back to front; pages share the objects of their templates. */
     QVector<std::shared_ptr<const Objects>> layers;
 };
 
-/** A place to go to, from the outline or the bookmarks. */
+/** An entry of the outline or a bookmark. */
 struct Target
 {
     QString title;
@@ -58,7 +58,7 @@ struct Document
     QMap<QString, int> unsupported; ///< How many of each kind are left out.
 };
 
-/** Reads a document; on a fault returns nothing and tells in one sentence what is wrong. */
+/** Reads a document; on failure returns null and sets @p error to one sentence. */
 std::shared_ptr<const Document> read(const QString &fileName, QString *error);
 
 } // namespace Ofd

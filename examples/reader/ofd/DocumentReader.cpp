@@ -15,7 +15,7 @@ namespace {
 
 const QString entryPoint = QStringLiteral("OFD.xml");
 
-/** Follows a document from its entry point to its pages. */
+/** Reads a document from its entry point to its pages. */
 class DocumentReader
 {
 public:

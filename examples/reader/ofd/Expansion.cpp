@@ -27,7 +27,7 @@ qint64 ownCount(const Object &object)
     return count;
 }
 
-/** Counts what objects come to when every composite in them is painted. */
+/** Counts the marks of objects with every composite expanded. */
 class Counter
 {
 public:
@@ -45,7 +45,7 @@ public:
                 total += countOf(composite->resource);
             else if (const auto *group = std::get_if<Group>(&object.content))
                 total += count(*group->objects);
-            // More than the limit is enough to know, and never overflows.
+            // Limited, so that the sum cannot overflow.
             total = std::min(total, Limits::marksPerPage + 1);
         }
         return total;

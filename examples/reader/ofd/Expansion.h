@@ -8,8 +8,8 @@
 namespace Ofd {
 
 /**
- * Throws a Fault if composites contain each other in a circle, or if a page would come to more
- * objects than anyone would wait for, however few the file holds.
+ * Throws a Fault if composites contain each other in a circle, or if a page has more marks than
+ * Limits::marksPerPage after the expansion of all composites.
  */
 void checkExpansion(const Document &document);
 

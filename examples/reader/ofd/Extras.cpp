@@ -16,7 +16,7 @@ void add(Document &document, const QString &name, const QString &value)
         document.information.append({name, value});
 }
 
-/** The file that a child of the element names, as a tree; nothing if there is none. */
+/** Parses the file that a child of the element names; nothing if there is no such file. */
 std::optional<XmlElement> fileOf(const Document &document, const XmlElement &parent,
                                  const char *name, const QString &from, QString *path)
 {
@@ -26,13 +26,13 @@ std::optional<XmlElement> fileOf(const Document &document, const XmlElement &par
     return XmlElement::parse(document.package->read(*path), *path);
 }
 
-/** The first destination somewhere inside; nullptr if there is none. */
+/** The first destination among the descendants; nullptr if there is none. */
 const XmlElement *destinationOf(const XmlElement &element)
 {
     for (const XmlElement &child : element.children) {
         if (child.is("Dest"))
             return &child;
-        // What lies deeper in an outline belongs to its entries.
+        // Destinations inside nested entries of an outline belong to those entries.
         const XmlElement *found = child.is("OutlineElem") ? nullptr : destinationOf(child);
         if (found)
             return found;

@@ -5,23 +5,23 @@
 
 #include "ofd/ResourceReader.h"
 
-/** What a document brings along besides its pages. */
+/** Readers for the parts of a document besides its pages. */
 namespace Ofd::Extras {
 
-/** The title, the dates and what else the element of general information tells. */
+/** Reads the title, the dates and the other entries of the element for general information. */
 void readInformation(const XmlElement &information, Document &document);
 
-/** Outline and bookmarks; @p pages gives the index of a page by its identifier. */
+/** Reads outline and bookmarks; @p pages maps identifiers of pages to their indexes. */
 void readTargets(const XmlElement &root, const QHash<QString, int> &pages, Document &document);
 
-/** Puts the appearances of annotations on their pages. */
+/** Adds the appearances of annotations to their pages. */
 void readAnnotations(const XmlElement &root, const QString &from, const QHash<QString, int> &pages,
                      Document &document, ObjectReader &objects);
 
-/** The names of the attached files. */
+/** Reads the names of the attached files. */
 void readAttachments(const XmlElement &root, const QString &from, Document &document);
 
-/** Seals are not shown; tells how many there are. */
+/** Counts the seals, which are not shown. */
 void countSeals(const XmlElement &body, const QString &from, Document &document);
 
 } // namespace Ofd::Extras

@@ -7,7 +7,7 @@
 
 namespace Ofd {
 
-/** What is wrong with a file, in one sentence. Thrown while reading; it never leaves read(). */
+/** The exception for a broken file, with one sentence for the user. read() catches it. */
 struct Fault
 {
     QString message;

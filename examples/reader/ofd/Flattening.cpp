@@ -13,7 +13,7 @@ namespace Ofd {
 
 namespace {
 
-/** In device pixels: how far the line may be from the curve. */
+/** The largest distance between line and curve, in device pixels. */
 constexpr qreal tolerance = 0.1;
 
 struct Curve

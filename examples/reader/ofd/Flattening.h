@@ -12,12 +12,12 @@ class QTransform;
 
 namespace Ofd {
 
-/** How fine a curve may get: into two to the power of so many lines. */
+/** A curve becomes at most two to this power lines. */
 constexpr int mostHalvings = 12;
 
 /**
- * The subpaths of a path as lines in device pixels. Curves are as fine as the area needs; what lies
- * beyond one of its sides may be a straight line there.
+ * The subpaths of a path as lines in device pixels. Curves are accurate inside the area; a part
+ * beyond one of its sides may become a straight line.
  */
 QList<QPolygonF> flattened(const QPainterPath &path, const QTransform &toDevice, const QRectF &area,
                            int halvings = mostHalvings);

@@ -13,7 +13,7 @@ namespace Ofd {
 
 namespace {
 
-constexpr int rawSize = 256; // Pixels an em; outlines do not care.
+constexpr int rawSize = 256; // Pixels per em. Outlines can be scaled from any size.
 constexpr int leastBold = 600;
 constexpr qreal slant = 0.21;
 constexpr std::size_t mostGlyphs = 20000;
@@ -27,7 +27,7 @@ bool containsAny(const QString &name, const QStringList &parts)
     return false;
 }
 
-/** What may stand for a font that the machine does not have, the best first. */
+/** The families that replace a font that is not installed, the best first. */
 QStringList substitutesFor(const Font &font)
 {
     static const QStringList serifMarks = {QStringLiteral("宋"),    QStringLiteral("仿"),
@@ -82,7 +82,7 @@ void Face::addSystemFonts(const Font &font, bool isBold, bool isItalic)
         wanted.setBold(isBold);
         wanted.setItalic(isItalic);
         const QRawFont found = QRawFont::fromFont(wanted);
-        // For an unknown family the system gives what it likes.
+        // For an unknown family the system returns some other font.
         if (found.isValid() && !found.familyName().compare(family, Qt::CaseInsensitive))
             m_fonts.append(found);
     }
@@ -106,7 +106,7 @@ const Glyph &Face::glyphOf(uint character)
         m_indexes.insert(character, {i, indexes.first()});
         return glyph(i, indexes.first());
     }
-    // No font has it: the first one shows its sign for that.
+    // No font has the character, so the first one shows its glyph for missing characters.
     m_indexes.insert(character, {0, 0});
     return glyph(0, 0);
 }
@@ -156,7 +156,7 @@ Face &FontSet::faceOf(const Text &text)
         if (!font.file.isEmpty())
             bytes = m_document.package->read(font.file);
     } catch (const Fault &) {
-        // A damaged file of a font was told of on opening; the nearest font stands in.
+        // Not reported here: a damaged font was reported on opening, and another one replaces it.
     }
     return m_faces.emplace(key, Face(font, bytes, isBold, isItalic)).first->second;
 }

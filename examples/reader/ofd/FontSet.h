@@ -12,14 +12,14 @@
 
 namespace Ofd {
 
-/** A glyph of one em, its baseline's start at the origin. */
+/** A glyph with an em of 1; the origin is the start of the baseline. */
 struct Glyph
 {
     QPainterPath path;
     qreal advance = 0;
 };
 
-/** A font as it can be painted: the embedded one, or the nearest that the machine has. */
+/** A font for painting: the embedded one, or the nearest one that is installed. */
 class Face
 {
 public:
@@ -27,16 +27,16 @@ public:
     Face(const Font &font, const QByteArray &bytes, bool isBold, bool isItalic);
 
     bool isEmbedded() const { return m_isEmbedded; }
-    /** Whether bold type was asked for of a font that has none; strokes must thicken it then. */
+    /** Whether bold type is wanted and the font has none, so that strokes must thicken it. */
     bool lacksBold() const { return m_lacksBold; }
 
-    /** Forgets glyphs, which nobody may hold, once they are too many. */
+    /** Deletes the cached glyphs if there are too many. References to them become invalid. */
     void trim();
     const Glyph &glyphOf(uint character);
-    /** Of the embedded font, by its index in there. */
+    /** The glyph of that index in the embedded font. */
     const Glyph &glyphAt(quint32 index) { return glyph(0, index); }
 
-    /** Whether this is a font file that can be painted. */
+    /** Whether the bytes are a usable font file. */
     static bool isReadable(const QByteArray &bytes);
 
 private:
@@ -51,7 +51,7 @@ private:
     bool m_slants = false;
 };
 
-/** The faces of a document, each made when it is first painted. */
+/** The faces of a document; each is created on first use. */
 class FontSet
 {
 public:

@@ -10,13 +10,13 @@
 
 namespace Ofd {
 
-/** Tells of any rectangle of a mask, in the same time, whether all of it is covered. */
+/** Answers in constant time whether a rectangle of a mask is completely covered. */
 class GapTable
 {
 public:
-    /** Until a mask is counted, nothing is covered. */
+    /** Prepares the table for a mask. Before the first call nothing is covered. */
     void count(const QImage &mask);
-    /** Whether all pixels are covered that a rectangle has part in and the mask has. */
+    /** Whether all pixels of the mask that the rectangle touches are covered. */
     bool isCovered(const QRectF &rect) const;
 
 private:
@@ -24,7 +24,7 @@ private:
 
     QRect m_area;
     std::size_t m_stride = 0;
-    /** How many pixels above and to the left of a corner are not covered. */
+    /** The number of uncovered pixels above and to the left of each corner. */
     std::vector<quint32> m_sums;
 };
 

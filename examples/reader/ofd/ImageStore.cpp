@@ -33,7 +33,7 @@ QImage decode(QByteArray bytes)
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::ReadOnly);
     QImageReader reader(&buffer);
-    // The suffix may lie; the bytes do not.
+    // The suffix of the file may be wrong.
     reader.setDecideFormatFromContent(true);
     return hasSaneSize(reader.size()) ? reader.read() : QImage();
 }
@@ -60,7 +60,7 @@ QImage ImageStore::image(const QString &resource, QSizeF target)
 {
     const QImage whole = decoded(resource);
     int times = 0;
-    // Smooth scaling looks at four neighbours only; beyond a half it would drop lines.
+    // Smooth scaling uses four neighbours only; scaling below a half would lose thin lines.
     while (times < mostHalvings && whole.width() >> (times + 1) > target.width()
            && whole.height() >> (times + 1) > target.height())
         ++times;
@@ -77,7 +77,7 @@ QImage ImageStore::decoded(const QString &resource)
         if (!file.isEmpty())
             image = decode(m_document.package->read(file));
     } catch (const Fault &) {
-        // A damaged picture was told of on opening; its place stays empty.
+        // Not reported here: a damaged picture was reported on opening. Nothing is painted.
     }
     m_cache.insert(resource, new QImage(image), kilobytesOf(image));
     return image;

@@ -10,16 +10,16 @@
 
 namespace Ofd {
 
-/** The pictures of a document, decoded when they are painted and kept within bounds. */
+/** The pictures of a document, decoded on painting and kept in a cache of limited size. */
 class ImageStore
 {
 public:
     explicit ImageStore(const Document &document);
 
-    /** The picture, halved as often as leaves it larger than that; null if it cannot be shown. */
+    /** The picture, halved while it stays larger than @p target; null if it cannot be decoded. */
     QImage image(const QString &resource, QSizeF target);
 
-    /** Whether these bytes are a picture that can be shown. */
+    /** Whether the bytes are a picture that can be decoded. */
     static bool isReadable(const QByteArray &bytes);
 
 private:

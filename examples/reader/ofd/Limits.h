@@ -5,23 +5,23 @@
 
 #include <QtGlobal>
 
-/** How far a file may go. A document made by honest means stays far below every one of these. */
+/** The limits of what a file may contain. Ordinary documents stay far below all of them. */
 namespace Ofd::Limits {
 
 constexpr qint64 archiveBytes = 256LL << 20;
 constexpr qint64 entryBytes = 64LL << 20;
 constexpr qint64 unpackedBytes = 512LL << 20;
 constexpr int entries = 50000;
-/** Deflate reaches about 1000 on a run of one byte, but hardly 100 on text. */
+/** Deflate reaches a ratio of about 1000 on equal bytes, but hardly 100 on text. */
 constexpr qint64 packingRatio = 200;
-/** Below this an entry may be packed as tightly as it likes. */
+/** The ratio of entries below this size is not checked. */
 constexpr qint64 harmlessBytes = 1LL << 20;
 
 constexpr int xmlDepth = 64;
 constexpr int xmlElements = 4000000;
 constexpr int pages = 20000;
 constexpr qint64 objects = 2000000;
-/** Characters and points of paths, with every composite and template painted out. */
+/** Characters and points of paths, with every composite and template expanded. */
 constexpr qint64 marksPerPage = 3000000;
 constexpr qint64 marks = 30000000;
 

@@ -40,7 +40,7 @@ TextRun runOf(const XmlElement &element, QPointF before)
     run.text = element.text;
     run.start = QPointF(Values::number(element.attribute("X"), before.x()),
                         Values::number(element.attribute("Y"), before.y()));
-    // One distance more than between the characters would be of no use.
+    // There is a distance between two characters only, so further ones are not used.
     const int most = std::max(0, int(run.text.size()) - 1);
     run.deltaX = Values::deltas(element.attribute("DeltaX"), most);
     run.deltaY = Values::deltas(element.attribute("DeltaY"), most);
@@ -119,7 +119,7 @@ Text ObjectReader::textOf(const XmlElement &element)
             glyphs.append(glyphRangeOf(part));
         if (!part.is("TextCode"))
             continue;
-        // A run without a place of its own begins where the one before began.
+        // A run without a position begins at the position of the one before.
         text.runs.append(runOf(part, text.runs.isEmpty() ? QPointF() : text.runs.last().start));
         text.runs.last().glyphs = glyphs;
         glyphs.clear();

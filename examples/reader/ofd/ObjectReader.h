@@ -7,7 +7,7 @@
 
 namespace Ofd {
 
-/** Turns the elements of layers, page blocks, composites and appearances into objects. */
+/** Reads objects from the elements of layers, page blocks, composites and appearances. */
 class ObjectReader
 {
 public:
@@ -17,7 +17,7 @@ public:
     {
     }
 
-    /** All objects inside, also in nested blocks. Throws a Fault for absurd values and amounts. */
+    /** All objects inside, also in nested blocks. Throws a Fault for values above the limits. */
     Objects readAll(const XmlElement &parent, const Style &wider);
 
 private:

@@ -15,10 +15,10 @@
 #include <optional>
 #include <variant>
 
-/** What stands on pages, as it was read. Lengths are millimetres unless a matrix says otherwise. */
+/** The content of pages as it was read. Lengths are in millimetres, before a matrix is applied. */
 namespace Ofd {
 
-/** Drawing parameters; what is not given is taken from the next wider ones. */
+/** Drawing parameters; unset ones are inherited from the enclosing element. */
 struct Style
 {
     std::optional<qreal> lineWidth;
@@ -30,7 +30,7 @@ struct Style
     std::optional<QBrush> fill;
     std::optional<QBrush> stroke;
 
-    /** These parameters where given, else the other ones. */
+    /** These parameters, with unset ones taken from @p wider. */
     Style over(const Style &wider) const;
     QBrush fillBrush() const { return fill.value_or(QBrush(Qt::black)); }
     QPen pen() const;
@@ -44,7 +44,7 @@ struct GlyphRange
     QVector<quint32> glyphs;
 };
 
-/** Characters placed one by one from a point of the baseline on. */
+/** Characters that are placed one by one, starting at a point of the baseline. */
 struct TextRun
 {
     QString text;
@@ -88,7 +88,7 @@ struct Composite
 struct Object;
 using Objects = QVector<Object>;
 
-/** Objects that move together, such as the appearance of an annotation. */
+/** Objects with a common placement, such as the appearance of an annotation. */
 struct Group
 {
     std::shared_ptr<const Objects> objects;
@@ -103,7 +103,7 @@ struct Object
     QVector<QPainterPath> clips; ///< In the object's own space; only what is in all of them shows.
     std::variant<Path, Text, Image, Composite, Group> content;
 
-    /** From the object's own space to that of the page or group that it stands on. */
+    /** From the coordinates of the object to those of its page or group. */
     QTransform placement() const
     {
         return matrix * QTransform::fromTranslate(boundary.x(), boundary.y());

@@ -94,7 +94,7 @@ QByteArray Package::read(const QString &path) const
     QuaZipFile file(&m_zip);
     if (!file.open(QIODevice::ReadOnly))
         throw damage;
-    // The directory may lie about the size: one byte more than it says is proof enough.
+    // The size in the directory may be wrong, which one further byte shows.
     QByteArray bytes = file.read(size + 1);
     file.close();
     if (bytes.size() != size || file.getZipError() != UNZ_OK)
@@ -112,7 +112,7 @@ QString Package::find(const QString &from, const QString &location) const
     QString path = normalised(isAbsolute ? trimmed : folder + trimmed);
     if (has(path))
         return path;
-    // Some writers give every location from the root, without the stroke that would say so.
+    // Some writers give locations relative to the root without a leading slash.
     const QString fromRoot = isAbsolute ? path : normalised(trimmed);
     return has(fromRoot) ? fromRoot : QString();
 }

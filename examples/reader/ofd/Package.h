@@ -12,11 +12,11 @@
 
 namespace Ofd {
 
-/** The archive that a document lives in; it is kept whole, whatever happens to its file. */
+/** The archive of a document. It is kept in memory, so changes of the file have no effect. */
 class Package
 {
 public:
-    /** Throws a Fault for a file that is no archive, is encrypted, or would unpack without end. */
+    /** Throws a Fault for a file that is not an archive, is encrypted or unpacks to too much. */
     explicit Package(const QString &fileName);
 
     /** The whole archive as it was read. */
@@ -27,13 +27,13 @@ public:
     QByteArray read(const QString &path) const;
 
     /**
-     * The entry that a location in the file @p from means: absolute from the root of the archive,
-     * else from the folder of that file, and if nothing is there, from the root after all. Empty
-     * if there is no such entry. Throws a Fault for a location outside the archive.
+     * The entry for a location in the file @p from. A location is relative to the folder of that
+     * file unless it is absolute. If there is no such entry, it is tried relative to the root.
+     * Empty if both fail. Throws a Fault for a location outside the archive.
      */
     QString find(const QString &from, const QString &location) const;
 
-    /** A location without "." and ".."; throws a Fault for one that climbs out of the archive. */
+    /** A location without "." and ".."; throws a Fault for one outside the archive. */
     static QString normalised(const QString &location);
 
 private:

@@ -18,7 +18,7 @@ constexpr const char *backgroundOrder = "Background";
 constexpr const char *bodyOrder = "Body";
 constexpr const char *foregroundOrder = "Foreground";
 
-/** The sheet that an area describes; null if it describes none. */
+/** The rectangle of the sheet from an area element; null if it has none. */
 QRectF sheetOf(const XmlElement &area)
 {
     const QString text = area.childText("PhysicalBox");
@@ -143,7 +143,7 @@ const PageReader::Layers &PageReader::layersOfTemplate(const QString &id)
     m_resources.addLists(content, "PageRes", path);
     m_resources.finish();
     const Layers layers = layersOf(content);
-    // Reading may have brought other templates in, and with them have moved this one.
+    // Reading may have inserted other templates, which invalidates references into the hash.
     Template &done = m_templates[id];
     done.layers = layers;
     done.isRead = true;

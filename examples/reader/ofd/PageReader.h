@@ -18,9 +18,9 @@ public:
     {
     }
 
-    /** What the document's common data, in the file @p from, say of all pages. */
+    /** Reads the settings for all pages from the common data in the file @p from. */
     void readCommon(const XmlElement &data, const QString &from);
-    /** The page that an element of the list of pages in the file @p from stands for. */
+    /** Reads the page that an element of the list of pages in the file @p from refers to. */
     Page read(const XmlElement &element, const QString &from);
 
 private:

@@ -14,14 +14,14 @@ namespace {
 
 constexpr qreal ascent = 0.88;
 constexpr qreal descent = 0.14;
-/** Of the height of the line: a wider gap is a blank. */
+/** As a share of the line height: a wider gap is a blank. */
 constexpr qreal blankGap = 0.3;
-/** Of the height of the line: beyond this a run begins a column of its own. */
+/** As a share of the line height: after a wider gap a run begins another column. */
 constexpr qreal columnGap = 3;
 constexpr qreal sameLineOverlap = 0.5;
 constexpr char16_t firstEastAsian = 0x2E80;
 
-/** Joins runs that follow each other on one line, as writers cut a line where they like. */
+/** Joins consecutive runs of one line, because writers split lines at any place. */
 class TextCollector
 {
 public:
@@ -109,7 +109,7 @@ private:
         return box.left() - before.right() > blankGap * std::min(before.height(), box.height());
     }
 
-    /** Chinese characters set wide apart are still one word. */
+    /** Chinese characters with wide gaps need no blank. */
     bool mayNeedBlank(QChar next) const
     {
         const QChar before = m_result.text.back();

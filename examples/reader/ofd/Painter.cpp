@@ -18,9 +18,9 @@ namespace Ofd {
 
 namespace {
 
-/** In device pixels; thinner lines would come and go with the zoom. */
+/** In device pixels; thinner lines would be visible at some zooms only. */
 constexpr qreal leastLineWidth = 0.7;
-/** Of an em, on both sides of an outline that has to look bold. */
+/** As a share of an em, on each side of an outline that must look bold. */
 constexpr qreal boldStroke = 0.03;
 
 qreal scaleOf(const QPainter &painter)
@@ -32,7 +32,7 @@ bool isOnDevice(const QPainter &painter, const QRectF &rect)
 {
     const QRectF device(0, 0, painter.device()->width() * painter.device()->devicePixelRatioF(),
                         painter.device()->height() * painter.device()->devicePixelRatioF());
-    // A straight line has a rectangle without area, which intersects nothing.
+    // The rectangle of a straight line has no area and would intersect nothing.
     const QRectF mapped = painter.deviceTransform().mapRect(rect).adjusted(-1, -1, 1, 1);
     return mapped.intersects(device);
 }
@@ -59,8 +59,8 @@ QSizeF deviceSize(const QTransform &transform)
 }
 
 /**
- * Fills each glyph by itself and in the space of the device, which takes a tenth of the time that
- * the toolkit needs for all in one and under a transform.
+ * Fills each glyph separately in device coordinates, which takes Qt a tenth of the time for one
+ * path of all glyphs under a transform.
  */
 void fillGlyphs(QPainter &painter, const QVector<PlacedGlyph> &glyphs, const QBrush &brush)
 {
@@ -211,7 +211,7 @@ void Painter::paintContent(QPainter &painter, const Object &object, const Text &
 
 void Painter::paintContent(QPainter &painter, const Object &object, const Image &image)
 {
-    // Without a matrix the picture has a square millimetre; what is meant is all of its boundary.
+    // Without a matrix the picture would be one millimetre wide; writers mean the whole boundary.
     if (object.matrix.isIdentity())
         painter.scale(object.boundary.width(), object.boundary.height());
     const QRectF square(0, 0, 1, 1);

@@ -19,7 +19,7 @@ public:
     const Document &document() const { return *m_document; }
     FontSet &fonts() { return m_fonts; }
 
-    /** Paints what stands on a page, without paper, in millimetres from its top left corner. */
+    /** Paints the content of a page, without paper, in millimetres from its top left corner. */
     void paint(QPainter &painter, int page);
 
     /** How many embedded files of each kind cannot be painted. */

@@ -15,7 +15,7 @@ namespace Ofd {
 
 namespace {
 
-/** How many numbers a command takes; -1 for a letter that is none. */
+/** The number of arguments of a command; -1 for an unknown letter. */
 int countOfNumbers(QChar command)
 {
     switch (command.unicode()) {
@@ -46,7 +46,7 @@ struct Arc
     QPointF end;
 };
 
-/** The centre of the unit circle's arc between two points, on the side that the flags ask for. */
+/** The centre of the unit circle through two points, on the side that the flags select. */
 QPointF centreBetween(QPointF from, QPointF to, bool isLarge, bool isClockwise)
 {
     const QPointF half = (to - from) / 2;
@@ -66,7 +66,7 @@ void appendArc(QPainterPath &path, const Arc &arc)
         path.lineTo(arc.end);
         return;
     }
-    // Where the ellipse is the unit circle, the arc is found by its chord.
+    // In coordinates where the ellipse is the unit circle, the chord determines the arc.
     QTransform toPath;
     toPath.rotate(arc.degrees);
     toPath.scale(arc.rx, arc.ry);
@@ -86,7 +86,7 @@ void appendArc(QPainterPath &path, const Arc &arc)
     else if (!arc.isClockwise && sweep > 0)
         sweep -= 2 * M_PI;
     QPainterPath piece(from);
-    // The toolkit counts angles against the clock.
+    // Qt counts angles anticlockwise.
     piece.arcTo(QRectF(centre - QPointF(1, 1), QSizeF(2, 2)), -qRadiansToDegrees(first),
                 -qRadiansToDegrees(sweep));
     path.connectPath(toPath.map(piece));
@@ -128,7 +128,7 @@ QPainterPath pathFromData(const QString &data)
         while (at < data.size() && !stops(data.at(at)))
             ++at;
     };
-    // An "e" belongs to a number; commands are capitals.
+    // Commands are capitals; a small "e" is part of a number.
     const auto isCommand = [](QChar c) {
         return c.isLetter() && c != QChar(u'e') && c != QChar(u'E');
     };

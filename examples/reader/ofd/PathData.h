@@ -8,8 +8,8 @@
 namespace Ofd {
 
 /**
- * The path that abbreviated data describes: M and S begin, L draws a line, Q and B curves, A an arc
- * of an ellipse, C closes. It ends before the first command that is unknown or incomplete.
+ * The path of abbreviated data: M and S begin a subpath, L draws a line, Q and B draw curves, A an
+ * arc of an ellipse, C closes. It ends before the first unknown or incomplete command.
  */
 QPainterPath pathFromData(const QString &data);
 

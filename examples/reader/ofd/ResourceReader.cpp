@@ -33,7 +33,7 @@ void ResourceReader::addList(const QString &path)
 {
     XmlElement list = XmlElement::parse(m_package.read(path), path);
     const QString base = list.attribute("BaseLoc").trimmed();
-    // Locations in the list count from its base; a name that no entry has stands for the folder.
+    // Locations in the list are relative to its base, or to its folder if there is no such entry.
     const QString ownFolder = path.left(path.lastIndexOf(QChar(u'/')) + 1);
     const QString folder = base.startsWith(QChar(u'/')) ? base : ownFolder + base;
     for (XmlElement &group : list.children) {

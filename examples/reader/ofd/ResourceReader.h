@@ -8,7 +8,7 @@
 
 namespace Ofd {
 
-/** Collects the resources of a document from the files that list them. */
+/** Reads the resources of a document from the files that list them. */
 class ResourceReader
 {
 public:
@@ -19,9 +19,9 @@ public:
     {
     }
 
-    /** Reads the lists that @p parent, an element of the file @p from, names in such children. */
+    /** Reads the lists that children of @p parent, in the file @p from, with that name refer to. */
     void addLists(const XmlElement &parent, const char *name, const QString &from);
-    /** Settles what refers to other resources, once all lists are read that may hold them. */
+    /** Resolves references between resources. Call it after all lists have been read. */
     void finish();
 
     ColourReader &colours() { return m_colours; }

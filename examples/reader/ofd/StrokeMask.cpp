@@ -16,18 +16,17 @@ namespace {
 // In device pixels.
 constexpr qreal leastStep = 0.25;
 constexpr qreal flatness = 0.25;
-/** Whether a longer line is hidden is asked of one part after the other. */
+/** A longer line is tested for being hidden in parts of this length. */
 constexpr qreal longestPart = 32;
 
-/** Length of the lines for each pixel of the area. What they cover can hide those of later batches.
- */
+/** Length of lines for each pixel of the area. A batch can hide lines of later batches. */
 constexpr qreal longestBatch = 2;
-/** Of a smaller area, as batches have a cost of their own. */
+/** Smaller areas count as this many pixels, because every batch takes time. */
 constexpr qreal leastPixels = 65536;
 constexpr int mostPointsOfBatch = 65536;
 constexpr int mostDashedPoints = 4000000;
 
-/** The line without points that are all but where the one before is; its ends stay. */
+/** The line without points that nearly coincide with the one before; the ends are kept. */
 QPolygonF thinned(const QPolygonF &line)
 {
     QPolygonF points;
@@ -49,7 +48,7 @@ StrokeMask::StrokeMask(const QRect &area, const QTransform &toDevice, const QPen
     , m_pen(pen)
 {
     const qreal scale = std::sqrt(std::abs(toDevice.determinant()));
-    // To the toolkit a pen without width is a pixel wide.
+    // In Qt a pen of width zero is one pixel wide.
     if (m_pen.widthF() <= 0)
         m_pen.setWidthF(1 / scale);
     m_stroker.setWidth(m_pen.widthF());
@@ -78,7 +77,7 @@ void StrokeMask::add(const QPainterPath &path)
 
 void StrokeMask::addDashed(const QPainterPath &path)
 {
-    // Where a dash begins depends on all of the line before, which is the same for every area.
+    // The start of a dash depends on the whole line before it, so no part of it may be cut off.
     const QRectF everywhere = m_toDevice.mapRect(path.controlPointRect());
     const int halvings = int(std::log2(1 + mostDashedPoints / (1 + path.elementCount())));
     const QList<QPolygonF> lines =
@@ -111,11 +110,11 @@ void StrokeMask::addLine(const QPolygonF &line)
         endPiece();
         outlineBatch();
         isWhole = false;
-        // Once more, so that the line after it is joined to it.
+        // Added again, so that the stroker joins the next line.
         if (isClosed || i + 1 < points.size())
             m_piece << points.at(i - 1) << points.at(i);
     }
-    // The stroker joins the ends of a closed line, but not those of its pieces.
+    // The stroker joins the ends of a closed line only if it gets the line in one piece.
     if (isClosed && !isWhole && !m_piece.isEmpty())
         m_piece.append(points.at(1));
     endPiece();

@@ -14,12 +14,10 @@
 namespace Ofd {
 
 /**
- * Covers what a pen covers along a path, in a time that grows with the length of the path and no
- * faster.
+ * Covers the stroke of a path in a time that is proportional to the length of the path.
  *
- * The outline is the toolkit's, but made piece by piece. Left out is what makes no difference:
- * points less than a part of a pixel from the one before, lines outside the area, and lines where
- * everything is covered already.
+ * Qt makes the outline, piece by piece. Left out are points less than a part of a pixel from the
+ * one before, lines outside the area, and lines in parts that are already covered.
  */
 class StrokeMask
 {

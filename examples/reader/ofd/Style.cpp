@@ -11,9 +11,9 @@ namespace {
 
 constexpr qreal usualLineWidth = 0.353;
 constexpr qreal usualMiterLimit = 3.528;
-/** The toolkit counts dashes in line widths; a hairline needs some width to count in. */
+/** Qt measures dashes in line widths, so a hairline needs a width for them. */
 constexpr qreal leastDashUnit = 0.001;
-/** In line widths: the toolkit leaves out dashes without length, which round caps make dots of. */
+/** In line widths. Qt omits dashes without length, which are dots with round caps. */
 constexpr qreal leastDash = 0.01;
 
 template <typename T>

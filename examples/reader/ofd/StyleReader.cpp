@@ -55,7 +55,7 @@ std::optional<QVector<qreal>> dashes(const QString &text)
     }
     if (values.size() > Limits::dashes || isNegative || (period > 0 && period < Limits::dashPeriod))
         throw Fault{Wording::tr("虚线样式“%1”超出范围。").arg(text.left(24))};
-    // Dashes without any length are a solid line.
+    // A pattern of length zero is a solid line.
     return period > 0 ? values : QVector<qreal>();
 }
 

@@ -10,7 +10,7 @@
 
 namespace Ofd {
 
-/** Drawing parameters: those that stand at an object and those that it refers to. */
+/** Reads drawing parameters: attributes of objects, and resources that objects refer to. */
 class StyleReader
 {
 public:
@@ -20,10 +20,10 @@ public:
     }
 
     void addParameters(const XmlElement &parameters);
-    /** Joins each to those it is relative to; throws a Fault for a circle. */
+    /** Merges each with the parameters that it is relative to; throws a Fault for a circle. */
     void resolve();
 
-    /** What stands at the element, over the parameters it refers to, over @p wider. */
+    /** The parameters of the element, then those it refers to, then those of @p wider. */
     Style read(const XmlElement &element, const Style &wider) const;
 
 private:

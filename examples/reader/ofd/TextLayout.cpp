@@ -10,22 +10,22 @@ namespace Ofd {
 
 namespace {
 
-/** The letters of a font that stands in for another may be wider than the room they have. */
+/** The smallest factor by which letters of a replacement font are narrowed. */
 constexpr qreal mostSqueeze = 0.5;
-constexpr uint firstWide = 0x2000; // From here on a character may well fill its em.
+constexpr uint firstWide = 0x2000; // Characters from here on may be a full em wide.
 
 bool isShown(uint character)
 {
     return character >= 0x20 && character != 0x7F;
 }
 
-/** The last distance goes on for characters that have none. */
+/** The distance at the index; further characters repeat the last distance. */
 qreal distanceAt(const QVector<qreal> &deltas, int index)
 {
     return deltas.isEmpty() ? 0 : deltas.at(std::min(index, int(deltas.size()) - 1));
 }
 
-/** How much narrower a glyph must become to fit; 1 for one that fits. */
+/** The factor that narrows a glyph to the available width; 1 if it fits. */
 qreal squeezeFor(qreal advance, qreal room)
 {
     if (room <= 0 || advance <= room)
@@ -41,7 +41,7 @@ QTransform placeOf(const Text &text, QPointF origin, qreal squeeze)
     return place;
 }
 
-/** The glyphs that stand for a character by index; nullptr if the font is asked by character. */
+/** The range that gives glyphs by index for a character; nullptr if the font maps it. */
 const GlyphRange *rangeOf(const TextRun &run, int code)
 {
     for (const GlyphRange &range : run.glyphs) {
@@ -51,7 +51,7 @@ const GlyphRange *rangeOf(const TextRun &run, int code)
     return nullptr;
 }
 
-/** The glyphs of one character: those that the document names, or the font's own. */
+/** The glyphs of one character: those given by the document, or that of the font. */
 QVector<const Glyph *> glyphsOf(const TextRun &run, int code, uint character, Face &face)
 {
     const GlyphRange *range = face.isEmbedded() ? rangeOf(run, code) : nullptr;
@@ -66,7 +66,7 @@ QVector<const Glyph *> glyphsOf(const TextRun &run, int code, uint character, Fa
     return glyphs;
 }
 
-/** Walks along a run and places what it meets. */
+/** Iterates over a run and places its glyphs. */
 class RunWalker
 {
 public:
@@ -107,7 +107,7 @@ private:
         m_origin += step;
     }
 
-    /** The way from one character to the next: as the run tells it, else by the advance. */
+    /** The offset to the next character: by the run's distances, else by the advance. */
     QPointF stepAt(int index, qreal advance) const
     {
         if (!m_areStepsGiven)
@@ -115,7 +115,7 @@ private:
         return QPointF(distanceAt(m_run.deltaX, index), distanceAt(m_run.deltaY, index));
     }
 
-    /** The last character has no next one: a letter gets what other letters have. */
+    /** The width for a character. The last one has no distance to the next: it gets a default. */
     qreal roomFor(uint code, QPointF step, bool hasNext)
     {
         const qreal length = std::hypot(step.x(), step.y());

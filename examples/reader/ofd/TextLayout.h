@@ -7,7 +7,7 @@
 
 namespace Ofd {
 
-/** One character, or one glyph of several, where it stands in the space of its text object. */
+/** One glyph of a character with its position in the coordinates of the text object. */
 struct PlacedGlyph
 {
     QString text; ///< Empty for a second glyph of the same characters.
@@ -16,7 +16,7 @@ struct PlacedGlyph
     qreal width = 0;  ///< Up to the next character, in ems of @ref place.
 };
 
-/** Places the characters of a run; the glyphs belong to the face. */
+/** Places the characters of a run. The face owns the glyphs. */
 QVector<PlacedGlyph> layOut(const Text &text, const TextRun &run, Face &face);
 
 } // namespace Ofd

@@ -16,7 +16,7 @@ namespace Ofd {
 
 namespace {
 
-/** Takes the next word off the text; an empty one when there is none left. */
+/** Removes the next word from the text and returns it; empty if none is left. */
 QStringView takeWord(QStringView *text)
 {
     const auto isBlank = [](QChar c) { return c.isSpace() || c == QChar(u','); };

@@ -9,21 +9,21 @@
 #include <QTransform>
 #include <QVector>
 
-/** The values that stand in attributes. All throw a Fault for numbers beyond all measure. */
+/** Reading of values in attributes. All functions throw a Fault for numbers above the limits. */
 namespace Ofd::Values {
 
-/** @p otherwise for what is not a number. */
+/** The number; @p otherwise for a text that is not a number. */
 qreal number(QStringView text, qreal otherwise);
-/** Numbers apart by blanks; ends at the first that is none. "#1F" is read to the base of 16. */
+/** Numbers separated by blanks, up to the first invalid one. "#1F" is hexadecimal. */
 QVector<qreal> numbers(QStringView text);
-/** "x y width height"; null if that is not what it says. */
+/** The rectangle "x y width height"; null for another text. */
 QRectF box(const QString &text);
-/** "a b c d e f"; the identity if that is not what it says. */
+/** The matrix "a b c d e f"; the identity for another text. */
 QTransform matrix(const QString &text);
-/** "x y". */
+/** The point "x y"; @p otherwise for another text. */
 QPointF point(const QString &text, QPointF otherwise);
 
-/** Distances between characters, "g n v" standing for n times v; at most @p most of them. */
+/** Distances between characters; "g n v" means n times v. Returns at most @p most values. */
 QVector<qreal> deltas(const QString &text, int most);
 
 } // namespace Ofd::Values

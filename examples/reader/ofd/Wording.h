@@ -7,7 +7,7 @@
 
 namespace Ofd {
 
-/** The context of the texts in which a reader tells about a file. */
+/** The translation context of the messages about a file. */
 class Wording
 {
     Q_DECLARE_TR_FUNCTIONS(Ofd)

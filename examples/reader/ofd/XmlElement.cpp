@@ -23,7 +23,7 @@ XmlElement startOf(const QXmlStreamReader &reader)
     return element;
 }
 
-/** Builds the tree from the stream of tokens; a stack instead of recursion keeps depth harmless. */
+/** Builds the tree without recursion, so that deep nesting cannot exhaust the stack. */
 class TreeBuilder
 {
 public:

@@ -11,7 +11,7 @@
 
 namespace Ofd {
 
-/** One element of an XML file with all that is in it. Names stand without their prefix. */
+/** One element of an XML file with its attributes, text and children. Names have no prefix. */
 struct XmlElement
 {
     QString name;

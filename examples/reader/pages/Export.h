@@ -7,16 +7,16 @@
 
 class Document;
 
-/** Writes a document where other programs can read it. */
+/** Writes a document to a file in one of several formats. */
 namespace Export {
 
 /**
- * By the end of the name: the OFD package as it was opened, plain text, or else PDF. Returns false
- * if it cannot be written.
+ * Writes the file; the suffix of the name selects the OFD file as it was opened, plain text, or
+ * otherwise PDF. Returns false on failure.
  */
 bool write(const Document &document, const QString &fileName);
 
-/** Whether the format of that name keeps the marks. */
+/** Whether the format for that file name includes the marks. */
 bool keepsMarks(const QString &fileName);
 
 } // namespace Export

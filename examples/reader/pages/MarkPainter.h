@@ -9,8 +9,8 @@
 
 class QPainter;
 
-/** Draws a mark in page units. */
+/** Paints a mark in page units. */
 void paintMark(QPainter &painter, const Mark &mark);
 
-/** The rectangles of a mark that stands on a range of text. */
+/** The rectangles of the text that a mark is for. */
 QList<QRectF> textRectsOf(const Mark &mark);

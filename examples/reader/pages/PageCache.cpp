@@ -15,7 +15,7 @@ constexpr int tileSide = 512; // Device pixels.
 constexpr int mostKilobytes = 128 << 10;
 constexpr int levels = 256;
 
-/** From the page's own space to the device, with the turned page's corner at the origin. */
+/** From page units to device pixels, with the corner of the rotated page at the origin. */
 QTransform toDevice(const PageCache::Sheet &sheet, qreal ratio)
 {
     const qreal scale = sheet.scale * ratio;
@@ -39,8 +39,8 @@ Ramp rampBetween(int dark, int light)
 }
 
 /**
- * Makes white the colour of the paper and black that of the ink. On dark paper lightness is turned
- * over first, while red stays red.
+ * Replaces white by the colour of the paper and black by that of the ink. For dark paper the
+ * lightness is inverted first; hues are kept.
  */
 void recolour(QImage &image, const PageColours &colours)
 {
@@ -73,7 +73,7 @@ void PageCache::paint(QPainter &painter, const Sheet &sheet, const QRectF &place
                       const PageColours &colours)
 {
     const qreal ratio = painter.device()->devicePixelRatioF();
-    // Whole device pixels, or letters would blur.
+    // Rounded to device pixels, because letters at fractions of a pixel are blurred.
     const QPoint corner = (place.topLeft() * ratio).toPoint();
     const QSize size(int(std::ceil(place.width() * ratio)), int(std::ceil(place.height() * ratio)));
     const QRectF window(0, 0, painter.device()->width(), painter.device()->height());

@@ -8,11 +8,11 @@
 #include <QCache>
 #include <QImage>
 
-/** Parts of pages as they were painted last; it holds what some screens need, and no more. */
+/** A cache of painted parts of pages, limited to the size of some screens. */
 class PageCache
 {
 public:
-    /** A page as the view shows it. */
+    /** A page with the settings of the view. */
     struct Sheet
     {
         const PageContent *content = nullptr;
@@ -23,7 +23,7 @@ public:
 
     PageCache();
 
-    /** Paints what of the page is inside the clip of @p painter; @p place is where it lies. */
+    /** Paints the part of a page inside the clip of @p painter; @p place is that of the page. */
     void paint(QPainter &painter, const Sheet &sheet, const QRectF &place,
                const PageColours &colours);
     void clear() { m_tiles.clear(); }

@@ -7,7 +7,7 @@
 
 namespace {
 
-/** The room of the pages that stand beside each other; a lone page keeps its partner's free. */
+/** The size of pages side by side; beside a single page the space of another one stays free. */
 QSizeF roomOfRow(const QList<QSizeF> &sizes, int first, int perRow)
 {
     QSizeF room(0, 0);

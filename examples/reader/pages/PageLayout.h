@@ -24,7 +24,7 @@ inline int pagesPerRow(LayoutMode mode)
     return mode == LayoutMode::DoublePage || mode == LayoutMode::DoubleFlow ? 2 : 1;
 }
 
-/** Where pages lie on the desk, in device-independent pixels from its top left corner. */
+/** The rectangles of the pages on a scrolled surface, in device-independent pixels. */
 struct PageLayout
 {
     /** Between pages, and around them. */
@@ -39,11 +39,11 @@ struct PageLayout
     QList<Place> places;
     QSizeF desk; ///< At least as large as the view that it was made for.
 
-    /** Pages of these sizes, or those of them that the mode shows at once, centred in the view. */
+    /** The layout of pages of these sizes; only those that the mode shows at once have a place. */
     static PageLayout of(LayoutMode mode, const QList<QSizeF> &sizes, int currentPage, QSizeF view);
 
-    /** Null if the page has no place in this layout. */
+    /** The rectangle of a page; null if the layout does not show it. */
     QRectF rectOf(int page) const;
-    /** The page that covers most of a part of the desk; -1 if none does. */
+    /** The page with the largest area inside a part of the surface; -1 if there is none. */
     int mainPageOf(const QRectF &part) const;
 };

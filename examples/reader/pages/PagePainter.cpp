@@ -40,7 +40,7 @@ void paintLines(QPainter &painter, const Page &page, const QColor &ink)
     }
 }
 
-/** On a dark page the letters of a hit would be light on yellow: they are drawn once more. */
+/** Paints the text of hits again, because on a dark page it would be light on yellow. */
 void paintTextOfHits(QPainter &painter, const Page &page, const QList<TextRange> &hits)
 {
     QRegion region;
@@ -82,7 +82,7 @@ QList<TextRange> hitsOn(int index, const PageDecoration &decoration)
     return hits;
 }
 
-/** Colours what was found on a page that is painted already. */
+/** Paints the hits over a page that is already painted. */
 void paintHitsOver(QPainter &painter, const Document &document, int index,
                    const PageColours &colours, const PageDecoration &decoration)
 {
@@ -94,7 +94,7 @@ void paintHitsOver(QPainter &painter, const Document &document, int index,
         return hit.page == current.page && hit.start == current.start;
     };
     painter.save();
-    // Dark ink stays dark under a multiplied colour, light ink under a lightening one.
+    // Multiply keeps dark ink readable. Light ink needs a mode that only lightens.
     painter.setCompositionMode(isDark(colours) ? QPainter::CompositionMode_SourceOver
                                                : QPainter::CompositionMode_Multiply);
     painter.setOpacity(isDark(colours) ? opacityOnDark : 1);

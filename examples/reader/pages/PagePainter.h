@@ -9,7 +9,7 @@
 
 class QPainter;
 
-/** The colours that a background mode gives to a page and to what lies around it. */
+/** The colours of a background mode for a page and for the surface around it. */
 struct PageColours
 {
     QColor paper;
@@ -29,7 +29,7 @@ struct TextRange
     bool isEmpty() const { return page < 0 || length <= 0; }
 };
 
-/** What is shown on top of the text, besides the marks. */
+/** The selection and the hits, which are shown on top of the text. */
 struct PageDecoration
 {
     QList<TextRange> hits;
@@ -39,13 +39,13 @@ struct PageDecoration
     bool forPrint = false; ///< Print masks cover what is printed; display masks what is shown.
 };
 
-/** Draws a page in page units; the painter is already at its top left corner. */
+/** Paints a page in page units; the origin is its top left corner. */
 void paintPage(QPainter &painter, const Document &document, int index, const PageColours &colours,
                const PageDecoration &decoration);
 
-/** The lower half of that: paper, text and what lies behind the text. */
+/** The lower layers of paintPage(): the paper, what is behind the text, and the text. */
 void paintSheet(QPainter &painter, const Document &document, int index, const PageColours &colours,
                 const PageDecoration &decoration);
-/** The upper half: the marks and the selection; on a page from a file also what was found. */
+/** The upper layers of paintPage(): marks and selection, and the hits on a page from a file. */
 void paintOver(QPainter &painter, const Document &document, int index, const PageColours &colours,
                const PageDecoration &decoration);

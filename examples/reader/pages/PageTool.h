@@ -7,7 +7,7 @@
 
 #include <QStringList>
 
-/** What the mouse does on a page, by the object name of the tool's control. */
+/** What the mouse does on a page; selected by the object name of the tool's control. */
 struct PageTool
 {
     enum Gesture
@@ -28,9 +28,9 @@ struct PageTool
     qreal width = 2; ///< Of the line, or of the eraser.
     QString sign;    ///< Of revisions.
 
-    /** The hand for a name that no tool bears. */
+    /** The tool of that name; the hand for an unknown name. */
     static PageTool of(const QString &name);
     static QStringList names();
-    /** The pens, from thin to thick. */
+    /** The names of the pens, from thin to thick. */
     static QStringList penNames();
 };

@@ -183,14 +183,14 @@ QList<QSizeF> PageView::turnedSizes() const
     return sizes;
 }
 
-/** The room of one row of pages that a fitting mode fits, in page units, without gaps. */
+/** The size that a fitting mode fits into the view: a row of pages without gaps, in page units. */
 QSizeF PageView::fittedSize() const
 {
     const int perRow = pagesPerRow(m_layoutMode);
     if (!m_document.isOpen())
         return QSizeF(pageSize.width() * perRow, pageSize.height());
     if (isFlow(m_layoutMode)) {
-        // One zoom for all rows, or it would change while one scrolls.
+        // The same zoom for all rows, so that it does not change on scrolling.
         const QSizeF largest = turned(m_document.largestSize());
         return QSizeF(largest.width() * perRow, largest.height());
     }
@@ -206,8 +206,8 @@ QSizeF PageView::fittedSize() const
 
 QSizeF PageView::fittingArea() const
 {
-    // The bars' room is always left free: a page that fits only while no bar is shown would make
-    // the bar come and go for ever.
+    // The width of the scroll bars is always left free. Otherwise a page that fits only without a
+    // scroll bar would show and hide it endlessly.
     const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
     return QSizeF(maximumViewportSize()) - QSizeF(bar, 0);
 }
@@ -256,7 +256,7 @@ void PageView::layOut()
         m_layout = PageLayout::of(m_layoutMode, sizes, m_currentPage, view);
     };
     const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
-    // A fitted page may be larger than its room by a rounding.
+    // A fitted page may exceed the view by a rounding error.
     constexpr qreal hair = 0.5;
     QSizeF view = maximumViewportSize();
     layOutIn(view);

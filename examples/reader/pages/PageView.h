@@ -12,10 +12,10 @@
 #include <QAbstractScrollArea>
 
 /**
- * Shows the pages of a document and lets the mouse work on them.
+ * Shows the pages of a document and handles the mouse on them.
  *
- * It changes the document only through its signals: what was drawn is announced, and whoever owns
- * the document puts it there.
+ * It does not change the document. It emits markDrawn() with what the user drew, and the owner of
+ * the document adds it.
  */
 class PageView : public QAbstractScrollArea
 {
@@ -24,7 +24,7 @@ class PageView : public QAbstractScrollArea
 public:
     explicit PageView(const Document &document, QWidget *parent = nullptr);
 
-    /** The page that is read now, as an index. */
+    /** The index of the current page. */
     int currentPage() const { return m_currentPage; }
     void setCurrentPage(int page);
 
@@ -33,7 +33,7 @@ public:
 
     ZoomMode zoomMode() const { return m_zoomMode; }
     void setZoomMode(const ZoomMode &mode);
-    /** The percentage that the zoom mode comes to in this window. */
+    /** The zoom in percent; for a fitting mode it depends on the size of the view. */
     qreal percent() const;
 
     BackgroundStyle background() const { return m_background; }
@@ -42,13 +42,13 @@ public:
     const PageTool &tool() const { return m_tool; }
     void setTool(const PageTool &tool);
 
-    /** The hits of a search, and the one that is looked at, which is scrolled into view. */
+    /** Sets the hits of a search and scrolls to the current one. */
     void setHits(const QList<TextRange> &hits, const TextRange &current);
 
     const QList<TextRange> &selection() const { return m_decoration.selection; }
     void setSelection(const QList<TextRange> &selection);
     QString selectedText() const;
-    /** What the tool would put on the selected text, one mark a page. */
+    /** The marks of the current tool for the selected text, one for each page. */
     QList<Mark> marksOnSelection() const;
 
     bool areRevisionsVisible() const { return m_decoration.revisionsVisible; }
@@ -56,12 +56,12 @@ public:
 
 Q_SIGNALS:
     void currentPageChanged(int page);
-    /** The mode, or what it comes to. */
+    /** The zoom mode or its percentage has changed. */
     void zoomChanged();
     void selectionChanged();
-    /** The user asks for the next zoom step, by the wheel. */
+    /** The user requested the next zoom step with the wheel. */
     void zoomStepAsked(bool larger);
-    /** The user drew this; of a text the mark holds only the place. */
+    /** The user drew a mark. For a text box it has the rectangle and no text yet. */
     void markDrawn(const Mark &mark);
     void inkRubbed(int page, QPointF point, qreal radius);
 
@@ -82,7 +82,7 @@ private:
         QPointF point; ///< In page units.
     };
 
-    /** What the mouse has done since it was pressed. */
+    /** The state of a mouse drag. */
     struct Drag
     {
         bool isActive = false;
@@ -92,7 +92,7 @@ private:
         Mark mark;
     };
 
-    // Where things are.
+    // Geometry.
     qreal screenFactor() const;
     qreal scale() const { return percent() / 100 * screenFactor(); }
     QSizeF turned(QSizeF size) const;
@@ -111,7 +111,7 @@ private:
     void paintPlace(QPainter &painter, const PageLayout::Place &place);
     void paintHint(QPainter &painter);
 
-    // What the mouse does.
+    // Mouse drags.
     void startDrag(QPoint position);
     void selectTextTo(const PagePoint &to);
     void extendDrawing(const PagePoint &to);

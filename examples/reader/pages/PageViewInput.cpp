@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The MRToolBar authors
 // SPDX-License-Identifier: MIT
 
-// What the mouse, the wheel and the keys do on the pages.
+// Mouse, wheel and key events of PageView.
 
 #include "pages/PageView.h"
 
@@ -27,7 +27,7 @@ QPolygonF cornersOf(const QList<QRectF> &rects)
     return corners;
 }
 
-/** Where a key moves in the document: 1 on, -1 back, 0 for any other key. */
+/** The direction of a key in the document: 1 forwards, -1 backwards, 0 for another key. */
 int directionOf(const QKeyEvent &event)
 {
     switch (event.key()) {
@@ -144,7 +144,7 @@ void PageView::mouseReleaseEvent(QMouseEvent *event)
 
 void PageView::finishDrag()
 {
-    // Whoever hears of the mark may open a dialog, during which nothing is being dragged.
+    // A connected slot may run a dialog, during which no drag must be active.
     const Drag drag = m_drag;
     m_drag = Drag();
     viewport()->update();

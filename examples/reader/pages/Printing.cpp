@@ -38,7 +38,7 @@ QList<int> pagesToPrint(const Document &document, int currentPage, const QPrinte
     return pages;
 }
 
-/** A file takes every page as it is; a printer has the paper that it has, and turns it. */
+/** A PDF file gets pages of any size; a printer keeps its paper, in either orientation. */
 void setSheet(QPrinter &printer, QSizeF size)
 {
     if (printer.outputFormat() == QPrinter::PdfFormat) {
@@ -51,7 +51,7 @@ void setSheet(QPrinter &printer, QSizeF size)
                                                             : QPageLayout::Portrait);
 }
 
-/** In its true size if the paper is large enough, in the middle of the paper. */
+/** Paints a page centred on the paper, in its true size if the paper is large enough. */
 void paintOnSheet(QPainter &painter, const QPrinter &printer, const Document &document, int page)
 {
     const QSizeF size = document.sizeOf(page);

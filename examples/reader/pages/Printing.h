@@ -7,13 +7,13 @@ class Document;
 class QPrinter;
 class QWidget;
 
-/** Putting a document on paper, or into a PDF file that a printer dialog asks for. */
+/** Printing on paper, or into a PDF file that is chosen in the print dialog. */
 namespace Printing {
 
-/** Lets the user choose; returns false if the user thought better of it or nothing came out. */
+/** Shows the print dialog and prints; returns false if it was cancelled or printing failed. */
 bool ask(const Document &document, int currentPage, QWidget *parent);
 
-/** Prints the pages that the printer is set to, with print masks and without display masks. */
+/** Prints the page range of the printer, with print masks and without display masks. */
 bool print(const Document &document, int currentPage, QPrinter &printer);
 
 } // namespace Printing

@@ -63,7 +63,7 @@ QPainterPath polylinePath(const QRectF &rect)
     return path;
 }
 
-/** One side of a cloud: bows that stand out to the left of the way from one corner to the next. */
+/** One side of a cloud: arcs to the left of the line from one corner to the next. */
 void addBows(QPainterPath &path, QPointF from, QPointF to)
 {
     const QLineF side(from, to);

@@ -7,8 +7,8 @@
 
 #include <QPainterPath>
 
-/** The outline of a drawn shape between the two ends of the mark; empty for other marks. */
+/** The outline of a shape between the two end points of the mark; empty for other marks. */
 QPainterPath shapePath(const Mark &mark);
 
-/** A path of waves from @p left to @p right at height @p y, for wavy lines. */
+/** A wavy line from @p left to @p right at height @p y. */
 QPainterPath wavePath(qreal left, qreal right, qreal y);

@@ -22,7 +22,7 @@ QFont fontOf(int pixels, bool bold)
     return font;
 }
 
-/** A five-pointed star, standing upright. */
+/** An upright star with five points. */
 QPolygonF star(QPointF centre, qreal radius)
 {
     QPolygonF points;

@@ -7,10 +7,10 @@
 
 class QPainter;
 
-/** Draws seals, stamps, notes and whatever else is more than an outline. */
+/** Paints seals, stamps, notes and the other marks that are more than an outline. */
 namespace StampPainter {
 
-/** Returns false for the marks that it does not draw. */
+/** Paints a mark; returns false for a kind that it does not paint. */
 bool paint(QPainter &painter, const Mark &mark);
 
 } // namespace StampPainter

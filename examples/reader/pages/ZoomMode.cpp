@@ -50,7 +50,7 @@ ZoomMode ZoomMode::fromName(const QString &name)
 
 ZoomMode ZoomMode::next(qreal percent, bool larger)
 {
-    // A fitted page stands between two steps, perhaps by a hair's breadth.
+    // The zoom of a fitted page may be nearly that of a step, which then counts as reached.
     constexpr qreal hair = 0.5;
     if (larger) {
         for (const int step : steps) {

@@ -5,7 +5,7 @@
 
 #include <QString>
 
-/** A zoom mode by its name: "vzmode_fitpage" and its like, or a percentage as "vzmode_125p". */
+/** A zoom mode: a fitting one such as "vzmode_fitpage", or a percentage such as "vzmode_125p". */
 class ZoomMode
 {
 public:
@@ -20,9 +20,9 @@ public:
     ZoomMode() = default;
     explicit ZoomMode(qreal percent);
 
-    /** An invalid mode for a name that says nothing. "vzmode_original" is a kind of 100 percent. */
+    /** The mode of that name; invalid for an unknown name. "vzmode_original" means 100 percent. */
     static ZoomMode fromName(const QString &name);
-    /** The next larger or smaller mode of the usual steps, seen from a percentage. */
+    /** The next larger or smaller zoom step from a percentage. */
     static ZoomMode next(qreal percent, bool larger);
 
     bool isValid() const { return m_percent > 0; }

@@ -51,7 +51,7 @@ QStyle::StandardPixmap severityIcon(Severity severity)
     return QStyle::SP_MessageBoxCritical;
 }
 
-/** "2 errors, 1 note": how many there are of each, the worst first. */
+/** The number of findings by severity, such as "2 errors, 1 note". */
 QString summaryOf(const QVector<Finding> &findings)
 {
     QStringList counts;
@@ -74,7 +74,7 @@ FindingsPanel::FindingsPanel(const QString &emptyNotice, QWidget *parent)
     , m_table(new QTableWidget(0, ColumnCount))
 {
     setObjectName(QStringLiteral("findings"));
-    // It cannot be closed: whoever watches a file would wonder why the toolbar does not follow.
+    // Not closable: without the findings it would be unclear why the toolbar is not rebuilt.
     setFeatures(DockWidgetMovable | DockWidgetFloatable);
     buildTable();
     auto *notice = new QLabel(emptyNotice);
@@ -104,7 +104,7 @@ void FindingsPanel::buildTable()
     header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     for (const Column column : {LineColumn, ColumnColumn})
         m_table->horizontalHeaderItem(column)->setTextAlignment(numberAlignment);
-    // A sentence is wrapped to the width that it has, once all columns have theirs.
+    // The wrapping of the sentences depends on the final width of their column.
     connect(header, &QHeaderView::sectionResized, m_table, &QTableWidget::resizeRowsToContents,
             Qt::QueuedConnection);
 }
@@ -113,7 +113,7 @@ void FindingsPanel::setFindings(const QString &subject, const QVector<Finding> &
 {
     setWindowTitle(findings.isEmpty() ? tr("检查结果：%1").arg(subject)
                                       : tr("检查结果：%1（%2）").arg(subject, summaryOf(findings)));
-    // Whoever mends one finding after the other stays at the place.
+    // The scroll position is kept for a user who fixes one finding after the other.
     const int place = m_table->verticalScrollBar()->value();
     m_table->setRowCount(0);
     for (const Finding &finding : findings)
@@ -133,7 +133,7 @@ void FindingsPanel::addRow(const Finding &finding)
         return item;
     };
     const auto addNumber = [&add](Column column, int number) {
-        // A finding about the file as a whole has no place in it.
+        // A finding about the whole file has no line.
         add(column, number > 0 ? QString::number(number) : QString())
             ->setTextAlignment(numberAlignment);
     };

@@ -10,16 +10,16 @@
 class QStackedWidget;
 class QTableWidget;
 
-/** Lists what is wrong with a description: where, how bad, and what to do about it. */
+/** Lists the findings about a description with line, column, severity and message. */
 class FindingsPanel : public QDockWidget
 {
     Q_OBJECT
 
 public:
-    /** @param emptyNotice is shown in place of an empty list. */
+    /** @param emptyNotice is shown instead of an empty list. */
     explicit FindingsPanel(const QString &emptyNotice, QWidget *parent = nullptr);
 
-    /** @param subject what was checked, for the title. */
+    /** @param subject The name of what was checked, for the title. */
     void setFindings(const QString &subject, const QVector<Finding> &findings);
 
 private:

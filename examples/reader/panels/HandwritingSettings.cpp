@@ -23,7 +23,7 @@ QList<QColor> firstColours()
             QColor(0xE0, 0x7B, 0x00), Qt::magenta, Qt::darkRed, Qt::cyan, Qt::yellow};
 }
 
-/** Calls @p then when the user clicks a button, if there is one. */
+/** Connects a click on the button, which may be null, to @p then. */
 template <typename Then>
 void whenClicked(QPushButton *button, QObject *context, Then then)
 {
@@ -140,7 +140,7 @@ void HandwritingSettings::show(MRHandWriteDialog &dialog, int track)
         record.selected = record.id == track;
         tracks.append(&record);
     }
-    // Before the dialog moves its slider, so that the thickness goes to the right pen.
+    // Set before the dialog moves its slider, so that the thickness is stored for this pen.
     m_current = track;
     dialog.SetCommonTrackInfo(tracks);
 }

@@ -16,8 +16,7 @@ struct HandwritingControls;
 /**
  * The settings of the pens, and the library's dialog for them.
  *
- * The dialog shows the records and does not change them, so what the user does in it is followed
- * here, control by control.
+ * The dialog does not write into the tracks, so this class is connected to its controls.
  */
 class HandwritingSettings : public QObject
 {
@@ -26,10 +25,10 @@ class HandwritingSettings : public QObject
 public:
     explicit HandwritingSettings(QObject *parent = nullptr);
 
-    /** Lets the user change the settings, and returns the pen that was chosen at last. */
+    /** Runs the dialog and returns the pen that was chosen last. */
     QString edit(const QString &pen, QWidget *parent);
 
-    /** The tool with the ink of its settings; other tools than pens as they are. */
+    /** The tool with the colour, width and opacity of its settings; only pens are changed. */
     PageTool withInk(PageTool tool) const;
 
 private:

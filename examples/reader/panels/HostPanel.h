@@ -9,7 +9,7 @@
 
 class QHBoxLayout;
 
-/** The host's own controls beside the toolbar: the colours of the skin, and the pen settings. */
+/** Controls of the host outside of the toolbar: colours of the skin and settings of the pens. */
 class HostPanel : public QWidget
 {
     Q_OBJECT
@@ -17,7 +17,7 @@ class HostPanel : public QWidget
 public:
     explicit HostPanel(QWidget *parent = nullptr);
 
-    /** The settings that a toolbar is constructed with. */
+    /** The skin map for the constructor of the toolbar. */
     static ToolBarSkinStyle firstSkin();
 
 Q_SIGNALS:

@@ -216,7 +216,7 @@ void NavigationPanel::fillThumbnails()
         addItem(list, QString::number(page + 1), page);
         list->item(page)->setIcon(blank);
     }
-    // Where the items are is known only once the list has laid them out.
+    // The geometry of the items is valid only after the layout of the list.
     QTimer::singleShot(0, this, &NavigationPanel::paintThumbnails);
 }
 

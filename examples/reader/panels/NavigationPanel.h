@@ -13,7 +13,7 @@ class QListWidgetItem;
 class QPushButton;
 class QStackedWidget;
 
-/** The dock with the navigation panels, each by the object name of its command. */
+/** The dock with the navigation panels, identified by the names of their commands. */
 class NavigationPanel : public QDockWidget
 {
     Q_OBJECT
@@ -21,17 +21,17 @@ class NavigationPanel : public QDockWidget
 public:
     explicit NavigationPanel(const Document &document, QWidget *parent = nullptr);
 
-    /** Shows that panel, or hides the dock if it is on show already. */
+    /** Shows the panel, or hides the dock if the panel is already shown. */
     void toggle(const QString &name);
-    /** The panel on show; empty while the dock is hidden. */
+    /** The name of the shown panel; empty while the dock is hidden. */
     QString shownPanel() const;
-    /** The page that a new bookmark is for. */
+    /** Sets the page for new bookmarks. */
     void setCurrentPage(int page) { m_currentPage = page; }
 
     static QStringList names();
 
 Q_SIGNALS:
-    /** The user chose a page, by its index. */
+    /** The user chose the page with that index. */
     void pageChosen(int page);
     /** The user chose an indexed word. */
     void wordChosen(const QString &word);

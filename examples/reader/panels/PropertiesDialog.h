@@ -7,7 +7,7 @@
 
 class Document;
 
-/** What is known of the open document: its file, its size and what its author says of it. */
+/** The properties of the open document: its file, its size and the information in the file. */
 class PropertiesDialog : public QDialog
 {
     Q_OBJECT

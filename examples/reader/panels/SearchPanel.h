@@ -12,7 +12,7 @@ class QLabel;
 class QLineEdit;
 class QListWidget;
 
-/** Searches the document, shows the hits on the pages and, in its dock, as a list. */
+/** Searches the document and shows the hits on the pages and in a list. */
 class SearchPanel : public QDockWidget
 {
     Q_OBJECT
@@ -20,14 +20,14 @@ class SearchPanel : public QDockWidget
 public:
     SearchPanel(const Document &document, PageView &view, QWidget *parent = nullptr);
 
-    /** Goes to a hit; the dock stays as it is. */
+    /** Goes to the first or next hit without showing or hiding the dock. */
     void search(const SearchOption &option);
     void searchWord(const QString &word);
-    /** Shows the dock with the cursor in its field. */
+    /** Shows the dock and focuses its field. */
     void open();
 
 Q_SIGNALS:
-    /** One line about what was found. */
+    /** Emitted with one line about the hits. */
     void found(const QString &message);
 
 private:

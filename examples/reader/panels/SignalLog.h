@@ -10,7 +10,7 @@
 class MRToolBar;
 class QListWidget;
 
-/** Lists every signal of a toolbar with its arguments, as it comes; the newest stands last. */
+/** Lists the signals of a toolbar with their arguments; the newest is the last one. */
 class SignalLog : public QWidget
 {
     Q_OBJECT

@@ -16,7 +16,7 @@ bool isLum()
 
 ToolBarSkinStyle SkinMaps::blue()
 {
-    // Named, because not each skin has a default for both at the beginning.
+    // Both keys are given, because not every skin has a default for them at construction.
     return {
         {"[MainColor.hover]", "rgb(219,222,227)"},
         {"[MainColor.pressed]", "rgb(183,185,190)"},

@@ -5,10 +5,10 @@
 
 #include <toolbar/ToolBarTypes.h>
 
-/** The colours that the reader offers, each for the skin that is in force. */
+/** The skin maps that the reader offers, for the skin in use. */
 namespace SkinMaps {
 
-/** The toolbar's own. */
+/** The default colours of the toolbar. */
 ToolBarSkinStyle blue();
 ToolBarSkinStyle green();
 ToolBarSkinStyle dark();

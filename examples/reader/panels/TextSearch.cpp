@@ -9,7 +9,7 @@ namespace {
 
 QRegularExpression expressionFor(const SearchOption &option)
 {
-    // A word may be broken at the end of a line, and a blank may be one.
+    // A word may contain a line break, and a blank may be a line break.
     const QString lineBreak = QStringLiteral("\\n?");
     QStringList characters;
     for (int i = 0; i < option.content.size(); ++i) {
@@ -20,11 +20,11 @@ QRegularExpression expressionFor(const SearchOption &option)
                                                           : QRegularExpression::escape(character));
     }
     QString pattern = characters.join(lineBreak);
-    // A Chinese character is a word of its own; only runs of letters and digits can be cut.
+    // Every Chinese character counts as a word; other words are runs of letters and digits.
     if (option.wholeWord)
         pattern = QStringLiteral("(?<![A-Za-z0-9_])%1(?![A-Za-z0-9_])").arg(pattern);
     QRegularExpression expression(pattern);
-    // The option is shown as "区分大小写": ticked, the search tells capitals from small letters.
+    // The option's text is "区分大小写" (match case), so a checked option is case sensitive.
     if (!option.noCase)
         expression.setPatternOptions(QRegularExpression::CaseInsensitiveOption);
     return expression;

@@ -8,19 +8,19 @@
 
 #include <toolbar/ToolBarTypes.h>
 
-/** The hits of one search, and which of them the reader looks at. */
+/** The hits of one search and the current one. */
 class TextSearch
 {
 public:
     /**
-     * Does what the option says: finds anew if the question or the document has changed, else goes
-     * to the next hit in its direction, around the end.
+     * Searches again if the text, the options or the document have changed. Otherwise goes to the
+     * next hit in the direction of the option, from the last to the first one if necessary.
      *
-     * @param fromPage where a new search begins, as an index.
+     * @param fromPage The index of the page where a new search begins.
      */
     void search(const Document &document, const SearchOption &option, int fromPage);
 
-    /** Forgets the hits; the next search begins anew. */
+    /** Removes the hits. */
     void clear();
 
     QString content() const { return m_option.content; }

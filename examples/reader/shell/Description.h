@@ -7,7 +7,7 @@
 
 #include <optional>
 
-/** Why a text is no description, and where; both count from 1, a 0 stands for no place. */
+/** Why a text is not a description. Line and column count from 1 and are 0 if unknown. */
 struct DescriptionFault
 {
     QString message;
@@ -15,32 +15,32 @@ struct DescriptionFault
     int column = 0;
 };
 
-/** Reading the description of a toolbar, and what a host may add to it. */
+/** Functions that read a description and change it before the toolbar gets it. */
 namespace Description {
 
 /**
- * Reads a description from a file, or one that the library brings along.
+ * Reads a description from a file, or one that is part of the library.
  *
  * @param name  a path, or "release" or "debug" for the shipped ones of the skin.
- * @param error gets one line that tells what is wrong; empty if nothing is.
+ * @param error is set to one line about the failure; empty on success.
  */
 QDomDocument read(const QString &name, const QString &skin, QString *error);
 
-/** Whether the name stands for a description that the library brings along. */
+/** Whether the name means a description that is part of the library. */
 bool isShipped(const QString &name);
 
-/** Reads a description from the content of a file; @p fault is set if it is none. */
+/** Reads a description from the content of a file; sets @p fault if that is not a description. */
 QDomDocument parse(const QByteArray &content, std::optional<DescriptionFault> *fault);
 
-/** Whether a button, an entry of a menu or one of a list bears the name. */
+/** Whether a button or an entry of a menu or list has the name. */
 bool offers(const QDomDocument &description, const QString &name);
 
-/** Lets a toolbar begin with the tab of that name, if it has one, whichever is described so. */
+/** Checks the tab of that name and unchecks the others; no effect without such a tab. */
 void beginWithTab(QDomDocument &description, const QString &name);
 
 /**
- * Ends the menu of recent files with an entry that clears it. Only with such an entry does the
- * toolbar list recent files; the shipped descriptions have none.
+ * Adds the entry that clears the recent files to the end of their menu. Without it the toolbar
+ * lists no recent files, and the shipped descriptions lack it.
  */
 void addClearHistory(QDomDocument &description);
 

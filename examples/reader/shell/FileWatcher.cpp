@@ -10,7 +10,7 @@
 
 namespace {
 
-// Editors empty a file before they fill it, and some write it in several steps.
+// Editors truncate a file before they write it, and some write it in several steps.
 constexpr std::chrono::milliseconds settleTime(150);
 constexpr std::chrono::milliseconds returnTime(400);
 
@@ -33,11 +33,11 @@ void FileWatcher::start()
 
 void FileWatcher::look()
 {
-    // What is watched is the file that once had this name. It may have been replaced by another, so
-    // the watch is laid anew each time, and before reading, lest a change in between be missed.
+    // QFileSystemWatcher watches the inode, which may have been replaced. So the path is added
+    // again each time, before the file is read, so that no change in between is missed.
     m_watcher.removePath(m_path);
     if (!m_watcher.addPath(m_path))
-        m_timer.start(returnTime); // Nothing tells of the return of a file that is gone.
+        m_timer.start(returnTime); // The watcher does not report that a missing file returns.
 
     const Reading now = read();
     if (m_last && m_last->content == now.content && m_last->fault == now.fault)

@@ -10,7 +10,7 @@
 
 #include <optional>
 
-/** Reads a file, and again whenever it has been saved, in whichever way an editor does that. */
+/** Reads a file, and again whenever an editor has saved it, in place or by replacing it. */
 class FileWatcher : public QObject
 {
     Q_OBJECT
@@ -18,14 +18,14 @@ class FileWatcher : public QObject
 public:
     explicit FileWatcher(const QString &path, QObject *parent = nullptr);
 
-    /** Reads the file for the first time, before returning. */
+    /** Reads the file and emits fileRead() before it returns. */
     void start();
 
 Q_SIGNALS:
     /**
-     * The file has another content than before, or went, or came back.
+     * The content of the file has changed, or the file was removed or created.
      *
-     * @param fault why there is no content; empty if there is.
+     * @param fault Why the file cannot be read; empty if it can.
      */
     void fileRead(const QByteArray &content, const QString &fault);
 

@@ -29,7 +29,7 @@ KeyboardReach::KeyboardReach(QMainWindow *window, FocusControl focusControl)
     addCommandKeys();
     addPlaceKeys();
     addKey(QStringLiteral("Esc"), [this] { Q_EMIT escapePressed(); });
-    // Later, when it is known whether another widget, or another window, takes the focus.
+    // Queued, because only then it is known whether another widget or window gets the focus.
     connect(qApp, &QApplication::focusChanged, this, &KeyboardReach::keepFocus,
             Qt::QueuedConnection);
 }
@@ -41,7 +41,7 @@ bool KeyboardReach::isField(const QWidget *widget)
 
 void KeyboardReach::addCommandKeys()
 {
-    // The keys that the tooltips of the shipped descriptions promise, and what readers expect.
+    // The keys in the tooltips of the shipped descriptions, and common ones.
     const QMap<QString, QString> keys = {
         {QStringLiteral("Ctrl+O"), QStringLiteral("f_open")},
         {QStringLiteral("Ctrl+S"), QStringLiteral("f_save")},
@@ -52,7 +52,7 @@ void KeyboardReach::addCommandKeys()
         {QStringLiteral("Ctrl+A"), QStringLiteral("e_selectall")},
         {QStringLiteral("Ctrl+Shift+A"), QStringLiteral("e_unselect")},
         {QStringLiteral("Ctrl++"), QStringLiteral("v_zoomin")},
-        {QStringLiteral("Ctrl+="), QStringLiteral("v_zoomin")}, // The same key without Shift.
+        {QStringLiteral("Ctrl+="), QStringLiteral("v_zoomin")}, // Ctrl++ without Shift.
         {QStringLiteral("Ctrl+-"), QStringLiteral("v_zoomout")},
         {QStringLiteral("Ctrl+0"), QStringLiteral("vzmode_original")},
         {QStringLiteral("F11"), QStringLiteral("v_fullscreen")},
@@ -91,7 +91,7 @@ void KeyboardReach::addKey(const QString &key, const std::function<void()> &pres
 
 void KeyboardReach::keepFocus()
 {
-    // The zoom box lets go of the focus, to nobody, once a zoom is chosen.
+    // The zoom box clears its focus after a choice, which leaves the window without focus.
     if (m_window->isActiveWindow() && !QApplication::focusWidget())
         m_window->centralWidget()->setFocus();
 }

@@ -11,21 +11,21 @@
 class QMainWindow;
 
 /**
- * The keys of the reader's window: those of commands, those that reach what the Tab key passes over
- * or comes to late, and Escape. A focus that gets lost goes back to the pages.
+ * The shortcuts of the reader's window: those of commands, those for the fields of the toolbar, and
+ * Escape. When no widget has the focus any more, the pages get it.
  */
 class KeyboardReach : public QObject
 {
     Q_OBJECT
 
 public:
-    /** Gives the focus to a control of the toolbar by name; false if it is not on show. */
+    /** Focuses a control of the toolbar by name; returns false if it is not visible. */
     using FocusControl = std::function<bool(const QString &name)>;
 
-    /** @param window shows the toolbar and, in its middle, the pages. It owns this object. */
+    /** @param window The window with the toolbar and the pages. It owns this object. */
     KeyboardReach(QMainWindow *window, FocusControl focusControl);
 
-    /** Whether one types into the widget, which then is what Escape leaves first. */
+    /** Whether the widget takes typed text. Escape first leaves such a widget. */
     static bool isField(const QWidget *widget);
 
 Q_SIGNALS:

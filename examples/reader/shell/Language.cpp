@@ -12,7 +12,7 @@
 
 namespace {
 
-/** Where the toolkit keeps the translations of its own dialogs. */
+/** The folder of the translations of Qt's own dialogs. */
 QString toolkitFolder()
 {
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
@@ -25,7 +25,7 @@ QString toolkitFolder()
 void installFrom(const QString &folder, const QString &catalogue, const QLocale &locale)
 {
     auto translator = std::make_unique<QTranslator>(QCoreApplication::instance());
-    // A text without a translation is shown as the sources have it.
+    // Without a catalogue the texts of the sources are shown.
     if (translator->load(locale, catalogue, QStringLiteral("_"), folder))
         QCoreApplication::installTranslator(translator.release());
 }

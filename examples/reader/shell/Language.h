@@ -5,10 +5,10 @@
 
 class QString;
 
-/** Has the reader, the library and the toolkit speak a language, as far as there are catalogues. */
+/** The language of the reader, the library and Qt, as far as there are catalogues. */
 namespace Language {
 
-/** To be called once, before anything is shown. */
+/** Installs the translators. Call this before any widget is created. */
 void install(const QString &name);
 
 } // namespace Language

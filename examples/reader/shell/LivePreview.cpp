@@ -42,7 +42,7 @@ QVector<Finding> check(const QByteArray & /*content*/, const QString & /*skin*/)
 }
 #endif
 
-/** Notes are many, and must not hide what is wrong. */
+/** Sorts errors before notes, which are numerous. */
 bool isWorse(const Finding &one, const Finding &other)
 {
     return one.severity > other.severity;
@@ -78,7 +78,7 @@ void LivePreview::showFile(const QByteArray &content, const QString &fault)
     std::optional<DescriptionFault> parseFault;
     QDomDocument description = Description::parse(content, &parseFault);
     QVector<Finding> findings = check(content, m_options.skin);
-    // The checker has more to say about a text that is no description, but may not be there.
+    // Used if the checker, which reports more about such a file, is not part of the build.
     if (parseFault && !hasErrors(findings))
         findings.prepend(finding(*parseFault));
     std::stable_sort(findings.begin(), findings.end(), isWorse);

@@ -10,15 +10,15 @@ class FindingsPanel;
 class ReaderWindow;
 
 /**
- * Shows a description while it is being written: each time its file is saved, the toolbar is
- * rebuilt and the findings are listed. While the file cannot be read, the toolbar stays as it is.
+ * Rebuilds the toolbar and lists the findings each time the file of a description is saved. While
+ * the file cannot be read, the toolbar is not changed.
  */
 class LivePreview : public QObject
 {
     Q_OBJECT
 
 public:
-    /** The toolbar and the findings are up to date when the constructor returns. */
+    /** Reads the file before it returns. */
     LivePreview(ReaderWindow &window, const Options &options);
 
 private:

@@ -68,7 +68,7 @@ const QCommandLineOption &watchOption()
     return option;
 }
 
-/** Only a file of one's own is ever saved; the shipped descriptions are part of the library. */
+/** Why a description cannot be watched, such as the shipped ones, which are resources. */
 QString watchFaultOf(const QString &description)
 {
     if (Description::isShipped(description))

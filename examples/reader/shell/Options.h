@@ -6,7 +6,7 @@
 #include <QString>
 #include <QStringList>
 
-/** What was asked for on the command line, whose own texts are English in every language. */
+/** The options of the command line. Its texts are not translated. */
 struct Options
 {
     QString skin;
@@ -17,7 +17,6 @@ struct Options
     bool clearHistory = false;
     bool watch = false; ///< Follow the description, which is a file, whenever it is saved.
 
-    /** Shows the help and ends the program if that is asked for; tells what is wrong in @p error.
-     */
+    /** Parses the arguments. On --help prints the help and ends the program. */
     static Options of(const QStringList &arguments, QString *error);
 };

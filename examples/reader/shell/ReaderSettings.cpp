@@ -56,6 +56,6 @@ QString ReaderSettings::quickAccessButtons(const QString &skin) const
 
 void ReaderSettings::setQuickAccessButtons(const QString &skin, const QString &buttons)
 {
-    // An empty setting means that none was made; a lone separator, that no button is wanted.
+    // An empty setting means the default of the description; a separator alone means no button.
     m_settings.setValue(quickAccessKey + skin, buttons.isEmpty() ? QStringLiteral(";") : buttons);
 }

@@ -8,7 +8,7 @@
 #include <QSettings>
 #include <QStringList>
 
-/** What the reader remembers from one run to the next. */
+/** The settings that the reader keeps between runs. */
 class ReaderSettings : public RecentFiles
 {
 public:
@@ -21,7 +21,7 @@ public:
     int recentLimit() const override;
     void setRecentLimit(int limit) override;
 
-    /** The quick access buttons as the toolbar of that skin gave them; empty on the first run. */
+    /** The stored quick access setting for that skin; empty on the first run. */
     QString quickAccessButtons(const QString &skin) const;
     void setQuickAccessButtons(const QString &skin, const QString &buttons);
 

@@ -33,7 +33,7 @@ constexpr int logWidth = 300;
 constexpr QSize windowSize(1280, 800);
 constexpr int referenceDpi = 96;
 
-/** The one local file that is being dragged; empty for anything else. */
+/** The local file that is dragged; empty unless it is exactly one. */
 QString droppedFile(const QMimeData &data)
 {
     const QList<QUrl> urls = data.urls();
@@ -73,7 +73,7 @@ ReaderWindow::ReaderWindow(const QDomDocument &description, const QString &skin)
 
 ReaderWindow::~ReaderWindow()
 {
-    // The docks go last, with the window, and have no business with a document that is gone.
+    // The docks are deleted after the document, whose signals must not reach them any more.
     m_document.disconnect();
     m_document.undoStack().disconnect();
     m_navigation->disconnect(this);
@@ -138,7 +138,7 @@ void ReaderWindow::removeToolBar()
         m_view->setFocus();
     m_report.reset();
     m_toolBar.reset();
-    // Not later: the next toolbar is made when the former is gone, as both bear the same names.
+    // Not deleteLater(): the next toolbar has the same object names, so this one must not exist.
     delete bar;
 }
 
@@ -164,7 +164,7 @@ void ReaderWindow::returnToPages()
 {
     if (isFullScreen() && !KeyboardReach::isField(focusWidget()))
         m_viewCommands.toggleFullScreen();
-    // Its title bar has no button for the keyboard.
+    // The close button of a dock cannot be reached by the keyboard.
     if (m_search->isAncestorOf(focusWidget()))
         m_search->hide();
     m_report->tellFields();
@@ -245,7 +245,7 @@ void ReaderWindow::answerRequest()
 
 void ReaderWindow::followZoomBox()
 {
-    // DoSetZoomMode() does not report everything that the user chooses in the box.
+    // DoSetZoomMode() does not report every choice in the zoom box.
     const QList<QComboBox *> boxes = ToolBarReach::zoomBoxes(*this);
     for (const QComboBox *box : boxes) {
         connect(box, QOverload<int>::of(&QComboBox::activated), this, &ReaderWindow::readZoomBox,
@@ -275,7 +275,7 @@ void ReaderWindow::openSample()
 
 ZoomMode ReaderWindow::shownZoom() const
 {
-    // A zoom box would show parts of the name of a mode that it does not offer.
+    // For a mode without an entry, the zoom box would show parts of the name of the mode.
     const ZoomMode mode = m_view->zoomMode();
     const bool isFitted = mode.isValid() && mode.kind() != ZoomMode::Percent;
     return isFitted && !Description::offers(m_description, mode.name())
@@ -304,7 +304,7 @@ ReaderState ReaderWindow::state() const
 
 void ReaderWindow::stateChanged()
 {
-    // One command changes several things; the toolbar is told once, when all is done.
+    // A command may change several things, which are reported to the toolbar together.
     m_updateTimer.start(0);
 }
 

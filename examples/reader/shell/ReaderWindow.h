@@ -27,24 +27,24 @@ class QLabel;
 class SearchPanel;
 class SignalLog;
 
-/** The reader: a toolbar made from a description, the pages, and the docks around them. */
+/** The main window of the reader: a toolbar made from a description, the pages, and docks. */
 class ReaderWindow : public QMainWindow
 {
     Q_OBJECT
 
 public:
     /**
-     * @param skin under which name the quick access buttons of this skin are remembered; empty to
-     *             have them as described each time.
+     * @param skin The name under which the quick access setting is stored; empty to always use
+     *             that of the description.
      */
     ReaderWindow(const QDomDocument &description, const QString &skin);
     ~ReaderWindow() override;
 
-    /** Replaces the toolbar; the document, and how it is looked at, stay as they are. */
+    /** Replaces the toolbar; the document and its view are not changed. */
     void setDescription(QDomDocument description);
 
     void open(const QString &fileName);
-    /** Opens a document that leaves no trace in the recent files. */
+    /** Opens a generated document, which is not added to the recent files. */
     void openSample();
 
 protected:

@@ -9,7 +9,7 @@
 
 class QWindow;
 
-/** Saves a picture of a window as soon as it is on the screen and has stopped changing. */
+/** Saves a picture of a window when it is visible and does not change any more. */
 class Screenshot : public QObject
 {
     Q_OBJECT
@@ -19,7 +19,7 @@ public:
 
 Q_SIGNALS:
     void saved();
-    /** The window did not come up, or the file cannot be written. */
+    /** The window did not become visible, or the file cannot be written. */
     void failed(const QString &reason);
 
 private:

@@ -46,7 +46,7 @@ void ToolBarReport::tellChanges(const ReaderState &state)
     const ReaderState before = m_told;
     m_told = state;
     tellUsable(state);
-    // What the user is typing into a field must not be written over without need.
+    // A report replaces text that the user is typing, so it is sent only after a change.
     if (before.page != state.page || before.pageCount != state.pageCount)
         tellPage();
     if (before.zoomMode != state.zoomMode)
@@ -75,7 +75,7 @@ void ToolBarReport::tellUsable(const ReaderState &state)
 
 void ToolBarReport::tellChecked(const ReaderState &state)
 {
-    // A control is checked by being triggered, for which it must be enabled.
+    // Checking by name triggers the action, which works only while it is enabled.
     if (!state.isOpen)
         return;
     for (const QString &name : panelNames()) {
@@ -93,7 +93,7 @@ void ToolBarReport::tellChecked(const ReaderState &state)
     }
     setChecked(zoomButton, true);
     setChecked(state.layoutMode, true);
-    // Last: whatever else is reported lets go of the shape button.
+    // Last, because checking any other control by name unchecks the shape button.
     setChecked(state.tool, true);
 }
 

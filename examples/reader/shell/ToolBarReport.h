@@ -8,17 +8,17 @@
 
 class MRToolBar;
 
-/** Tells the toolbar how the reader stands. */
+/** Reports the state of the reader to the toolbar. */
 class ToolBarReport
 {
 public:
     ToolBarReport(MRToolBar &toolBar, const CommandTable &commands);
 
-    /** Controls were just made and know nothing yet: everything is told. */
+    /** Reports everything, after new controls were created. */
     void tellAll(const ReaderState &state);
-    /** Something happened: what is shown in fields is told only where it changed. */
+    /** Reports the states again; the contents of fields only if they have changed. */
     void tellChanges(const ReaderState &state);
-    /** What the user has begun to type gives way to how the reader stands. */
+    /** Reports the contents of fields, which discards text that the user has begun to type. */
     void tellFields();
 
 private:

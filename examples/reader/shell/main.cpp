@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The MRToolBar authors
 // SPDX-License-Identifier: MIT
 
-// A small OFD reader, whose commands all come from the toolbar.
+// A small OFD reader whose commands are all on the toolbar.
 
 #include "shell/Description.h"
 #include "shell/Language.h"
@@ -27,7 +27,7 @@ int fail(const QString &reason)
     return 1;
 }
 
-/** What the toolbar begins with: nothing where a watched file is about to give it. */
+/** The first description of the toolbar; empty with --watch, where the file is read later. */
 QDomDocument describedToolBar(const Options &options, QString *error)
 {
     if (options.watch)
@@ -43,7 +43,7 @@ QDomDocument describedToolBar(const Options &options, QString *error)
 int main(int argc, char *argv[])
 {
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
-    // Icons as fine as the screen; the newer toolkit does so by itself.
+    // Qt 6 always uses pixmaps of the density of the screen.
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
 #endif
     QApplication application(argc, argv);
@@ -58,9 +58,9 @@ int main(int argc, char *argv[])
     if (!error.isEmpty())
         return fail(error);
 
-    // The skin is the process's, and is chosen before the first toolbar is made.
+    // The skin belongs to the process and must be chosen before the first toolbar is created.
     NewToolBar::uiStyle = options.skin == QLatin1String("lum") ? lumStyle : 0;
-    // The user's buttons of quick access would hide what a watched description says of them.
+    // With --watch the description decides about the quick access buttons, not the user's setting.
     ReaderWindow window(description, options.watch ? QString() : options.skin);
     std::optional<LivePreview> preview;
     if (options.watch)
