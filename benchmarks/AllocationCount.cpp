@@ -6,8 +6,8 @@
 #include <atomic>
 #include <cstddef>
 
-// The program's own definitions take the place of those of the C library, which are to be had
-// under these names.
+// These definitions replace malloc() and its relatives of the C library, which are available under
+// the names with the prefix __libc_.
 extern "C" {
 void *__libc_malloc(size_t size);
 void *__libc_calloc(size_t count, size_t size);

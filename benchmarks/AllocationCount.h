@@ -3,5 +3,5 @@
 
 #pragma once
 
-/** How often this process has asked the heap for memory so far; every library in it counts. */
+/** The number of heap allocations of this process so far, including those of all libraries. */
 long allocationCount();

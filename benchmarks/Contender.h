@@ -8,23 +8,23 @@
 class QMainWindow;
 
 /**
- * One way to give a window the commands of a workload. The tab buttons bear the tabs' names; a
- * click on one opens its row.
+ * One way to give a window the commands of a workload. The object name of a tab button is the name
+ * of the tab, and a click on it opens the row.
  */
 class Contender
 {
 public:
     virtual ~Contender() = default;
 
-    /** Reads what the host would read before there is a toolbar; timed apart. */
+    /** Reads the files that a host reads before it creates the toolbar; timed separately. */
     virtual void prepare() {}
-    /** Makes everything that is there when the window is shown, the row of the first tab too. */
+    /** Creates everything that the first shown window needs, including the row of the first tab. */
     virtual void build(QMainWindow &window) = 0;
-    /** Lets go of what a host needs no more once there is a toolbar; not timed. */
+    /** Deletes what a host does not need any more after construction; not timed. */
     virtual void tidyUp() {}
 
     virtual void setUsable(QString &name, bool usable) = 0;
     virtual void setChecked(QString &name, bool checked) = 0;
-    /** Another main colour; false if there are no colours to change. */
+    /** Sets another main colour; returns false if there are no colours to change. */
     virtual bool changeColours() { return false; }
 };

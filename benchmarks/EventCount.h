@@ -7,7 +7,7 @@
 #include <QEvent>
 #include <QObject>
 
-/** Counts the events of one type that are delivered while it lives. */
+/** Counts the events of one type that are delivered during its lifetime. */
 class EventCount : public QObject
 {
 public:

@@ -15,8 +15,8 @@ class QToolBar;
 class QWidget;
 
 /**
- * The floor: the same tabs and commands written by hand on the bare toolkit, without a description
- * and without a style sheet. Rows and the menu are filled when they are opened first.
+ * The floor: the same tabs and commands as plain Qt widgets, without a description and without a
+ * style sheet. Rows and the menu are filled when they are first opened.
  */
 class HandMadeContender : public Contender
 {

@@ -18,14 +18,14 @@
 
 namespace {
 
-/** Handles all that is waiting until the window has been painted since @p paints was made. */
+/** Processes events until the window has been painted after the creation of @p paints. */
 void waitForPaint(const EventCount &paints)
 {
     while (paints.count() == 0)
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
-/** Pages in memory, in MiB. */
+/** The resident memory in MiB. */
 double residentMemory()
 {
     QFile file(QStringLiteral("/proc/self/statm"));
@@ -149,7 +149,7 @@ void Measurement::moveMouse()
     if (!button)
         qFatal("No button to move the mouse over");
 
-    // What is made on a first move only is left out.
+    // Objects that are created on the first move are not counted.
     for (int i = 0; i < warmUp; ++i)
         sendMove(button, QPoint(2 + i % 10, 8));
     settle();

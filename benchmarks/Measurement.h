@@ -12,7 +12,7 @@
 
 class Contender;
 
-/** Takes all figures of one contender, once, in a process that has shown nothing before. */
+/** Measures one contender once, in a process that has not shown a window before. */
 class Measurement
 {
 public:
@@ -20,7 +20,7 @@ public:
     Measurement(const QString &contender, const Workload &workload);
     ~Measurement();
 
-    /** The figures by name: milliseconds, microseconds, MiB and counts as the names say. */
+    /** The figures by name. The name includes the unit: milliseconds, microseconds, MiB or none. */
     QJsonObject run();
 
 private:

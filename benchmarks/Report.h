@@ -6,13 +6,13 @@
 #include <QJsonObject>
 #include <QString>
 
-/** How the figures of Runner are shown. */
+/** The output of the figures of Runner. */
 namespace Report {
 
-/** A table of one workload: a line per figure, with the ratio of the toolbar to the floor. */
+/** A table of one workload: a line for each figure, with the ratio of the toolbar to the floor. */
 QString table(const QString &workload, const QJsonObject &medians);
 
-/** Writes everything measured; returns whether that was possible. */
+/** Writes all figures to a file; returns false on failure. */
 bool writeJson(const QString &path, const QJsonObject &results);
 
 } // namespace Report

@@ -57,7 +57,7 @@ QJsonObject Runner::run(const Workload &workload, int repetitions)
 {
     QMap<QString, Samples> samples;
     for (int repetition = 0; repetition < repetitions; ++repetition) {
-        // In turn, so that a busy machine is as busy for the one as for the other.
+        // In turn, so that other load on the machine affects both alike.
         for (const QString &contender : contenders()) {
             const QJsonObject figures = runOnce(contender, workload);
             if (figures.isEmpty())

@@ -8,10 +8,10 @@
 #include <QJsonObject>
 #include <QStringList>
 
-/** Runs this program again, a process per contender and repetition, and takes medians. */
+/** Runs this program in a process for each contender and repetition, and computes medians. */
 namespace Runner {
 
-/** The contenders in the order in which they take turns: what is measured, then the floor. */
+/** The contenders in the order of their runs: the toolbar, then the floor. */
 QStringList contenders();
 
 /** The medians of all figures by contender; empty if a run has failed. */

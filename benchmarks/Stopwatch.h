@@ -7,17 +7,17 @@
 #include <QJsonObject>
 #include <QString>
 
-/** Measures the time that passes and the processor time that this process uses. */
+/** Measures the elapsed time and the processor time of this process. */
 class Stopwatch
 {
 public:
-    /** Starts. */
+    /** Starts the measurement. */
     Stopwatch();
 
     /** Stores both times since the start, in milliseconds each divided by @p count. */
     void store(QJsonObject &figures, const QString &name, double count = 1.0) const;
 
-    /** What stands behind the name of a figure that is processor time. */
+    /** The suffix of the names of processor times. */
     static QString processorSuffix();
 
 private:

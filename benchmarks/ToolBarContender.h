@@ -12,7 +12,7 @@
 
 class MRToolBar;
 
-/** The library's toolbar, made of a description. */
+/** The library's toolbar, made from a description. */
 class ToolBarContender : public Contender
 {
 public:

@@ -7,7 +7,7 @@
 
 namespace {
 
-/** As many as a full reader has on its busiest tabs, so that icons recur as they do there. */
+/** As many icons as on the longest rows of a real reader, so that they recur as often. */
 constexpr std::array icons{
     "AffixImage", "AnnotDelete", "Arrow",      "Attachment", "Bookmark", "Callout",   "Cloud",
     "Copy",       "Delete",      "DoublePage", "Ellipse",    "Export",   "Find",      "FirstPage",

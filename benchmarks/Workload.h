@@ -6,7 +6,7 @@
 #include <QString>
 #include <QStringList>
 
-/** What both contenders have to show: tabs with a row of commands each, and a file menu. */
+/** The contents of both contenders: tabs with a row of commands each, and a file menu. */
 struct Workload
 {
     int tabs = 3;
@@ -14,20 +14,20 @@ struct Workload
 
     static constexpr int menuEntries = 12;
 
-    /** Such as "3x30". */
+    /** The name of the workload, such as "3x30". */
     QString name() const;
     QString tabName(int tab) const;
     QString commandName(int tab, int command) const;
     QString menuEntryName(int entry) const;
-    /** The names of all commands, tab by tab. */
+    /** The names of all commands in the order of the tabs. */
     QStringList commandNames() const;
 
     static QString commandText(int command);
     static QString commandToolTip(int command);
-    /** Below the skin's directory of icons. */
+    /** The path of a command's icon below the skin's directory of icons. */
     static QString commandIcon(int command);
     static QString iconDirectory();
 
-    /** The same as a description of the library's format, with the first tab checked. */
+    /** The workload as a description, with the first tab checked. */
     QString description() const;
 };

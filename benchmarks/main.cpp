@@ -82,7 +82,7 @@ int runAll(const QCommandLineParser &parser)
     return file.isEmpty() || Report::writeJson(file, results) ? 0 : 1;
 }
 
-/** The program that measures needs a window; the one that starts it does without the toolkit. */
+/** Whether this process measures, which needs a QApplication; the one that starts it does not. */
 bool isContender(int argc, char *argv[])
 {
     return std::any_of(argv, argv + argc, [](const char *argument) {

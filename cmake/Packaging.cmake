@@ -21,7 +21,7 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
 
-# The library has the same name for both toolkits, so only one of them can be installed.
+# The library has the same name with both versions of Qt, so only one of them can be installed.
 set(other_major 5)
 set(toolkit_packages qt6-base-dev)
 set(svg_plugin libqt6svg6)

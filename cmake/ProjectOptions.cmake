@@ -5,7 +5,7 @@
 add_library(mrtoolbar_options INTERFACE)
 target_compile_features(mrtoolbar_options INTERFACE cxx_std_17)
 target_compile_options(mrtoolbar_options INTERFACE -Wall -Wextra -Wpedantic)
-# Calls that a newer toolkit will no longer have are errors today.
+# Calls that a newer version of Qt removes are errors.
 if(MRTOOLBAR_QT_MAJOR EQUAL 5)
     target_compile_definitions(mrtoolbar_options INTERFACE QT_DISABLE_DEPRECATED_BEFORE=0x050F00)
 else()

@@ -2,14 +2,14 @@
 # SPDX-License-Identifier: MIT
 
 # shellcheck shell=bash
-# What demo.sh and test.sh share; they source it, nobody runs it.
+# Functions shared by the scripts of this folder, which source this file.
 
 root=$(cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.." && pwd)
 
-# What every build and every window needs; need_toolkit and the scripts add to it.
+# The packages that every build and every window needs; need_qt and the scripts add more.
 needed=(g++ cmake ninja-build fonts-noto-cjk)
 
-# What start_xvfb leaves for stop_xvfb.
+# Set by start_xvfb and used by stop_xvfb.
 xvfb_pid=
 scratch=
 
@@ -41,9 +41,9 @@ require_one_of()
     usage_error "$option takes one of: $*, not '$value'"
 }
 
-# need_toolkit VERSION: the headers, the plug-in that draws the SVG icons, what the example reader
-# opens files with, and the tools for translations with those of the toolkit's own texts.
-need_toolkit()
+# need_qt VERSION: adds the headers of Qt, the plug-in for SVG icons, the library that the example
+# reader opens files with, the tools for translations and the translations of Qt.
+need_qt()
 {
     case $1 in
         5)
@@ -67,14 +67,14 @@ as_root()
     if ((EUID == 0)); then "$@"; else sudo "$@"; fi
 }
 
-# A machine that has just booted may still be upgrading itself, hence the wait for the lock.
+# Waits for the lock, because an automatic upgrade may run after booting.
 run_apt()
 {
     as_root env DEBIAN_FRONTEND=noninteractive \
         apt-get -q -y -o DPkg::Lock::Timeout=300 "$@" </dev/null 2>&1
 }
 
-# Installs what is missing of the needed packages; with nothing missing, apt is not called at all.
+# Installs the missing packages; does not call apt if there are none.
 install_needed()
 {
     local package output missing=()
@@ -87,8 +87,8 @@ install_needed()
     ((EUID == 0)) || command -v sudo >/dev/null \
         || die "root or sudo is needed to install: ${missing[*]}"
     say "installing (this may take some minutes): ${missing[*]}"
-    # One unreachable source among several fails the update, yet may hold nothing that is needed:
-    # whether the lists are good enough, the installation tells.
+    # The update fails if one of several sources is unreachable. That may be a source that is not
+    # needed, so only a failure of the installation counts.
     output=$(run_apt update) || true
     output+=$'\n'$(run_apt install --no-install-recommends "${missing[@]}") || {
         printf '%s\n' "$output" >&2
@@ -122,22 +122,22 @@ configure()
     local directory=$1 options=()
     shift
     is_configured "$directory" "$@" && return
-    # A checkout that was moved or copied brings a cache that CMake would refuse.
+    # CMake refuses the cache of a checkout that was moved or copied.
     [[ $(cached "$directory" CMAKE_HOME_DIRECTORY) == "$root" ]] || options+=(--fresh)
     command -v ccache >/dev/null && options+=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
     cmake "${options[@]}" "${@/#/-D}" -S "$root" -B "$directory" -G Ninja
 }
 
-# start_xvfb DPI: opens a display of our own, on a free number, for what runs from here on.
+# start_xvfb DPI: starts an X server on a free display number and exports DISPLAY.
 start_xvfb()
 {
     local dpi=$1 width height number reply
-    # The screen grows with the density, so that a window has the same room on each.
+    # The size of the screen is proportional to the density, so that windows fit on every screen.
     width=$((dpi > 96 ? 1600 * dpi / 96 : 1600))
     height=$((dpi > 96 ? 1200 * dpi / 96 : 1200))
     scratch=$(mktemp -d)
     trap stop_xvfb EXIT
-    # No reset when the last client leaves: the next test would connect in the middle of it.
+    # -noreset: after the last client has left, the next test would connect during a reset.
     exec {reply}< <(exec Xvfb -displayfd 3 -screen 0 "${width}x${height}x24" -dpi "$dpi" \
         -noreset -nolisten tcp -wr 3>&1 >"$scratch/xvfb.log" 2>&1)
     xvfb_pid=$!
@@ -157,7 +157,7 @@ stop_xvfb()
     rm -rf "$scratch"
 }
 
-# use_display DISPLAY: what is shown there must not depend on the desktop of whoever runs this.
+# use_display DISPLAY: exports DISPLAY and removes the settings of the user's desktop.
 use_display()
 {
     unset WAYLAND_DISPLAY XDG_CURRENT_DESKTOP QT_QPA_PLATFORMTHEME QT_STYLE_OVERRIDE \
@@ -165,8 +165,8 @@ use_display()
     export DISPLAY=$1 QT_QPA_PLATFORM=xcb LC_ALL=C.UTF-8 XDG_RUNTIME_DIR=$scratch
 }
 
-# use_density DPI WIDTH HEIGHT: Qt 5 believes the density of the server. Qt 6 wants what a dense
-# desktop has besides: a monitor that knows its size in millimetres, and a density of the fonts.
+# use_density DPI WIDTH HEIGHT: Qt 5 uses the density of the X server. Qt 6 also needs a monitor
+# with a size in millimetres, and the density of the fonts.
 use_density()
 {
     local dpi=$1 width=$2 height=$3

@@ -2,7 +2,7 @@
 # SPDX-FileCopyrightText: The MRToolBar authors
 # SPDX-License-Identifier: MIT
 
-# Builds the example reader and opens it; --help tells the options.
+# Builds the example reader and opens it; --help lists the options.
 set -euo pipefail
 # shellcheck source-path=SCRIPTDIR source=common.sh
 source "$(dirname -- "${BASH_SOURCE[0]}")/common.sh"
@@ -79,10 +79,10 @@ need_display()
 {
     if needs_own_display; then
         needed+=(xvfb)
-        # For xrandr.
+        # Contains xrandr, which use_density calls.
         [[ ${dpi:-96} == 96 ]] || needed+=(x11-xserver-utils)
     elif [[ -z ${DISPLAY-} ]]; then
-        # A Wayland session without an X server beside it needs the toolkit's plug-in.
+        # A Wayland session without an X server needs the platform plug-in of Qt for Wayland.
         case $qt in
             5) needed+=(qtwayland5) ;;
             6) needed+=(qt6-wayland) ;;
@@ -97,7 +97,7 @@ open_example()
         : "${screenshot:=$build/$example-$skin-${dpi:-96}dpi.png}"
         start_xvfb "${dpi:-96}"
     elif [[ -z ${DISPLAY-} ]]; then
-        # Qt 5 would look for an X server even so.
+        # Without this, Qt 5 would look for an X server.
         export QT_QPA_PLATFORM=wayland
     fi
     [[ -z $description ]] || arguments+=(--description "$description")
@@ -108,7 +108,7 @@ open_example()
 
 read_options "$@"
 build=$root/build/qt$qt
-need_toolkit "$qt"
+need_qt "$qt"
 need_display
 install_needed
 configure "$build" "MRTOOLBAR_QT_MAJOR=$qt"

@@ -2,7 +2,7 @@
 # SPDX-FileCopyrightText: The MRToolBar authors
 # SPDX-License-Identifier: MIT
 
-# Takes the pictures of the toolbar; --help tells the options.
+# Takes the pictures of the toolbar; --help lists the options.
 set -euo pipefail
 # shellcheck source-path=SCRIPTDIR source=common.sh
 source "$(dirname -- "${BASH_SOURCE[0]}")/common.sh"
@@ -79,7 +79,7 @@ take_sheets()
     QT_QPA_PLATFORM=offscreen "$build/bin/mrtoolbar-contactsheet" --out "$folder/icons.png"
 }
 
-# The status bar tells the path that the file was given by.
+# The status bar shows the path of the file as given, so a relative path is passed.
 take_reader()
 {
     local skin
@@ -90,8 +90,8 @@ take_reader()
     done
 }
 
-# take_example PROGRAM PICTURE [X Y [X Y]]: as the program starts, or after a click at the first place
-# of its window, with the pointer at the second.
+# take_example PROGRAM PICTURE [X Y [X Y]]: takes the window after the start of the program, or
+# after a click at the first position in the window, with the pointer at the second one.
 take_example()
 {
     local program=$1 picture=$folder/guide/$2.png example window
@@ -137,12 +137,12 @@ if [[ $pages ]]; then
     needed+=(xvfb imagemagick xdotool)
 else
     : "${folder:=$root/build/pictures}"
-    # For xrandr.
+    # x11-xserver-utils contains xrandr, which use_density calls.
     needed+=(xvfb x11-xserver-utils)
 fi
 mkdir -p -- "$folder"
 folder=$(cd -- "$folder" && pwd)
-need_toolkit "$version"
+need_qt "$version"
 install_needed
 build=$root/build/qt$version
 if [[ $pages ]]; then take_pages; else take_sheets; fi

@@ -2,7 +2,7 @@
 # SPDX-FileCopyrightText: The MRToolBar authors
 # SPDX-License-Identifier: MIT
 
-# Builds the library on both versions of the toolkit and runs its tests; --help tells the options.
+# Builds the library with both versions of Qt and runs its tests; --help lists the options.
 set -euo pipefail
 # shellcheck source-path=SCRIPTDIR source=common.sh
 source "$(dirname -- "${BASH_SOURCE[0]}")/common.sh"
@@ -46,7 +46,7 @@ sanitize()
     suffix=-sanitize
     export LSAN_OPTIONS="suppressions='$suppressions':print_suppressions=0"
     export UBSAN_OPTIONS=print_stacktrace=1
-    # Nothing here needs GL, whose driver keeps memory and is unloaded before that can be seen.
+    # Without GL, because its driver leaks memory and is unloaded before the leak can be attributed.
     export QT_XCB_GL_INTEGRATION=none
 }
 
@@ -62,8 +62,8 @@ build()
 run_tests()
 {
     say "testing with Qt $1"
-    # Whatever uses freed memory, in Qt as well as here, is to notice; the sanitizers see to it
-    # by themselves.
+    # Overwrites freed memory, so that its use fails, in Qt as well. The sanitizers detect it
+    # without these settings.
     [[ $suffix ]] || local -x GLIBC_TUNABLES=glibc.malloc.tcache_count=0 MALLOC_PERTURB_=165
     ctest --test-dir "$root/build/qt$1$suffix" --output-on-failure --no-tests=error --timeout 300
 }
@@ -71,11 +71,11 @@ run_tests()
 read_options "$@"
 needed+=(xvfb python3 libxml2-utils pkg-config clang-format)
 for version in "${versions[@]}"; do
-    need_toolkit "$version"
+    need_qt "$version"
 done
 install_needed
 
-# The tests come after all the building, so that their summaries end the output.
+# The tests run after both builds, so that their summaries are at the end of the output.
 built=()
 unbuilt=()
 for version in "${versions[@]}"; do

@@ -2,12 +2,12 @@
 # SPDX-FileCopyrightText: The MRToolBar authors
 # SPDX-License-Identifier: MIT
 
-"""Fails where an #include runs upwards, or where includes go round in a circle.
+"""Fails if an #include is not allowed by the table MAY_INCLUDE, or if includes form a circle.
 
     check_includes.py [ROOT]
 
-The table MAY_INCLUDE names the rooms of the tree; a file belongs to the deepest one that it stands
-in. Which room knows which is told there and nowhere else.
+The keys of the table are the rooms (folders) of the tree; a file belongs to the deepest one that
+contains it.
 """
 
 import posixpath
@@ -15,15 +15,15 @@ import re
 import sys
 from pathlib import Path
 
-#: What stands in toolbar/ and yet belongs to no room of it.
+#: Headers in toolbar/ that every room may include.
 COMMON = "common ground"
 COMMON_GROUND = {"toolbar/Latin1.h", "toolbar/MRToolBarExport.h", "toolbar/NamedList.h",
                  "toolbar/QtCompat.h", "toolbar/ToolBarTypes.h"}
 #: The headers that are installed; toolbar/CMakeLists.txt lists them.
 PUBLIC = "public headers"
 
-#: What the files of each room may include besides those of their own room: a folder stands for all
-#: that is below it.
+#: What the files of a room may include besides those of their own room. A folder includes its
+#: subfolders.
 MAY_INCLUDE = {
     COMMON: [],
     "toolbar": ["toolbar"],
@@ -44,7 +44,7 @@ MAY_INCLUDE = {
 }
 
 FOLDERS = ["toolbar", "examples", "tools", "tests", "benchmarks"]
-#: Where a header is looked for that stands neither beside the file nor below the root.
+#: The folders where a header is searched after the folder of the file and the root.
 MORE_FOLDERS = ["examples/reader"]
 INCLUDE = re.compile(r'\s*#\s*include\s*(?:"([^"]+)"|<([^>]+)>)')
 
@@ -72,12 +72,12 @@ def is_source(path):
 
 
 def resolved(root, path, name):
-    """The included file as a path below the root; None for one that is not ours."""
+    """The included file as a path below the root; None for one outside the tree."""
     for folder in [posixpath.dirname(path), "", *MORE_FOLDERS]:
         candidate = posixpath.normpath(posixpath.join(folder, name))
         if is_source(candidate) and (root / candidate).is_file():
             return candidate
-    # A file that has gone still tells by its path where the include was meant to go.
+    # The path of a missing file still shows its room.
     return name if is_source(name) else None
 
 
@@ -123,10 +123,10 @@ def upward_includes(includes, public):
 
 
 def circles(edges):
-    """The circles that a walk along the edges comes upon, each as the list of its members."""
+    """The circles of the graph, found by a depth-first search, each as the list of its members."""
     done = set()
     for start in sorted(edges):
-        # Each entry is a node and the targets that it still has to go to.
+        # Each entry is a node and its targets that are still to be visited.
         trail = [] if start in done else [(start, iter(sorted(edges[start])))]
         while trail:
             node, targets = trail[-1]

@@ -2,25 +2,25 @@
 # SPDX-FileCopyrightText: The MRToolBar authors
 # SPDX-License-Identifier: MIT
 
-"""Fails where a source does not begin with whose it is and which licence it has.
+"""Fails if a source does not begin with its copyright and licence lines.
 
     check_licence.py [ROOT]
 
-Sources are what is compiled or run; data, pages and generated files have no such lines.
+Sources are files that are compiled or run. Data, documents and generated files have no such lines.
 """
 
 import sys
 from pathlib import Path
 
 LINES = ["SPDX-FileCopyrightText: The MRToolBar authors", "SPDX-License-Identifier: MIT"]
-#: Comment marks by the end of a file's name.
+#: Comment marks by the suffix of the file name.
 MARKS = {".cpp": "//", ".h": "//", ".py": "#", ".sh": "#", ".awk": "#", ".cmake": "#",
          "CMakeLists.txt": "#"}
 FOLDERS = [".ci", "benchmarks", "cmake", "docs", "examples", "scripts", "tests", "toolbar", "tools"]
 
 
 def comment_mark(path, text):
-    """What begins a comment in the file; None for one that is no source."""
+    """The comment mark of the file; None for a file that is not a source."""
     for ending, mark in MARKS.items():
         if path.name.endswith(ending):
             return mark

@@ -59,7 +59,7 @@ bool isCommand(Role role)
            || role == Role::QuickButton || role == Role::AdditionalButton;
 }
 
-/** Labels and separators may do without a name; what the user works with may not. */
+/** Whether a control needs a name; labels and separators do not. */
 bool needsName(Role role)
 {
     return isCommand(role) || role == Role::Tab || role == Role::RowMenu || role == Role::GroupMenu
@@ -107,7 +107,7 @@ void Rules::checkAttributes(const SourceDocument &document, Findings &findings)
         for (const SourceAttribute &attribute : element.attributes)
             checkAttribute(element, attribute, findings);
         if (element.record.type.isEmpty())
-            continue; // Reported as a whole.
+            continue; // checkStructure() reports the whole element.
         checkName(element, findings);
         checkCheckable(element, findings);
     }

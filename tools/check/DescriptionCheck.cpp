@@ -29,7 +29,7 @@ void reportFault(const SourceFault &fault, Findings &findings)
                       .arg(reason));
 }
 
-/** Whether the library reads on below the root. */
+/** Whether the library reads the sections below this root. */
 bool checkRoot(const SourceElement &root, Findings &findings)
 {
     if (root.tag != QLatin1String("uiconfig")) {

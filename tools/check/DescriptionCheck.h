@@ -7,7 +7,7 @@
 #include <QString>
 #include <QVector>
 
-/** How much a finding matters to the author of a description. */
+/** The importance of a finding for the author of a description. */
 enum class Severity
 {
     Note,    ///< Harmless: what is described works, though not by this part of the text.
@@ -15,7 +15,7 @@ enum class Severity
     Error,   ///< Something that is described will not be in the toolbar.
 };
 
-/** One thing about a description that the library passes over in silence. */
+/** One mistake or oddity in a description that the library ignores without a message. */
 struct Finding
 {
     Severity severity = Severity::Note;
@@ -27,16 +27,16 @@ struct Finding
 
 struct CheckOptions
 {
-    /** The skin whose icons count, "marodi" or "lum"; empty to accept the icons of either. */
+    /** The skin whose icons are accepted, "marodi" or "lum"; empty to accept those of both. */
     QString skin;
 };
 
 /**
- * What the library would pass over in the description of a toolbar, in the order of the text.
+ * Checks a description; returns the findings in the order of the text.
  *
- * Needs no application object and no window. Icons are looked up among the resources of the
+ * Needs neither a QCoreApplication nor a window. Icons are looked up in the resources of the
  * library, which must be linked or loaded.
  *
- * @param description The document as it stands in its file.
+ * @param description The content of the file.
  */
 QVector<Finding> checkDescription(const QByteArray &description, const CheckOptions &options = {});

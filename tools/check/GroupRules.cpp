@@ -12,7 +12,7 @@ namespace {
 
 using Members = QVector<const SourceElement *>;
 
-/** The members that count; elements of one name are one member, as they share an action. */
+/** The elements that count, by group. Those with one name are one member: they share an action. */
 QMap<QString, Members> membersByGroup(const SourceDocument &document,
                                       bool (*counts)(const Controller &))
 {

@@ -16,7 +16,7 @@ bool sharesActions(Role role)
     return role == Role::RowButton || role == Role::GroupButton || role == Role::MenuEntry;
 }
 
-/** Whether the toolbar builds the element at once, and not when a tab or a menu is opened. */
+/** Whether the toolbar builds the element at construction, not when a tab or menu is opened. */
 bool isBuiltAtStart(const SourceDocument &document, const SourceElement &element)
 {
     for (const SourceElement *above = &element; above->parent >= 0;
@@ -29,7 +29,7 @@ bool isBuiltAtStart(const SourceDocument &document, const SourceElement &element
     return false;
 }
 
-/** Looks for the icons of a document in the skins that count. */
+/** Looks up the icons of a document in the skins that are checked. */
 class IconCheck
 {
 public:
@@ -69,7 +69,7 @@ private:
                            [&icon](const QString &skin) { return SkinIcons::exists(skin, icon); });
     }
 
-    /** The element that lends its icon to the others of its name: the one that is built first. */
+    /** The element whose icon the shared action gets: the first one of its name to be built. */
     const SourceElement *lender(const SourceElement &element) const
     {
         const bool borrows = sharesActions(element.role) && !isBuiltAtStart(m_document, element);

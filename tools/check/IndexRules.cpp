@@ -6,7 +6,7 @@
 
 namespace {
 
-/** What comes of an entry that can't be chosen. */
+/** The effect of an index without an entry. */
 QString fate(Role role)
 {
     return role == Role::ComboBox ? QStringLiteral("the box comes up without a chosen entry")

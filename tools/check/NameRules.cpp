@@ -8,7 +8,7 @@
 
 namespace {
 
-/** Names meet where the library looks them up together. */
+/** Names must be unique among the controls that the library looks up together. */
 enum class Scope
 {
     None,
@@ -46,7 +46,7 @@ bool isInRow(Scope scope)
     return scope == Scope::Action || scope == Scope::Control;
 }
 
-/** What two elements with one action disagree about, though only one of them can have its way. */
+/** The first attribute in which two elements that share an action differ; only one can apply. */
 QString disagreement(const SourceElement &one, const SourceElement &other)
 {
     if (one.record.text != other.record.text)
@@ -107,7 +107,7 @@ void checkPair(const SourceElement &element, const SourceElement &earlier, Findi
                                            "both by the one name"));
 }
 
-/** Compares with the first bearer of the name that is nearest: same scope, same row, any other. */
+/** Remembers names, to compare an element with the nearest one of its name: scope, row, other. */
 class NamesSeen
 {
 public:
@@ -142,7 +142,7 @@ private:
     QHash<QString, const SourceElement *> m_first;
 };
 
-/** The entries of a box are commands by name, so a box should not offer one twice. */
+/** The entries of a combo box are identified by name, so none should occur twice. */
 void checkItems(const SourceDocument &document, const SourceElement &box, Findings &findings)
 {
     QHash<QString, int> lines;

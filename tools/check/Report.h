@@ -14,15 +14,15 @@ struct FileReport
     QVector<Finding> findings;
 };
 
-/** The forms in which findings are written. */
+/** The output formats of findings. */
 namespace Report {
 
 QString severityName(Severity severity);
 
-/** One line a finding, "file:line:column: severity: sentence [id]", as compilers write theirs. */
+/** A line for each finding as in compiler messages: "file:line:column: severity: text [id]". */
 QString text(const QVector<FileReport> &reports);
 
-/** An array with one object a finding; empty brackets without any. */
+/** An array with an object for each finding. */
 QByteArray json(const QVector<FileReport> &reports);
 
 } // namespace Report

@@ -3,7 +3,7 @@
 
 #pragma once
 
-/** What the library makes of an element, which follows from its tag, its name and its parent. */
+/** The kind of control that the library makes from an element, by its tag, name and parent. */
 enum class Role
 {
     Nothing, ///< Nothing is built from it, nor from what it holds.

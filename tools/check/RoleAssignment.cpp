@@ -23,7 +23,7 @@ Role searchButtonRole(const QString &name)
     return mentions(name, "st_set") ? Role::SearchSet : Role::NamelessSearchButton;
 }
 
-/** In a menu the children decide before the tag does. */
+/** In a menu an element with children is a sub-menu, whatever its tag. */
 Role entryRole(const SourceElement &element)
 {
     if (!element.children.isEmpty())
@@ -31,7 +31,7 @@ Role entryRole(const SourceElement &element)
     return element.record.type == Tag::separator ? Role::Separator : Role::MenuEntry;
 }
 
-/** Walks a document whose roles above the present element are known. */
+/** Assigns the role of one element after another; that of the parent is already assigned. */
 class RoleAssignment
 {
 public:
@@ -74,7 +74,7 @@ void assignRoles(SourceDocument &document)
 {
     RoleAssignment assignment(document);
     document.elements.front().role = Role::Root;
-    // Parents come before their children.
+    // The elements are sorted so that parents come before their children.
     for (std::size_t i = 1; i < document.elements.size(); ++i)
         document.elements[i].role = assignment.roleOf(document.elements[i]);
 }

@@ -5,5 +5,5 @@
 
 struct SourceDocument;
 
-/** Tells every element of the document, the root apart, what the library makes of it. */
+/** Sets the role of every element of the document except the root. */
 void assignRoles(SourceDocument &document);

@@ -6,7 +6,7 @@
 #include "tools/check/DescriptionCheck.h"
 #include "tools/check/SourceDocument.h"
 
-/** Gathers the findings of one document. */
+/** Collects the findings of one document. */
 class Findings
 {
 public:
@@ -33,22 +33,22 @@ private:
     QVector<Finding> m_all;
 };
 
-/** The rules, by what they look at. Each takes a document whose roles are assigned. */
+/** The rules by subject. Each takes a document with assigned roles. */
 namespace Rules {
 
-/** Sections, and elements that stand where nothing or something else is built from them. */
+/** Sections, and elements in places where nothing or something else is built from them. */
 void checkStructure(const SourceDocument &document, Findings &findings);
-/** Every attribute for itself, and those that exclude or need each other. */
+/** Single attributes, and attributes that exclude or need each other. */
 void checkAttributes(const SourceDocument &document, Findings &findings);
-/** The numbers of entries that menus and combo boxes start with. */
+/** The attribute index of menus and combo boxes. */
 void checkIndexes(const SourceDocument &document, Findings &findings);
-/** Names that stand more than once. */
+/** Names that occur more than once. */
 void checkNames(const SourceDocument &document, Findings &findings);
 /** Exclusive groups and their checked members. */
 void checkGroups(const SourceDocument &document, Findings &findings);
 void checkIcons(const SourceDocument &document, const CheckOptions &options, Findings &findings);
 void checkShortcuts(const SourceDocument &document, Findings &findings);
-/** Controls that the library knows one of, or expects certain children in. */
+/** Controls that may exist only once, or need certain children. */
 void checkSpecialControls(const SourceDocument &document, Findings &findings);
 
 } // namespace Rules

@@ -9,14 +9,14 @@
 
 namespace {
 
-/** The keys in one spelling; empty if the toolkit can't make out the text. */
+/** The shortcut in the spelling of Qt; empty if Qt cannot parse the text. */
 QString spelledOut(const QString &shortcut)
 {
     const QKeySequence keys(shortcut);
     for (int i = 0; i < keys.count(); ++i) {
         const QKeySequence single(keys[static_cast<uint>(i)]);
         const QString text = single.toString(QKeySequence::PortableText);
-        // What it can't make out comes back as nothing, or as modifiers without a key.
+        // Qt turns an invalid text into an empty sequence or into modifiers without a key.
         if (text.isEmpty() || single == QKeySequence(Qt::Key_unknown)
             || text.endsWith(QLatin1String("Unknown")))
             return QString();

@@ -11,13 +11,13 @@
 
 namespace {
 
-/** Where the library looks up the icons of a skin. */
+/** The directory of the icons of a skin. */
 QString directory(const QString &skin)
 {
     return QStringLiteral(":/mr_toolbar/Resources/%1/icons/").arg(skin);
 }
 
-/** The names of the icons, as descriptions write them, by their file names in small letters. */
+/** The names of icons as in descriptions, by file names in lower case. */
 using FilesByName = QHash<QString, QString>;
 
 FilesByName filesByName(const QString &skin)
@@ -27,7 +27,7 @@ FilesByName filesByName(const QString &skin)
     while (files.hasNext()) {
         const QString name = files.next().mid(directory(skin).size());
         QString &known = names[files.fileName().toLower()];
-        // Of several sizes the largest is the one for tool rows.
+        // The largest of several sizes is the one for rows.
         known = std::max(known, name);
     }
     return names;

@@ -6,15 +6,15 @@
 #include <QString>
 #include <QStringList>
 
-/** The icons that the library carries for its skins. */
+/** The icons in the resources of the library. */
 namespace SkinIcons {
 
 QStringList skins();
 
-/** Whether the skin has an icon of that name, as a description writes it. */
+/** Whether the skin has an icon of that name, in the spelling of descriptions. */
 bool exists(const QString &skin, const QString &name);
 
-/** A name under which the skin has a file that is called alike; empty if there is none. */
+/** The name of an icon with the same file name in another folder; empty if there is none. */
 QString elsewhere(const QString &skin, const QString &name);
 
 } // namespace SkinIcons

@@ -13,7 +13,7 @@
 
 namespace {
 
-/** Turns offsets into a text into lines and columns. */
+/** Converts offsets in a text to lines and columns. */
 class LineIndex
 {
 public:
@@ -57,7 +57,7 @@ bool opensValue(QChar character)
     return character == QLatin1Char('"') || character == QLatin1Char('\'') || character.isNull();
 }
 
-/** Reads a document front to back; an element's tag is searched once more for its attributes. */
+/** Reads a document; the tag of each element is scanned again for the positions of attributes. */
 class DocumentReader
 {
 public:
@@ -66,7 +66,7 @@ public:
         , m_lines(text)
         , m_reader(text)
     {
-        // The host's document object model takes names as they are written, too.
+        // QDomDocument, which hosts use, does not process namespaces either.
         m_reader.setNamespaceProcessing(false);
     }
 
@@ -92,7 +92,7 @@ private:
 
     void openElement()
     {
-        // No "<" stands inside a tag, so the last one begins it.
+        // A tag contains no further "<", so the last one is its beginning.
         const auto start = m_text.lastIndexOf(QLatin1Char('<'), m_reader.characterOffset() - 1);
         SourceElement element;
         element.tag = m_reader.qualifiedName().toString();
@@ -108,8 +108,7 @@ private:
         m_open = index;
     }
 
-    /** Elements that an entity stands for have no attributes in the text; they stand where it does.
-     */
+    /** Elements from an entity have the position of the entity and no attributes in the text. */
     void readAttributes(SourceElement &element, qint64 start) const
     {
         const QXmlStreamAttributes attributes = m_reader.attributes();
@@ -127,7 +126,7 @@ private:
         }
     }
 
-    /** Null beyond the end, where looking for what an entity stands for may lead. */
+    /** Null beyond the end, which the scan of an element from an entity may reach. */
     QChar at(qint64 offset) const
     {
         return offset >= 0 && offset < m_text.size() ? m_text.at(offset) : QChar();
@@ -148,7 +147,7 @@ private:
         return end < 0 ? m_text.size() : end + 1;
     }
 
-    /** Leaves the reading of the values to the library's own parser. */
+    /** Reads the values with the library's parser. */
     void fillRecord(SourceElement &element)
     {
         QDomElement copy = m_factory.createElement(element.tag);
@@ -186,7 +185,7 @@ private:
     int m_open = -1;
 };
 
-/** What only the host's own reading of the document refuses. */
+/** Faults that QDomDocument reports and QXmlStreamReader accepts. */
 std::optional<SourceFault> hostFault(const QByteArray &description)
 {
     QDomDocument document;

@@ -13,7 +13,7 @@
 #include <optional>
 #include <vector>
 
-/** A place in the text, both counted from 1. */
+/** A position in the text; line and column count from 1. */
 struct SourcePosition
 {
     int line = 1;
@@ -27,7 +27,7 @@ struct SourceAttribute
     SourcePosition position;
 };
 
-/** One element of a description, where it stands and what the library reads from it. */
+/** One element of a description with its position and the record that the library reads. */
 struct SourceElement
 {
     QString tag;
@@ -42,7 +42,7 @@ struct SourceElement
     bool has(const char *attribute) const { return find(attribute) != nullptr; }
     /** The attribute of that name; null if the element has none. */
     const SourceAttribute *find(const char *attribute) const;
-    /** Where the attribute stands; where the element begins if it has no such attribute. */
+    /** The position of the attribute; that of the element if it has no such attribute. */
     SourcePosition positionOf(const char *attribute) const;
 };
 

@@ -50,7 +50,7 @@ void checkRepeated(const Elements &elements, const char *id, const QString &cons
     }
 }
 
-/** The menu of recent files works only between its two fixed entries. */
+/** The menu of recent files needs its first and its last entry. */
 void checkRecentFiles(const SourceDocument &document, const SourceElement &menu, Findings &findings)
 {
     const QString first = document.at(menu.children.first()).record.name;

@@ -9,7 +9,7 @@
 
 namespace {
 
-/** How many letters must be changed, added or taken away, capitals apart. */
+/** How many letters must be changed, added or removed; ignores case. */
 int distance(const QString &from, const QString &to)
 {
     std::vector<int> row(static_cast<std::size_t>(to.size()) + 1);

@@ -6,13 +6,13 @@
 #include <QString>
 #include <QStringList>
 
-/** Guesses at the word that was meant. */
+/** Suggestions for misspelt words. */
 namespace Spelling {
 
-/** The candidate that @p word was probably meant to be; empty if none is near. */
+/** The candidate that is most similar to @p word; empty if none is similar. */
 QString nearest(const QString &word, const QStringList &candidates);
 
-/** The end of a sentence that asks whether the nearest candidate was meant; empty without one. */
+/** The question "did you mean …" as the end of a message; empty without a similar candidate. */
 QString hint(const QString &word, const QStringList &candidates);
 
 } // namespace Spelling

@@ -12,7 +12,7 @@ QString quoted(const QStringList &names)
     return QLatin1Char('\'') + names.join(QStringLiteral("', '")) + QLatin1Char('\'');
 }
 
-/** What becomes of an element that does not belong where it stands. */
+/** What the library makes from an element in a wrong place. */
 QString fate(const SourceElement &element)
 {
     return Vocabulary::isLeftOut(element.role)
@@ -40,7 +40,7 @@ void checkSection(const SourceElement &element, Findings &findings)
                                   : hint));
 }
 
-/** What stands where the format has no such element. */
+/** Reports an element in a place where the format has no such element. */
 void checkPlace(const SourceElement &element, const SourceElement &parent, Findings &findings)
 {
     const QStringList expected = Vocabulary::elementsBelow(parent.role);
@@ -58,7 +58,7 @@ void checkPlace(const SourceElement &element, const SourceElement &parent, Findi
                      .arg(element.tag, parent.tag, mend, fate(element)));
 }
 
-/** Elements that are in their place and come to nothing there, or to something else. */
+/** Reports an element in its place from which nothing, or something else, is built. */
 void checkOutcome(const SourceElement &element, Findings &findings)
 {
     if (element.role == Role::SurplusAppButton)
@@ -83,7 +83,7 @@ void checkOutcome(const SourceElement &element, Findings &findings)
                                      "nothing itself; write 'menu'"));
 }
 
-/** What stands in its place, but without anything that the library could go by. */
+/** Reports an element that lacks the attributes or children that the library needs. */
 void checkBareness(const SourceElement &element, Findings &findings)
 {
     const QString outcome = Vocabulary::isLeftOut(element.role)

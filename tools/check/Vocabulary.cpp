@@ -76,7 +76,7 @@ const RoleTraits &traits(Role role)
 
 using Kinds = std::vector<std::pair<const char *, Role>>;
 
-/** Which elements belong below a role, and what the library takes any other element for. */
+/** The elements that belong below a role, and the role of any other element there. */
 struct Place
 {
     Kinds kinds;
@@ -127,7 +127,7 @@ bool anySet(const Controller &record, std::initializer_list<QString Controller::
     });
 }
 
-/** Whether the parser has moved any switch of the record away from its default. */
+/** Whether any switch of the record differs from its default. */
 bool anySwitched(const Controller &record)
 {
     return !record.usable || !record.available || !record.visible || record.checkable

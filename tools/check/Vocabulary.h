@@ -8,10 +8,10 @@
 #include <QString>
 #include <QStringList>
 
-/** The words of the format: which elements and attributes there are, and where each has a use. */
+/** The elements and attributes of the format, and where each of them is used. */
 namespace Vocabulary {
 
-/** How the library's parser reads an attribute. */
+/** How the parser reads an attribute. */
 enum class AttributeKind
 {
     Unknown,
@@ -21,25 +21,25 @@ enum class AttributeKind
     FalseOnly, ///< On by default; only "false" changes it.
 };
 
-/** Asks the parser itself. */
+/** Determines the kind by parsing an element with the attribute. */
 AttributeKind attributeKind(const QString &name);
 
 /** All attributes that the parser reads. */
 const QStringList &attributes();
-/** Whether a control of that role makes any use of the attribute. */
+/** Whether a control of that role uses the attribute. */
 bool usesAttribute(Role role, const QString &name);
-/** The attributes that a control of that role makes use of. */
+/** The attributes that a control of that role uses. */
 QStringList usedAttributes(Role role);
-/** Whether the attribute is there for other readers, such as an editor that knows the schema. */
+/** Whether the attribute is meant for other programs, such as an editor with the schema. */
 bool isForeignAttribute(Role role, const QString &name);
-/** Whether descriptions carry the attribute by old habit, though no control looks at it. */
+/** Whether the attribute is common in existing descriptions, although no control uses it. */
 bool isFormerAttribute(const QString &name);
 
-/** All elements that have a place somewhere below a section. */
+/** All elements that may occur below a section. */
 QStringList elements();
-/** The elements that belong below one of that role. */
+/** The elements that belong below an element of that role. */
 QStringList elementsBelow(Role parent);
-/** What becomes of an element below one of that role. */
+/** The role of an element below one of that role. */
 Role roleBelow(Role parent, const QString &tag);
 
 QStringList sections();
@@ -50,7 +50,7 @@ bool holdsEntries(Role role);
 /** Whether nothing is built from an element of that role. */
 bool isLeftOut(Role role);
 
-/** What a control of that role is called in a sentence, with its article. */
+/** The name of a control of that role with its article, for messages. */
 QString noun(Role role);
 
 } // namespace Vocabulary

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The MRToolBar authors
 // SPDX-License-Identifier: MIT
 
-// Tells the author of a toolbar's description what the library passes over in silence.
+// Prints the findings about descriptions, because the library ignores mistakes without a message.
 
 #include "tools/check/DescriptionCheck.h"
 #include "tools/check/Report.h"
@@ -82,7 +82,7 @@ bool read(const QString &path, QByteArray *content, QString *error)
     return false;
 }
 
-/** What the options leave of the findings, at the severity that they give them. */
+/** The findings that the options select, with the severity that the options set. */
 QVector<Finding> reported(QVector<Finding> findings, const QCommandLineParser &parser)
 {
     if (!parser.isSet(QStringLiteral("notes")))

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: The MRToolBar authors
 // SPDX-License-Identifier: MIT
 
-// Draws every compiled-in icon with its name on the ground where it stands: as it is, disabled
-// and enlarged.
+// Draws every icon of the resources with its name on the background of its place: in its size,
+// disabled and enlarged.
 
 #include "toolbar/skin/SkinIcon.h"
 
@@ -46,14 +46,14 @@ struct Group
     QVector<Icon> icons;
 };
 
-// A mark that is no square is shown as it is; the rest fills the size of its group.
+// A mark that is not square keeps its size; other icons fill the size of their group.
 QSize shownSize(const QString &path, int size)
 {
     const QSize natural = QImageReader(path).size();
     return natural.width() == natural.height() ? QSize(size, size) : natural;
 }
 
-// Icons whose outlines are white are made for the coloured line.
+// Icons with white outlines are made for the coloured top line.
 bool standsOnLine(const QString &path)
 {
     QFile file(path);
@@ -75,7 +75,7 @@ Group readGroup(const QString &skin, const QString &directory, int size)
     return group;
 }
 
-// Sizes are those at which the toolbar shows the icons.
+// The sizes are those in which the toolbar shows the icons.
 QVector<Group> readGroups()
 {
     QVector<Group> groups;

@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: The MRToolBar authors
 # SPDX-License-Identifier: MIT
 
-"""Which file of which skin shows which glyph, on which grid and ground."""
+"""The glyph, grid and background of each file of each skin."""
 
 import re
 from collections import namedtuple
@@ -23,11 +23,11 @@ import small_review
 import small_view
 from palettes import DARK, LIGHT, NEUTRAL
 
-#: `path` is relative to Resources/<skin>/. `shown` is the natural width where it is not the
-#: grid's, `height` the grid's height where it is no square.
+#: `path` is relative to Resources/<skin>/. `shown` is the natural width if it is not that of the
+#: grid, `height` the height of the grid if the grid is not square.
 Icon = namedtuple("Icon", "path glyph grid palette height shown", defaults=(None, None))
 
-#: How many files stand in each icon directory. The generator refuses to write another number.
+#: The number of files in each icon directory. The generator refuses to write another number.
 COUNTS = {
     "marodi/icons": 3, "marodi/icons/icon16": 135, "marodi/icons/icon20": 15,
     "marodi/icons/icon24": 133, "marodi/icons/icon19-22": 1,
@@ -35,17 +35,17 @@ COUNTS = {
     "lum/icons/icon34": 1, "lum/icons/icon19-22": 1,
 }
 
-#: The same drawing for two grounds on which it really stands.
+#: Icons with one drawing on two backgrounds on purpose.
 SAME_DRAWING = {("marodi/icons/more-black.svg", "marodi/icons/more-white.svg")}
 
 
 def function_name(file_name):
-    """The glyph's name: FitWidth is fit_width, and Print, a word of Python's, is print_."""
+    """The name of the glyph: FitWidth is fit_width; Print is print_, to keep Python's print."""
     return re.sub(r"(?<=[a-z])(?=[A-Z])", "_", file_name).lower()
 
 
 def _glyphs(module, names):
-    """The glyphs of a module by the names of their files."""
+    """The glyphs of a module by their file names."""
     found = {}
     for name in names.split():
         function = function_name(name)
@@ -144,7 +144,7 @@ def _family(grid, palette, *groups):
 
 
 def _bare(palette):
-    """The arrows that the sheets and the scroll buttons name, without a size directory."""
+    """The arrows of the style sheets and scroll buttons, which are in no size directory."""
     return [
         Icon("icons/icon19-22/arrowDown.svg", several.arrow_down, 8, palette),
         Icon("extendLeft.svg", several.extend_left, 12, palette),
@@ -168,7 +168,7 @@ SKINS = {
         *_family(16, NEUTRAL, _LINE_16, _SEARCH_16, _FIELD_16, _ZOOM_16, _STEP_16),
         *_family(20, NEUTRAL, _FILE_20),
         *_family(24, NEUTRAL, _START_24, _MARK_24),
-        # Named as a 34 pixel icon but shown at 24, so it is drawn on the grid it is seen on.
+        # In the folder for 34 pixels but shown at 24, so it is drawn on the grid of 24.
         Icon("icons/icon34/Background.svg", row_view.background, 24, NEUTRAL, shown=34),
         *_bare(NEUTRAL),
     ],

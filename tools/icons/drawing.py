@@ -8,13 +8,13 @@ from collections import namedtuple
 Colour = namedtuple("Colour", "value opacity", defaults=(1.0,))
 Shape = namedtuple("Shape", "kind geometry stroke fill pen cap")
 
-#: Stroke widths in pixels of the grid. Outlined bodies take HAIR, free-standing marks BOLD;
-#: SLANT gives a slanted or curved hairline the weight of a straight one.
+#: Stroke widths in pixels of the grid. HAIR is for outlines of bodies, BOLD for separate marks;
+#: SLANT makes a slanted or curved hairline look as heavy as a straight one.
 HAIR, SLANT, MARK, BOLD = 1, 1.2, 1.5, 2
 
 
 def number(value):
-    """The shortest text of a coordinate."""
+    """The coordinate as its shortest text."""
     return f"{round(value, 2):g}"
 
 
@@ -24,7 +24,7 @@ def path_data(*parts):
 
 
 class Drawing:
-    """Collects shapes; colours are named by role and looked up in the palette."""
+    """Collects shapes. Colours are given by role and looked up in the palette."""
 
     def __init__(self, grid, palette, height=None):
         self.grid = grid

@@ -4,9 +4,9 @@
 
 """Writes the icons of both skins and their resource list below Resources/.
 
-With --check it writes nothing and fails if a file differs, is missing or strays in an icon
-directory, if a described icon is not drawn, if a directory's count is off, or if two icons of a
-directory are drawn alike, or if a colour is too faint for its ground.
+With --check it writes nothing and fails if a file differs, is missing or is not in the catalogue, if
+an icon of a description is not drawn, if the number of icons in a directory is wrong, if two icons of
+a directory have the same shapes, or if a colour has too little contrast with its background.
 """
 
 import argparse
@@ -15,7 +15,7 @@ import sys
 from collections import Counter
 from pathlib import Path
 
-sys.dont_write_bytecode = True  # The sources stay clean when a build runs the check.
+sys.dont_write_bytecode = True  # No __pycache__ in the sources when a build runs the check.
 
 from catalogue import COUNTS, SAME_DRAWING, SKINS
 from drawing import Drawing
@@ -26,7 +26,7 @@ RESOURCES = Path(__file__).resolve().parents[2] / "Resources"
 RESOURCE_LIST = "toolbar_icon.qrc"
 ICON_ATTRIBUTE = re.compile(r'\b(?:icon|dropicon)="([^"]+)"')
 
-#: Named by a description without its size directory, so that its control shows no icon.
+#: A description names it without the size directory, so its control shows no icon.
 DELIBERATELY_MISSING = {("marodi", "FitWidth.svg")}
 
 
@@ -64,7 +64,7 @@ def generated():
 
 
 def described():
-    """The icons that the descriptions name, as (description, path below Resources/)."""
+    """The icons in the descriptions, as (description, path below Resources/)."""
     for description in sorted(RESOURCES.glob("*/mr_toolbar.*.xml")):
         skin = description.parent.name
         for name in sorted(set(ICON_ATTRIBUTE.findall(description.read_text("utf-8-sig")))):
@@ -73,7 +73,7 @@ def described():
 
 
 def catalogue_problems():
-    """What is wrong before a file is looked at: names, counts, colours, twins."""
+    """The faults of the catalogue itself: names, counts, colours, duplicates."""
     paths = [path for path, _ in catalogued()]
     for path, times in Counter(paths).items():
         if times > 1:
@@ -89,7 +89,7 @@ def catalogue_problems():
 
 
 def twins():
-    """Icons of one directory that show the same shapes, in whichever colours."""
+    """Icons of one directory with the same shapes, regardless of colours."""
     seen = {}
     for path, icon in catalogued():
         shapes = tuple((shape.kind, repr(shape.geometry), shape.pen, bool(shape.fill))

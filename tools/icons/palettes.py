@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: The MRToolBar authors
 # SPDX-License-Identifier: MIT
 
-"""The colours of the icons by role, one palette for each ground they stand on."""
+"""The colours of the icons by role, one palette for each background."""
 
 from drawing import Colour
 
@@ -17,8 +17,7 @@ DARK = {
     "yellow": Colour("#ffd45c"),
 }
 
-#: For the theme-coloured strip, whose colour the host may change: white, and white that lets
-#: the ground through.
+#: For the top line of marodi, whose colour the host may change: white, and translucent white.
 LIGHT = {
     "ink": Colour("#ffffff"),
     "accent": Colour("#ffffff"),
@@ -29,7 +28,7 @@ LIGHT = {
     "yellow": Colour("#ffffff", 0.28),
 }
 
-#: The second skin: a neutral, darker line and a deeper blue.
+#: For lum: neutral and darker outlines and a deeper blue.
 NEUTRAL = dict(
     DARK,
     ink=Colour("#333333"),
@@ -37,15 +36,15 @@ NEUTRAL = dict(
     tint=Colour("#d6e5f3"),
 )
 
-#: The grounds of each palette: menu, tool row and a hovered or checked control on it. DARK and
-#: NEUTRAL stand on the rows of marodi and lum, LIGHT on marodi's line.
+#: The backgrounds of each palette: menu, row, and a hovered or checked control on a row. DARK and
+#: NEUTRAL are for the rows of marodi and lum, LIGHT for the top line of marodi.
 GROUNDS = [
     (DARK, ("#ffffff", "#f5f5f5", "#eaeaea", "#d3d3d3")),
     (LIGHT, ("#008ad9", "#1460ab")),
     (NEUTRAL, ("#ffffff", "#f4f4f4", "#c3c6ca")),
 ]
 
-#: The roles that carry a meaning, and the least contrast they need with each ground.
+#: The roles with a meaning, and their least contrast with each background.
 TELLING_ROLES, LEAST_CONTRAST = ("ink", "accent", "red"), 3
 
 
@@ -57,13 +56,13 @@ def _luminance(value):
 
 
 def contrast(one, other):
-    """How much two colours stand out from each other, from 1 to 21."""
+    """The contrast of two colours, from 1 to 21."""
     darker, lighter = sorted((_luminance(one), _luminance(other)))
     return (lighter + 0.05) / (darker + 0.05)
 
 
 def faint_colours():
-    """The roles that stand out too little, as (role's colour, ground)."""
+    """The roles with too little contrast, as (colour, background)."""
     return [(palette[role].value, ground) for palette, grounds in GROUNDS
             for role in TELLING_ROLES for ground in grounds
             if contrast(palette[role].value, ground) < LEAST_CONTRAST]

@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: The MRToolBar authors
 # SPDX-License-Identifier: MIT
 
-"""What several glyphs are made of. Coordinates are those of the stroke's centre."""
+"""Shapes that several glyphs share. Coordinates are those of the middle of a stroke."""
 
 from math import cos, hypot, pi, sin, sqrt
 
@@ -11,7 +11,7 @@ GEAR_TEETH = 8
 
 
 def mirrored(points, axis, when=True):
-    """The points, mirrored at the vertical line x = axis if asked for."""
+    """The points, mirrored at the vertical line x = axis if requested."""
     return [(2 * axis - x, y) for x, y in points] if when else points
 
 
@@ -84,7 +84,7 @@ def check(d, x, y, arm, stroke="accent", pen=MARK):
 
 
 def cut_page(d, fill="paper"):
-    """A folded page whose lower right corner makes room for a badge around `badge(d)`."""
+    """A folded page whose lower right corner is cut away around the badge `badge(d)`."""
     left, top, right, bottom, fold, gap = d.by_grid(
         g16=(2.5, 1.5, 12.5, 14.5, 3, 7.5), g24=(4.5, 2.5, 19.5, 21.5, 5, 9))
     cut_x, cut_y = right - d.by_grid(g16=4.5, g24=6.5), bottom - gap + d.by_grid(g16=1, g24=1)
@@ -96,7 +96,7 @@ def cut_page(d, fill="paper"):
 
 
 def badge(d):
-    """The middle of the mark that says what is done with the thing drawn."""
+    """The middle of the mark for the operation on the object."""
     return d.by_grid(g16=(12, 12), g24=(18, 18))
 
 

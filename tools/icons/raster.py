@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: The MRToolBar authors
 # SPDX-License-Identifier: MIT
 
-"""Turns a drawing of straight shapes into a PNG: even sampling, then a minimal encoder."""
+"""Converts a drawing of straight shapes to a PNG by regular sampling and a minimal encoder."""
 
 import struct
 import zlib
@@ -30,7 +30,7 @@ def _chunk(kind, data):
 
 
 def _layers(shape, palette):
-    """Tests of whether a point is painted, with their colours, from the bottom up."""
+    """Functions that test whether a point is painted, with their colours, from bottom to top."""
     points, closed = _outline(shape)
     pairs = list(zip(points, points[1:] + points[:1] if closed else points[1:]))
     if shape.fill:
@@ -73,7 +73,7 @@ def _distance2(x, y, start, end):
 
 
 def _pixel(layers, column, row, scale):
-    """The mean of the samples of one pixel; colours weigh by their coverage."""
+    """The mean of the samples of one pixel, in which colours are weighted by their coverage."""
     total, covered = [0, 0, 0], 0
     for i in range(SAMPLES):
         for j in range(SAMPLES):

@@ -171,7 +171,7 @@ def _eraser(d, scale, x, y):
 
 
 def eraser(d):
-    """Rubs over a line: what it has passed is gone."""
+    """An eraser on a line, part of which it has erased."""
     _eraser(d, 0.95, 5, 17.5)
     wave(d, 3, 20, [3.5, 3.5], 2.4)
     d.line(14, 20.5, 21.5, 20.5)

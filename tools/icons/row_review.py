@@ -96,7 +96,7 @@ def revision_reducespace(d):
 
 
 def _shift(d, forward):
-    """A character pushed against a line: towards the start of the text when forward."""
+    """A character moved against a line: towards the start of the text if forward."""
     _cell(d, 14.5 if forward else 2.5, 8.5, 7)
     tail, tip = mirrored([(12, 12), (18, 12)], 12, forward)
     arrow(d, tail, tip, 3, stroke="red", pen=BOLD)

@@ -152,7 +152,7 @@ def _eraser(d, scale, x, y):
 
 
 def eraser(d):
-    """Rubs over a line: what it has passed is gone."""
+    """An eraser on a line, part of which it has erased."""
     _eraser(d, 1, 3.5, 11.5)
     d.line(2, 14, 7, 14, stroke="accent", pen=BOLD)
 

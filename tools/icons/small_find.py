@@ -89,7 +89,7 @@ def quick_access_set(d):
 
 
 def fold(d):
-    """The strip is the line of tabs; the row below it goes up, or comes down again."""
+    """The line of tabs, and an arrow up for hiding the row below or down for showing it."""
     d.rect(1.5, 2.5, 13, 3, fill="tint")
     chevron(d, [(4, 12.5), (8, 8.5), (12, 12.5)])
 

@@ -116,7 +116,7 @@ ControlStates::ControlStates(QMainWindow &window, PictureSheet &sheet)
 
 void ControlStates::takeNewKinds()
 {
-    // What comes and goes with a state, such as a focus ring, must not be visited afterwards.
+    // Guarded, because a change of state may delete widgets, such as a focus ring.
     QList<QPointer<QWidget>> widgets;
     for (QWidget *widget : m_window.findChildren<QWidget *>())
         widgets.append(widget);
@@ -174,7 +174,7 @@ void ControlStates::takePressed(QWidget *control)
 void ControlStates::takeChecked(QWidget *control)
 {
     auto *button = qobject_cast<QAbstractButton *>(control);
-    // Checking a tab would check it off the list of those to open; it has a kind of its own.
+    // A checked tab counts as open, so its row would get no picture. Tabs are their own kind.
     if (!button || !button->isCheckable() || module(button) == QLatin1String("tabbutton"))
         return;
     const bool wasChecked = button->isChecked();

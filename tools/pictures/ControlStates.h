@@ -10,13 +10,13 @@ class PictureSheet;
 class QMainWindow;
 class QWidget;
 
-/** Takes one control of each kind in each state that it can be in. */
+/** Takes pictures of one control of each kind in each of its states. */
 class ControlStates
 {
 public:
     ControlStates(QMainWindow &window, PictureSheet &sheet);
 
-    /** Takes the kinds that are on show and have not been taken yet. */
+    /** Takes pictures of the visible kinds that have none yet. */
     void takeNewKinds();
 
 private:

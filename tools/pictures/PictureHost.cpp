@@ -205,7 +205,7 @@ void PictureHost::takePopups(const QString &caption)
         if (window->isVisible() && window != &m_window)
             area |= window->frameGeometry();
     }
-    // With a little of what they have come out of.
+    // With a margin that shows where they were opened.
     const int margin = 40 * m_window.physicalDpiY() / 96;
     m_sheet.add(caption, Screen::picture(m_window, area.adjusted(-8, -margin, 8, 8)));
 }

@@ -17,21 +17,21 @@ class QAbstractButton;
 class QMenu;
 
 /**
- * A host whose only document is empty: it lives through everything that a toolbar can show and
- * takes a picture of each.
+ * A host without a document that opens every row, menu and state of a toolbar and takes a picture
+ * of each.
  */
 class PictureHost
 {
 public:
     PictureHost(const QDomDocument &description, const QMap<QString, QString> &skinMap, int width);
 
-    /** Takes all pictures and writes them on one sheet; false if that failed. */
+    /** Takes all pictures and saves them on one sheet; returns false if saving failed. */
     bool takeAll(const QString &path);
 
 private:
     void answerAuthority();
     void takeTabs();
-    /** Whether the control can open something that has not been taken; brings it into view. */
+    /** Whether the control can open a menu without a picture so far; scrolls it into view. */
     bool isNew(QWidget *control);
     void takeNewMenus();
     void takeNewLists();

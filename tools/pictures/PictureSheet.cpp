@@ -34,7 +34,7 @@ PictureSheet::PictureSheet(double scale)
 
 void PictureSheet::add(const QString &caption, const QPixmap &picture)
 {
-    // Each pixel of the screen is to be seen, also where the toolkit scales.
+    // One pixel of the sheet for each pixel of the screen, also where Qt scales.
     QPixmap pixels = picture;
     pixels.setDevicePixelRatio(1.0);
     m_entries.append({caption, pixels, std::exchange(m_beginsRow, false)});

@@ -9,11 +9,11 @@
 
 class QPainter;
 
-/** Pictures with captions, side by side on one large picture, each pixel as it was taken. */
+/** One large picture of several pictures with captions, without scaling. */
 class PictureSheet
 {
 public:
-    /** @param scale dots per inch by 96; of the captions and the distances */
+    /** @param scale The scale of captions and distances: dots per inch divided by 96. */
     explicit PictureSheet(double scale);
 
     void add(const QString &caption, const QPixmap &picture);

@@ -8,13 +8,13 @@
 class QMainWindow;
 class QRect;
 
-/** What the user sees of a window. */
+/** Pictures of a window as the user sees it. */
 namespace Screen {
 
-/** Takes the pointer away from every control. */
+/** Moves the pointer away from every control. */
 void restPointer(QMainWindow &window);
 
-/** The part of the screen, when everything on it has been painted. */
+/** A picture of an area of the screen, taken after all pending paint events. */
 QPixmap picture(const QMainWindow &window, const QRect &area);
 
 } // namespace Screen

@@ -2,9 +2,9 @@
 # SPDX-FileCopyrightText: The MRToolBar authors
 # SPDX-License-Identifier: MIT
 
-"""Writes the sample documents beside this script; --check only says whether they are up to date.
+"""Writes the sample documents next to this script; --check only tests if they are up to date.
 
-The good ones show what the reader can paint, the broken ones what it must refuse.
+The names of documents that the reader must refuse begin with "broken-".
 """
 
 import argparse
@@ -56,7 +56,7 @@ def resources(body):
 
 
 def package(title, pages, res="", others=None, **document_parts):
-    """The entries of a package, in their order."""
+    """The entries of a package in their order."""
     entries = {
         "OFD.xml": entry_point(title),
         "Doc_0/Document.xml": document(len(pages), **document_parts),
@@ -69,7 +69,7 @@ def package(title, pages, res="", others=None, **document_parts):
 
 
 def archive(entries, compression=zipfile.ZIP_STORED):
-    """Stored and with a fixed date, so that the bytes are the same everywhere."""
+    """A ZIP archive, stored and with a fixed date, so that the bytes are always the same."""
     buffer = io.BytesIO()
     with zipfile.ZipFile(buffer, "w", compression) as file:
         for name, content in entries.items():
@@ -118,7 +118,7 @@ def glyph(points):
 
 
 def character_map(codes):
-    """Format 4 with a segment a character."""
+    """A character map in format 4 with a segment for each character."""
     segments = sorted(codes.items()) + [(0xFFFF, 0)]
     count = len(segments)
     ends = b"".join(struct.pack(">H", c) for c, _ in segments)
@@ -152,7 +152,7 @@ def font():
 
 
 def picture(width=40, height=30):
-    """A PNG: a sky, a hill and a sun, its data stored so that every zlib writes the same bytes."""
+    """A PNG of sky, hill and sun, not compressed, so that every zlib writes the same bytes."""
     rows = b""
     for y in range(height):
         rows += b"\0"
@@ -311,7 +311,7 @@ def template_sample():
 
 
 def encrypted(data):
-    """The same archive with the flag set that says that its entries are encrypted."""
+    """The archive with the flag for encrypted entries set."""
     data = bytearray(data)
     for signature, offset in ((b"PK\x03\x04", 6), (b"PK\x01\x02", 8)):
         at = data.find(signature)
@@ -361,7 +361,7 @@ def samples():
 
 
 def agrees(have, want):
-    """Deflate may pack differently from one library to the next; what counts is what comes out."""
+    """Whether two archives unpack to the same. Packed bytes differ between versions of zlib."""
     if have == want:
         return True
     try:
@@ -379,11 +379,11 @@ def main():
     wanted = {FOLDER / f"{name}.ofd": data for name, data in samples().items()}
     stale = [file for file, data in wanted.items()
              if not file.exists() or not agrees(file.read_bytes(), data)]
-    strangers = sorted(set(FOLDER.glob("*.ofd")) - set(wanted))
+    unknown = sorted(set(FOLDER.glob("*.ofd")) - set(wanted))
     if check:
-        for file in stale + strangers:
+        for file in stale + unknown:
             print(f"{file.name} does not agree with this script", file=sys.stderr)
-        return 1 if stale or strangers else 0
+        return 1 if stale or unknown else 0
     for file in stale:
         file.write_bytes(wanted[file])
         print(f"wrote {file.name}")
