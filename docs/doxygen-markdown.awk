@@ -1,10 +1,9 @@
 # SPDX-FileCopyrightText: The MRToolBar authors
 # SPDX-License-Identifier: MIT
 
-# Makes Doxygen see a guide as the host of the repository shows it: headings get the anchors that
-# links between the guides name, apart from each other by the name of their file, blocks of code keep
-# only the language of the words behind their fence, and a link to a page that Doxygen is not given
-# becomes its text.
+# Converts a guide for Doxygen: headings get the anchors that links between the guides use, with the
+# file name as a prefix; fences of code blocks keep only the language; and a link to a page that is not
+# an input of Doxygen becomes its text.
 
 FNR == 1 {
     guide = FILENAME

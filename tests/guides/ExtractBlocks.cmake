@@ -7,7 +7,7 @@
 #   cpp           a complete source file
 #   cpp host      the body of a function that has the host's window and toolBar
 #   cpp skin-map  a declaration of a skin map
-#   xml           a description, one section of one, or (xml row) the controls of a tool row;
+#   xml           a description, one section of one, or (xml row) the controls of a row;
 #                 picture=<name> asks for its picture
 #   cmake, sh, text  not checked
 # Any other block is an error, so that every block is checked on purpose or left out on purpose.

@@ -4,9 +4,10 @@
 
 """Writes the icons of both skins and their resource list below Resources/.
 
-With --check it writes nothing and fails if a file differs, is missing or is not in the catalogue, if
-an icon of a description is not drawn, if the number of icons in a directory is wrong, if two icons of
-a directory have the same shapes, or if a colour has too little contrast with its background.
+With --check it writes nothing and fails if a file differs, is missing or is not in the catalogue,
+if an icon of a description is not drawn, if the number of icons in a directory is wrong, if two
+icons of a directory have the same shapes, or if a colour has too little contrast with its
+background.
 """
 
 import argparse
