@@ -10,7 +10,7 @@
 struct Workload
 {
     int tabs = 3;
-    int commands = 30; ///< Of each tab.
+    int commands = 30; ///< Per tab.
 
     static constexpr int menuEntries = 12;
 

@@ -19,9 +19,9 @@ constexpr int fewestRepetitions = 5;
 
 void addOptions(QCommandLineParser &parser)
 {
-    parser.setApplicationDescription(QStringLiteral(
-        "Measures the toolbar against one that is written by hand on the bare toolkit. Without "
-        "--tabs and --commands three sizes are measured."));
+    parser.setApplicationDescription(
+        QStringLiteral("Measures the toolbar against one that is made of plain Qt widgets. Without "
+                       "--tabs and --commands three sizes are measured."));
     parser.addHelpOption();
     parser.addOptions({
         {QStringLiteral("tabs"), QStringLiteral("Number of tabs."), QStringLiteral("count")},

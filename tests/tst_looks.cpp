@@ -83,7 +83,7 @@ void collectProtruding(const QWidget *row, QStringList &faults)
     for (const QWidget *control : controls) {
         const QRect shown(control->mapTo(row, QPoint()), control->size());
         if (control->isVisibleTo(row) && !place.contains(shown))
-            faults.append(control->objectName() + " stands out of its row");
+            faults.append(control->objectName() + " is not inside its row");
     }
 }
 

@@ -46,7 +46,7 @@ function(guides_store guide number info code folder)
         guides_write(${file} "${code}")
         set_property(GLOBAL APPEND PROPERTY GUIDE_DESCRIPTIONS ${file})
     elseif(NOT info MATCHES "^(cmake|sh|text)$")
-        message(FATAL_ERROR "${guide}.md: nobody knows how to check a block of '${info}'")
+        message(FATAL_ERROR "${guide}.md: there is no check for a block of '${info}'")
     endif()
 endfunction()
 

@@ -12,8 +12,8 @@ struct GuideBlock
 {
     QString name;             ///< Such as "description-format-3".
     QString picture;          ///< Name of its picture; empty if it has none.
-    QString error;            ///< Why it is no XML; empty if it is.
-    QDomDocument description; ///< The whole document that the block stands in.
+    QString error;            ///< Why it is not XML; empty if it is.
+    QDomDocument description; ///< The completed document.
 };
 
 /** The descriptions below @p folder; fragments are completed to whole documents. */

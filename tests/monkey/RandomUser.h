@@ -205,8 +205,8 @@ private:
             return "key in menu";
         }
         if (kind == 2 && place.isValid()) {
-            // QTest moves the cursor, and the offscreen platform may report that while the next
-            // gesture opens a sub-menu, which no window system does and Qt does not expect.
+            // QTest moves the cursor. The offscreen platform may report this while the next gesture
+            // opens a sub-menu, which no window system does and Qt does not handle.
             const QPoint middle = place.center();
             QMouseEvent move(QEvent::MouseMove, middle, menu.mapToGlobal(middle), Qt::NoButton,
                              Qt::NoButton, Qt::NoModifier);

@@ -262,10 +262,10 @@ private:
     std::function<void()> m_react;
     QString m_fault;
     QSet<QString> m_recentFiles;
-    NewToolBar *m_toolBar = nullptr; ///< Of the facade that is watched; for the host's calls only.
+    NewToolBar *m_toolBar = nullptr; ///< The toolbar of the watched facade.
     int m_total = 0;
     int m_heard = 0;
     QMap<QString, int> m_heardSignals;
     bool m_isSilenceDue = false;
-    bool m_areFoldButtonsFree = false; ///< The host has shown or hidden one of them by itself.
+    bool m_areFoldButtonsFree = false; ///< The host has shown or hidden one of them by name.
 };

@@ -144,7 +144,7 @@ private:
 
     QString moveInALoop()
     {
-        // The loop may be the answer to a tab that is being opened.
+        // The loop may run inside a slot that answers the opening of a tab.
         if (m_random.oneIn(3))
             return m_user.clickTab(*m_window);
         return m_random.oneIn(3) ? m_host.step() : m_user.step(*m_window);

@@ -10,9 +10,9 @@
 /** The importance of a finding for the author of a description. */
 enum class Severity
 {
-    Note,    ///< Harmless: what is described works, though not by this part of the text.
-    Warning, ///< The control is there, but hardly as it was meant.
-    Error,   ///< Something that is described will not be in the toolbar.
+    Note,    ///< Harmless: this part of the description has no effect, or no bad one.
+    Warning, ///< The control exists, but probably not as intended.
+    Error,   ///< Something described is missing in the toolbar.
 };
 
 /** One mistake or oddity in a description that the library ignores without a message. */
@@ -22,7 +22,7 @@ struct Finding
     QString id; ///< Stable name of the rule, such as "unknown-attribute".
     int line = 0;
     int column = 0;  ///< Both count from 1.
-    QString message; ///< One sentence: what the library does, and how to mend it.
+    QString message; ///< One sentence: the effect, and how to correct it.
 };
 
 struct CheckOptions

@@ -12,8 +12,8 @@ namespace {
 enum class Scope
 {
     None,
-    Action,  ///< Buttons of rows and entries of menus: one action a name.
-    Control, ///< What else stands in a row, found in the same list as the actions.
+    Action,  ///< Buttons of rows and entries of menus: one action for each name.
+    Control, ///< Other controls of rows, which are in the same list as the actions.
     SubMenu,
     Quick,
     Tab,

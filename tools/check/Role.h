@@ -6,7 +6,7 @@
 /** The kind of control that the library makes from an element, by its tag, name and parent. */
 enum class Role
 {
-    Nothing, ///< Nothing is built from it, nor from what it holds.
+    Nothing, ///< Nothing is built from it or its children.
     Root,
     AppSection,
     QuickSection,
@@ -14,7 +14,7 @@ enum class Role
     SearchSection,
     AdditionalSection,
     AppButton,
-    SurplusAppButton, ///< There is room for two.
+    SurplusAppButton, ///< Only the first two are used.
     QuickButton,
     QuickSet,
     Tab,
@@ -29,7 +29,7 @@ enum class Role
     RowField,
     Separator,
     Extra,
-    IdleExtra, ///< In a tab that shows no extra groups.
+    IdleExtra, ///< In a tab without the attribute scalable.
     ExtraLabel,
     ExtraField,
     ExtraButton,
@@ -39,6 +39,6 @@ enum class Role
     SearchField,
     SearchButton,
     SearchSet,
-    NamelessSearchButton, ///< Its name tells nothing of its part in the search.
+    NamelessSearchButton, ///< Its name does not give its function.
     AdditionalButton,
 };

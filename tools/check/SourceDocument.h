@@ -33,10 +33,10 @@ struct SourceElement
     QString tag;
     SourcePosition position;
     QVector<SourceAttribute> attributes;
-    std::optional<SourcePosition> strayText; ///< Where text stands directly inside the element.
-    int parent = -1;                         ///< Positions in the document's list of elements.
+    std::optional<SourcePosition> strayText; ///< The position of text directly inside the element.
+    int parent = -1;                         ///< Index in the document's list of elements.
     QVector<int> children;
-    Controller record; ///< As the library's parser fills it, without section and children.
+    Controller record; ///< As read by the library's parser, without section and children.
     Role role = Role::Nothing;
 
     bool has(const char *attribute) const { return find(attribute) != nullptr; }

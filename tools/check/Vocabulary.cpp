@@ -21,7 +21,7 @@ struct RoleTraits
 {
     Role role;
     const char *noun;
-    const char *attributes; ///< What the toolbar looks at, separated by blanks.
+    const char *attributes; ///< The attributes that are used, separated by blanks.
 };
 
 constexpr RoleTraits allTraits[]{

@@ -24,7 +24,7 @@ struct ReaderParts
     SearchPanel *search = nullptr;
     HandwritingSettings *handwriting = nullptr;
     RecentFiles *recentFiles = nullptr;
-    /** Gives the focus to a control of the toolbar; false if it is not on show. */
+    /** Focuses a control of the toolbar; returns false if it is not visible. */
     std::function<bool(const QString &name)> focusControl;
 
     /** Shows a line in the status bar for a while. */

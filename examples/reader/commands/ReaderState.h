@@ -18,7 +18,7 @@ struct ReaderState
     int page = 0; ///< Counted from 1; 0 without a document.
     int pageCount = 0;
     QString zoomMode;
-    QString layoutMode; ///< These three by the object name of their control.
+    QString layoutMode; ///< This and the next two: names of controls.
     QString tool;
     QString panel; ///< Empty while no panel is shown.
     BackgroundStyle background = Background_Default;

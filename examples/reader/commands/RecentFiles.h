@@ -7,7 +7,7 @@
 
 class QString;
 
-/** What the commands change of the list of recent files. */
+/** The operations on the recent files that commands use. */
 class RecentFiles
 {
 public:
@@ -15,7 +15,7 @@ public:
     virtual ~RecentFiles() = default;
     Q_DISABLE_COPY(RecentFiles)
 
-    /** Puts a file first; the same file further down is dropped. */
+    /** Puts a file at the start of the list, without duplicates. */
     virtual void addRecentFile(const QString &fileName) = 0;
     virtual void clearRecentFiles() = 0;
 

@@ -44,8 +44,8 @@ struct Mark
 {
     MarkKind kind = MarkKind::Highlight;
     int page = 0;     ///< Counted from 0, or everyPage.
-    QPolygonF points; ///< Two corners or ends; of ink all points; of text four a line.
-    QString text;     ///< Of revisions the sign, of boxes and stamps what they say.
+    QPolygonF points; ///< Two corners or ends; for ink all points; for text four per line.
+    QString text;     ///< The sign of a revision, or the text of a box or stamp.
     QColor colour = Qt::red;
     qreal width = 2;
     int id = 0; ///< Given by the document.

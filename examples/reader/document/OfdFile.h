@@ -15,7 +15,7 @@ struct NamedPlace
 {
     QString name;
     int depth = 0;
-    int page = -1; ///< Counted from 0; -1 if it leads nowhere.
+    int page = -1; ///< Counted from 0; -1 without a target.
 };
 
 /** What the reader reads from a file besides its pages. All is empty for generated pages. */

@@ -58,7 +58,7 @@ struct Page
     /** The rectangle of each character; empty on a generated page, where the lines suffice. */
     QVector<QRectF> boxes;
     std::shared_ptr<const PageContent> content;
-    bool isTextRead = true; ///< Of a page from a file the text is read when somebody asks for it.
+    bool isTextRead = true; ///< False until the text of a page from a file is first used.
 
     /** The rectangles of a range of the text, one for each line. */
     QList<QRectF> rectsOf(int start, int length) const;

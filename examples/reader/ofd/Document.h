@@ -32,7 +32,7 @@ struct Resources
 
 struct Page
 {
-    QRectF area; ///< What of the page's space is the sheet.
+    QRectF area; ///< The sheet, in the coordinates of the page.
     /** From back to front; pages share the objects of their templates. */
     QVector<std::shared_ptr<const Objects>> layers;
 };
@@ -42,20 +42,20 @@ struct Target
 {
     QString title;
     int depth = 0;
-    int page = -1; ///< Counted from 0; -1 if it leads nowhere.
+    int page = -1; ///< Counted from 0; -1 without a target.
 };
 
 struct Document
 {
     std::shared_ptr<Package> package;
-    QVector<QPair<QString, QString>> information; ///< What is said of the document, with its name.
+    QVector<QPair<QString, QString>> information; ///< Names and values.
     QString title;
     Resources resources;
     QVector<Page> pages;
     QVector<Target> outline;
     QVector<Target> bookmarks;
     QStringList attachments;
-    QMap<QString, int> unsupported; ///< How many of each kind are left out.
+    QMap<QString, int> unsupported; ///< The number of left out parts by kind.
 };
 
 /** Reads a document; on failure returns null and sets @p error to one sentence. */

@@ -43,9 +43,9 @@ private:
     void addSystemFonts(const Font &font, bool isBold, bool isItalic);
     const Glyph &glyph(int font, quint32 index);
 
-    QVector<QRawFont> m_fonts; ///< Asked for a character one after the other.
+    QVector<QRawFont> m_fonts; ///< Tried for a character in this order.
     QHash<uint, QPair<int, quint32>> m_indexes;
-    std::unordered_map<quint64, Glyph> m_glyphs; ///< Glyphs are pointed to and must not move.
+    std::unordered_map<quint64, Glyph> m_glyphs; ///< A node-based map: addresses must stay valid.
     bool m_isEmbedded = false;
     bool m_lacksBold = false;
     bool m_slants = false;

@@ -27,7 +27,7 @@ private:
     QImage halved(const QString &resource, int times);
 
     const Document &m_document;
-    QCache<QString, QImage> m_cache; ///< Costs are kilobytes.
+    QCache<QString, QImage> m_cache; ///< Costs are in kilobytes.
 };
 
 } // namespace Ofd

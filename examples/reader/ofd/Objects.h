@@ -59,8 +59,8 @@ struct Text
     QString font; ///< The identifier of the resource.
     qreal size = 0;
     qreal horizontalScale = 1;
-    int readDirection = 0; ///< Degrees, clockwise: the way from a character to the next one.
-    int charDirection = 0; ///< Degrees, clockwise: by which each character is turned.
+    int readDirection = 0; ///< From a character to the next one, in degrees clockwise.
+    int charDirection = 0; ///< The rotation of each character, in degrees clockwise.
     int weight = 400;
     bool isItalic = false;
     bool isFilled = true;
@@ -97,10 +97,10 @@ struct Group
 struct Object
 {
     QRectF boundary;
-    QTransform matrix; ///< From the object's own space to that of its boundary's corner.
+    QTransform matrix; ///< From object coordinates to those of the boundary.
     Style style;
     qreal alpha = 1;
-    QVector<QPainterPath> clips; ///< In the object's own space; only what is in all of them shows.
+    QVector<QPainterPath> clips; ///< In object coordinates; their intersection is visible.
     std::variant<Path, Text, Image, Composite, Group> content;
 
     /** From the coordinates of the object to those of its page or group. */

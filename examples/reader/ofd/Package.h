@@ -43,7 +43,7 @@ private:
     QByteArray m_archive;
     mutable QBuffer m_buffer;
     mutable QuaZip m_zip;
-    QHash<QString, qint64> m_sizes; ///< By path; a folder has no entry of its own here.
+    QHash<QString, qint64> m_sizes; ///< By path, without folders.
 };
 
 } // namespace Ofd

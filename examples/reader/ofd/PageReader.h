@@ -32,7 +32,7 @@ private:
         QString order;
         Layers layers;
         bool isRead = false;
-        bool isBegun = false; ///< Being read, or read.
+        bool isBegun = false; ///< Reading has begun or is done.
     };
 
     Layers layersOf(const XmlElement &page);
@@ -45,7 +45,7 @@ private:
     QMap<QString, int> &m_unsupported;
     QRectF m_commonArea;
     QHash<QString, Template> m_templates;
-    QHash<QString, Page> m_read; ///< By path: a file that many pages name is read once.
+    QHash<QString, Page> m_read; ///< By path, so that a file shared by pages is read once.
 };
 
 } // namespace Ofd

@@ -19,7 +19,7 @@ struct TextSpan
 struct PageText
 {
     QString text;
-    QVector<QRectF> boxes; ///< One a UTF-16 unit, in millimetres; null for a break between lines.
+    QVector<QRectF> boxes; ///< For each UTF-16 unit, in millimetres; null for a line break.
     QVector<TextSpan> lines;
 };
 

@@ -40,7 +40,7 @@ private:
     ColourReader m_colours{m_unsupported};
     StyleReader m_styles{m_colours};
     ObjectReader m_objects{m_styles, m_unsupported};
-    std::vector<XmlElement> m_composites; ///< Still to be read.
+    std::vector<XmlElement> m_composites; ///< Read by finish().
 };
 
 } // namespace Ofd

@@ -42,10 +42,10 @@ private:
     QTransform m_fromDevice;
     QPen m_pen;
     QPainterPathStroker m_stroker;
-    qreal m_margin; ///< How far from the path the pen reaches, in device pixels.
+    qreal m_margin; ///< The largest distance of the stroke from the path, in device pixels.
 
     QPolygonF m_piece;    ///< In device pixels.
-    QPainterPath m_batch; ///< Pieces to be outlined together, in the space of the path.
+    QPainterPath m_batch; ///< Pieces that are outlined together, in path coordinates.
     qreal m_batchLength = 0;
 };
 

@@ -12,7 +12,7 @@ struct PlacedGlyph
 {
     QString text; ///< Empty for a second glyph of the same characters.
     const Glyph *glyph = nullptr;
-    QTransform place; ///< From the glyph's em.
+    QTransform place; ///< From glyph coordinates, with an em of 1.
     qreal width = 0;  ///< Up to the next character, in ems of @ref place.
 };
 

@@ -15,7 +15,7 @@ namespace Ofd {
 struct XmlElement
 {
     QString name;
-    QString text; ///< All characters directly inside, with their blanks.
+    QString text; ///< All characters directly inside, including blanks.
     QVector<QPair<QString, QString>> attributes;
     std::vector<XmlElement> children;
 

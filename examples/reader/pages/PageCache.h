@@ -16,7 +16,7 @@ public:
     struct Sheet
     {
         const PageContent *content = nullptr;
-        QSizeF size; ///< Unturned, in page units.
+        QSizeF size; ///< Without rotation, in page units.
         qreal scale = 1;
         int quarters = 0;
     };
@@ -31,5 +31,5 @@ public:
 private:
     QImage tile(const Sheet &sheet, QPoint corner, qreal ratio, const PageColours &colours);
 
-    QCache<QString, QImage> m_tiles; ///< Costs are kilobytes.
+    QCache<QString, QImage> m_tiles; ///< Costs are in kilobytes.
 };

@@ -37,7 +37,7 @@ struct PageLayout
     };
 
     QList<Place> places;
-    QSizeF desk; ///< At least as large as the view that it was made for.
+    QSizeF desk; ///< The scrolled surface; at least as large as the view.
 
     /** The layout of pages of these sizes; only those that the mode shows at once have a place. */
     static PageLayout of(LayoutMode mode, const QList<QSizeF> &sizes, int currentPage, QSizeF view);

@@ -36,7 +36,7 @@ struct PageDecoration
     TextRange currentHit;
     QList<TextRange> selection;
     bool revisionsVisible = true;
-    bool forPrint = false; ///< Print masks cover what is printed; display masks what is shown.
+    bool forPrint = false; ///< Selects print masks instead of display masks.
 };
 
 /** Paints a page in page units; the origin is its top left corner. */

@@ -12,21 +12,21 @@ struct PageTool
 {
     enum Gesture
     {
-        Pan,        ///< Drags the page about.
+        Pan,        ///< Scrolls the pages by dragging.
         SelectText, ///< Selects text, for copying or for marking.
-        MarkText,   ///< Puts the mark on the text that is dragged over.
+        MarkText,   ///< Marks the text between press and release.
         DrawShape,  ///< Draws the mark between press and release.
-        DrawInk,    ///< Follows the mouse.
-        Erase,      ///< Rubs out ink under the mouse.
-        PlaceText   ///< Asks for a text and puts it where the mouse was pressed.
+        DrawInk,    ///< Draws ink along the mouse.
+        Erase,      ///< Erases ink under the mouse.
+        PlaceText   ///< Asks for a text and adds it at the place of the press.
     };
 
     QString name;
     Gesture gesture = Pan;
     MarkKind kind = MarkKind::Highlight;
     QColor colour;
-    qreal width = 2; ///< Of the line, or of the eraser.
-    QString sign;    ///< Of revisions.
+    qreal width = 2; ///< The width of the line or the eraser.
+    QString sign;    ///< The sign of a revision.
 
     /** The tool of that name; the hand for an unknown name. */
     static PageTool of(const QString &name);

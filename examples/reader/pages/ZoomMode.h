@@ -32,6 +32,6 @@ public:
 
 private:
     Kind m_kind = Percent;
-    qreal m_percent = 0; ///< Of a fitting mode any positive number.
+    qreal m_percent = 0; ///< Any positive number for a fitting mode.
     QString m_name;
 };

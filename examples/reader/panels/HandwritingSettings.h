@@ -40,7 +40,7 @@ private:
     void show(MRHandWriteDialog &dialog, int track);
     Track &current() { return m_tracks.at(size_t(m_current)); }
 
-    std::vector<Track> m_tracks; ///< One a pen, in the order of PageTool::penNames().
+    std::vector<Track> m_tracks; ///< One for each pen, in the order of PageTool::penNames().
     QList<QColor> m_colours;
     int m_current = 0;
     int m_regionSize = 120;

@@ -57,7 +57,7 @@ private:
     QHash<QString, QListWidget *> m_lists;
     QPushButton *m_bookmarkButton;
     QList<int> m_bookmarks;
-    QString m_fileName; ///< Of the document that the bookmarks are for.
+    QString m_fileName; ///< The file of the bookmarks.
     QString m_panel;
     int m_currentPage = 0;
 };

@@ -16,7 +16,7 @@ namespace {
 
 const QString toolBarName = QStringLiteral("mrtoolbar");
 
-/** The widgets "name1", "name2" and so on, as many as there are. */
+/** The existing buttons "name1", "name2" and so on. */
 QList<QPushButton *> numberedButtons(const MRHandWriteDialog &dialog, const QString &name)
 {
     QList<QPushButton *> buttons;
@@ -27,8 +27,8 @@ QList<QPushButton *> numberedButtons(const MRHandWriteDialog &dialog, const QStr
 
 } // namespace
 
-// The facade does not delete its toolbar, which the window owns, and has no operation to do so. A
-// host that replaces the toolbar deletes it before it makes the next one, which has the same names.
+// The window owns the toolbar, and the facade has no operation to delete it. A host that replaces
+// the toolbar deletes it before it creates the next one, which has the same object names.
 QToolBar *ToolBarReach::toolBarOf(const QMainWindow &window)
 {
     return window.findChild<QToolBar *>(toolBarName, Qt::FindDirectChildrenOnly);
@@ -51,8 +51,8 @@ QStringList ToolBarReach::zoomBoxNames()
     return {QStringLiteral("v_zoom"), QStringLiteral("v_zoomlist")};
 }
 
-// A typed percentage that is one of the box's entries is not reported by DoSetZoomMode(): the box
-// only changes to that entry.
+// DoSetZoomMode() does not report a typed percentage that is an entry of the box: the box only
+// moves to that entry.
 QList<QComboBox *> ToolBarReach::zoomBoxes(const QMainWindow &window)
 {
     QList<QComboBox *> boxes;
@@ -64,8 +64,8 @@ QList<QComboBox *> ToolBarReach::zoomBoxes(const QMainWindow &window)
     return boxes;
 }
 
-// The dialog neither writes to the records nor reports what the user changes. That the host finds
-// the link and the three last buttons by name is what the dialog's header asks for.
+// The dialog neither writes into the tracks nor reports changes of the user. For the link and the
+// last three buttons, its header says that the host finds them by name.
 HandwritingControls ToolBarReach::controlsOf(const MRHandWriteDialog &dialog)
 {
     const auto button = [&dialog](const char *name) {

@@ -14,7 +14,7 @@ class QPushButton;
 class QSlider;
 class QToolBar;
 
-/** The controls of the library's handwriting dialog; a null pointer for one that it has not. */
+/** The controls of the library's handwriting dialog; null for a missing one. */
 struct HandwritingControls
 {
     QList<QPushButton *> colours;
@@ -28,16 +28,16 @@ struct HandwritingControls
 };
 
 /**
- * All that the reader does with widgets of the library which it has to look up by object name,
- * property or class, because the public interface has no operation for it.
+ * All lookups of widgets of the library by object name, property or class, each for a purpose that
+ * the public interface has no operation for.
  */
 namespace ToolBarReach {
 
-/** Null if the window has none. */
+/** The strip of the window; null if it has none. */
 QToolBar *toolBarOf(const QMainWindow &window);
 /** The name of the tab whose row is shown; empty if there is none. */
 QString shownTab(const QMainWindow &window);
-/** What the shipped descriptions call their zoom boxes. */
+/** The names of the zoom boxes in the shipped descriptions. */
 QStringList zoomBoxNames();
 QList<QComboBox *> zoomBoxes(const QMainWindow &window);
 

@@ -66,7 +66,7 @@ void KeyboardReach::addCommandKeys()
 void KeyboardReach::addPlaceKeys()
 {
     addKey(QStringLiteral("F10"), [this] { m_focusControl(QString()); });
-    // What the field and the box are called in the shipped descriptions.
+    // The names of the page field and the zoom box in the shipped descriptions.
     addPlaceKey(QStringLiteral("Ctrl+G"),
                 {QStringLiteral("d_gotopage"), QStringLiteral("d_gotopageinput")},
                 tr("工具栏现在没有可用的页码框"));

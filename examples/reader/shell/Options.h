@@ -12,10 +12,10 @@ struct Options
     QString skin;
     QString language;
     QString description;
-    QString screenshot; ///< Empty for a window that stays.
+    QString screenshot; ///< Empty if no picture is requested.
     QString file;       ///< The document to open; empty for the sample.
     bool clearHistory = false;
-    bool watch = false; ///< Follow the description, which is a file, whenever it is saved.
+    bool watch = false; ///< Rebuild the toolbar whenever the description is saved.
 
     /** Parses the arguments. On --help prints the help and ends the program. */
     static Options of(const QStringList &arguments, QString *error);

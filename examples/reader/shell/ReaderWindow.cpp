@@ -89,7 +89,7 @@ ReaderParts ReaderWindow::parts()
 
 bool ReaderWindow::focusControl(const QString &name)
 {
-    // The toolbar is replaced when its description changes.
+    // A new description replaces the toolbar, so callers must not keep a pointer to it.
     return m_toolBar->DoSetFocusSlot(name);
 }
 
