@@ -53,7 +53,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("part");
         // Empty: only the timer of the double click is running.
         QTest::addColumn<QString>("openMenuOf");
-        for (const char *part : {"window", "facade", "toolbar", "host tool bar"}) {
+        for (const char *part : {"window", "facade", "toolbar", "host bar"}) {
             for (const char *button : {"", "menu_file", "ab_set", "qt_set", "drop", "st_set"})
                 QTest::addRow("%s, menu of '%s'", part, button) << part << button;
         }

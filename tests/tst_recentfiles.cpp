@@ -41,7 +41,7 @@ QStringList manyPaths(int count)
     return paths;
 }
 
-/** A host with filled menus and a list of recent files. */
+/** A host with filled menus and recent files. */
 class RecentHost : public TestHost
 {
 public:

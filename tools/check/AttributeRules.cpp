@@ -49,7 +49,7 @@ void checkAttribute(const SourceElement &element, const SourceAttribute &attribu
         return;
     }
     findings.note("unused-attribute", attribute.position,
-                  QStringLiteral("the library makes no use of '%1' on %2; it can go")
+                  QStringLiteral("the library does not use '%1' on %2; remove it")
                       .arg(attribute.name, Vocabulary::noun(element.role)));
 }
 
@@ -71,8 +71,8 @@ void checkName(const SourceElement &element, Findings &findings)
 {
     if (element.has("name") && element.has("action"))
         findings.warn("name-and-action", element.positionOf("action"),
-                      QStringLiteral("'name' and 'action' are one and the same to the library, and "
-                                     "which of the two it keeps is not settled; remove one"));
+                      QStringLiteral("'name' and 'action' mean the same, and it is undefined "
+                                     "which of the two is used; remove one"));
     if (needsName(element.role) && element.record.name.isEmpty())
         findings.warn("no-name", element.position,
                       QStringLiteral("without an 'action' or a 'name' the host can neither set the "

@@ -25,7 +25,7 @@ void reportFault(const SourceFault &fault, Findings &findings)
         reason.chop(1);
     findings.fail("xml-syntax", fault.position,
                   QStringLiteral("the XML is not well-formed (%1), so hosts cannot read the "
-                                 "description at all; mend it here or a little above")
+                                 "description; correct it here or shortly before")
                       .arg(reason));
 }
 

@@ -52,12 +52,12 @@ public:
         if (icon.startsWith(QLatin1Char('/')))
             m_findings.note(
                 "icon-leading-slash", position,
-                QStringLiteral("the leading '/' is put up with; write '%1'").arg(icon.mid(1)));
+                QStringLiteral("the leading '/' is ignored; write '%1'").arg(icon.mid(1)));
         for (const QString &skin : m_skins) {
             if (!SkinIcons::exists(skin, icon))
                 m_findings.note("icon-in-one-skin", position,
                                 QStringLiteral("the skin '%1' has no icon '%2', so in that skin "
-                                               "the control comes up without one")
+                                               "the control has none")
                                     .arg(skin, icon));
         }
     }
@@ -105,7 +105,7 @@ private:
         if (meant.isEmpty())
             meant = SkinIcons::elsewhere(m_skins.last(), icon);
         m_findings.warn("icon-missing", position,
-                        where + QStringLiteral(", so the control comes up without one")
+                        where + QStringLiteral(", so the control has none")
                             + (meant.isEmpty()
                                    ? QString()
                                    : QStringLiteral("; did you mean '%1'?").arg(meant)));

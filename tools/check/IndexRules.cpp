@@ -9,7 +9,7 @@ namespace {
 /** The effect of an index without an entry. */
 QString fate(Role role)
 {
-    return role == Role::ComboBox ? QStringLiteral("the box comes up without a chosen entry")
+    return role == Role::ComboBox ? QStringLiteral("the box has no current entry")
                                   : QStringLiteral("the button keeps its own text and icon");
 }
 
@@ -29,8 +29,8 @@ void checkEntry(const SourceDocument &document, const SourceElement &element, Fi
     }
     if (index > 0 && document.at(element.children.at(index - 1)).role == Role::Separator)
         findings.warn("index-of-separator", position,
-                      QStringLiteral("entry %1 is a separator, which the button would take for its "
-                                     "own; separators count")
+                      QStringLiteral("entry %1 is a separator, which the button would make its own "
+                                     "entry; separators count")
                           .arg(index));
 }
 

@@ -91,7 +91,7 @@ void checkPair(const SourceElement &element, const SourceElement &earlier, Findi
                               .arg(earlier.position.line);
     if (scope == Scope::Tab && earlierScope == Scope::Tab)
         findings.warn("duplicate-name", position,
-                      where + QStringLiteral(": both would fill the same tool row; rename one"));
+                      where + QStringLiteral(": both would fill the same row; rename one"));
     else if (isInRow(scope) && isInRow(earlierScope))
         findings.warn("duplicate-name", position,
                       where

@@ -16,9 +16,8 @@ QString quoted(const QStringList &names)
 QString fate(const SourceElement &element)
 {
     return Vocabulary::isLeftOut(element.role)
-               ? QStringLiteral("nothing is built from it or from what it holds")
-               : QStringLiteral("it is taken for %1 all the same")
-                     .arg(Vocabulary::noun(element.role));
+               ? QStringLiteral("nothing is built from it or its children")
+               : QStringLiteral("it becomes %1 all the same").arg(Vocabulary::noun(element.role));
 }
 
 Severity severityOf(const SourceElement &element)
@@ -91,7 +90,7 @@ void checkBareness(const SourceElement &element, Findings &findings)
                                 : QStringLiteral("it becomes %1 without text and name")
                                       .arg(Vocabulary::noun(element.role));
     findings.add(severityOf(element), "no-attributes", element.position,
-                 QStringLiteral("'%1' has no attributes, so the library does not even see what it "
+                 QStringLiteral("'%1' has no attributes, so the library cannot determine what it "
                                 "is: %2; give it an 'action' or a 'name'")
                      .arg(element.tag, outcome));
 }
@@ -113,8 +112,8 @@ void Rules::checkStructure(const SourceDocument &document, Findings &findings)
     for (const SourceElement &element : document.elements) {
         if (element.strayText)
             findings.warn("stray-text", *element.strayText,
-                          QStringLiteral("text between elements is ignored; texts stand in the "
-                                         "attribute 'text', remarks in comments"));
+                          QStringLiteral("text between elements is ignored; write texts into the "
+                                         "attribute 'text', remarks into comments"));
         if (element.role == Role::Root)
             continue;
         const SourceElement &parent = document.parentOf(element);

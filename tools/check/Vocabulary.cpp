@@ -31,10 +31,10 @@ constexpr RoleTraits allTraits[]{
      "name action text icon tooltip available checkable visible"},
     {Role::QuickSet, "the customise button", "name action text icon tooltip visible"},
     {Role::Tab, "a tab", "name action text checkable checked visible scalable"},
-    {Role::RowButton, "a button of a tool row",
+    {Role::RowButton, "a button of a row",
      "name action text icon tooltip group checkable checked visible "
      "usable available doubleclick"},
-    {Role::RowMenu, "a menu of a tool row",
+    {Role::RowMenu, "a menu of a row",
      "name action text icon tooltip index checkable switchable "
      "withaction visible usable available"},
     {Role::ButtonGroup, "a button group", "visible"},
@@ -46,8 +46,8 @@ constexpr RoleTraits allTraits[]{
      "withaction visible usable available"},
     {Role::ComboBox, "a combo box", "name action text index editable visible"},
     {Role::Item, "an entry of a combo box", "name action text"},
-    {Role::RowLabel, "a label of a tool row", "name action text visible"},
-    {Role::RowField, "a field of a tool row", "name action text visible"},
+    {Role::RowLabel, "a label of a row", "name action text visible"},
+    {Role::RowField, "a field of a row", "name action text visible"},
     {Role::Separator, "a separator", ""},
     {Role::Extra, "an extra group", "usable"},
     {Role::ExtraLabel, "a label of an extra group", "name action text"},

@@ -33,13 +33,13 @@ int fail(const QString &message)
 QString explanation()
 {
     return QStringLiteral(
-        "Tells the author of a toolbar description what the library would do with it. The library "
-        "builds what it can and passes over the rest in silence; this tool names every such "
-        "place, says what becomes of it, and how to mend it.\n\n"
+        "Reports what the library would make from a toolbar description. The library ignores "
+        "mistakes without a message; this tool lists each of them with its effect and a "
+        "correction.\n\n"
         "Each finding is a line \"file:line:column: severity: sentence [id]\".\n"
-        "  error    something that is described will not be in the toolbar\n"
-        "  warning  the control is there, but hardly as it was meant\n"
-        "  note     harmless, such as an attribute without use (only with --notes)\n\n"
+        "  error    something described will be missing in the toolbar\n"
+        "  warning  the control exists, but probably not as intended\n"
+        "  note     harmless, such as an unused attribute (only with --notes)\n\n"
         "Exit status: 0 if nothing was reported, 1 if something was, 2 if a file cannot be read "
         "or the command line is wrong.\n\n"
         "Example: mrtoolbar-check --skin lum my_toolbar.xml");
@@ -52,8 +52,8 @@ void addOptions(QCommandLineParser &parser)
     parser.addVersionOption();
     parser.addOptions({
         {QStringLiteral("skin"),
-         QStringLiteral("Look up icons in this skin, marodi or lum; without it an icon of either "
-                        "skin will do."),
+         QStringLiteral("Look up icons in this skin, marodi or lum; without it those of both "
+                        "skins are accepted."),
          QStringLiteral("skin")},
         {QStringLiteral("resources"),
          QStringLiteral(
@@ -149,6 +149,6 @@ int main(int argc, char *argv[])
             return fail(QStringLiteral("there are no resources in '%1'").arg(file));
     }
     if (parser.positionalArguments().isEmpty())
-        return fail(QStringLiteral("no file to check; --help tells more"));
+        return fail(QStringLiteral("no file to check; --help lists the options"));
     return checkFiles(parser, options);
 }

@@ -13,7 +13,7 @@
 namespace {
 
 /** The folder of the translations of Qt's own dialogs. */
-QString toolkitFolder()
+QString qtFolder()
 {
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     return QLibraryInfo::location(QLibraryInfo::TranslationsPath);
@@ -36,7 +36,7 @@ void Language::install(const QString &name)
 {
     const QLocale locale(name);
     QLocale::setDefault(locale);
-    installFrom(toolkitFolder(), QStringLiteral("qtbase"), locale);
+    installFrom(qtFolder(), QStringLiteral("qtbase"), locale);
     installFrom(QStringLiteral(":/mr_toolbar/translations"), QStringLiteral("mrtoolbar"), locale);
     installFrom(QStringLiteral(":/reader/translations"), QStringLiteral("reader"), locale);
 }
