@@ -92,7 +92,7 @@ private Q_SLOTS:
             "DoSetZoomModeSlot(QString) DoSetPageInfoSlot(int,int) "
             "DoUpdateRecentFileSlot(QStringList) "
             "DoSetControlVisibleStateSlot(QString&,bool) DoSetBackgroundSlot(BackgroundStyle) "
-            "DoSetSkinStyleSlot(ToolBarSkinStyle) DoResetToolbarSlot()";
+            "DoSetSkinStyleSlot(ToolBarSkinStyle) DoResetToolbarSlot() DoSetFocusSlot(QString)";
         const QMetaObject &metaObject = MRToolBar::staticMetaObject;
         QStringList declared;
         for (int i = metaObject.methodOffset(); i < metaObject.methodCount(); ++i)
