@@ -9,11 +9,60 @@
 #include <QHash>
 #include <QIconEngine>
 #include <QPainter>
+#include <QRegularExpression>
+
+#include <cstdlib>
+#include <utility>
 
 namespace {
 
 /** Qt's own disabled look leaves light glyphs as they are; this one fades all alike. */
 constexpr qreal disabledOpacity = 0.45;
+
+/** The sides, in pixels, that the skins have drawings for. */
+constexpr int drawnSides[] = {16, 20, 24};
+
+/** Whether a drawing is white all over: one for the coloured strip, and unseen elsewhere. */
+bool isForColouredStrip(const QString &path)
+{
+    static const QRegularExpression darker(QStringLiteral("\"#(?!ffffff\")[0-9a-f]{6}\""));
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly)
+           && !darker.match(QString::fromLatin1(file.readAll())).hasMatch();
+}
+
+/**
+ * How badly a drawing of @p drawnSide fits @p side physical pixels. Lines stay on their pixels when
+ * they are multiplied, best by the least number; otherwise the nearest drawing is smeared least.
+ */
+std::pair<bool, int> misfit(int drawnSide, int side)
+{
+    return {side % drawnSide != 0, std::abs(side - drawnSide)};
+}
+
+/** The drawing of the same thing that is made for @p side physical pixels; if in doubt @p path. */
+QString drawingFor(const QString &path, int side)
+{
+    static const QRegularExpression sized(
+        QStringLiteral("^(?<before>.*/icon)(?<side>16|20|24)(?<after>/+[^/]+\\.svg)$"));
+    const QRegularExpressionMatch parts = sized.match(path);
+    const int ownSide = parts.captured(QStringLiteral("side")).toInt();
+    if (ownSide == 0 || side <= 0 || side == ownSide)
+        return path;
+
+    QString best = path;
+    int bestSide = ownSide;
+    for (const int drawnSide : drawnSides) {
+        const QString other = parts.captured(QStringLiteral("before")) + QString::number(drawnSide)
+                              + parts.captured(QStringLiteral("after"));
+        if (misfit(drawnSide, side) < misfit(bestSide, side) && QFile::exists(other)
+            && isForColouredStrip(other) == isForColouredStrip(path)) {
+            best = other;
+            bestSide = drawnSide;
+        }
+    }
+    return best;
+}
 
 class SkinIconEngine : public QIconEngine
 {
@@ -25,12 +74,12 @@ public:
 
     void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State state) override
     {
-        if (m_icon.isNull())
-            m_icon = QIcon(m_path);
+        const qreal ratio = painter->device() ? painter->device()->devicePixelRatioF() : 1.0;
+        const QIcon drawing = drawingOfSide(qRound(qMin(rect.width(), rect.height()) * ratio));
         const qreal opacity = painter->opacity();
         if (mode == QIcon::Disabled)
             painter->setOpacity(opacity * disabledOpacity);
-        m_icon.paint(painter, rect, Qt::AlignCenter, QIcon::Normal, state);
+        drawing.paint(painter, rect, Qt::AlignCenter, QIcon::Normal, state);
         painter->setOpacity(opacity);
     }
 
@@ -46,8 +95,17 @@ public:
     QIconEngine *clone() const override { return new SkinIconEngine(m_path); }
 
 private:
+    /** Looked up when first painted: the search reads files. */
+    QIcon drawingOfSide(int side)
+    {
+        QIcon &drawing = m_drawings[side];
+        if (drawing.isNull())
+            drawing = QIcon(drawingFor(m_path, side));
+        return drawing;
+    }
+
     QString m_path;
-    QIcon m_icon;
+    QHash<int, QIcon> m_drawings; ///< By the side in physical pixels.
 };
 
 QHash<QString, QIcon> &iconCache()
