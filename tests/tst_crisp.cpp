@@ -1,10 +1,15 @@
 // SPDX-FileCopyrightText: The MRToolBar authors
 // SPDX-License-Identifier: MIT
 
+#include "tests/support/Describe.h"
+#include "tests/support/Pointer.h"
 #include "tests/support/TestHost.h"
 #include "toolbar/skin/SkinIcon.h"
 
+#include <QComboBox>
 #include <QPainter>
+#include <QToolBar>
+#include <QToolButton>
 
 namespace {
 
@@ -22,6 +27,59 @@ QImage painted(const QIcon &icon, int side, qreal ratio)
     QPainter painter(&image);
     icon.paint(&painter, QRect(0, 0, side, side));
     return image;
+}
+
+const TestHost::SkinMap night{
+    {"[MainColor]", "#20262C"},          {"[MainColor.checked]", "#3D4853"},
+    {"[ToolBarBgColor]", "#30363C"},     {"[MainToolHoverColor]", "#424A52"},
+    {"[MainToolCheckColor]", "#59636D"}, {"[MainToolPressColor]", "#707C88"},
+    {"[Color.checked]", "#59636D"},      {"[MainColor.hover]", "#424A52"},
+    {"[MainColor.pressed]", "#707C88"},  {"rgb(195, 198, 202)", "#59636D"}};
+
+/** A tab, the application's button and a row with one control of each kind. */
+QString oneOfEach()
+{
+    using namespace Describe;
+    const QString checked = "checkable='true' checked='true'";
+    const QString entries = item("first") + item("second");
+    return section("appbutton", "<menu name='menu_file' text='file' icon='icon16/menu.svg'>"
+                                    + entries + "</menu>")
+           + row(button("b_plain", "icon='icon24/Find.svg' " + checked)
+                 + menu("m_split", entries, "switchable='true' " + checked)
+                 + menu("m_plain", entries)
+                 + comboBox("v_zoom", choice("vzmode_10p", "10%"), "editable='true'"))
+           + section("searchbar", button("st_next") + optionsButton("st_set", entries))
+           + section("addtional", "<button name='e_preference' " + checked + "/>");
+}
+
+/** The colour of the control's ground, beside its middle where no text or icon is. */
+QColor groundOf(QWidget *control)
+{
+    QTest::qWait(20);
+    return control->window()->grab().toImage().pixelColor(
+        control->mapTo(control->window(), QPoint(5, control->height() / 2)));
+}
+
+void pointAt(QWidget *control)
+{
+    const QPoint place(5, control->height() / 2);
+    QCursor::setPos(control->mapToGlobal(place));
+    QTest::mouseMove(control, place);
+    QTRY_VERIFY(control->underMouse());
+}
+
+/** How far the most distinct pixel of an area is from its ground, from 0 to 255. */
+int strongestMark(const QWidget *control, const QRect &area)
+{
+    const QImage image = control->window()->grab().toImage();
+    const QRect place(control->mapTo(control->window(), area.topLeft()), area.size());
+    const int ground = qGray(image.pixel(place.topLeft()));
+    int strongest = 0;
+    for (int y = place.top(); y <= place.bottom(); ++y) {
+        for (int x = place.left(); x <= place.right(); ++x)
+            strongest = qMax(strongest, qAbs(qGray(image.pixel(x, y)) - ground));
+    }
+    return strongest;
 }
 
 } // namespace
@@ -77,6 +135,70 @@ private Q_SLOTS:
         const int pixels = qRound(side * ratio);
         QCOMPARE(painted(icon.pixmap(pixels), pixels, 1.0),
                  painted(QIcon(iconFile(skin, drawn)), pixels, 1.0));
+    }
+
+    void shouldDarkenWhatIsCheckedUnderThePointer_data()
+    {
+        QTest::addColumn<int>("skin");
+        QTest::addColumn<TestHost::SkinMap>("map");
+        QTest::newRow("marodi") << marodi << TestHost::SkinMap{};
+        QTest::newRow("marodi, dark") << marodi << night;
+        QTest::newRow("lum") << lum << TestHost::SkinMap{};
+        QTest::newRow("lum, dark") << lum << night;
+    }
+
+    void shouldDarkenWhatIsCheckedUnderThePointer()
+    {
+        QFETCH(int, skin);
+        QFETCH(TestHost::SkinMap, map);
+        const SkinChoice choice(skin);
+        TestHost host(oneOfEach(), map);
+        host.showEnabled();
+        const auto *row = host.find<QToolBar>("row");
+        QWidget *const plain = row->widgetForAction(host.action("b_plain"));
+        for (QWidget *control : {plain, static_cast<QWidget *>(host.shownTabs().first()),
+                                 host.find<QWidget>("e_preference")}) {
+            movePointerAway();
+            QTRY_VERIFY(!control->underMouse());
+            const QColor resting = groundOf(control);
+            pointAt(control);
+            const QColor hovered = groundOf(control);
+            const QByteArray name = control->objectName().toUtf8();
+            QVERIFY2(hovered.lightness() < resting.lightness() - 3, name);
+            QVERIFY2(qAbs(hovered.hslHue() - resting.hslHue()) < 10, name);
+        }
+    }
+
+    void shouldDimEveryPartOfADisabledControl_data()
+    {
+        QTest::addColumn<int>("skin");
+        QTest::newRow("marodi") << marodi;
+        QTest::newRow("lum") << lum;
+    }
+
+    void shouldDimEveryPartOfADisabledControl()
+    {
+        QFETCH(int, skin);
+        const SkinChoice choice(skin);
+        TestHost host(oneOfEach());
+        host.showEnabled();
+        movePointerAway();
+        const QWidgetList controls{
+            host.find<QToolButton>("m_split"), host.find<QToolButton>("m_plain"),
+            host.find<QComboBox>("v_zoom"), host.find<QPushButton>("menu_file")};
+        for (QWidget *control : controls) {
+            const QByteArray name = control->objectName().toUtf8();
+            // An arrow by the trailing edge; text begins further in.
+            const bool isText = control->objectName() == "menu_file";
+            const QRect whole = control->rect().adjusted(6, 3, -4, -3);
+            const QRect area = isText ? whole : whole.adjusted(whole.width() - 10, 0, 0, 0);
+            control->setEnabled(true);
+            const int enabled = strongestMark(control, area);
+            control->setEnabled(false);
+            const int disabled = strongestMark(control, area);
+            QVERIFY2(enabled > 80, name);
+            QVERIFY2(disabled > enabled / 4 && disabled < enabled * 2 / 3, name);
+        }
     }
 };
 
