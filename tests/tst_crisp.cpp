@@ -5,11 +5,14 @@
 #include "tests/support/Pointer.h"
 #include "tests/support/TestHost.h"
 #include "toolbar/skin/SkinIcon.h"
+#include "toolbar/widgets/SplitButton.h"
 
 #include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
 #include <QPainter>
+#include <QStyleOptionToolButton>
 #include <QToolBar>
-#include <QToolButton>
 
 namespace {
 
@@ -80,6 +83,27 @@ int strongestMark(const QWidget *control, const QRect &area)
             strongest = qMax(strongest, qAbs(qGray(image.pixel(x, y)) - ground));
     }
     return strongest;
+}
+
+/** Whether no text ends just before the part of the button that opens its menu, or in it. */
+bool isClearBeforeArrow(const QToolButton *button)
+{
+    QStyleOptionToolButton option;
+    option.initFrom(button);
+    option.features = QStyleOptionToolButton::MenuButtonPopup;
+    option.subControls = QStyle::SC_ToolButton | QStyle::SC_ToolButtonMenu;
+    const QRect arrow = button->style()->subControlRect(QStyle::CC_ToolButton, &option,
+                                                        QStyle::SC_ToolButtonMenu, button);
+    QTest::qWait(20);
+    const QRect gap(arrow.left() - 1, button->height() / 4, 1, button->height() / 2);
+    return arrow.isValid() && strongestMark(button, gap) < 60;
+}
+
+void addSkins()
+{
+    QTest::addColumn<int>("skin");
+    QTest::newRow("marodi") << marodi;
+    QTest::newRow("lum") << lum;
 }
 
 } // namespace
@@ -169,12 +193,7 @@ private Q_SLOTS:
         }
     }
 
-    void shouldDimEveryPartOfADisabledControl_data()
-    {
-        QTest::addColumn<int>("skin");
-        QTest::newRow("marodi") << marodi;
-        QTest::newRow("lum") << lum;
-    }
+    void shouldDimEveryPartOfADisabledControl_data() { addSkins(); }
 
     void shouldDimEveryPartOfADisabledControl()
     {
@@ -199,6 +218,58 @@ private Q_SLOTS:
             QVERIFY2(enabled > 80, name);
             QVERIFY2(disabled > enabled / 4 && disabled < enabled * 2 / 3, name);
         }
+    }
+
+    void shouldKeepTheLabelClearOfItsArrow_data() { addSkins(); }
+
+    void shouldKeepTheLabelClearOfItsArrow()
+    {
+        QFETCH(int, skin);
+        const SkinChoice choice(skin);
+        using namespace Describe;
+        const QString icon = "icon='icon24/Find.svg' ";
+        const QString split = "<menu name='%1' text='页页' icon='icon24/Find.svg' checkable='true' "
+                              "switchable='true'>"
+                              + item("页页", icon) + "</menu>";
+        TestHost host(row(split.arg("m_row") + group("panel", split.arg("m_group"))));
+        host.showEnabled();
+        for (const char *name : {"m_row", "m_group"}) {
+            auto *button = host.toolBar()->findChild<SplitButton *>(name);
+            QVERIFY2(button && button->popupMode() == QToolButton::MenuButtonPopup, name);
+            movePointerAway();
+            QTRY_VERIFY(!button->underMouse());
+            QVERIFY2(isClearBeforeArrow(button), name);
+            pointAt(button);
+            QVERIFY2(isClearBeforeArrow(button), name);
+        }
+    }
+
+    void shouldWriteThePageAndTheTotalOnOneLine_data() { addSkins(); }
+
+    void shouldWriteThePageAndTheTotalOnOneLine()
+    {
+        QFETCH(int, skin);
+        const SkinChoice choice(skin);
+        using namespace Describe;
+        const QString captioned = field("d_gotopage", "text='页码'");
+        TestHost host(row(captioned + label("d_totalpagelabel", "/12") + label("d_pagelabel", "页")
+                          + field("t_number", "tooltip='数字'")));
+        host.showEnabled();
+        const auto *pages = host.find<QLineEdit>("d_gotopage");
+        const auto middleOf = [](const QWidget *widget, const QRect &rect) {
+            return widget->mapTo(widget->window(), rect.center()).y();
+        };
+        const int middle = middleOf(pages, pages->rect());
+        for (const char *name : {"d_totalpagelabel", "d_pagelabel"}) {
+            const auto *label = host.find<QLabel>(name);
+            const int distance = middleOf(label, label->contentsRect()) - middle;
+            QVERIFY2(qAbs(distance) <= 1, qPrintable(QString("%1: %2").arg(name).arg(distance)));
+            const int textWidth = label->fontMetrics().horizontalAdvance(label->text());
+            QVERIFY2(label->contentsRect().width() <= textWidth + 1, name);
+        }
+        const auto *number = host.find<QLineEdit>("t_number");
+        QCOMPARE(number->height(), pages->height());
+        QVERIFY(qAbs(middleOf(number, number->rect()) - middle) <= 1);
     }
 };
 

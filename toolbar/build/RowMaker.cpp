@@ -52,6 +52,31 @@ QWidget *makeCaptionedContainer(QWidget *control)
     return container;
 }
 
+/** As much room as a caption takes: a field without one stands level with those that have one. */
+class CaptionRoom : public QSpacerItem
+{
+public:
+    explicit CaptionRoom(const QWidget *field)
+        : QSpacerItem(0, 0, QSizePolicy::Minimum, QSizePolicy::Fixed)
+        , m_field(field)
+    {
+    }
+
+    // Asked anew each time: the field has its font only when the sheet has been applied. Lines are
+    // higher in some languages, and the field's name is in that of the captions.
+    QSize sizeHint() const override
+    {
+        const QFontMetrics metrics = m_field->fontMetrics();
+        const QSize line = metrics.size(Qt::TextSingleLine, m_field->accessibleName());
+        return {0, std::max(metrics.height(), line.height())};
+    }
+    QSize minimumSize() const override { return sizeHint(); }
+    QSize maximumSize() const override { return {QLAYOUTSIZE_MAX, sizeHint().height()}; }
+
+private:
+    const QWidget *m_field;
+};
+
 QLabel *addCaption(QWidget *container, const QString &text)
 {
     auto *caption = new QLabel(text);
@@ -283,6 +308,7 @@ void RowMaker::addLineEdit(const Controller &record, QToolBar *row)
     } else {
         const QRegularExpression digits(QStringLiteral("^[0-9]*$"));
         field->setValidator(new QRegularExpressionValidator(digits, field));
+        container->layout()->addItem(new CaptionRoom(field));
     }
     addWidget(container, record, row);
 }
