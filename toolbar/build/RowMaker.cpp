@@ -30,6 +30,9 @@
 
 namespace {
 
+/** The skins show no scroll bar in a list, so that all of a usual one is to be seen. */
+constexpr int mostShownChoices = 20;
+
 /** Whether a separator that waits is to be placed before this control. */
 bool endsSeparatorWait(const Controller &record)
 {
@@ -278,6 +281,7 @@ void RowMaker::addComboBox(const Controller &record, QToolBar *row)
         if (record.index > 0)
             box->setCurrentIndex(record.index - 1);
         box->setInsertPolicy(QComboBox::InsertAtBottom);
+        box->setMaxVisibleItems(mostShownChoices);
         if (record.name.contains(Word::zoom, Qt::CaseInsensitive))
             m_receiver.takeZoomBox(box, record);
     }
