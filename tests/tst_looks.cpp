@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "tests/support/Elements.h"
+#include "tests/support/Pointer.h"
 #include "tests/support/TestDocuments.h"
 #include "tests/support/TestHost.h"
 #include "toolbar/widgets/MRMainToolBar.h"
@@ -107,6 +108,27 @@ bool isBlank(const QImage &image)
     return image == nothing;
 }
 
+/** The toolbar with each of its tabs on show, once as it starts and once with all enabled. */
+QList<QImage> picturesOfTabs()
+{
+    const auto host = TestHost::withFile(QStringLiteral(SHOWCASE));
+    host->window().resize(host->scaled(1000), host->scaled(300));
+    auto *own = new QPushButton(QStringLiteral("own"));
+    host->window().setCentralWidget(own);
+    host->show();
+    own->setFocus();
+    QList<QImage> pictures;
+    const auto takePicture = [&](const QString &) {
+        movePointerAway();
+        QTest::qWait(50);
+        pictures.append(host->toolBar()->grab().toImage());
+    };
+    host->openEachTab(takePicture);
+    host->enableEverything();
+    host->openEachTab(takePicture);
+    return pictures;
+}
+
 } // namespace
 
 /** Sizes, icons and pictures of toolbars at the density of the current screen. */
@@ -137,37 +159,49 @@ private Q_SLOTS:
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
     }
 
-    void shouldKeepItsLooksUnderASheetOfTheHost()
+    void shouldKeepItsLooksInAnyApplication_data()
     {
-        const auto picture = [] {
-            const auto host = TestHost::withFile(QStringLiteral(SHOWCASE));
-            host->window().resize(host->scaled(1000), host->scaled(300));
-            auto *own = new QPushButton(QStringLiteral("own"));
-            host->window().setCentralWidget(own);
-            host->show();
-            own->setFocus();
-            QTest::qWait(50);
-            return host->toolBar()->grab().toImage();
-        };
+        QTest::addColumn<int>("skin");
+        QTest::addColumn<QString>("sheet");
+        QTest::addColumn<QPalette>("palette");
+        const QString loud = QStringLiteral(
+            "QWidget{color:purple;font-size:18px;font-weight:bold;}"
+            "QPushButton{background:#a00;padding:8px 20px;min-width:90px;min-height:40px;"
+            "border:3px solid green;border-radius:9px;margin:3px;}"
+            "QToolButton{background:orange;padding:9px;margin:2px;border:2px solid blue;}"
+            "QLabel{background:cyan;padding:4px;border:1px solid black;}"
+            "QToolBar{background:red;spacing:20px;padding:9px;border:4px solid blue;}"
+            "QFrame{border:2px solid red;}QStackedWidget{background:green;}");
+        const QString dark = QStringLiteral("QWidget{background:#222;color:#eee;}");
+        const QPalette usual = qApp->palette();
         for (const int skin : {marodi, lum}) {
-            const SkinChoice choice(skin);
-            const QImage plain = picture();
-            qApp->setStyleSheet(QStringLiteral(
-                "QWidget{color:purple;font-size:18px;font-weight:bold;}"
-                "QPushButton{background:#a00;padding:8px 20px;min-width:90px;min-height:40px;"
-                "border:3px solid green;border-radius:9px;margin:3px;}"
-                "QToolButton{background:orange;padding:9px;margin:2px;border:2px solid blue;}"
-                "QLabel{background:cyan;padding:4px;border:1px solid black;}"
-                "QToolBar{background:red;spacing:20px;padding:9px;border:4px solid blue;}"
-                "QFrame{border:2px solid red;}QStackedWidget{background:green;}"));
-            const QImage underSheet = picture();
-            qApp->setStyleSheet(QString());
-            QCOMPARE(underSheet.size(), plain.size());
-            if (underSheet != plain) {
-                plain.save(QStringLiteral("plain.png"));
-                underSheet.save(QStringLiteral("under_sheet.png"));
-                QFAIL("see plain.png and under_sheet.png");
-            }
+            const char *name = skin == lum ? "lum" : "marodi";
+            QTest::addRow("%s, loud sheet", name) << skin << loud << usual;
+            QTest::addRow("%s, dark sheet", name) << skin << dark << usual;
+            QTest::addRow("%s, dark palette", name) << skin << QString() << QPalette(0x303030);
+        }
+    }
+
+    void shouldKeepItsLooksInAnyApplication()
+    {
+        QFETCH(int, skin);
+        QFETCH(QString, sheet);
+        QFETCH(QPalette, palette);
+        const SkinChoice choice(skin);
+        const QList<QImage> plain = picturesOfTabs();
+        const QPalette usual = qApp->palette();
+        qApp->setPalette(palette);
+        qApp->setStyleSheet(sheet);
+        const QList<QImage> dressed = picturesOfTabs();
+        qApp->setStyleSheet(QString());
+        qApp->setPalette(usual);
+        QCOMPARE(dressed.size(), plain.size());
+        for (int i = 0; i < plain.size(); ++i) {
+            if (dressed.at(i) == plain.at(i))
+                continue;
+            plain.at(i).save(QStringLiteral("plain.png"));
+            dressed.at(i).save(QStringLiteral("dressed.png"));
+            QFAIL("see plain.png and dressed.png");
         }
     }
 
