@@ -61,17 +61,24 @@ QString oneOfEach()
            + section("addtional", "<button name='e_preference' " + checked + "/>");
 }
 
+QImage pictureOf(QWidget *control)
+{
+    QTest::qWait(20);
+    return control->window()
+        ->grab(QRect(control->mapTo(control->window(), QPoint()), control->size()))
+        .toImage();
+}
+
 /** The colour of the control's ground, beside its middle where no text or icon is. */
 QColor groundOf(QWidget *control)
 {
-    QTest::qWait(20);
-    return control->window()->grab().toImage().pixelColor(
-        control->mapTo(control->window(), QPoint(5, control->height() / 2)));
+    return pictureOf(control).pixelColor(5, control->height() / 2);
 }
 
 void pointAt(QWidget *control)
 {
-    const QPoint place(5, control->height() / 2);
+    // Not on an arrow, nor beside a button that keeps a margin.
+    const QPoint place(control->width() / 3, control->height() / 2);
     QCursor::setPos(control->mapToGlobal(place));
     QTest::mouseMove(control, place);
     QTRY_VERIFY(control->underMouse());
@@ -237,6 +244,25 @@ private Q_SLOTS:
             const int disabled = strongestMark(control, area);
             QVERIFY2(enabled > 80, name);
             QVERIFY2(disabled > enabled / 4 && disabled < enabled * 2 / 3, name);
+        }
+    }
+
+    void shouldShowNoHoverOnAButtonThatShowsNothing_data() { addSkins(); }
+
+    void shouldShowNoHoverOnAButtonThatShowsNothing()
+    {
+        QFETCH(int, skin);
+        const SkinChoice choice(skin);
+        TestHost host(oneOfEach());
+        host.showEnabled();
+        for (const char *name : {"ab_set", "menu_file"}) {
+            auto *button = host.find<QPushButton>(name);
+            movePointerAway();
+            QTRY_VERIFY(!button->underMouse());
+            const QImage resting = pictureOf(button);
+            pointAt(button);
+            const bool isBlank = button->icon().isNull() && button->text().isEmpty();
+            QCOMPARE(pictureOf(button) == resting, isBlank);
         }
     }
 

@@ -39,6 +39,13 @@ void MRMenuButton::PopMenuSlot()
         m_menu->exec(menuPosition());
 }
 
+void MRMenuButton::paintEvent(QPaintEvent *event)
+{
+    // Where there is nothing to see, the pointer must not bring up an empty square.
+    if (!icon().isNull() || !text().isEmpty())
+        QPushButton::paintEvent(event);
+}
+
 QPoint MRMenuButton::menuPosition() const
 {
     QPoint position;

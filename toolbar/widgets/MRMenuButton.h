@@ -32,6 +32,9 @@ Q_SIGNALS:
     /** The menu is about to be popped: whoever fills it late does so now. */
     void menuRequested();
 
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
 private:
     QPoint menuPosition() const;
 
