@@ -266,6 +266,29 @@ private Q_SLOTS:
         }
     }
 
+    void shouldDrawTheFocusAlongWhatTheButtonShows()
+    {
+        for (const int skin : {marodi, lum}) {
+            const SkinChoice choice(skin);
+            TestHost host(oneOfEach());
+            host.showEnabled();
+            movePointerAway();
+            // One keeps a margin on its left, the other is round: both leave their corners alone.
+            QPushButton *button = host.shownTabs().first();
+            if (skin == marodi)
+                button = host.find<QPushButton>("menu_file");
+            button->clearFocus();
+            const QImage resting = pictureOf(button);
+            host.window().setAttribute(Qt::WA_KeyboardFocusChange);
+            button->setFocus(Qt::TabFocusReason);
+            const QImage focused = pictureOf(button);
+            QVERIFY(focused != resting);
+            const int top = skin == marodi ? button->height() / 2 : 0;
+            QCOMPARE(focused.pixelColor(0, top), resting.pixelColor(0, top));
+            QCOMPARE(focused.pixelColor(2, top + 2), resting.pixelColor(2, top + 2));
+        }
+    }
+
     void shouldKeepTheLabelClearOfItsArrow_data() { addSkins(); }
 
     void shouldKeepTheLabelClearOfItsArrow()

@@ -3,18 +3,39 @@
 
 #include "toolbar/widgets/FocusRing.h"
 
+#include "toolbar/description/Names.h"
 #include "toolbar/skin/ScreenDensity.h"
+#include "toolbar/skin/Skin.h"
 #include "toolbar/widgets/MRScrollWidget.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QEvent>
 #include <QPainter>
+#include <QPushButton>
+#include <QStyleOptionButton>
 
 namespace {
 
 constexpr double lineWidth = 1.5;
 constexpr double cornerRadius = 3.0;
+
+/** What lights up under the pointer: the button without its margins. */
+QRect hoverRect(const QWidget *button)
+{
+    const auto *pushButton = qobject_cast<const QPushButton *>(button);
+    if (!pushButton)
+        return button->rect(); // The skins give no other button margins.
+
+    QStyleOptionButton option;
+    option.initFrom(pushButton);
+    return pushButton->style()->subElementRect(QStyle::SE_PushButtonBevel, &option, pushButton);
+}
+
+/** The tabs of lum are round from top to bottom. */
+bool isPill(const QWidget *button)
+{
+    return Skin::isLum() && button->property(Property::module).toString() == Module::tabButton;
+}
 
 /** A sibling of the button: it scrolls, and is cut off, with it. */
 class Ring : public QWidget
@@ -53,12 +74,13 @@ protected:
     {
         const double scale = ScreenDensity::scale(this);
         const double inset = lineWidth * scale / 2;
+        const QRectF line = QRectF(hoverRect(m_button)).adjusted(inset, inset, -inset, -inset);
+        const double radius = isPill(m_button) ? line.height() / 2 : cornerRadius * scale;
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
         // The colour of the button's text is seen on the button's ground, whatever the skin.
         painter.setPen(QPen(m_button->palette().color(QPalette::ButtonText), lineWidth * scale));
-        painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset),
-                                cornerRadius * scale, cornerRadius * scale);
+        painter.drawRoundedRect(line, radius, radius);
     }
 
 private:
