@@ -7,9 +7,11 @@
 #include "toolbar/handwrite/InkPictures.h"
 #include "ui_HandWriteDialog.h"
 
+#include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <utility>
@@ -51,6 +53,13 @@ QString colourName(const QColor &colour)
     return known == std::end(defaultColours) ? colour.name() : MRHandWriteDialog::tr(known->name);
 }
 
+/** The colour of a link that can be read on a ground, which palettes often keep at plain blue. */
+QColor linkColourOn(const QColor &ground)
+{
+    constexpr int darkBelow = 128;
+    return qGray(ground.rgb()) < darkBelow ? QColor(0x6c, 0xb6, 0xff) : QColor(0x0b, 0x5c, 0xad);
+}
+
 /** Checks @p button, or none if it is null. An exclusive group would refuse to uncheck its last. */
 void checkOnly(QButtonGroup *group, const QAbstractButton *button)
 {
@@ -79,6 +88,7 @@ MRHandWriteDialog::MRHandWriteDialog(QWidget *parent)
     setStyleSheet(QStringLiteral("QPushButton:checked{border:1px DotLine lightgray;} "
                                  "QDialog{border:1px solid lightgray;}"));
     connectControls();
+    tintLink();
 
     QList<QColor> colours;
     for (const NamedColour &entry : defaultColours)
@@ -286,9 +296,21 @@ bool MRHandWriteDialog::eventFilter(QObject *watched, QEvent *event)
     return QDialog::eventFilter(watched, event);
 }
 
+void MRHandWriteDialog::tintLink()
+{
+    // Neither the label's palette nor a sheet reaches a link of a rich text.
+    static const QRegularExpression link(QStringLiteral("<a (style=\"[^\"]*\" )?"));
+    const QColor colour = linkColourOn(QGuiApplication::palette().color(QPalette::Base));
+    QString text = m_ui->labelOtherSelect->text();
+    text.replace(link, QStringLiteral("<a style=\"color:%1\" ").arg(colour.name()));
+    m_ui->labelOtherSelect->setText(text);
+}
+
 void MRHandWriteDialog::changeEvent(QEvent *event)
 {
     QDialog::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        tintLink();
     if (event->type() != QEvent::LanguageChange)
         return;
 
@@ -299,6 +321,7 @@ void MRHandWriteDialog::changeEvent(QEvent *event)
             pictured.append(button);
     }
     m_ui->retranslateUi(this);
+    tintLink();
     for (QPushButton *button : std::as_const(pictured))
         button->setText(QString());
     for (QPushButton *button : std::as_const(m_colourButtons))

@@ -105,6 +105,7 @@ private:
     void connectControls();
     void dressSwatch(QPushButton *button, const QColor &colour);
     void nameSwatch(QPushButton *button);
+    void tintLink();
     void dressTrackButtons();
     void showTrack(int index);
     QColor inkColour() const;
