@@ -88,6 +88,29 @@ private Q_SLOTS:
         QVERIFY(!fixture.arrow("right")->isVisible());
     }
 
+    void shouldFadeWhatIsCutOffAtAnEnd()
+    {
+        ScrolledRow fixture(400);
+        fixture.row->setStyleSheet(QStringLiteral("QWidget{background:red;}"));
+        const auto redAt = [&fixture](bool isLeft) {
+            const QRect view = fixture.area()->viewport()->geometry();
+            const QImage image = fixture.area()->grab().toImage();
+            const int x = isLeft ? view.left() : view.right();
+            return image.pixelColor(x, view.center().y()) == Qt::red;
+        };
+        QVERIFY(redAt(true) && !redAt(false));
+        fixture.bar()->setValue(fixture.end() / 2);
+        QVERIFY(!redAt(true) && !redAt(false));
+        fixture.bar()->setValue(fixture.end());
+        QVERIFY(!redAt(true) && redAt(false));
+        // The pointer goes on to the control below.
+        const QPoint edge(2, 30);
+        QVERIFY(fixture.row->isAncestorOf(fixture.area()->childAt(edge))
+                || fixture.area()->childAt(edge) == fixture.row);
+        fixture.holder.resize(1000, 64);
+        QTRY_VERIFY(redAt(true));
+    }
+
     void shouldNameItsArrowsAndKeepTheirPlace()
     {
         const ScrolledRow fixture(400);

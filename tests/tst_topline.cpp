@@ -111,6 +111,29 @@ private Q_SLOTS:
         QVERIFY2(isReachable(tabs.last()), "The tab on show is hidden");
     }
 
+    void shouldShowTabsAsAWholeOrNotAtAll()
+    {
+        constexpr int count = 20;
+        TestHost host(manyTabs(count));
+        host.show();
+        const QList<QPushButton *> tabs = host.shownTabs();
+        for (int width = 500; width < 600; width += 13) {
+            host.window().resize(host.scaled(width), host.scaled(300));
+            QTest::qWait(20);
+            for (int clicks = 0; clicks < 3; ++clicks) {
+                int shown = 0;
+                for (const QPushButton *tab : tabs) {
+                    const QRect seen = tab->visibleRegion().boundingRect();
+                    QVERIFY2(seen.isEmpty() || seen == tab->rect(), qPrintable(tab->objectName()));
+                    shown += seen.isEmpty() ? 0 : 1;
+                }
+                QVERIFY(shown > 1 && shown < count);
+                if (arrow(host, false))
+                    QTest::mouseClick(arrow(host, false), Qt::LeftButton);
+            }
+        }
+    }
+
     void shouldKeepTheWindowNarrowWhenTheSearchFieldWidens()
     {
         const auto host = TestHost::withShipped(QStringLiteral("marodi/mr_toolbar.debug.xml"));

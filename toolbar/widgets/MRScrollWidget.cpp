@@ -7,6 +7,7 @@
 #include "toolbar/skin/ScreenDensity.h"
 #include "toolbar/skin/Skin.h"
 #include "toolbar/skin/SkinIcon.h"
+#include "toolbar/widgets/EndFade.h"
 #include "toolbar/widgets/ObjectTree.h"
 
 #include <QComboBox>
@@ -154,6 +155,7 @@ MRScrollArea::MRScrollArea(QWidget *parent)
     connect(horizontalScrollBar(), &QScrollBar::rangeChanged, this,
             &MRScrollArea::UpdateExtendButton);
     connect(horizontalScrollBar(), &QScrollBar::valueChanged, this, [this] {
+        fadeEnds();
         if (!isScrolling())
             UpdateExtendButton();
     });
@@ -182,6 +184,22 @@ void MRScrollArea::UpdateExtendButton()
     const int value = horizontalScrollBar()->value();
     Q_EMIT SetExtendButtonVisible(leftSide, value >= 1);
     Q_EMIT SetExtendButtonVisible(rightSide, value < hiddenWidth());
+    fadeEnds();
+}
+
+void MRScrollArea::fadeEnds()
+{
+    const auto showAt = [this](EndFade *&fade, Qt::Edge edge, bool isCut) {
+        if (!fade && !isCut)
+            return;
+        if (!fade)
+            fade = new EndFade(edge, this);
+        fade->follow(viewport()->geometry());
+        fade->setVisible(isCut);
+    };
+    const int value = horizontalScrollBar()->value();
+    showAt(m_leftFade, Qt::LeftEdge, value >= 1);
+    showAt(m_rightFade, Qt::RightEdge, value < hiddenWidth());
 }
 
 void MRScrollArea::DoScrollAction()

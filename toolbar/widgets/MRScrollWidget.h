@@ -8,6 +8,7 @@
 
 #include <memory>
 
+class EndFade;
 class QPropertyAnimation;
 
 /**
@@ -78,9 +79,12 @@ protected:
 private:
     bool isScrolling() const;
     int hiddenWidth() const;
+    void fadeEnds();
     void animate(int from, int to);
 
     QPropertyAnimation *m_animation;
+    EndFade *m_leftFade = nullptr; ///< There is none while the row has room.
+    EndFade *m_rightFade = nullptr;
     std::shared_ptr<QObject> m_wheelWatch; ///< Calls eventFilter(); shared by all areas.
 };
 

@@ -113,7 +113,7 @@ QList<QWidget *> TabStrip::shownTabs() const
 
 int TabStrip::offsetShowing(const QWidget *tab) const
 {
-    const int room = m_view->width();
+    const int room = roomForTabs();
     const QRect place = tab->geometry();
     int offset = m_offset;
     if (place.width() > room)
@@ -151,17 +151,39 @@ void TabStrip::moveTo(int offset)
     placeParts();
 }
 
+int TabStrip::roomForTabs() const
+{
+    const bool isShort = sizeHint().width() > width();
+    return std::max(0, width() - (isShort ? 2 * arrowWidth(this) : 0));
+}
+
+QRect TabStrip::wholeTabs(int room) const
+{
+    const QRect view(m_offset, 0, room, height());
+    QRect whole;
+    const QList<QWidget *> tabs = shownTabs();
+    for (const QWidget *tab : tabs) {
+        const QRect place = tab->geometry();
+        if (place.left() >= view.left() && place.right() <= view.right())
+            whole |= QRect(place.left(), 0, place.width(), height());
+    }
+    return whole.isEmpty() ? view : whole;
+}
+
 void TabStrip::placeParts()
 {
     const int wanted = sizeHint().width();
     const bool isShort = wanted > width();
     const int arrow = isShort ? arrowWidth(this) : 0;
-    const int room = std::max(0, width() - 2 * arrow);
+    const int room = roomForTabs();
     const int hidden = std::max(0, wanted - room);
     m_offset = std::clamp(m_offset, 0, hidden);
 
-    m_view->setGeometry(arrow, 0, room, height());
-    m_tabs->setGeometry(-m_offset, 0, std::max(wanted, room), height());
+    m_tabs->resize(std::max(wanted, room), height());
+    m_tabs->layout()->activate();
+    const QRect shown = isShort ? wholeTabs(room) : QRect(0, 0, room, height());
+    m_view->setGeometry(arrow, 0, shown.width(), height());
+    m_tabs->move(-shown.left(), 0);
     m_left->setGeometry(0, 0, arrow, height());
     m_right->setGeometry(width() - arrow, 0, arrow, height());
     m_left->setVisible(isShort && m_offset > 0);

@@ -24,8 +24,9 @@ private:
 };
 
 /**
- * The tabs of the top line. Where there is no room for all of them the strip shows a part, which
- * the arrows at its ends and the wheel move; the tab that is checked or has the focus is in it.
+ * The tabs of the top line. Where there is no room for all of them the strip shows those that fit
+ * as a whole, and the arrows at its ends and the wheel bring others; the tab that is checked or has
+ * the focus is among them.
  */
 class TabStrip : public QWidget
 {
@@ -47,6 +48,9 @@ protected:
 
 private:
     QList<QWidget *> shownTabs() const;
+    int roomForTabs() const;
+    /** The part of the tabs to show: those that fit as a whole, or what there is room for. */
+    QRect wholeTabs(int room) const;
     int offsetShowing(const QWidget *tab) const;
     void moveBy(int direction);
     void moveTo(int offset);
