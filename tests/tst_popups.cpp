@@ -31,6 +31,30 @@ QPoint firstMark(const QMenu *menu, const QImage &image, QAction *entry, int lef
     return {};
 }
 
+/** Entries with and without an icon or a check mark, all of the same text. */
+QString entriesOfEachKind(bool withIcons)
+{
+    const QString entry = "<menuitem action='%1' text='目' %2/>";
+    const QString icon = withIcons ? "icon='icon16/Find.svg' " : "";
+    const QString checkable = "checkable='true' ";
+    const QString checked = checkable + "checked='true' ";
+    return entry.arg("a", icon) + entry.arg("b", checked) + entry.arg("c", icon + checked)
+           + entry.arg("d", QString()) + entry.arg("e", checkable);
+}
+
+QImage pictureOfMenu(TestHost &host)
+{
+    host.showEnabled();
+    movePointerAway();
+    auto *menu = host.find<QMenu>("m_entries");
+    menu->popup(host.window().mapToGlobal(QPoint(20, 200)));
+    if (!QTest::qWaitForWindowExposed(menu))
+        return QImage();
+    const QImage image = menu->grab().toImage();
+    menu->close();
+    return image;
+}
+
 void addSkins()
 {
     QTest::addColumn<int>("skin");
@@ -46,35 +70,45 @@ class PopupsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void shouldAlignAndMarkTheEntriesOfAMenuAlike_data() { addSkins(); }
+    void shouldWriteTheEntriesOfAMenuInOneColumn_data()
+    {
+        QTest::addColumn<int>("skin");
+        QTest::addColumn<bool>("withIcons");
+        for (const int skin : {marodi, lum}) {
+            QTest::addRow("skin %d, icons", skin) << skin << true;
+            QTest::addRow("skin %d, no icon", skin) << skin << false;
+        }
+    }
 
-    void shouldAlignAndMarkTheEntriesOfAMenuAlike()
+    void shouldWriteTheEntriesOfAMenuInOneColumn()
+    {
+        QFETCH(int, skin);
+        QFETCH(bool, withIcons);
+        const SkinChoice choice(skin);
+        TestHost host(row(menu("m_entries", entriesOfEachKind(withIcons))));
+        const QImage image = pictureOfMenu(host);
+        QSet<int> columns;
+        for (const char *name : {"a", "b", "c", "d", "e"}) {
+            columns.insert(
+                firstMark(host.find<QMenu>("m_entries"), image, host.action(name), host.scaled(36))
+                    .x());
+        }
+        QCOMPARE(columns.size(), qsizetype(1));
+        QVERIFY(*columns.cbegin() > host.scaled(36));
+    }
+
+    void shouldMarkWhatIsCheckedAlikeWithAnIconAndWithout_data() { addSkins(); }
+
+    void shouldMarkWhatIsCheckedAlikeWithAnIconAndWithout()
     {
         QFETCH(int, skin);
         const SkinChoice choice(skin);
-        const QString entry = "<menuitem action='%1' text='目' %2/>";
-        const QString icon = "icon='icon16/Find.svg' ";
-        const QString checked = "checkable='true' checked='true' ";
-        TestHost host(row(menu("m_entries", entry.arg("a", icon) + entry.arg("b", checked)
-                                                + entry.arg("c", icon + checked)
-                                                + entry.arg("d", QString()))));
-        host.showEnabled();
-        movePointerAway();
-        auto *menu = host.find<QMenu>("m_entries");
-        menu->popup(host.window().mapToGlobal(QPoint(20, 200)));
-        QVERIFY(QTest::qWaitForWindowExposed(menu));
-        const QImage image = menu->grab().toImage();
-        const int textColumn = host.scaled(36);
-        QSet<int> columns;
-        for (const char *name : {"a", "b", "c", "d"})
-            columns.insert(firstMark(menu, image, host.action(name), textColumn).x());
-        QCOMPARE(columns.size(), qsizetype(1));
-        QVERIFY(*columns.cbegin() > textColumn);
-
-        const QPoint byCheck = firstMark(menu, image, host.action("b"), 4);
-        QVERIFY(!byCheck.isNull());
-        QCOMPARE(firstMark(menu, image, host.action("c"), 4), byCheck);
-        menu->close();
+        TestHost host(row(menu("m_entries", entriesOfEachKind(true))));
+        const QImage image = pictureOfMenu(host);
+        const auto *entries = host.find<QMenu>("m_entries");
+        const QPoint byCheck = firstMark(entries, image, host.action("b"), 4);
+        QVERIFY(!byCheck.isNull() && byCheck.x() < host.scaled(36));
+        QCOMPARE(firstMark(entries, image, host.action("c"), 4), byCheck);
     }
 
     void shouldOpenAListBelowItsField_data() { addSkins(); }
