@@ -10,6 +10,7 @@
 #include "toolbar/widgets/MRDropButton.h"
 #include "toolbar/widgets/MRGroupButton.h"
 #include "toolbar/widgets/MRSearchBar.h"
+#include "toolbar/widgets/Panel.h"
 #include "toolbar/widgets/PlaceholderTint.h"
 #include "toolbar/widgets/ToolTipCard.h"
 
@@ -63,7 +64,7 @@ GroupPanelMaker::GroupPanelMaker(ControlFactory &factory, ControlReceiver &recei
 
 QWidget *GroupPanelMaker::makeExtraGroup(const QList<Controller *> &children)
 {
-    auto *panel = new QWidget;
+    auto *panel = new Panel;
     auto *layout = new QHBoxLayout(panel);
     for (const Controller *group : children) {
         if (!group || group->type != Tag::extra)
@@ -121,7 +122,7 @@ QPushButton *GroupPanelMaker::makeExtraButton(QWidget *panel, const Controller &
 
 QWidget *GroupPanelMaker::makeButtonGroup(const QList<Controller *> &children, QToolBar *row)
 {
-    auto *panel = new QWidget;
+    auto *panel = new Panel;
     panel->setObjectName(Part::groupPanel);
     auto *grid = new QGridLayout(panel);
     grid->setSpacing(0);

@@ -14,6 +14,7 @@
 #include "toolbar/skin/Skin.h"
 #include "toolbar/widgets/MRDropButton.h"
 #include "toolbar/widgets/MRGroupButton.h"
+#include "toolbar/widgets/Panel.h"
 #include "toolbar/widgets/ToolTipCard.h"
 
 #include <QAction>
@@ -46,7 +47,7 @@ bool endsSeparatorWait(const Controller &record)
 /** A control of a row with room for a caption below it. */
 QWidget *makeCaptionedContainer(QWidget *control)
 {
-    auto *container = new QWidget;
+    auto *container = new Panel;
     auto *layout = new QVBoxLayout(container);
     layout->setSpacing(1);
     layout->setContentsMargins(0, 2, 0, 0);

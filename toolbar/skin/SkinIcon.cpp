@@ -9,7 +9,6 @@
 #include <QHash>
 #include <QIconEngine>
 #include <QPainter>
-#include <QRegularExpression>
 
 #include <cstdlib>
 #include <utility>
@@ -22,13 +21,30 @@ constexpr qreal disabledOpacity = 0.45;
 /** The sides, in pixels, that the skins have drawings for. */
 constexpr int drawnSides[] = {16, 20, 24};
 
+QString folderOf(int side)
+{
+    return QStringLiteral("/icon%1/").arg(side);
+}
+
+/** The side that the file is drawn for, by its folder; 0 if that does not tell. */
+int drawnSideOf(const QString &path)
+{
+    for (const int side : drawnSides) {
+        if (path.contains(folderOf(side)))
+            return side;
+    }
+    return 0;
+}
+
 /** Whether a drawing is white all over: one for the coloured strip, and unseen elsewhere. */
 bool isForColouredStrip(const QString &path)
 {
-    static const QRegularExpression darker(QStringLiteral("\"#(?!ffffff\")[0-9a-f]{6}\""));
     QFile file(path);
-    return file.open(QIODevice::ReadOnly)
-           && !darker.match(QString::fromLatin1(file.readAll())).hasMatch();
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray drawing = file.readAll();
+    const auto colours = drawing.count('#');
+    return colours > 0 && colours == drawing.count("#ffffff");
 }
 
 /**
@@ -43,18 +59,15 @@ std::pair<bool, int> misfit(int drawnSide, int side)
 /** The drawing of the same thing that is made for @p side physical pixels; if in doubt @p path. */
 QString drawingFor(const QString &path, int side)
 {
-    static const QRegularExpression sized(
-        QStringLiteral("^(?<before>.*/icon)(?<side>16|20|24)(?<after>/+[^/]+\\.svg)$"));
-    const QRegularExpressionMatch parts = sized.match(path);
-    const int ownSide = parts.captured(QStringLiteral("side")).toInt();
+    const int ownSide = drawnSideOf(path);
     if (ownSide == 0 || side <= 0 || side == ownSide)
         return path;
 
     QString best = path;
     int bestSide = ownSide;
     for (const int drawnSide : drawnSides) {
-        const QString other = parts.captured(QStringLiteral("before")) + QString::number(drawnSide)
-                              + parts.captured(QStringLiteral("after"));
+        QString other = path;
+        other.replace(folderOf(ownSide), folderOf(drawnSide));
         if (misfit(drawnSide, side) < misfit(bestSide, side) && QFile::exists(other)
             && isForColouredStrip(other) == isForColouredStrip(path)) {
             best = other;

@@ -60,9 +60,9 @@ void TabStripArrow::paintEvent(QPaintEvent *event)
 }
 
 TabStrip::TabStrip(QHBoxLayout *tabs, QWidget *parent)
-    : QWidget(parent)
-    , m_view(new QWidget(this))
-    , m_tabs(new QWidget(m_view))
+    : Panel(parent)
+    , m_view(new Panel(this))
+    , m_tabs(new Panel(m_view))
     , m_left(new TabStripArrow(Qt::LeftArrow, this))
     , m_right(new TabStripArrow(Qt::RightArrow, this))
 {
@@ -192,7 +192,7 @@ void TabStrip::placeParts()
 
 void TabStrip::resizeEvent(QResizeEvent *event)
 {
-    QWidget::resizeEvent(event);
+    Panel::resizeEvent(event);
     placeParts();
     for (QWidget *tab : shownTabs()) {
         const auto *button = qobject_cast<QAbstractButton *>(tab);
@@ -219,5 +219,5 @@ bool TabStrip::eventFilter(QObject *watched, QEvent *event)
     } else if (event->type() == QEvent::FocusIn) {
         reveal(qobject_cast<QWidget *>(watched));
     }
-    return QWidget::eventFilter(watched, event);
+    return Panel::eventFilter(watched, event);
 }

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "toolbar/widgets/Panel.h"
+
 #include <QCoreApplication>
 #include <QPushButton>
 
@@ -28,7 +30,7 @@ private:
  * as a whole, and the arrows at its ends and the wheel bring others; the tab that is checked or has
  * the focus is among them.
  */
-class TabStrip : public QWidget
+class TabStrip : public Panel
 {
 public:
     /** Takes over the layout with all its tabs. */
