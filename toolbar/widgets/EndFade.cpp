@@ -15,7 +15,7 @@ constexpr double designWidth = 24.0;
 } // namespace
 
 EndFade::EndFade(Qt::Edge edge, QWidget *area)
-    : QWidget(area)
+    : Panel(area)
     , m_edge(edge)
 {
     setAttribute(Qt::WA_TransparentForMouseEvents);

@@ -3,13 +3,13 @@
 
 #pragma once
 
-#include <QWidget>
+#include "toolbar/widgets/Panel.h"
 
 /**
  * Lies over one end of a scrolling area and lets what is cut off there fade into the ground, so
  * that half a control is not taken for a narrow one. The mouse goes through.
  */
-class EndFade : public QWidget
+class EndFade : public Panel
 {
 public:
     /** @param edge Qt::LeftEdge or Qt::RightEdge of @p area, which owns the fade */

@@ -7,6 +7,7 @@
 #include "toolbar/skin/ScreenDensity.h"
 #include "toolbar/skin/Skin.h"
 #include "toolbar/widgets/MRScrollWidget.h"
+#include "toolbar/widgets/Panel.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -38,11 +39,11 @@ bool isPill(const QWidget *button)
 }
 
 /** A sibling of the button: it scrolls, and is cut off, with it. */
-class Ring : public QWidget
+class Ring : public Panel
 {
 public:
     explicit Ring(QWidget *button)
-        : QWidget(button->parentWidget())
+        : Panel(button->parentWidget())
         , m_button(button)
     {
         setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -66,7 +67,7 @@ public:
         default:
             break;
         }
-        return QWidget::eventFilter(watched, event);
+        return Panel::eventFilter(watched, event);
     }
 
 protected:
