@@ -7,6 +7,7 @@
 #include "toolbar/build/TopLine.h"
 #include "toolbar/description/DescriptionParser.h"
 #include "toolbar/description/Names.h"
+#include "toolbar/skin/Appearance.h"
 #include "toolbar/skin/ScreenDensity.h"
 #include "toolbar/skin/Skin.h"
 #include "toolbar/widgets/ContextMenuStop.h"
@@ -97,11 +98,14 @@ NewToolBar::NewToolBar(QMainWindow *mainWindow, QDomNode &description, QMap<QStr
     : QWidget(mainWindow)
     , m_mainWindow(mainWindow)
     , m_alignment(alignment)
+    , m_appearance(new Appearance(this))
 {
     Skin::followSelector(&uiStyle);
     m_scale = ScreenDensity::factor(this);
     connect(&m_delayTimer, &QTimer::timeout, this, &NewToolBar::Inner_DoDelayActionSlot);
     m_quickAccessButtons = skin.value(SkinKey::quickAccess);
+    const QMap<QString, QString> options = TakeOptions(skin);
+    ChooseAppearance(options, skin);
 
     // A document that can't be used leaves an empty toolbar that works.
     Init(description);
@@ -125,6 +129,7 @@ NewToolBar::NewToolBar(QMainWindow *mainWindow, QDomNode &description, QMap<QStr
     strip->toggleViewAction()->setVisible(false);
     strip->addWidget(this);
     ResetSkinStyle();
+    connect(m_appearance, &Appearance::changed, this, &NewToolBar::FollowAppearance);
 }
 
 NewToolBar::~NewToolBar()

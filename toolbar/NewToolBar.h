@@ -16,6 +16,7 @@
 
 #include <memory>
 
+class Appearance;
 class CustomMenuStyle;
 class MRDropButton;
 class MRScrollWidget;
@@ -183,9 +184,13 @@ private:
     void SetExtraGroupEnable(bool enable);
 
     // Skin.
+    static QMap<QString, QString> TakeOptions(QMap<QString, QString> &skin);
+    void ChooseAppearance(const QMap<QString, QString> &options,
+                          const QMap<QString, QString> &colours);
     void InitSkinStyle(QMap<QString, QString> skin);
     void SwitchSkinStyle(QMap<QString, QString> skin);
     bool ResetSkinStyle();
+    void FollowAppearance();
 
     QPointer<QLineEdit> m_pageNumberEdit;
     NamedList<MRDropButton> m_dropButtons;
@@ -215,6 +220,7 @@ private:
     int m_totalPages = 0;
     int m_currentPage = 0;
     QMap<QString, QString> m_skinMap;
+    Appearance *m_appearance;
     QList<CustomMenuStyle *> m_menuStyles; ///< Owned, by application button.
     QString m_resourceDir;
     QPointer<QWidget> m_topWidget;

@@ -122,7 +122,7 @@ ControlLists NewToolBar::Parts::controlLists(const NewToolBar &toolBar, const Zo
 NewToolBar::Parts::Parts(NewToolBar &toolBar)
     : receiver(toolBar)
     , factory(&toolBar, toolBar.m_actions, toolBar.m_actionGroups, toolBar.m_resourceDir,
-              toolBar.m_scale)
+              *toolBar.m_appearance, toolBar.m_scale)
     , shortcuts(&toolBar)
     , menus(factory, receiver, shortcuts)
     , panels(factory, receiver)

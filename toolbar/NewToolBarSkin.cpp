@@ -5,12 +5,14 @@
 
 #include "toolbar/Latin1.h"
 #include "toolbar/description/Names.h"
+#include "toolbar/skin/Appearance.h"
 #include "toolbar/skin/Skin.h"
 #include "toolbar/skin/SkinIcon.h"
 #include "toolbar/skin/StyleSheet.h"
 #include "toolbar/widgets/MRMainToolBar.h"
 
 #include <QApplication>
+#include <QPushButton>
 #include <QToolBar>
 
 namespace {
@@ -85,6 +87,24 @@ QString NewToolBar::GetToolBarStyleSheet()
     return m_toolBarStyleSheet;
 }
 
+QMap<QString, QString> NewToolBar::TakeOptions(QMap<QString, QString> &skin)
+{
+    QMap<QString, QString> options;
+    for (const QLatin1String key : SkinKey::options) {
+        if (skin.contains(key))
+            options.insert(key, skin.take(key));
+    }
+    return options;
+}
+
+void NewToolBar::ChooseAppearance(const QMap<QString, QString> &options,
+                                  const QMap<QString, QString> &colours)
+{
+    // Without colours those of before stay, and the main one with them.
+    m_appearance->set(options.value(SkinKey::scheme),
+                      colours.isEmpty() ? QString() : Skin::mainColour(colours));
+}
+
 void NewToolBar::InitSkinStyle(QMap<QString, QString> skin)
 {
     m_skinMap = Skin::initialMap(skin);
@@ -93,18 +113,21 @@ void NewToolBar::InitSkinStyle(QMap<QString, QString> skin)
 
 void NewToolBar::SwitchSkinStyle(QMap<QString, QString> skin)
 {
-    if (skin.isEmpty())
-        return;
-
+    const QMap<QString, QString> options = TakeOptions(skin);
     // Who applies the sheet was settled at construction and stays so.
-    m_skinMap = Skin::switchedMap(skin);
-    ResetSkinStyle();
+    if (!skin.isEmpty())
+        m_skinMap = Skin::switchedMap(skin);
+    ChooseAppearance(options, skin);
+    if (!skin.isEmpty())
+        ResetSkinStyle();
 }
 
 bool NewToolBar::ResetSkinStyle()
 {
-    const QString sheet = StyleSheet::filled(
-        LoadQss(GetResourceDir() + QStringLiteral("qssfile.qss")), m_skinMap, Skin::isLum());
+    QString sheet = StyleSheet::filled(LoadQss(GetResourceDir() + QStringLiteral("qssfile.qss")),
+                                       m_skinMap, Skin::isLum());
+    if (const SchemeColours *colours = m_appearance->colours())
+        sheet += schemeSheet(LoadQss(GetResourceDir() + QStringLiteral("scheme.qss")), *colours);
     if (m_externalQss) {
         // The host scales and applies it.
         m_toolBarStyleSheet = sheet + plainToolBarRule;
@@ -113,6 +136,14 @@ bool NewToolBar::ResetSkinStyle()
     if (m_hostToolBar)
         applySheet(m_hostToolBar, ScaleSheet(sheet + QLatin1Char(' ') + plainToolBarRule, m_scale));
     return true;
+}
+
+void NewToolBar::FollowAppearance()
+{
+    ResetSkinStyle();
+    // A pointer over the search field has left the button a sheet of its own.
+    if (m_searchSetButton && m_searchSetButton->styleSheet().contains(QLatin1String("background")))
+        Inner_DoActiveSetButtonSlot(false);
 }
 
 void NewToolBar::DoSetSkinStyleSlot(ToolBarSkinStyle skin)

@@ -6,8 +6,10 @@
 #include "toolbar/build/ControlFactory.h"
 #include "toolbar/description/Controller.h"
 #include "toolbar/description/Names.h"
+#include "toolbar/skin/Appearance.h"
 #include "toolbar/widgets/ToolTipCard.h"
 
+#include <QPointer>
 #include <QPushButton>
 #include <QVariant>
 
@@ -41,9 +43,17 @@ QPushButton *AdditionalMaker::makeUnfoldButton(QPushButton *foldButton,
 {
     QPushButton *button = makeButton(record);
     button->setObjectName(Name::unfold);
-    const QPixmap foldPixmap = foldButton->icon().pixmap(foldButton->iconSize());
-    if (!foldPixmap.isNull())
-        button->setIcon(QIcon(foldPixmap.transformed(QTransform().rotate(180))));
+    const auto turn = [foldButton, button] {
+        const QPixmap foldPixmap = foldButton->icon().pixmap(foldButton->iconSize());
+        if (!foldPixmap.isNull())
+            button->setIcon(QIcon(foldPixmap.transformed(QTransform().rotate(180))));
+    };
+    turn();
+    const QPointer<QPushButton> fold(foldButton);
+    QObject::connect(&m_factory.appearance(), &Appearance::changed, button, [fold, turn] {
+        if (fold)
+            turn();
+    });
 
     const auto separator = record.tooltip.indexOf(QLatin1Char(';'));
     if (separator >= 0) {

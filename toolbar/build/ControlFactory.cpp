@@ -6,6 +6,7 @@
 #include "toolbar/commands/ActionData.h"
 #include "toolbar/description/Controller.h"
 #include "toolbar/description/Names.h"
+#include "toolbar/skin/Appearance.h"
 #include "toolbar/skin/ScreenDensity.h"
 #include "toolbar/skin/SkinIcon.h"
 #include "toolbar/widgets/ToolTipCard.h"
@@ -17,18 +18,19 @@
 
 ControlFactory::ControlFactory(QWidget *owner, NamedList<QAction> &actions,
                                NamedList<QActionGroup> &groups, const QString &directory,
-                               float scale)
+                               Appearance &appearance, float scale)
     : m_owner(owner)
     , m_actions(actions)
     , m_groups(groups)
     , m_directory(directory)
+    , m_appearance(appearance)
     , m_scale(scale)
 {
 }
 
 QIcon ControlFactory::icon(const QString &name) const
 {
-    return skinIcon(skinIconPath(m_directory, name));
+    return m_appearance.icon(skinIconPath(m_directory, name));
 }
 
 int ControlFactory::scaled(double designLength) const

@@ -8,6 +8,7 @@
 #include <QIcon>
 #include <QSize>
 
+class Appearance;
 class QAction;
 class QActionGroup;
 class QMenu;
@@ -22,12 +23,14 @@ public:
     /**
      * @param owner     the toolbar, which owns what has no other parent
      * @param directory the skin's directory of resources
+     * @param appearance of the toolbar; the icons follow it
      * @param scale     what lengths at 96 dpi are multiplied by
      */
     ControlFactory(QWidget *owner, NamedList<QAction> &actions, NamedList<QActionGroup> &groups,
-                   const QString &directory, float scale);
+                   const QString &directory, Appearance &appearance, float scale);
 
     QWidget *owner() const { return m_owner; }
+    const Appearance &appearance() const { return m_appearance; }
 
     /** The icon of that name in the description; empty if the skin has none. */
     QIcon icon(const QString &name) const;
@@ -58,6 +61,7 @@ private:
     NamedList<QAction> &m_actions;
     NamedList<QActionGroup> &m_groups;
     QString m_directory;
+    Appearance &m_appearance;
     float m_scale;
 };
 

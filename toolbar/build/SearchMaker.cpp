@@ -8,6 +8,7 @@
 #include "toolbar/build/MenuMaker.h"
 #include "toolbar/description/Controller.h"
 #include "toolbar/description/Names.h"
+#include "toolbar/skin/Appearance.h"
 #include "toolbar/widgets/MRSearchBar.h"
 
 #include <QLabel>
@@ -83,8 +84,13 @@ QLabel *SearchMaker::makeLabel(const Controller &record) const
     auto *label = new QLabel(record.text);
     label->setObjectName(record.name);
     const QIcon icon = m_factory.icon(record.icon);
-    if (!icon.isNull())
-        label->setPixmap(icon.pixmap(m_factory.iconSize(16.0)));
+    if (icon.isNull())
+        return label;
+    const auto draw = [label, icon, size = m_factory.iconSize(16.0)] {
+        label->setPixmap(icon.pixmap(size));
+    };
+    draw();
+    QObject::connect(&m_factory.appearance(), &Appearance::changed, label, draw);
     return label;
 }
 

@@ -110,6 +110,10 @@ namespace SkinKey {
 inline constexpr QLatin1String externalSheet =
     latin1("externalqss"); ///< The host applies the sheet.
 inline constexpr QLatin1String quickAccess = latin1("quickaccessbarbuttons");
+inline constexpr QLatin1String scheme = latin1("scheme"); ///< Light, dark, or as the system is.
+
+/** Those that are taken out of the map before anything else sees it. */
+inline constexpr QLatin1String options[] = {scheme};
 } // namespace SkinKey
 
 /** Dynamic properties, most of which the style sheets select by. */

@@ -7,6 +7,8 @@
 
 namespace {
 
+constexpr QLatin1String mainKey = latin1("[MainColor]");
+constexpr QLatin1String checkedTabKey = latin1("[MainColor.checked]");
 constexpr QLatin1String hoverKey = latin1("[MainColor.hover]");
 constexpr QLatin1String pressedKey = latin1("[MainColor.pressed]");
 
@@ -82,4 +84,13 @@ QMap<QString, QString> Skin::switchedMap(const QMap<QString, QString> &hostMap)
     for (auto entry = own.cbegin(); entry != own.cend(); ++entry)
         insertIfAbsent(map, entry.key(), entry.value());
     return map;
+}
+
+QString Skin::mainColour(const QMap<QString, QString> &hostMap)
+{
+    for (const QLatin1String key : {mainKey, checkedTabKey}) {
+        if (hostMap.contains(key))
+            return hostMap.value(key);
+    }
+    return defaults().value(mainKey);
 }

@@ -28,4 +28,10 @@ QMap<QString, QString> initialMap(const QMap<QString, QString> &hostMap);
 /** The map after a change of colours: the host's, completed with this skin's defaults. */
 QMap<QString, QString> switchedMap(const QMap<QString, QString> &hostMap);
 
+/**
+ * What the accents of a dark scheme follow: the main colour of the host's map, or else that of its
+ * checked tab, which is the only one that shows in "lum", or else the skin's own.
+ */
+QString mainColour(const QMap<QString, QString> &hostMap);
+
 } // namespace Skin

@@ -3,12 +3,15 @@
 
 #include "toolbar/skin/SkinIcon.h"
 
+#include "toolbar/skin/IconColours.h"
+
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QHash>
 #include <QIconEngine>
 #include <QPainter>
+#include <QPair>
 
 #include <cstdlib>
 #include <utility>
@@ -80,8 +83,9 @@ QString drawingFor(const QString &path, int side)
 class SkinIconEngine : public QIconEngine
 {
 public:
-    explicit SkinIconEngine(const QString &path)
+    SkinIconEngine(const QString &path, const SchemeLook &look)
         : m_path(path)
+        , m_look(look)
     {
     }
 
@@ -105,7 +109,7 @@ public:
         return pixmap;
     }
 
-    QIconEngine *clone() const override { return new SkinIconEngine(m_path); }
+    QIconEngine *clone() const override { return new SkinIconEngine(m_path, m_look); }
 
 private:
     /** Looked up when first painted: the search reads files. */
@@ -113,18 +117,21 @@ private:
     {
         QIcon &drawing = m_drawings[side];
         if (drawing.isNull())
-            drawing = QIcon(drawingFor(m_path, side));
+            drawing = IconColours::drawing(drawingFor(m_path, side), m_look);
         return drawing;
     }
 
     QString m_path;
+    SchemeLook m_look;
     QHash<int, QIcon> m_drawings; ///< By the side in physical pixels.
 };
 
-QHash<QString, QIcon> &iconCache()
+using IconKey = QPair<QString, QPair<int, QRgb>>;
+
+QHash<IconKey, QIcon> &iconCache()
 {
     // Never destroyed: an application that is a static object itself clears it later than that.
-    static auto &cache = *new QHash<QString, QIcon>;
+    static auto &cache = *new QHash<IconKey, QIcon>;
     return cache;
 }
 
@@ -139,10 +146,11 @@ QString skinIconPath(const QString &directory, const QString &name)
     return QFile::exists(path) ? path : QString();
 }
 
-QIcon skinIcon(const QString &path)
+QIcon skinIcon(const QString &path, const SchemeLook &look)
 {
-    QHash<QString, QIcon> &cache = iconCache();
-    const auto cached = cache.constFind(path);
+    QHash<IconKey, QIcon> &cache = iconCache();
+    const IconKey key(path, {static_cast<int>(look.scheme), look.mainColour});
+    const auto cached = cache.constFind(key);
     if (cached != cache.cend())
         return *cached;
     // A directory exists, too, and an icon made of it would take up room.
@@ -152,5 +160,5 @@ QIcon skinIcon(const QString &path)
     // Icons must not outlive the application; a process may have several, one after the other.
     if (cache.isEmpty())
         qAddPostRoutine([] { iconCache().clear(); });
-    return *cache.insert(path, QIcon(new SkinIconEngine(path)));
+    return *cache.insert(key, QIcon(new SkinIconEngine(path, look)));
 }

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "toolbar/skin/Scheme.h"
+
 #include <QIcon>
 
 /**
@@ -12,8 +14,8 @@
 QString skinIconPath(const QString &directory, const QString &name);
 
 /**
- * The icon of a file or resource: empty for a path that is no file. It is read when it is first
- * painted, shared by all toolbars of the process, and paler while its control is disabled, on dark
- * grounds as well as on light ones.
+ * The icon of a file or resource, in the colours of a scheme: empty for a path that is no file. It
+ * is read when it is first painted, shared by all toolbars of the process, and paler while its
+ * control is disabled, on dark grounds as well as on light ones.
  */
-QIcon skinIcon(const QString &path);
+QIcon skinIcon(const QString &path, const SchemeLook &look = {});

@@ -4,6 +4,7 @@
 #include "toolbar/widgets/MRScrollWidget.h"
 
 #include "toolbar/Latin1.h"
+#include "toolbar/skin/Appearance.h"
 #include "toolbar/skin/ScreenDensity.h"
 #include "toolbar/skin/Skin.h"
 #include "toolbar/skin/SkinIcon.h"
@@ -116,12 +117,16 @@ void MRExtendButton::updateArrow()
     const bool pointsLeft = objectName().contains(leftSide) != isRightToLeft();
     const QString file =
         pointsLeft ? QStringLiteral("extendLeft.svg") : QStringLiteral("extendRight.svg");
-    m_arrow->setIcon(skinIcon(Skin::resourceDirectory() + file));
+    m_look = Appearance::lookFor(this);
+    m_arrow->setIcon(skinIcon(Skin::resourceDirectory() + file, m_look));
 }
 
 void MRExtendButton::changeEvent(QEvent *event)
 {
-    if (event->type() == QEvent::LayoutDirectionChange)
+    // Another scheme is another sheet.
+    const bool isOther =
+        event->type() == QEvent::StyleChange && m_look != Appearance::lookFor(this);
+    if (isOther || event->type() == QEvent::LayoutDirectionChange)
         updateArrow();
     QPushButton::changeEvent(event);
 }

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "toolbar/skin/Scheme.h"
+
 #include <QPushButton>
 #include <QScrollArea>
 
@@ -42,6 +44,7 @@ private:
     void updateArrow();
 
     QPushButton *m_arrow;
+    SchemeLook m_look; ///< That the arrow is drawn for.
 };
 
 /**

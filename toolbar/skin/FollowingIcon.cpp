@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
+#include "toolbar/skin/FollowingIcon.h"
+
+#include "toolbar/skin/Appearance.h"
+#include "toolbar/skin/SkinIcon.h"
+
+#include <QIconEngine>
+#include <QPainter>
+#include <QPointer>
+
+namespace {
+
+class FollowingIconEngine : public QIconEngine
+{
+public:
+    FollowingIconEngine(const QString &path, const Appearance *appearance)
+        : m_path(path)
+        , m_appearance(appearance)
+    {
+    }
+
+    void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State state) override
+    {
+        skinIcon(m_path, look()).paint(painter, rect, Qt::AlignCenter, mode, state);
+    }
+
+    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override
+    {
+        QPixmap pixmap(size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        paint(&painter, QRect(QPoint(), size), mode, state);
+        return pixmap;
+    }
+
+    QIconEngine *clone() const override { return new FollowingIconEngine(m_path, m_appearance); }
+
+private:
+    SchemeLook look() const { return m_appearance ? m_appearance->look() : SchemeLook(); }
+
+    QString m_path;
+    QPointer<const Appearance> m_appearance;
+};
+
+} // namespace
+
+QIcon followingIcon(const QString &path, const Appearance *appearance)
+{
+    // Where there is no file, there is no icon in any scheme.
+    if (skinIcon(path).isNull())
+        return QIcon();
+    return QIcon(new FollowingIconEngine(path, appearance));
+}

@@ -1,0 +1,184 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
+#include "toolbar/skin/IconColours.h"
+
+#include "toolbar/skin/Contrast.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QHash>
+#include <QIconEngine>
+#include <QImageReader>
+#include <QPainter>
+#include <QPixmapCache>
+#include <QRegularExpression>
+
+#include <algorithm>
+
+namespace {
+
+constexpr double darkestLine = 0.3; ///< Lines in a grey up to this lightness are the darkest.
+
+/** What bodies of drawings are filled with, a page for instance: just lighter than the ground. */
+QColor paper(const SchemeColours &colours)
+{
+    constexpr double share = 0.08;
+    return Contrast::mixed(colours.surface, colours.text, share);
+}
+
+QColor fromGrey(double lightness, const SchemeColours &colours)
+{
+    const double share = std::clamp((lightness - darkestLine) / (1 - darkestLine), 0.0, 1.0);
+    return Contrast::mixed(colours.text, paper(colours), share);
+}
+
+bool isAccent(const QColor &colour)
+{
+    constexpr int firstBlue = 185;
+    constexpr int lastBlue = 240;
+    return colour.hslHue() >= firstBlue && colour.hslHue() <= lastBlue;
+}
+
+QColor fromHue(const QColor &colour, const SchemeColours &colours)
+{
+    constexpr double darkestFill = 0.5; // Up to here it is a line; beyond it, paler and paler.
+    constexpr double leastInk = 0.25;
+    const QColor ink =
+        isAccent(colour) ? colours.accent
+                         : Contrast::lightened(colour, colours.pressed, colours.iconContrast * 1.5);
+    const double share =
+        std::clamp((colour.lightnessF() - darkestFill) / (1 - darkestFill), 0.0, 1.0);
+    return Contrast::mixed(ink, paper(colours), share * (1 - leastInk));
+}
+
+const QRegularExpression &colourPattern()
+{
+    static const QRegularExpression pattern(
+        QStringLiteral("(?<=fill=\"|stroke=\")#(?:[0-9A-Fa-f]{6}|[0-9A-Fa-f]{3})(?=\")"));
+    return pattern;
+}
+
+bool isWhiteAllOver(const QString &svg)
+{
+    for (auto matches = colourPattern().globalMatch(svg); matches.hasNext();) {
+        if (QColor(matches.next().captured()) != QColor(Qt::white))
+            return false;
+    }
+    return true;
+}
+
+QImage recolouredPixels(QImage image, const SchemeColours &colours)
+{
+    image = image.convertToFormat(QImage::Format_ARGB32);
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QRgb pixel = image.pixel(x, y);
+            QColor colour = IconColours::recoloured(QColor(pixel), colours);
+            colour.setAlpha(qAlpha(pixel));
+            image.setPixel(x, y, colour.rgba());
+        }
+    }
+    return image;
+}
+
+/** Draws the text of an SVG file, or, for any other file, its pixels. */
+class RecolouredEngine : public QIconEngine
+{
+public:
+    RecolouredEngine(const QString &path, const SchemeLook &look)
+        : m_path(path)
+        , m_look(look)
+    {
+    }
+
+    void paint(QPainter *painter, const QRect &rect, QIcon::Mode, QIcon::State) override
+    {
+        const qreal ratio = painter->device() ? painter->device()->devicePixelRatioF() : 1.0;
+        QPixmap picture = pixmap(rect.size() * ratio, QIcon::Normal, QIcon::Off);
+        picture.setDevicePixelRatio(ratio);
+        QRect place(QPoint(), picture.size() / ratio);
+        place.moveCenter(rect.center());
+        painter->drawPixmap(place.topLeft(), picture);
+    }
+
+    QPixmap pixmap(const QSize &size, QIcon::Mode, QIcon::State) override
+    {
+        const QString key = QStringLiteral("mrtoolbar %1 %2 %3 %4x%5")
+                                .arg(m_path)
+                                .arg(int(m_look.scheme))
+                                .arg(m_look.mainColour)
+                                .arg(size.width())
+                                .arg(size.height());
+        QPixmap picture;
+        if (!QPixmapCache::find(key, &picture)) {
+            picture = QPixmap::fromImage(drawn(size));
+            QPixmapCache::insert(key, picture);
+        }
+        return picture;
+    }
+
+    QIconEngine *clone() const override { return new RecolouredEngine(m_path, m_look); }
+
+private:
+    QImage drawn(const QSize &room)
+    {
+        if (m_content.isEmpty())
+            read();
+        QBuffer buffer(&m_content);
+        QImageReader reader(&buffer);
+        // A picture of pixels is not enlarged, as in an icon.
+        const QSize own = reader.size();
+        if (m_isSvg || own.width() > room.width() || own.height() > room.height())
+            reader.setScaledSize(own.scaled(room, Qt::KeepAspectRatio));
+        const QImage image = reader.read();
+        return m_isSvg || image.isNull() ? image : recolouredPixels(image, schemeColours(m_look));
+    }
+
+    void read()
+    {
+        QFile file(m_path);
+        if (!file.open(QIODevice::ReadOnly))
+            return;
+        m_content = file.readAll();
+        m_isSvg = m_path.endsWith(QLatin1String(".svg"));
+        if (m_isSvg)
+            m_content = IconColours::recoloured(m_content, schemeColours(m_look));
+    }
+
+    QString m_path;
+    SchemeLook m_look;
+    QByteArray m_content;
+    bool m_isSvg = false;
+};
+
+} // namespace
+
+QColor IconColours::recoloured(const QColor &colour, const SchemeColours &colours)
+{
+    constexpr double leastSaturation = 0.15;
+    const bool isGrey = colour.hslSaturationF() < leastSaturation;
+    return isGrey ? fromGrey(colour.lightnessF(), colours) : fromHue(colour, colours);
+}
+
+QByteArray IconColours::recoloured(const QByteArray &svg, const SchemeColours &colours)
+{
+    const QString text = QString::fromUtf8(svg);
+    const bool isWhite = isWhiteAllOver(text);
+    QString result;
+    result.reserve(text.size());
+    qsizetype copied = 0;
+    for (auto matches = colourPattern().globalMatch(text); matches.hasNext();) {
+        const QRegularExpressionMatch match = matches.next();
+        const QColor colour(match.captured());
+        result += text.mid(copied, match.capturedStart() - copied);
+        result += (isWhite ? colours.text : recoloured(colour, colours)).name();
+        copied = match.capturedEnd();
+    }
+    return (result + text.mid(copied)).toUtf8();
+}
+
+QIcon IconColours::drawing(const QString &path, const SchemeLook &look)
+{
+    return look.isLight() ? QIcon(path) : QIcon(new RecolouredEngine(path, look));
+}
