@@ -6,6 +6,7 @@
 #include "toolbar/NewToolBarParts.h"
 #include "toolbar/build/SearchMaker.h"
 #include "toolbar/description/Sections.h"
+#include "toolbar/skin/Appearance.h"
 #include "toolbar/skin/Skin.h"
 #include "toolbar/widgets/MRSearchBar.h"
 
@@ -60,6 +61,14 @@ void NewToolBar::Inner_DoActiveSetButtonSlot(bool active)
     if (!m_searchSetButton)
         return;
 
+    if (const SchemeColours *colours = m_appearance->colours()) {
+        const QString text = colours->text.name();
+        const QString hover = colours->hover.name();
+        m_searchSetButton->setStyleSheet(
+            active ? activeSetButtonSheet(text, hover)
+                   : idleSetButtonSheet(text, hover, colours->pressed.name()));
+        return;
+    }
     const bool isCompact = Skin::isLum();
     const QString textColour = isCompact ? QStringLiteral("#000000") : QStringLiteral("#333333");
     const QString pressed = isCompact ? QStringLiteral("#1368AD") : QStringLiteral("#1460AB");

@@ -5,6 +5,7 @@
 
 #include "toolbar/QtCompat.h"
 #include "toolbar/handwrite/InkPictures.h"
+#include "toolbar/skin/SchemePalette.h"
 #include "ui_HandWriteDialog.h"
 
 #include <QGuiApplication>
@@ -89,6 +90,7 @@ MRHandWriteDialog::MRHandWriteDialog(QWidget *parent)
                                  "QDialog{border:1px solid lightgray;}"));
     connectControls();
     tintLink();
+    new SchemePalette(this);
 
     QList<QColor> colours;
     for (const NamedColour &entry : defaultColours)

@@ -46,6 +46,10 @@ typedef Track HandTrack;
  * When a translator is installed or removed, the dialog's texts follow, those that the host has
  * set itself included.
  *
+ * The dialog takes the colours of a dark scheme from the toolbar in its parent's window, or else
+ * from the toolbar of the process that was last given a scheme, and changes with it; see
+ * ToolBarSkinStyle. Without such a toolbar it has the palette that any dialog of the host has.
+ *
  * What depends on the host has no effect of its own. The host finds these widgets by object name
  * and connects what it offers: the label "labelOtherSelect" (QLabel::linkActivated) and the buttons
  * "pushButtonFetch", "pushButtonRegionWrite" and "pushButtonRegionWriteSet".

@@ -3,6 +3,8 @@
 
 #include "toolbar/widgets/CCR_ToolTipWidget.h"
 
+#include "toolbar/skin/Appearance.h"
+#include "toolbar/skin/SchemePalette.h"
 #include "toolbar/skin/ScreenDensity.h"
 
 #include <QHBoxLayout>
@@ -42,6 +44,7 @@ CCR_ToolTipWidget::CCR_ToolTipWidget(QWidget *parent)
     , m_label(new QLabel(this))
 {
     setAttribute(Qt::WA_TranslucentBackground);
+    new SchemePalette(this);
 
     auto *layout = new QHBoxLayout(this);
     layout->addStretch();
@@ -93,8 +96,9 @@ void CCR_ToolTipWidget::paintEvent(QPaintEvent *event)
     Q_UNUSED(event)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QColor(0, 0, 0, 255));
-    painter.setBrush(QColor(245, 245, 245, 255));
+    const SchemeColours *colours = Appearance::coloursFor(this);
+    painter.setPen(colours ? colours->frame : QColor(0, 0, 0, 255));
+    painter.setBrush(colours ? colours->raised : QColor(245, 245, 245, 255));
     painter.drawPath(m_derection == DerectionUpright ? uprightPath() : slantedPath());
 }
 

@@ -16,6 +16,9 @@ class QLabel;
  *
  * The host creates it, gives it its size, then its text, and places and shows it. Shown again
  * later, it closes at the next two-second tick.
+ *
+ * It takes the colours of a dark scheme from the toolbar in its window, or else from the one that
+ * was last given a scheme; see ToolBarSkinStyle.
  */
 class MRTOOLBAR_EXPORT CCR_ToolTipWidget : public QWidget
 {

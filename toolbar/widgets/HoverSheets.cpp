@@ -4,6 +4,7 @@
 #include "toolbar/widgets/HoverSheets.h"
 
 #include "toolbar/Latin1.h"
+#include "toolbar/skin/SchemeColours.h"
 
 #include <QStringList>
 
@@ -78,12 +79,30 @@ constexpr char groupBodyMarodi[] =
     "border-left:2px solid %2;border-top-right-radius:2px;border-bottom-right-radius:2px;} "
     "QToolButton{background:%1;border:2px solid %2;}";
 
-// The colours are fixed; they do not come from the skin map.
+// The colours are fixed; they do not come from the skin map. A scheme replaces them.
 constexpr QLatin1String white = latin1("#FFFFFF");
 constexpr QLatin1String grey = latin1("#EAEAEA");
 constexpr QLatin1String hovered = latin1("rgb(219,222,227)");
 constexpr QLatin1String pressed = latin1("rgb(183,185,190)");
 constexpr QLatin1String checked = latin1("rgb(195,198,202)");
+
+struct Replacement
+{
+    QLatin1String fixed;
+    QColor SchemeColours::*colour;
+};
+
+// White in capitals is the part under the pointer, of marodi; in small letters the other one, of
+// lum.
+constexpr Replacement replacements[] = {
+    {white, &SchemeColours::pressed},
+    {grey, &SchemeColours::hover},
+    {latin1("#ffffff"), &SchemeColours::surface},
+    {hovered, &SchemeColours::hover},
+    {pressed, &SchemeColours::pressed},
+    {checked, &SchemeColours::checked},
+    {latin1("#D3D3D3"), &SchemeColours::checked},
+};
 
 QString filled(const char *sheet, const QStringList &values)
 {
@@ -127,4 +146,18 @@ QString HoverSheets::groupButton(bool overArrow, bool isLum)
     if (isLum)
         return lumRowSheet(overArrow);
     return filled(overArrow ? groupArrowMarodi : groupBodyMarodi, {white, grey});
+}
+
+QString HoverSheets::inScheme(QString sheet, const SchemeColours *colours)
+{
+    if (!colours)
+        return sheet;
+
+    for (const Replacement &replacement : replacements)
+        sheet.replace(replacement.fixed, (colours->*replacement.colour).name());
+    sheet.replace(QLatin1String("icons/icon19-22/arrowDown"), QLatin1String("dark/arrowDown"));
+    return sheet
+           + QStringLiteral(" QToolButton:checked{background-color:%1;}"
+                            " QToolButton:checked:hover{background-color:%2;}")
+                 .arg(colours->checked.name(), colours->checkedHover.name());
 }

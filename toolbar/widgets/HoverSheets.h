@@ -5,6 +5,8 @@
 
 #include <QString>
 
+struct SchemeColours;
+
 /** The style sheets by which split buttons show which of their two parts the pointer is over. */
 namespace HoverSheets {
 
@@ -18,5 +20,12 @@ QString dropButton(bool inExtendMenu, bool overArrow, bool isLum, double scale);
 
 /** The sheet of a checkable group button under the pointer. */
 QString groupButton(bool overArrow, bool isLum);
+
+/**
+ * A sheet of fixed colours, one of these or a button's own, in those of a scheme: the part under
+ * the pointer stands out from the other one, and what is checked can be told from both. Without
+ * colours the sheet stays as it is.
+ */
+QString inScheme(QString sheet, const SchemeColours *colours);
 
 } // namespace HoverSheets

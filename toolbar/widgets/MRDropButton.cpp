@@ -4,6 +4,7 @@
 #include "toolbar/widgets/MRDropButton.h"
 
 #include "toolbar/description/Names.h"
+#include "toolbar/skin/Appearance.h"
 #include "toolbar/skin/ScreenDensity.h"
 #include "toolbar/skin/Skin.h"
 #include "toolbar/widgets/ExtendMenuOwner.h"
@@ -184,7 +185,7 @@ QString MRDropButton::GetName() const
 
 void MRDropButton::changeEvent(QEvent *event)
 {
-    QToolButton::changeEvent(event);
+    SplitButton::changeEvent(event);
     if (event->type() == QEvent::EnabledChange)
         Q_EMIT enabledChanged(isEnabledTo(parentWidget()));
 }
@@ -193,6 +194,16 @@ QString MRDropButton::hoverSheet(bool isOverArrow) const
 {
     return HoverSheets::dropButton(m_inHide, isOverArrow, Skin::isLum(),
                                    ScreenDensity::scale(this));
+}
+
+void MRDropButton::followScheme()
+{
+    // On a tool row the skin's own sheet applies, which has changed already.
+    if (!m_inHide)
+        return;
+    m_savedStyleSheet.clear();
+    setStyleSheet(HoverSheets::inScheme(menuCopySheet(ScreenDensity::scale(this)),
+                                        Appearance::coloursFor(this)));
 }
 
 // As with moves, neither this handler nor the next one lets the base class have the event.
@@ -277,8 +288,8 @@ void MRDropButtonAction::setUpMenuCopy(MRDropButton *copy)
                 Qt::UniqueConnection);
     }
     copy->setVisible(m_visible);
-    copy->setStyleSheet(menuCopySheet(ScreenDensity::scale(copy)));
     copy->SetInHideFlag(true);
+    copy->followScheme();
     linkCopy(copy);
 }
 

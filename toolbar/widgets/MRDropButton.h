@@ -86,8 +86,11 @@ protected:
     void enterEvent(QtCompat::EnterEvent *event) override;
     void leaveEvent(QEvent *event) override;
     QString hoverSheet(bool isOverArrow) const override;
+    void followScheme() override;
 
 private:
+    friend class MRDropButtonAction;
+
     void takeFace(QAction *action);
     void refreshToolBar();
 

@@ -3,6 +3,7 @@
 
 #include "toolbar/widgets/MRGroupButton.h"
 
+#include "toolbar/skin/Appearance.h"
 #include "toolbar/skin/Skin.h"
 #include "toolbar/widgets/HoverSheets.h"
 
@@ -81,9 +82,18 @@ QString MRGroupButton::hoverSheet(bool isOverArrow) const
 
 void MRGroupButton::leaveEvent(QEvent *event)
 {
-    // The checked colour is the same in both skins, deliberately.
-    setStyleSheet(QString::fromLatin1(leftSheet).arg(QStringLiteral("#D3D3D3")));
+    m_wasLeft = true;
+    followScheme();
     QToolButton::leaveEvent(event);
+}
+
+void MRGroupButton::followScheme()
+{
+    if (!m_wasLeft)
+        return;
+    // The checked colour is the same in both skins, deliberately.
+    const QString sheet = QString::fromLatin1(leftSheet).arg(QStringLiteral("#D3D3D3"));
+    setStyleSheet(HoverSheets::inScheme(sheet, Appearance::coloursFor(this)));
 }
 
 MRButtonGroup::MRButtonGroup(QObject *parent)

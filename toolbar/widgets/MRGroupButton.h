@@ -34,9 +34,11 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override;
     void leaveEvent(QEvent *event) override;
     QString hoverSheet(bool isOverArrow) const override;
+    void followScheme() override;
 
 private:
     QIcon m_icon;
+    bool m_wasLeft = false; ///< By the pointer, once at least: the sheet of that stays.
 };
 
 /** The action by which a panel of group buttons stands on a tool row. */

@@ -3,8 +3,13 @@
 
 #include "toolbar/widgets/SplitButton.h"
 
+#include "toolbar/skin/Appearance.h"
+#include "toolbar/widgets/HoverSheets.h"
+
 #include <QKeyEvent>
 #include <QStyleOptionToolButton>
+
+#include <utility>
 
 void SplitButton::keyPressEvent(QKeyEvent *event)
 {
@@ -19,7 +24,19 @@ void SplitButton::mouseMoveEvent(QMouseEvent *)
 {
     // The base class does not get the event, and the sheet is set on every move: deliberate, as the
     // look of pressing and dragging depends on it.
-    setStyleSheet(hoverSheet(isPointerOverArrow()));
+    setStyleSheet(
+        HoverSheets::inScheme(hoverSheet(isPointerOverArrow()), Appearance::coloursFor(this)));
+}
+
+void SplitButton::changeEvent(QEvent *event)
+{
+    QToolButton::changeEvent(event);
+    if (event->type() != QEvent::StyleChange)
+        return;
+    // Another scheme is another sheet of the toolbar.
+    const SchemeLook look = Appearance::lookFor(this);
+    if (std::exchange(m_look, look) != look)
+        followScheme();
 }
 
 bool SplitButton::isPointerOverArrow() const

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "toolbar/skin/Scheme.h"
+
 #include <QToolButton>
 
 /**
@@ -17,10 +19,15 @@ public:
 protected:
     void keyPressEvent(QKeyEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
     /** The sheet for the pointer's place: over the arrow that opens the menu, or elsewhere. */
     virtual QString hoverSheet(bool isOverArrow) const = 0;
+    /** The toolbar has another scheme; a sheet that the button keeps must follow. */
+    virtual void followScheme() {}
 
 private:
     bool isPointerOverArrow() const;
+
+    SchemeLook m_look;
 };
