@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QFile>
+#include <QPalette>
 
 #include <cstdio>
 
@@ -52,6 +53,9 @@ void addOptions(QCommandLineParser &parser)
          QStringLiteral("pixels"), QStringLiteral("1280")},
         {QStringLiteral("skin-map"), QStringLiteral("file with lines key=value"),
          QStringLiteral("file")},
+        {QStringLiteral("scheme"), QStringLiteral("light, dark, contrast or system"),
+         QStringLiteral("scheme")},
+        {QStringLiteral("dark-palette"), QStringLiteral("give the application a dark palette")},
         {QStringLiteral("out"), QStringLiteral("file of the picture"), QStringLiteral("file"),
          QStringLiteral("toolbar.png")},
     });
@@ -90,6 +94,12 @@ int main(int argc, char *argv[])
     QMap<QString, QString> skinMap;
     if (!readSkinMap(parser.value(QStringLiteral("skin-map")), &skinMap))
         return fail(QStringLiteral("cannot read the skin map"));
+    const QString scheme = parser.value(QStringLiteral("scheme"));
+    if (!scheme.isEmpty())
+        skinMap.insert(QStringLiteral("scheme"), scheme);
+    // Something for the scheme of the system to follow.
+    if (parser.isSet(QStringLiteral("dark-palette")))
+        QApplication::setPalette(QPalette(QColor(0x30, 0x30, 0x30)));
 
     PictureHost host(document, skinMap, parser.value(QStringLiteral("width")).toInt());
     const QString path = parser.value(QStringLiteral("out"));
