@@ -14,15 +14,15 @@ struct Greys
     QRgb strip, surface, raised, field;
     QRgb text, dimText, frame, divider;
     QRgb hover, pressed;
-    double textContrast; ///< Of texts on any ground.
+    double textContrast; ///< Of texts on what is checked; enough for icons, too, which are thinner.
     double iconContrast; ///< Of icons on any ground.
 };
 
-constexpr Greys darkGreys{0xff1f1f1f, 0xff2b2b2b, 0xff303030, 0xff1c1c1c, 0xfff2f2f2, 0xff999999,
-                          0xff808080, 0xff4c4c4c, 0xff3f3f3f, 0xff4b4b4b, 4.5,        3.0};
+constexpr Greys darkGreys{0xff1f1f1f, 0xff2b2b2b, 0xff303030, 0xff1c1c1c, 0xfff2f2f2, 0xffa3a3a3,
+                          0xff808080, 0xff4c4c4c, 0xff3f3f3f, 0xff4b4b4b, 6.5,        3.0};
 constexpr Greys contrastGreys{0xff000000, 0xff000000, 0xff000000, 0xff000000,
                               0xffffffff, 0xffa0a0a0, 0xffffffff, 0xff8c8c8c,
-                              0xff262626, 0xff363636, 7.0,        4.5};
+                              0xff2a2a2a, 0xff383838, 10.8,       4.5};
 
 /** Lines are thin: what is left of them between two pixels must be seen, too. */
 constexpr double lineReserve = 1.5;
@@ -56,6 +56,7 @@ constexpr Role roles[] = {
     {latin1("[frame]"), &SchemeColours::frame},
     {latin1("[divider]"), &SchemeColours::divider},
     {latin1("[hover]"), &SchemeColours::hover},
+    {latin1("[hoverFrame]"), &SchemeColours::hoverFrame},
     {latin1("[pressed]"), &SchemeColours::pressed},
     {latin1("[checked]"), &SchemeColours::checked},
     {latin1("[checkedHover]"), &SchemeColours::checkedHover},
@@ -64,6 +65,11 @@ constexpr Role roles[] = {
     {latin1("[onAccent]"), &SchemeColours::onAccent},
     {latin1("[focus]"), &SchemeColours::focus},
 };
+
+QString sheetName(const QColor &colour)
+{
+    return colour.alpha() == 0 ? QStringLiteral("transparent") : colour.name();
+}
 
 } // namespace
 
@@ -87,9 +93,11 @@ SchemeColours schemeColours(const SchemeLook &look)
     colours.accent =
         Contrast::lightened(look.mainColour, greys.pressed, greys.iconContrast * lineReserve);
     colours.onAccent = Contrast::textOn(colours.accent);
-    colours.checked = tinted(colours, 0.26, greys.textContrast);
-    colours.checkedHover = tinted(colours, 0.34, greys.textContrast);
+    constexpr double distance = 1.15; // A light accent would make both as light as can be.
+    colours.checked = tinted(colours, 0.24, greys.textContrast * distance);
+    colours.checkedHover = tinted(colours, 0.32, greys.textContrast);
     colours.checkedFrame = isContrast ? colours.accent : colours.checkedHover;
+    colours.hoverFrame = isContrast ? colours.text : QColor(Qt::transparent);
     colours.focus = isContrast ? colours.text : colours.accent;
     return colours;
 }
@@ -116,6 +124,6 @@ QPalette schemePalette(const SchemeColours &colours)
 QString schemeSheet(QString sheet, const SchemeColours &colours)
 {
     for (const Role &role : roles)
-        sheet.replace(role.name, (colours.*role.colour).name());
+        sheet.replace(role.name, sheetName(colours.*role.colour));
     return sheet;
 }

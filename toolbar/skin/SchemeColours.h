@@ -20,6 +20,7 @@ struct SchemeColours
     QColor frame;            ///< Around fields and menus.
     QColor divider;          ///< Between groups of controls.
     QColor hover;            ///< Ground of what the pointer is over.
+    QColor hoverFrame;       ///< Around it; transparent where the ground says enough.
     QColor pressed;          ///< Ground of what is pressed, and of the selected entry of a menu.
     QColor checked;          ///< Ground of what is switched on.
     QColor checkedHover;     ///< The same under the pointer.

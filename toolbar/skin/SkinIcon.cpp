@@ -20,6 +20,7 @@ namespace {
 
 /** Qt's own disabled look leaves light glyphs as they are; this one fades all alike. */
 constexpr qreal disabledOpacity = 0.45;
+constexpr qreal disabledOpacityOnDark = 0.55; ///< A screen shows dark greys as nearly black.
 
 /** The sides, in pixels, that the skins have drawings for. */
 constexpr int drawnSides[] = {16, 20, 24};
@@ -95,7 +96,8 @@ public:
         const QIcon drawing = drawingOfSide(qRound(qMin(rect.width(), rect.height()) * ratio));
         const qreal opacity = painter->opacity();
         if (mode == QIcon::Disabled)
-            painter->setOpacity(opacity * disabledOpacity);
+            painter->setOpacity(opacity
+                                * (m_look.isLight() ? disabledOpacity : disabledOpacityOnDark));
         drawing.paint(painter, rect, Qt::AlignCenter, QIcon::Normal, state);
         painter->setOpacity(opacity);
     }
