@@ -3,7 +3,9 @@
 
 #pragma once
 
+#include <QList>
 #include <QObject>
+#include <QPointer>
 
 class QWidget;
 
@@ -19,12 +21,21 @@ public:
     /** @param widget owns it */
     explicit SchemePalette(QWidget *widget);
 
-    /** A widget may be given another parent, and with it another toolbar. */
+    /** A widget may be given another parent, and with it another toolbar, or other texts. */
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    /** A style sheet of the widget or of a child as it was written. */
+    struct Sheet
+    {
+        QPointer<QWidget> widget;
+        QString text;
+    };
+
     void apply();
+    void collectSheets();
 
     QWidget *m_widget;
+    QList<Sheet> m_sheets;
     bool m_isApplied = false;
 };
