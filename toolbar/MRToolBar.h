@@ -43,7 +43,8 @@ public:
      *                    toolbar is empty but works.
      * @param skin        colours by placeholder; what is missing gets the skin's default. The key
      *                    "externalqss" leaves it to the host to apply GetToolBarStyleSheet(); the
-     *                    key "quickaccessbarbuttons" brings back GetQuickAccessButtonList().
+     *                    key "quickaccessbarbuttons" brings back GetQuickAccessButtonList(), and
+     *                    "scheme" says how light the toolbar is; see ToolBarSkinStyle.
      * @param alignment   where the controls of a tool row stand.
      */
     MRToolBar(QMainWindow *mainWindow, QDomNode &description, QMap<QString, QString> skin,
@@ -156,7 +157,10 @@ public Q_SLOTS:
     void DoSetControlVisibleStateSlot(QString &objName, bool visible);
     /** Checks the menu entry of the page background. */
     void DoSetBackgroundSlot(BackgroundStyle style);
-    /** Replaces the skin's colours; an empty map changes nothing. */
+    /**
+     * Replaces the skin's colours; an empty map changes nothing. The key "scheme" makes the toolbar
+     * lighter or darker; a map that holds nothing else keeps the colours. See ToolBarSkinStyle.
+     */
     void DoSetSkinStyleSlot(ToolBarSkinStyle style);
     /** Back to actual size, no page and nothing checked; nothing is enabled or shown by it. */
     void DoResetToolbarSlot();

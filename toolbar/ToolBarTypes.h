@@ -47,7 +47,16 @@ struct SearchContentOption
 /** The name under which SearchContentOption stands in signatures. */
 typedef SearchContentOption SearchOption;
 
-/** Settings of a skin: colour placeholders such as "[MainColor]", and two keys of behaviour. */
+/**
+ * Settings of a skin: colour placeholders such as "[MainColor]", and three keys of behaviour.
+ *
+ * "externalqss" (any value) leaves applying the style sheet to the host, "quickaccessbarbuttons" is
+ * the setting that MRToolBar::GetQuickAccessButtonList() returned; both count at construction.
+ *
+ * "scheme" makes the toolbar "light", "dark" or of high "contrast", or, with "system", light or
+ * dark as the application's palette is; without it a toolbar is light. It is no colour: a map that
+ * holds nothing else is an empty one, and a map without it, or with another value, keeps the scheme.
+ */
 typedef QMap<QString, QString> ToolBarSkinStyle;
 
 Q_DECLARE_METATYPE(SearchOption)
