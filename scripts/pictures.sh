@@ -17,7 +17,8 @@ show_help()
     cat <<'END'
 Usage: scripts/pictures.sh [OPTION]...
 Takes every tab, menu and state of the described toolbars in both skins at 96, 120, 144 and 192
-dpi, one sheet each, and the sheet of the icons, after installing what that needs (Debian 12).
+dpi, one sheet each, at 96 and 192 dpi in every scheme, and the sheet of the icons, after installing
+what that needs (Debian 12).
 
   --pages        take the pictures that README.md and the guides show instead
   --qt 5|6       version of Qt (5)
@@ -47,10 +48,10 @@ build_programs()
     cmake --build "$build" --target "$@"
 }
 
-# take_sheet NAME SKIN DESCRIPTION WIDTH
+# take_sheet NAME SKIN DESCRIPTION WIDTH [OPTION]...
 take_sheet()
 {
-    "$build/bin/mrtoolbar-pictures" --skin "$2" --description "$3" --width "$4" \
+    "$build/bin/mrtoolbar-pictures" --skin "$2" --description "$3" --width "$4" "${@:5}" \
         --out "$folder/$1-${dpi}dpi.png" 2> >(grep -v 'parse stylesheet' >&2)
 }
 
@@ -66,6 +67,17 @@ take_sheets_at_density()
     take_sheet marodi-debug-narrow marodi debug 500
 }
 
+take_schemes_at_density()
+{
+    local skin scheme
+    for skin in marodi lum; do
+        for scheme in light dark contrast; do
+            take_sheet "$skin-$scheme" "$skin" "$showcase" 1000 --scheme "$scheme"
+        done
+        take_sheet "$skin-system" "$skin" "$showcase" 1000 --scheme system --dark-palette
+    done
+}
+
 take_sheets()
 {
     local dpi
@@ -73,6 +85,7 @@ take_sheets()
     for dpi in 96 120 144 192; do
         start_xvfb "$dpi"
         take_sheets_at_density
+        case $dpi in 96 | 192) take_schemes_at_density ;; esac
         stop_xvfb
         xvfb_pid=
     done
