@@ -343,7 +343,7 @@ void PageView::scrollContentsBy(int, int)
 void PageView::paintEvent(QPaintEvent *)
 {
     QPainter painter(viewport());
-    painter.fillRect(viewport()->rect(), PageColours::of(m_background).desk);
+    painter.fillRect(viewport()->rect(), colours().desk);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     if (!m_document.isOpen()) {
         paintHint(painter);
@@ -356,13 +356,23 @@ void PageView::paintEvent(QPaintEvent *)
     }
 }
 
+PageColours PageView::colours() const
+{
+    PageColours colours = PageColours::of(m_background);
+    // A light desk would blind beside dark panels; a chosen background stays what it is.
+    const QColor window = palette().color(QPalette::Window);
+    if (m_background == Background_Default && window.lightness() < 128)
+        colours.desk = window.darker(150);
+    return colours;
+}
+
 void PageView::paintPlace(QPainter &painter, const PageLayout::Place &place)
 {
     painter.save();
     const QRectF sheet = place.rect.translated(-QPointF(scrollOffset()));
     painter.fillRect(sheet.translated(2, 2), QColor(0, 0, 0, 50));
     painter.setClipRect(sheet);
-    const PageColours colours = PageColours::of(m_background);
+    const PageColours colours = this->colours();
     const PageContent *content = m_document.contentOf(place.page);
     if (content)
         m_cache.paint(painter,
@@ -382,7 +392,7 @@ void PageView::paintHint(QPainter &painter)
     QFont font = painter.font();
     font.setPointSizeF(font.pointSizeF() * 1.4);
     painter.setFont(font);
-    painter.setPen(PageColours::of(m_background).ink);
+    painter.setPen(colours().desk.lightness() < 128 ? QColor(Qt::white) : colours().ink);
     painter.drawText(viewport()->rect(), Qt::AlignCenter,
                      tr("没有打开的文档\n按 Ctrl+O 打开一个文件"));
 }

@@ -110,6 +110,7 @@ private:
     void documentTurned();
     void paintPlace(QPainter &painter, const PageLayout::Place &place);
     void paintHint(QPainter &painter);
+    PageColours colours() const;
 
     // Mouse drags.
     void startDrag(QPoint position);

@@ -7,9 +7,10 @@
 
 #include <QWidget>
 
+class QComboBox;
 class QHBoxLayout;
 
-/** Controls of the host outside of the toolbar: colours of the skin and settings of the pens. */
+/** Controls of the host outside of the toolbar: the looks of the skin and settings of the pens. */
 class HostPanel : public QWidget
 {
     Q_OBJECT
@@ -20,11 +21,18 @@ public:
     /** The skin map for the constructor of the toolbar. */
     static ToolBarSkinStyle firstSkin();
 
+    /** Shows which scheme is in force; nobody is told. */
+    void showScheme(const QString &scheme);
+
 Q_SIGNALS:
     void skinChosen(const ToolBarSkinStyle &skin);
+    /** One of the skin map's words for how light the toolbar is. */
+    void schemeChosen(const QString &scheme);
     void handwritingAsked();
 
 private:
     void addSkinButton(QHBoxLayout *row, const QString &text, const QColor &colour,
                        const ToolBarSkinStyle &skin);
+
+    QComboBox *m_schemes;
 };

@@ -4,6 +4,7 @@
 #include "shell/Options.h"
 
 #include "shell/Description.h"
+#include "shell/ReaderScheme.h"
 
 #include <QCommandLineParser>
 #include <QFileInfo>
@@ -38,6 +39,16 @@ const QCommandLineOption &languageOption()
         QStringLiteral("Language of the reader: zh_CN or en (zh_CN). The toolbar shows the texts "
                        "of its description."),
         QStringLiteral("name"), languages.first());
+    return option;
+}
+
+const QCommandLineOption &schemeOption()
+{
+    static const QCommandLineOption option(
+        QStringLiteral("scheme"),
+        QStringLiteral("How light the reader is: light, dark, contrast, or system for what the "
+                       "system has (as in the last run)."),
+        QStringLiteral("name"));
     return option;
 }
 
@@ -86,6 +97,10 @@ QString faultOf(const QCommandLineParser &parser)
     const QString language = parser.value(languageOption());
     if (!languages.contains(language))
         return QStringLiteral("--language takes zh_CN or en, not '%1'").arg(language);
+    const QString scheme = parser.value(schemeOption());
+    if (parser.isSet(schemeOption()) && !ReaderScheme::names().contains(scheme))
+        return QStringLiteral("--scheme takes light, dark, contrast or system, not '%1'")
+            .arg(scheme);
     if (parser.positionalArguments().size() > 1)
         return QStringLiteral("only one file can be opened at a time");
     if (parser.isSet(screenshotOption()) && parser.value(screenshotOption()).isEmpty())
@@ -104,8 +119,8 @@ Options Options::of(const QStringList &arguments, QString *error)
     parser.addPositionalArgument(
         QStringLiteral("file"), QStringLiteral("An OFD file; without one the pages are generated."),
         QStringLiteral("[file]"));
-    parser.addOptions({skinOption(), languageOption(), descriptionOption(), watchOption(),
-                       screenshotOption(), clearHistoryOption()});
+    parser.addOptions({skinOption(), languageOption(), schemeOption(), descriptionOption(),
+                       watchOption(), screenshotOption(), clearHistoryOption()});
     const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
                                   QStringLiteral("Show this text and end."));
     parser.addOption(help);
@@ -120,6 +135,7 @@ Options Options::of(const QStringList &arguments, QString *error)
     *error = faultOf(parser);
     options.skin = parser.value(skinOption());
     options.language = parser.value(languageOption());
+    options.scheme = parser.value(schemeOption());
     options.description = parser.value(descriptionOption());
     options.screenshot = parser.value(screenshotOption());
     options.file = parser.positionalArguments().value(0);

@@ -11,6 +11,7 @@ struct Options
 {
     QString skin;
     QString language;
+    QString scheme; ///< Empty for the one of the last run.
     QString description;
     QString screenshot; ///< Empty if no picture is requested.
     QString file;       ///< The document to open; empty for the sample.

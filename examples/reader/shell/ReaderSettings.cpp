@@ -10,6 +10,7 @@ namespace {
 constexpr int defaultRecentLimit = 8;
 const QString recentFilesKey = QStringLiteral("recentFiles");
 const QString recentLimitKey = QStringLiteral("recentLimit");
+const QString schemeKey = QStringLiteral("scheme");
 const QString quickAccessKey = QStringLiteral("quickAccessButtons/");
 
 } // namespace
@@ -58,4 +59,14 @@ void ReaderSettings::setQuickAccessButtons(const QString &skin, const QString &b
 {
     // An empty setting means the default of the description; a separator alone means no button.
     m_settings.setValue(quickAccessKey + skin, buttons.isEmpty() ? QStringLiteral(";") : buttons);
+}
+
+QString ReaderSettings::scheme() const
+{
+    return m_settings.value(schemeKey, QStringLiteral("light")).toString();
+}
+
+void ReaderSettings::setScheme(const QString &scheme)
+{
+    m_settings.setValue(schemeKey, scheme);
 }

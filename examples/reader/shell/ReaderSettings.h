@@ -25,6 +25,10 @@ public:
     QString quickAccessButtons(const QString &skin) const;
     void setQuickAccessButtons(const QString &skin, const QString &buttons);
 
+    /** How light the reader is; see ReaderScheme. Light on the first run. */
+    QString scheme() const;
+    void setScheme(const QString &scheme);
+
 private:
     QSettings m_settings;
 };

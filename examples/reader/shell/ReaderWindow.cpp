@@ -12,6 +12,7 @@
 #include "reach/ToolBarReach.h"
 #include "shell/Description.h"
 #include "shell/KeyboardReach.h"
+#include "shell/ReaderScheme.h"
 
 #include <toolbar/MRToolBar.h>
 
@@ -28,6 +29,7 @@
 namespace {
 
 const QString quickAccessKey = QStringLiteral("quickaccessbarbuttons");
+const QString schemeKey = QStringLiteral("scheme");
 const QString sampleName = QStringLiteral("示例文档.ofd");
 constexpr int logWidth = 300;
 constexpr QSize windowSize(1280, 800);
@@ -45,6 +47,7 @@ QString droppedFile(const QMimeData &data)
 ReaderWindow::ReaderWindow(const QDomDocument &description, const QString &skin)
     : m_skin(skin)
     , m_colours(HostPanel::firstSkin())
+    , m_scheme(m_settings.scheme())
     , m_view(new PageView(m_document, this))
     , m_navigation(new NavigationPanel(m_document, this))
     , m_search(new SearchPanel(m_document, *m_view, this))
@@ -65,6 +68,7 @@ ReaderWindow::ReaderWindow(const QDomDocument &description, const QString &skin)
     connectToolBar();
     connectParts();
     updateTitle();
+    setScheme(m_scheme);
     m_report->tellAll(state());
     setAcceptDrops(true);
     resize(windowSize * logicalDpiX() / referenceDpi);
@@ -115,11 +119,21 @@ void ReaderWindow::createToolBar(const QDomDocument &description)
     const QString buttons = m_skin.isEmpty() ? QString() : m_settings.quickAccessButtons(m_skin);
     if (!buttons.isEmpty())
         skin.insert(quickAccessKey, buttons);
+    skin.insert(schemeKey, m_scheme);
     m_description = description;
     QDomNode root = m_description.documentElement();
     m_toolBar = std::make_unique<MRToolBar>(this, root, skin, ToolBarLeft);
     m_report.emplace(*m_toolBar, m_commands);
     m_log->listenTo(*m_toolBar);
+}
+
+void ReaderWindow::setScheme(const QString &scheme)
+{
+    m_scheme = scheme;
+    // A map without colours keeps those that there are.
+    m_toolBar->DoSetSkinStyleSlot({{schemeKey, scheme}});
+    ReaderScheme::applyPalette(scheme);
+    m_hostPanel->showScheme(scheme);
 }
 
 void ReaderWindow::setDescription(QDomDocument description)
@@ -223,6 +237,10 @@ void ReaderWindow::connectParts()
     connect(m_hostPanel, &HostPanel::skinChosen, this, [this](const ToolBarSkinStyle &colours) {
         m_colours = colours;
         m_toolBar->DoSetSkinStyleSlot(colours);
+    });
+    connect(m_hostPanel, &HostPanel::schemeChosen, this, [this](const QString &scheme) {
+        m_settings.setScheme(scheme);
+        setScheme(scheme);
     });
     connect(m_hostPanel, &HostPanel::handwritingAsked, this, [this] {
         m_editCommands.editHandwriting();

@@ -43,6 +43,9 @@ public:
     /** Replaces the toolbar; the document and its view are not changed. */
     void setDescription(QDomDocument description);
 
+    /** Makes the window as light or dark as one of ReaderScheme::names(). */
+    void setScheme(const QString &scheme);
+
     void open(const QString &fileName);
     /** Opens a generated document, which is not added to the recent files. */
     void openSample();
@@ -78,6 +81,7 @@ private:
     ToolBarSkinStyle m_colours;
     QDomDocument m_description;
     ReaderSettings m_settings;
+    QString m_scheme;
     Document m_document;
     PageView *m_view;
     NavigationPanel *m_navigation;

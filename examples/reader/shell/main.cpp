@@ -62,6 +62,8 @@ int main(int argc, char *argv[])
     NewToolBar::uiStyle = options.skin == QLatin1String("lum") ? lumStyle : 0;
     // With --watch the description decides about the quick access buttons, not the user's setting.
     ReaderWindow window(description, options.watch ? QString() : options.skin);
+    if (!options.scheme.isEmpty())
+        window.setScheme(options.scheme);
     std::optional<LivePreview> preview;
     if (options.watch)
         preview.emplace(window, options);

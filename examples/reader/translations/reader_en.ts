@@ -257,6 +257,26 @@ F11: full screen</translation>
         <translation>Dark</translation>
     </message>
     <message>
+        <source>浅色</source>
+        <translation>Light</translation>
+    </message>
+    <message>
+        <source>深色</source>
+        <translation>Dark</translation>
+    </message>
+    <message>
+        <source>高对比</source>
+        <translation>High contrast</translation>
+    </message>
+    <message>
+        <source>跟随系统</source>
+        <translation>As the system</translation>
+    </message>
+    <message>
+        <source>明暗</source>
+        <translation>Brightness</translation>
+    </message>
+    <message>
         <source>手写设置…</source>
         <translation>Handwriting settings…</translation>
     </message>

@@ -257,6 +257,26 @@ F11：全屏</translation>
         <translation>暗</translation>
     </message>
     <message>
+        <source>浅色</source>
+        <translation>浅色</translation>
+    </message>
+    <message>
+        <source>深色</source>
+        <translation>深色</translation>
+    </message>
+    <message>
+        <source>高对比</source>
+        <translation>高对比</translation>
+    </message>
+    <message>
+        <source>跟随系统</source>
+        <translation>跟随系统</translation>
+    </message>
+    <message>
+        <source>明暗</source>
+        <translation>明暗</translation>
+    </message>
+    <message>
         <source>手写设置…</source>
         <translation>手写设置…</translation>
     </message>
