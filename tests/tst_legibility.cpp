@@ -192,7 +192,7 @@ void lookAtRow(Legibility &legibility, const NewToolBar *toolBar)
     }
     for (QLabel *label : shown<QLabel>(toolBar)) {
         if (!label->text().isEmpty())
-            look(legibility, QStringLiteral("normal"), static_cast<QWidget *>(label));
+            legibility.addText(QStringLiteral("normal"), nameOf(label), label->grab().toImage());
     }
 }
 

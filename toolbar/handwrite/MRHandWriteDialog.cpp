@@ -5,6 +5,7 @@
 
 #include "toolbar/QtCompat.h"
 #include "toolbar/handwrite/InkPictures.h"
+#include "toolbar/skin/Appearance.h"
 #include "toolbar/skin/SchemePalette.h"
 #include "ui_HandWriteDialog.h"
 
@@ -302,7 +303,9 @@ void MRHandWriteDialog::tintLink()
 {
     // Neither the label's palette nor a sheet reaches a link of a rich text.
     static const QRegularExpression link(QStringLiteral("<a (style=\"[^\"]*\" )?"));
-    const QColor colour = linkColourOn(QGuiApplication::palette().color(QPalette::Base));
+    const SchemeColours *scheme = Appearance::coloursFor(this);
+    const QColor colour =
+        scheme ? scheme->accent : linkColourOn(QGuiApplication::palette().color(QPalette::Base));
     QString text = m_ui->labelOtherSelect->text();
     text.replace(link, QStringLiteral("<a style=\"color:%1\" ").arg(colour.name()));
     m_ui->labelOtherSelect->setText(text);

@@ -7,9 +7,7 @@
 #include "toolbar/skin/Appearance.h"
 
 #include <QEvent>
-#include <QLabel>
-#include <QRegularExpression>
-#include <QSlider>
+#include <QWidget>
 
 #include <utility>
 
@@ -23,12 +21,14 @@ struct NamedRole
 
 constexpr NamedRole namedRoles[] = {
     {latin1("palette(base)"), QPalette::Base},
+    {latin1("palette(text)"), QPalette::Text},
     {latin1("palette(window)"), QPalette::Window},
+    {latin1("palette(window-text)"), QPalette::WindowText},
+    {latin1("palette(button)"), QPalette::Button},
+    {latin1("palette(button-text)"), QPalette::ButtonText},
     {latin1("palette(midlight)"), QPalette::Midlight},
     {latin1("palette(highlight)"), QPalette::Highlight},
     {latin1("palette(highlighted-text)"), QPalette::HighlightedText},
-    {latin1("palette(text)"), QPalette::Text},
-    {latin1("palette(window-text)"), QPalette::WindowText},
 };
 
 /** A frame for any ground, in the sheets of the library's windows. */
@@ -41,35 +41,6 @@ QString inScheme(QString sheet, const SchemeColours &colours)
     for (const NamedRole &entry : namedRoles)
         sheet.replace(entry.name, palette.color(entry.role).name());
     return sheet.replace(greyFrame, colours.frame.name());
-}
-
-QList<QWidget *> withChildren(QWidget *widget)
-{
-    return QList<QWidget *>{widget} + widget->findChildren<QWidget *>();
-}
-
-/** Links have the colour of the application's palette unless their text names another one. */
-void colourLinks(QLabel *label, const SchemeColours *colours)
-{
-    static const QRegularExpression link(QStringLiteral("<a (style=\"color:#[0-9a-f]+\" )?"));
-    const QString text = label->text();
-    const QString style =
-        colours ? QStringLiteral("style=\"color:%1\" ").arg(colours->accent.name()) : QString();
-    if (text.contains(link))
-        label->setText(QString(text).replace(link, QStringLiteral("<a ") + style));
-}
-
-void dress(QWidget *widget, const SchemeColours *colours)
-{
-    QPalette palette = colours ? schemePalette(*colours) : QPalette();
-    // The handle would be lost on its groove.
-    if (colours && qobject_cast<QSlider *>(widget))
-        palette.setColor(QPalette::Button, colours->accent);
-    if (auto *label = qobject_cast<QLabel *>(widget))
-        colourLinks(label, colours);
-    // Below a sheet no widget inherits the palette of its parent, and polishing discards its own.
-    widget->ensurePolished();
-    widget->setPalette(palette);
 }
 
 } // namespace
@@ -87,9 +58,6 @@ bool SchemePalette::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == m_widget && event->type() == QEvent::ParentChange)
         apply();
-    // The widget is about to put other texts in its labels.
-    if (watched == m_widget && event->type() == QEvent::LanguageChange)
-        QMetaObject::invokeMethod(this, &SchemePalette::apply, Qt::QueuedConnection);
     return false;
 }
 
@@ -107,15 +75,16 @@ void SchemePalette::apply()
         if (sheet.widget)
             sheet.widget->setStyleSheet(colours ? inScheme(sheet.text, *colours) : sheet.text);
     }
-    const QList<QWidget *> widgets = withChildren(m_widget);
-    for (QWidget *widget : widgets)
-        dress(widget, colours);
+    // Polishing, which a sheet waits for, would discard it again.
+    m_widget->ensurePolished();
+    m_widget->setPalette(colours ? schemePalette(*colours) : QPalette());
 }
 
 void SchemePalette::collectSheets()
 {
     m_sheets.clear();
-    const QList<QWidget *> widgets = withChildren(m_widget);
+    const QList<QWidget *> widgets =
+        QList<QWidget *>{m_widget} + m_widget->findChildren<QWidget *>();
     for (QWidget *widget : widgets) {
         if (!widget->styleSheet().isEmpty())
             m_sheets.append({widget, widget->styleSheet()});

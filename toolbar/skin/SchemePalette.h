@@ -21,7 +21,7 @@ public:
     /** @param widget owns it */
     explicit SchemePalette(QWidget *widget);
 
-    /** A widget may be given another parent, and with it another toolbar, or other texts. */
+    /** A widget may be given another parent, and with it another toolbar. */
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
