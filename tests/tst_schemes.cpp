@@ -255,6 +255,16 @@ private Q_SLOTS:
         }
     }
 
+    void shouldSwitchBeforeItIsShown()
+    {
+        const auto dark = TestHost::withShipped(shippedDocument(marodi), {{schemeKey, "dark"}});
+        const auto switched = TestHost::withShipped(shippedDocument(marodi));
+        switched->facade().DoSetSkinStyleSlot({{schemeKey, "dark"}});
+        for (const auto *host : {&dark, &switched})
+            (*host)->show();
+        QCOMPARE(picture(*switched), picture(*dark));
+    }
+
     void shouldTakeNoColourFromThePalette()
     {
         PaletteChoice palette;

@@ -62,6 +62,8 @@ void applySheet(QWidget *hostToolBar, const QString &sheet)
     leaveApplicationSheet(hostToolBar);
     if (current.isEmpty())
         polishFilledRows(hostToolBar);
+    else
+        hostToolBar->ensurePolished(); // Otherwise Qt leaves what has been polished as it is.
     hostToolBar->setStyleSheet(sheet);
 }
 

@@ -19,10 +19,10 @@ struct Greys
 };
 
 constexpr Greys darkGreys{0xff1f1f1f, 0xff2b2b2b, 0xff303030, 0xff1c1c1c, 0xfff2f2f2, 0xffa3a3a3,
-                          0xff808080, 0xff4c4c4c, 0xff3f3f3f, 0xff4b4b4b, 6.5,        3.0};
+                          0xff808080, 0xff4c4c4c, 0xff3f3f3f, 0xff4b4b4b, 6.0,        3.0};
 constexpr Greys contrastGreys{0xff000000, 0xff000000, 0xff000000, 0xff000000,
                               0xffffffff, 0xffa0a0a0, 0xffffffff, 0xff8c8c8c,
-                              0xff2a2a2a, 0xff383838, 10.8,       4.5};
+                              0xff2a2a2a, 0xff383838, 10.0,       4.5};
 
 /** Lines are thin: what is left of them between two pixels must be seen, too. */
 constexpr double lineReserve = 1.5;
@@ -93,9 +93,9 @@ SchemeColours schemeColours(const SchemeLook &look)
     colours.accent =
         Contrast::lightened(look.mainColour, greys.pressed, greys.iconContrast * lineReserve);
     colours.onAccent = Contrast::textOn(colours.accent);
-    constexpr double distance = 1.15; // A light accent would make both as light as can be.
+    constexpr double distance = 1.25; // A light accent would make both as light as can be.
     colours.checked = tinted(colours, 0.24, greys.textContrast * distance);
-    colours.checkedHover = tinted(colours, 0.32, greys.textContrast);
+    colours.checkedHover = tinted(colours, 0.36, greys.textContrast);
     colours.checkedFrame = isContrast ? colours.accent : colours.checkedHover;
     colours.hoverFrame = isContrast ? colours.text : QColor(Qt::transparent);
     colours.focus = isContrast ? colours.text : colours.accent;
