@@ -55,7 +55,8 @@ typedef SearchContentOption SearchOption;
  *
  * "scheme" makes the toolbar "light", "dark" or of high "contrast", or, with "system", light or
  * dark as the application's palette is; without it a toolbar is light. It is no colour: a map that
- * holds nothing else is an empty one, and a map without it, or with another value, keeps the scheme.
+ * holds nothing else is an empty one, and a map without it, or with another value, keeps the
+ * scheme.
  */
 typedef QMap<QString, QString> ToolBarSkinStyle;
 

@@ -22,7 +22,7 @@ constexpr Greys darkGreys{0xff1f1f1f, 0xff2b2b2b, 0xff303030, 0xff1c1c1c, 0xfff2
                           0xff808080, 0xff4c4c4c, 0xff3f3f3f, 0xff4b4b4b, 6.0,        3.0};
 constexpr Greys contrastGreys{0xff000000, 0xff000000, 0xff000000, 0xff000000,
                               0xffffffff, 0xffa0a0a0, 0xffffffff, 0xff8c8c8c,
-                              0xff2a2a2a, 0xff383838, 10.0,       4.5};
+                              0xff2a2a2a, 0xff383838, 10.4,       4.5};
 
 /** Lines are thin: what is left of them between two pixels must be seen, too. */
 constexpr double lineReserve = 1.5;
