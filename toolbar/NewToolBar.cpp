@@ -104,8 +104,8 @@ NewToolBar::NewToolBar(QMainWindow *mainWindow, QDomNode &description, QMap<QStr
     m_scale = ScreenDensity::factor(this);
     connect(&m_delayTimer, &QTimer::timeout, this, &NewToolBar::Inner_DoDelayActionSlot);
     m_quickAccessButtons = skin.value(SkinKey::quickAccess);
-    const QMap<QString, QString> options = TakeOptions(skin);
-    ChooseAppearance(options, skin);
+    const QMap<QString, QString> options = takeOptions(skin);
+    chooseAppearance(options, skin);
 
     // A document that can't be used leaves an empty toolbar that works.
     Init(description);
@@ -129,7 +129,7 @@ NewToolBar::NewToolBar(QMainWindow *mainWindow, QDomNode &description, QMap<QStr
     strip->toggleViewAction()->setVisible(false);
     strip->addWidget(this);
     ResetSkinStyle();
-    connect(m_appearance, &Appearance::changed, this, &NewToolBar::FollowAppearance);
+    connect(m_appearance, &Appearance::changed, this, &NewToolBar::followAppearance);
 }
 
 NewToolBar::~NewToolBar()

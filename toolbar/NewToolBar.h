@@ -184,13 +184,13 @@ private:
     void SetExtraGroupEnable(bool enable);
 
     // Skin.
-    static QMap<QString, QString> TakeOptions(QMap<QString, QString> &skin);
-    void ChooseAppearance(const QMap<QString, QString> &options,
+    static QMap<QString, QString> takeOptions(QMap<QString, QString> &skin);
+    void chooseAppearance(const QMap<QString, QString> &options,
                           const QMap<QString, QString> &colours);
     void InitSkinStyle(QMap<QString, QString> skin);
     void SwitchSkinStyle(QMap<QString, QString> skin);
     bool ResetSkinStyle();
-    void FollowAppearance();
+    void followAppearance();
 
     QPointer<QLineEdit> m_pageNumberEdit;
     NamedList<MRDropButton> m_dropButtons;

@@ -89,7 +89,7 @@ QString NewToolBar::GetToolBarStyleSheet()
     return m_toolBarStyleSheet;
 }
 
-QMap<QString, QString> NewToolBar::TakeOptions(QMap<QString, QString> &skin)
+QMap<QString, QString> NewToolBar::takeOptions(QMap<QString, QString> &skin)
 {
     QMap<QString, QString> options;
     for (const QLatin1String key : SkinKey::options) {
@@ -99,7 +99,7 @@ QMap<QString, QString> NewToolBar::TakeOptions(QMap<QString, QString> &skin)
     return options;
 }
 
-void NewToolBar::ChooseAppearance(const QMap<QString, QString> &options,
+void NewToolBar::chooseAppearance(const QMap<QString, QString> &options,
                                   const QMap<QString, QString> &colours)
 {
     // Without colours those of before stay, and the main one with them.
@@ -115,11 +115,11 @@ void NewToolBar::InitSkinStyle(QMap<QString, QString> skin)
 
 void NewToolBar::SwitchSkinStyle(QMap<QString, QString> skin)
 {
-    const QMap<QString, QString> options = TakeOptions(skin);
+    const QMap<QString, QString> options = takeOptions(skin);
     // Who applies the sheet was settled at construction and stays so.
     if (!skin.isEmpty())
         m_skinMap = Skin::switchedMap(skin);
-    ChooseAppearance(options, skin);
+    chooseAppearance(options, skin);
     if (!skin.isEmpty())
         ResetSkinStyle();
 }
@@ -140,7 +140,7 @@ bool NewToolBar::ResetSkinStyle()
     return true;
 }
 
-void NewToolBar::FollowAppearance()
+void NewToolBar::followAppearance()
 {
     ResetSkinStyle();
     // A pointer over the search field has left the button a sheet of its own.

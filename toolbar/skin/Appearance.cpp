@@ -22,17 +22,17 @@ QList<const Appearance *> &givenSchemes()
     return appearances;
 }
 
-/** What a style sheet calls a colour; an invalid one for anything else, or for a gradient. */
-QColor sheetColour(const QString &text)
+/** What a style sheet calls a colour; the default for anything else, for a gradient too. */
+QRgb sheetColour(const QString &text)
 {
     static const QRegularExpression channels(
         QStringLiteral("^\\s*rgba?\\(\\s*(\\d+)\\s*,\\s*(\\d+)\\s*,\\s*(\\d+)\\s*[,)]"));
     const QRegularExpressionMatch match = channels.match(text);
-    if (match.hasMatch()) {
-        return QColor(match.captured(1).toInt(), match.captured(2).toInt(),
-                      match.captured(3).toInt());
-    }
-    return QColor(text.trimmed());
+    if (match.hasMatch())
+        return qRgb(match.captured(1).toInt(), match.captured(2).toInt(),
+                    match.captured(3).toInt());
+    const QColor colour(text.trimmed());
+    return colour.isValid() ? colour.rgb() : defaultMainColour;
 }
 
 } // namespace
@@ -40,7 +40,6 @@ QColor sheetColour(const QString &text)
 Appearance::Appearance(QWidget *toolBar)
     : QObject(toolBar)
     , m_toolBar(toolBar)
-    , m_mainColour(defaultMainColour)
 {
 }
 
@@ -52,9 +51,8 @@ Appearance::~Appearance()
 
 void Appearance::set(const QString &scheme, const QString &mainColour)
 {
-    const QColor colour = sheetColour(mainColour);
-    if (colour.isValid())
-        m_mainColour = colour.rgb();
+    if (!mainColour.isEmpty())
+        m_mainColour = mainColour;
     const std::optional<Scheme> choice = schemeNamed(scheme);
     if (choice)
         choose(*choice);
@@ -80,7 +78,7 @@ void Appearance::update()
     SchemeLook look;
     look.scheme = schemeInUse(m_choice, QApplication::palette());
     if (!look.isLight())
-        look.mainColour = m_mainColour;
+        look.mainColour = sheetColour(m_mainColour);
     if (look == m_look)
         return;
 

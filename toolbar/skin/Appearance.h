@@ -61,7 +61,7 @@ private:
 
     const QWidget *m_toolBar;
     Scheme m_choice = Scheme::Light;
-    QRgb m_mainColour;
+    QString m_mainColour; ///< Not parsed until a scheme needs it.
     SchemeLook m_look;
     std::optional<SchemeColours> m_colours;
     QHash<QString, QIcon> m_icons; ///< Many controls share one.
