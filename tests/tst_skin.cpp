@@ -6,6 +6,8 @@
 #include "toolbar/skin/StyleSheet.h"
 
 #include <QRegularExpression>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QToolBar>
 
 using SkinMap = QMap<QString, QString>;
@@ -155,6 +157,39 @@ private Q_SLOTS:
         QVERIFY(switched.contains("#ABCDEF") && isApplied(switched));
         host.facade().DoSetSkinStyleSlot({});
         QVERIFY(isApplied(switched));
+    }
+
+    void shouldLeaveEverythingInItsPlaceWhenColoursChange_data()
+    {
+        QTest::addColumn<int>("skin");
+        QTest::newRow("marodi") << marodi;
+        QTest::newRow("lum") << lum;
+    }
+
+    void shouldLeaveEverythingInItsPlaceWhenColoursChange()
+    {
+        QFETCH(int, skin);
+        const SkinChoice choice(skin);
+        const SkinMap &colours = skin == lum ? lumDefaults : marodiDefaults;
+        const auto host = TestHost::withShipped(
+            QString("%1/mr_toolbar.release.xml").arg(skin == lum ? "lum" : "marodi"), colours);
+        host->window().resize(host->scaled(700), host->scaled(300));
+        host->show();
+        host->enableEverything();
+        const auto areas = host->toolBar()->findChildren<QScrollArea *>("scrollarea");
+        QScrollBar *bar = areas.first()->horizontalScrollBar();
+        bar->setValue(bar->maximum());
+        QCoreApplication::processEvents();
+        QVERIFY(bar->value() > host->scaled(50));
+        const int place = bar->value();
+        const QImage before = host->window().grab().toImage();
+
+        host->facade().DoSetSkinStyleSlot(with(colours, {{"[ToolBarBgColor]", "#223344"}}));
+        QCOMPARE(bar->value(), place);
+        QTRY_VERIFY(host->window().grab().toImage() != before);
+        host->facade().DoSetSkinStyleSlot(colours);
+        QTRY_VERIFY(host->window().grab().toImage() == before);
+        QCOMPARE(bar->value(), place);
     }
 
     void shouldFindTheIconsOfItsOwnSkinOnly()

@@ -10,6 +10,7 @@
 #include "toolbar/skin/SkinIcon.h"
 #include "toolbar/skin/StyleSheet.h"
 #include "toolbar/widgets/MRMainToolBar.h"
+#include "toolbar/widgets/RowPause.h"
 
 #include <QApplication>
 #include <QPushButton>
@@ -55,15 +56,22 @@ void polishFilledRows(const QWidget *hostToolBar)
 void applySheet(QWidget *hostToolBar, const QString &sheet)
 {
     const QString current = hostToolBar->styleSheet();
-    // Qt would style every control anew, and each one twice.
+    // Qt would style every control anew.
     if (sheet == current)
         return;
 
     leaveApplicationSheet(hostToolBar);
-    if (current.isEmpty())
+    if (current.isEmpty()) {
         polishFilledRows(hostToolBar);
-    else
-        hostToolBar->ensurePolished(); // Otherwise Qt leaves what has been polished as it is.
+        hostToolBar->setStyleSheet(sheet);
+        return;
+    }
+    // Otherwise Qt leaves what has been polished as it is.
+    hostToolBar->ensurePolished();
+    // Where one sheet replaces another, Qt styles every control twice; where there is none in
+    // between, once.
+    const RowPause pause(hostToolBar);
+    hostToolBar->setStyleSheet(QString());
     hostToolBar->setStyleSheet(sheet);
 }
 
