@@ -135,13 +135,22 @@ take_guides()
     take_example ownskin ownskin-forest 290 65 320 180
 }
 
+# take_scheme SKIN SCHEME
+take_scheme()
+{
+    "$build/bin/mrtoolbar-pictures" --skin "$1" --description "$showcase" --width 1000 \
+        --scheme "$2" --out "$folder/guide/scheme-$1-$2.png" 2> >(grep -v 'parse stylesheet' >&2)
+}
+
 take_pages()
 {
     build_programs mrtoolbar-reader mrtoolbar-guide-pictures mrtoolbar-owndescription \
-        mrtoolbar-ownskin
+        mrtoolbar-ownskin mrtoolbar-pictures
     start_xvfb 96
     take_reader
     take_guides
+    take_scheme marodi dark
+    take_scheme lum contrast
 }
 
 read_options "$@"
