@@ -224,6 +224,14 @@ void MRScrollArea::DoScrollAction()
     }
 }
 
+bool MRScrollArea::event(QEvent *event)
+{
+    // QScrollArea would measure the whole row at once, and again when the row has its new layout.
+    if (event->type() == QEvent::StyleChange)
+        return QAbstractScrollArea::event(event);
+    return QScrollArea::event(event);
+}
+
 void MRScrollArea::wheelEvent(QWheelEvent *event)
 {
     const int delta = event->angleDelta().y();

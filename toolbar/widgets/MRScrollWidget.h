@@ -76,6 +76,7 @@ public Q_SLOTS:
     void UpdateExtendButton();
 
 protected:
+    bool event(QEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
