@@ -8,7 +8,9 @@
 #include <QAbstractItemView>
 #include <QAction>
 #include <QComboBox>
+#include <QEventLoop>
 #include <QLineEdit>
+#include <QTimer>
 #include <QToolTip>
 
 #include <utility>
@@ -140,6 +142,25 @@ private Q_SLOTS:
         QTEST(host.box->currentText(), "shown");
         QCOMPARE(host.box->count(), predefined + (mode.isEmpty() ? 0 : 1));
         QVERIFY(!host.box->hasFocus());
+    }
+
+    void shouldKeepItsFieldWhileTheHostAnswersWhatWasEntered()
+    {
+        ZoomHost host;
+        const QPointer<QLineEdit> field(host.box->lineEdit());
+        bool isKept = false;
+        connect(&host.facade(), &MRToolBar::DoSetZoomMode, &host.facade(), [&] {
+            // A mode that cannot be typed takes the field away.
+            host.facade().DoSetZoomModeSlot(QStringLiteral("vzmode_fitpage"));
+            QEventLoop loop;
+            QTimer::singleShot(0, &loop, &QEventLoop::quit);
+            loop.exec();
+            isKept = isKept || field;
+        });
+        host.enter(QStringLiteral("37"));
+        QVERIFY(!host.box->isEditable());
+        QVERIFY2(isKept, "Qt still executes the field's event handler");
+        QTRY_VERIFY(!field);
     }
 
     void shouldListOneCustomZoomAtATime()

@@ -12,6 +12,7 @@
 #include <QActionGroup>
 #include <QComboBox>
 #include <QEvent>
+#include <QLineEdit>
 #include <QSignalBlocker>
 #include <QToolTip>
 
@@ -95,7 +96,11 @@ void ZoomBox::showEntry(int index)
 
 void ZoomBox::setTypable(QComboBox *box, bool isTypable)
 {
+    QLineEdit *field = box->lineEdit();
     box->setEditable(isTypable);
+    // The host may be answering what was entered in this very field.
+    if (!isTypable && field)
+        HostAnswer::postponeDeletion(field);
     // What is typed counts, not what the box would make of its beginning.
     if (isTypable)
         box->setCompleter(nullptr);

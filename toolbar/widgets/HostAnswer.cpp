@@ -3,6 +3,8 @@
 
 #include "toolbar/widgets/HostAnswer.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QPointer>
 #include <QWidget>
 
@@ -50,4 +52,12 @@ void HostAnswer::deleteWhenOver(QWidget *widget)
         keptWidgets().append(widget);
     else
         widget->deleteLater();
+}
+
+void HostAnswer::postponeDeletion(QWidget *widget)
+{
+    if (!isPending())
+        return;
+    QCoreApplication::removePostedEvents(widget, QEvent::DeferredDelete);
+    deleteWhenOver(widget);
 }

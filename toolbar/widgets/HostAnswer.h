@@ -27,4 +27,7 @@ public:
      * that the outermost answer, if there is one, was called from.
      */
     static void deleteWhenOver(QWidget *widget);
+
+    /** The same for a widget that Qt has just asked to be deleted later; else Qt deletes it. */
+    static void postponeDeletion(QWidget *widget);
 };
