@@ -155,9 +155,11 @@ private:
 
     QString setSkin()
     {
-        static const QStringList keys{"[MainColor]", "[LightColor]", "[ToolBarBgColor]",     "",
-                                      "unknown",     "externalqss",  "quickaccessbarbuttons"};
-        static const QStringList values{"#102030", "red", "", "no colour", "}", "url(nowhere.png)"};
+        static const QStringList keys{
+            "[MainColor]", "[LightColor]", "[ToolBarBgColor]",     "", "unknown", "externalqss",
+            "scheme",      "scheme",       "quickaccessbarbuttons"};
+        static const QStringList values =
+            words("#102030 red no_colour } url(nowhere.png) light dark contrast system") << "";
         ToolBarSkinStyle skin;
         for (int i = m_random.below(3); i > 0; --i)
             skin.insert(m_random.oneOf<QString>(keys), m_random.oneOf<QString>(values));
