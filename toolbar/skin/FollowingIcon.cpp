@@ -4,15 +4,14 @@
 #include "toolbar/skin/FollowingIcon.h"
 
 #include "toolbar/skin/Appearance.h"
+#include "toolbar/skin/PaintedIconEngine.h"
 #include "toolbar/skin/SkinIcon.h"
 
-#include <QIconEngine>
-#include <QPainter>
 #include <QPointer>
 
 namespace {
 
-class FollowingIconEngine : public QIconEngine
+class FollowingIconEngine : public PaintedIconEngine
 {
 public:
     FollowingIconEngine(const QString &path, const Appearance *appearance)
@@ -24,15 +23,6 @@ public:
     void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State state) override
     {
         skinIcon(m_path, look()).paint(painter, rect, Qt::AlignCenter, mode, state);
-    }
-
-    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override
-    {
-        QPixmap pixmap(size);
-        pixmap.fill(Qt::transparent);
-        QPainter painter(&pixmap);
-        paint(&painter, QRect(QPoint(), size), mode, state);
-        return pixmap;
     }
 
     QIconEngine *clone() const override { return new FollowingIconEngine(m_path, m_appearance); }

@@ -4,13 +4,12 @@
 #include "toolbar/skin/SkinIcon.h"
 
 #include "toolbar/skin/IconColours.h"
+#include "toolbar/skin/PaintedIconEngine.h"
 
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QHash>
-#include <QIconEngine>
-#include <QPainter>
 #include <QPair>
 
 #include <cstdlib>
@@ -81,7 +80,7 @@ QString drawingFor(const QString &path, int side)
     return best;
 }
 
-class SkinIconEngine : public QIconEngine
+class SkinIconEngine : public PaintedIconEngine
 {
 public:
     SkinIconEngine(const QString &path, const SchemeLook &look)
@@ -100,15 +99,6 @@ public:
                                 * (m_look.isLight() ? disabledOpacity : disabledOpacityOnDark));
         drawing.paint(painter, rect, Qt::AlignCenter, QIcon::Normal, state);
         painter->setOpacity(opacity);
-    }
-
-    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override
-    {
-        QPixmap pixmap(size);
-        pixmap.fill(Qt::transparent);
-        QPainter painter(&pixmap);
-        paint(&painter, QRect(QPoint(), size), mode, state);
-        return pixmap;
     }
 
     QIconEngine *clone() const override { return new SkinIconEngine(m_path, m_look); }
