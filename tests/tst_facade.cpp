@@ -92,7 +92,8 @@ private Q_SLOTS:
             "DoSetZoomModeSlot(QString) DoSetPageInfoSlot(int,int) "
             "DoUpdateRecentFileSlot(QStringList) "
             "DoSetControlVisibleStateSlot(QString&,bool) DoSetBackgroundSlot(BackgroundStyle) "
-            "DoSetSkinStyleSlot(ToolBarSkinStyle) DoResetToolbarSlot() DoSetFocusSlot(QString)";
+            "DoSetSkinStyleSlot(ToolBarSkinStyle) DoResetToolbarSlot() DoSetFocusSlot(QString) "
+            "DoSetScaleSlot(double)";
         const QMetaObject &metaObject = MRToolBar::staticMetaObject;
         QStringList declared;
         for (int i = metaObject.methodOffset(); i < metaObject.methodCount(); ++i)

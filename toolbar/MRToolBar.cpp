@@ -194,3 +194,9 @@ bool MRToolBar::DoSetFocusSlot(const QString &objName)
 {
     return m_toolBar && m_toolBar->SetControlFocus(objName);
 }
+
+void MRToolBar::DoSetScaleSlot(double factor)
+{
+    if (m_toolBar)
+        m_toolBar->SetScale(factor);
+}

@@ -173,6 +173,13 @@ public Q_SLOTS:
      *         takes the focus. No tab is opened for it.
      */
     bool DoSetFocusSlot(const QString &objName);
+    /**
+     * Lays the toolbar out for lengths of @p factor times those at 96 dpi, in place of the density
+     * of its screen; a factor from 0.5 to 4, any other is ignored. The skin key "scalefactor" does
+     * the same at construction; see ToolBarSkinStyle. A host that applies the sheet itself scales
+     * and applies it again.
+     */
+    void DoSetScaleSlot(double factor);
 
 private:
     void connectToolBar();

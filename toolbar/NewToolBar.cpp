@@ -8,7 +8,7 @@
 #include "toolbar/description/DescriptionParser.h"
 #include "toolbar/description/Names.h"
 #include "toolbar/skin/Appearance.h"
-#include "toolbar/skin/ScreenDensity.h"
+#include "toolbar/skin/Scale.h"
 #include "toolbar/skin/Skin.h"
 #include "toolbar/widgets/ContextMenuStop.h"
 #include "toolbar/widgets/CustomMenuStyle.h"
@@ -99,13 +99,15 @@ NewToolBar::NewToolBar(QMainWindow *mainWindow, QDomNode &description, QMap<QStr
     , m_mainWindow(mainWindow)
     , m_alignment(alignment)
     , m_appearance(new Appearance(this))
+    , m_scaling(new Scale(this))
 {
     Skin::followSelector(&uiStyle);
-    m_scale = ScreenDensity::factor(this);
     connect(&m_delayTimer, &QTimer::timeout, this, &NewToolBar::Inner_DoDelayActionSlot);
     m_quickAccessButtons = skin.value(SkinKey::quickAccess);
     const QMap<QString, QString> options = takeOptions(skin);
     chooseAppearance(options, skin);
+    m_scaling->choose(options.value(SkinKey::scale));
+    m_scale = m_scaling->factor();
 
     // A document that can't be used leaves an empty toolbar that works.
     Init(description);
@@ -130,6 +132,7 @@ NewToolBar::NewToolBar(QMainWindow *mainWindow, QDomNode &description, QMap<QStr
     strip->addWidget(this);
     ResetSkinStyle();
     connect(m_appearance, &Appearance::changed, this, &NewToolBar::followAppearance);
+    connect(m_scaling, &Scale::changed, this, &NewToolBar::followScale);
 }
 
 NewToolBar::~NewToolBar()

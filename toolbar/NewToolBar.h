@@ -17,6 +17,7 @@
 #include <memory>
 
 class Appearance;
+class Scale;
 class CustomMenuStyle;
 class MRDropButton;
 class MRScrollWidget;
@@ -79,6 +80,7 @@ public:
     QString GetToolBarStyleSheet();
     void ResetToolbarState();
     bool SetControlFocus(const QString &name);
+    void SetScale(double factor);
     /** @} */
 
     /** The skin's directory of resources, with its trailing slash. */
@@ -191,6 +193,7 @@ private:
     void SwitchSkinStyle(QMap<QString, QString> skin);
     bool ResetSkinStyle();
     void followAppearance();
+    void followScale();
 
     QPointer<QLineEdit> m_pageNumberEdit;
     NamedList<MRDropButton> m_dropButtons;
@@ -231,7 +234,8 @@ private:
     QPointer<QWidget> m_hostToolBar;
     NamedList<QWidget> m_extraGroups;
     NamedList<QToolButton> m_groupButtons;
-    float m_scale = 1.0F; ///< Physical dpi of this widget's screen by 96.
+    float m_scale = 1.0F; ///< Physical dpi of this widget's screen by 96, or what the host says.
+    Scale *m_scaling;
     QString m_delayedActionName;
     bool m_menusLoaded = false;
 

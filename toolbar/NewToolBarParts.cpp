@@ -42,9 +42,9 @@ void NewToolBar::Receiver::takeExtraSearchField(MRSearchBar *field)
             &NewToolBar::Inner_DoSearchBarActionSlot);
 }
 
-QMenu *NewToolBar::Receiver::makeRecentFilesMenu(const QString &title, QMenu *parent)
+QMenu *NewToolBar::Receiver::makeRecentFilesMenu(QMenu *parent)
 {
-    QMenu *menu = m_toolBar.m_parts->recentFiles.createMenu(title, parent);
+    QMenu *menu = m_toolBar.m_parts->recentFiles.createMenu(parent);
     connect(menu, &QMenu::triggered, &m_toolBar, &NewToolBar::Inner_DoOpenRecentFileSlot);
     return menu;
 }
@@ -121,8 +121,8 @@ ControlLists NewToolBar::Parts::controlLists(const NewToolBar &toolBar, const Zo
 
 NewToolBar::Parts::Parts(NewToolBar &toolBar)
     : receiver(toolBar)
-    , factory(&toolBar, toolBar.m_actions, toolBar.m_actionGroups, toolBar.m_resourceDir,
-              *toolBar.m_appearance, toolBar.m_scale)
+    , presentation(toolBar.m_resourceDir, *toolBar.m_appearance, toolBar.m_scale)
+    , factory(&toolBar, toolBar.m_actions, toolBar.m_actionGroups, presentation)
     , shortcuts(&toolBar)
     , menus(factory, receiver, shortcuts)
     , panels(factory, receiver)

@@ -8,6 +8,7 @@
 #include "toolbar/build/ControlReceiver.h"
 #include "toolbar/build/GroupPanelMaker.h"
 #include "toolbar/build/MenuMaker.h"
+#include "toolbar/build/Presentation.h"
 #include "toolbar/build/RowMaker.h"
 #include "toolbar/commands/CommandDispatcher.h"
 #include "toolbar/commands/SearchDispatcher.h"
@@ -33,7 +34,7 @@ public:
     void takeSearchOption(QAction *option) override;
     void takeSearchButton(QPushButton *button) override;
     void takeExtraSearchField(MRSearchBar *field) override;
-    QMenu *makeRecentFilesMenu(const QString &title, QMenu *parent) override;
+    QMenu *makeRecentFilesMenu(QMenu *parent) override;
     void takeClearEntry(QAction *entry) override;
     void takeDropButton(MRDropButton *button) override;
     void takeGroupButton(QToolButton *button) override;
@@ -56,6 +57,7 @@ struct NewToolBar::Parts
     static ControlLists controlLists(const NewToolBar &toolBar, const ZoomBox &zoom);
 
     Receiver receiver;
+    Presentation presentation;
     ControlFactory factory;
     ShownShortcuts shortcuts;
     MenuMaker menus;

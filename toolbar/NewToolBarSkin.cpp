@@ -4,8 +4,10 @@
 #include "toolbar/NewToolBar.h"
 
 #include "toolbar/Latin1.h"
+#include "toolbar/NewToolBarParts.h"
 #include "toolbar/description/Names.h"
 #include "toolbar/skin/Appearance.h"
+#include "toolbar/skin/Scale.h"
 #include "toolbar/skin/Skin.h"
 #include "toolbar/skin/SkinIcon.h"
 #include "toolbar/skin/StyleSheet.h"
@@ -128,6 +130,7 @@ void NewToolBar::SwitchSkinStyle(QMap<QString, QString> skin)
     if (!skin.isEmpty())
         m_skinMap = Skin::switchedMap(skin);
     chooseAppearance(options, skin);
+    m_scaling->choose(options.value(SkinKey::scale));
     if (!skin.isEmpty())
         ResetSkinStyle();
 }
@@ -154,6 +157,19 @@ void NewToolBar::followAppearance()
     // A pointer over the search field has left the button a sheet of its own.
     if (m_searchSetButton && m_searchSetButton->styleSheet().contains(QLatin1String("background")))
         Inner_DoActiveSetButtonSlot(false);
+}
+
+void NewToolBar::followScale()
+{
+    m_scale = m_scaling->factor();
+    const RowPause pause(this);
+    m_parts->presentation.fitAgain();
+    ResetSkinStyle();
+}
+
+void NewToolBar::SetScale(double factor)
+{
+    m_scaling->set(factor);
 }
 
 void NewToolBar::DoSetSkinStyleSlot(ToolBarSkinStyle skin)

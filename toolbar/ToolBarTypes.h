@@ -57,6 +57,11 @@ typedef SearchContentOption SearchOption;
  * dark as the application's palette is; without it a toolbar is light. It is no colour: a map that
  * holds nothing else is an empty one, and a map without it, or with another value, keeps the
  * scheme.
+ *
+ * "scalefactor" is what lengths at 96 dpi are multiplied by: a number from 0.5 to 4, or "screen"
+ * for the density of the screen that the window is on, in units of the application's own scaling.
+ * It is no colour either, and a map without it, or with another value, keeps the scale; without any
+ * that is the physical density of the screen at construction.
  */
 typedef QMap<QString, QString> ToolBarSkinStyle;
 

@@ -4,6 +4,7 @@
 #include "toolbar/build/AdditionalMaker.h"
 
 #include "toolbar/build/ControlFactory.h"
+#include "toolbar/build/Presentation.h"
 #include "toolbar/description/Controller.h"
 #include "toolbar/description/Names.h"
 #include "toolbar/skin/Appearance.h"
@@ -50,10 +51,11 @@ QPushButton *AdditionalMaker::makeUnfoldButton(QPushButton *foldButton,
     };
     turn();
     const QPointer<QPushButton> fold(foldButton);
-    QObject::connect(&m_factory.appearance(), &Appearance::changed, button, [fold, turn] {
-        if (fold)
-            turn();
-    });
+    QObject::connect(&m_factory.presentation().appearance(), &Appearance::changed, button,
+                     [fold, turn] {
+                         if (fold)
+                             turn();
+                     });
 
     const auto separator = record.tooltip.indexOf(QLatin1Char(';'));
     if (separator >= 0) {

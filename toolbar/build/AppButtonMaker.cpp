@@ -4,6 +4,7 @@
 #include "toolbar/build/AppButtonMaker.h"
 
 #include "toolbar/build/ControlFactory.h"
+#include "toolbar/build/Presentation.h"
 #include "toolbar/description/Controller.h"
 #include "toolbar/description/Names.h"
 #include "toolbar/widgets/CustomMenuStyle.h"
@@ -20,12 +21,33 @@ constexpr int setMenuIconSize = 16;
 constexpr QLatin1String noIndicatorSheet =
     latin1("QPushButton::menu-indicator{image:none;height:0px;width:0px;}");
 
+void showSetButton(MRMenuButton *button, const Controller &record, const Presentation &how)
+{
+    showIcon(button, how.icon(record));
+    setToolTipCard(button, how.toolTip(record));
+    nameByToolTip(button, QString(), how.toolTip(record));
+}
+
+void showAppButton(MRMenuButton *button, const Controller &record, const Presentation &how)
+{
+    showSetButton(button, record, how);
+    button->setText(how.text(record));
+    nameByToolTip(button, how.text(record), how.toolTip(record));
+}
+
 } // namespace
 
 AppButtonMaker::AppButtonMaker(const ControlFactory &factory, QList<CustomMenuStyle *> &styles)
     : m_factory(factory)
     , m_styles(styles)
 {
+}
+
+template <auto how>
+void AppButtonMaker::describe(MRMenuButton *button, const Controller &record) const
+{
+    m_factory.presentation().show<how>(button, record);
+    m_factory.presentation().fit<&fitSmallIcon<MRMenuButton>>(button);
 }
 
 MRMenuButton *AppButtonMaker::makeAppButton(const Controller *record)
@@ -36,12 +58,10 @@ MRMenuButton *AppButtonMaker::makeAppButton(const Controller *record)
     if (!record)
         return button;
 
-    describe(button, *record);
     button->setObjectName(record->name);
     button->setProperty(Property::loaded, "false");
     button->setStyleSheet(noIndicatorSheet);
-    button->setText(record->text);
-    nameByToolTip(button, record->text, record->tooltip);
+    describe<&showAppButton>(button, *record);
     if (!record->children.isEmpty())
         makeMenu(button, *record, m_styles.last());
     return button;
@@ -56,8 +76,7 @@ MRMenuButton *AppButtonMaker::makeSetButton(MRMenuButton *appButton, const Contr
         return button;
     }
 
-    describe(button, *record);
-    nameByToolTip(button, QString(), record->tooltip);
+    describe<&showSetButton>(button, *record);
     if (!record->children.isEmpty()) {
         m_styles.append(new CustomMenuStyle(setMenuIconSize));
         makeMenu(button, *record, m_styles.last());
@@ -76,17 +95,11 @@ MRMenuButton *AppButtonMaker::makeButton(MRMenuButton *anchor) const
     return button;
 }
 
-void AppButtonMaker::describe(MRMenuButton *button, const Controller &record) const
-{
-    button->setIcon(m_factory.icon(record.icon));
-    button->setIconSize(m_factory.iconSize(16.0));
-    setToolTipCard(button, record.tooltip);
-}
-
 void AppButtonMaker::makeMenu(MRMenuButton *button, const Controller &record,
                               CustomMenuStyle *style) const
 {
-    QMenu *menu = m_factory.makeMenu(record.text, button, false);
+    QMenu *menu = m_factory.makeMenu(button, false);
+    m_factory.presentation().show<&showTitle>(menu, record);
     menu->setObjectName(record.name);
     menu->setProperty(Property::module, Module::menu);
     menu->setStyle(style);

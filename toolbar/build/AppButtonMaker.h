@@ -28,6 +28,7 @@ public:
 
 private:
     MRMenuButton *makeButton(MRMenuButton *anchor) const;
+    template <auto how>
     void describe(MRMenuButton *button, const Controller &record) const;
     void makeMenu(MRMenuButton *button, const Controller &record, CustomMenuStyle *style) const;
 

@@ -3,12 +3,11 @@
 
 #include "toolbar/build/ControlFactory.h"
 
+#include "toolbar/build/Presentation.h"
 #include "toolbar/commands/ActionData.h"
 #include "toolbar/description/Controller.h"
 #include "toolbar/description/Names.h"
-#include "toolbar/skin/Appearance.h"
-#include "toolbar/skin/ScreenDensity.h"
-#include "toolbar/skin/SkinIcon.h"
+#include "toolbar/widgets/MRSearchBar.h"
 #include "toolbar/widgets/ToolTipCard.h"
 
 #include <QAction>
@@ -16,32 +15,31 @@
 #include <QMenu>
 #include <QPushButton>
 
+namespace {
+
+void showAction(QAction *action, const Controller &record, const Presentation &how)
+{
+    action->setText(how.text(record));
+    showIcon(action, how.icon(record));
+}
+
+void showTopLineButton(QPushButton *button, const Controller &record, const Presentation &how)
+{
+    button->setText(how.text(record));
+    showIcon(button, how.icon(record));
+    setToolTipCard(button, how.toolTip(record));
+    nameByToolTip(button, how.text(record), how.toolTip(record));
+}
+
+} // namespace
+
 ControlFactory::ControlFactory(QWidget *owner, NamedList<QAction> &actions,
-                               NamedList<QActionGroup> &groups, const QString &directory,
-                               Appearance &appearance, float scale)
+                               NamedList<QActionGroup> &groups, Presentation &presentation)
     : m_owner(owner)
     , m_actions(actions)
     , m_groups(groups)
-    , m_directory(directory)
-    , m_appearance(appearance)
-    , m_scale(scale)
+    , m_presentation(presentation)
 {
-}
-
-QIcon ControlFactory::icon(const QString &name) const
-{
-    return m_appearance.icon(skinIconPath(m_directory, name));
-}
-
-int ControlFactory::scaled(double designLength) const
-{
-    return ScreenDensity::scaled(designLength, m_scale);
-}
-
-QSize ControlFactory::iconSize(double designSide) const
-{
-    const int side = scaled(designSide);
-    return {side, side};
 }
 
 QAction *ControlFactory::action(const QString &name) const
@@ -51,10 +49,10 @@ QAction *ControlFactory::action(const QString &name) const
 
 QAction *ControlFactory::makeAction(const Controller &record, QObject *parent, bool isEnabled) const
 {
-    auto *action = new QAction(record.text, parent);
+    auto *action = new QAction(parent);
     action->setEnabled(isEnabled);
     ActionData::set(action, record.available);
-    action->setIcon(icon(record.icon));
+    m_presentation.show<&showAction>(action, record);
     return action;
 }
 
@@ -88,17 +86,14 @@ QPushButton *ControlFactory::makeTopLineButton(const Controller &record, QWidget
     button->setProperty(Property::inToolBar, "true");
     button->setFlat(true);
     button->setObjectName(record.name);
-    button->setText(record.text);
-    button->setIcon(icon(record.icon));
-    button->setIconSize(iconSize(16.0));
-    setToolTipCard(button, record.tooltip);
-    nameByToolTip(button, record.text, record.tooltip);
+    m_presentation.show<&showTopLineButton>(button, record);
+    m_presentation.fit<&fitSmallIcon<QPushButton>>(button);
     return button;
 }
 
-QMenu *ControlFactory::makeMenu(const QString &text, QWidget *parent, bool isRowMenu) const
+QMenu *ControlFactory::makeMenu(QWidget *parent, bool isRowMenu) const
 {
-    auto *menu = new QMenu(text, parent);
+    auto *menu = new QMenu(parent);
     markMenu(menu, isRowMenu);
     return menu;
 }
@@ -113,6 +108,16 @@ void markMenu(QMenu *menu, bool isRowMenu)
 bool isRowMenu(const QMenu *menu)
 {
     return menu->property(Property::rowMenu).toString() == QLatin1String("true");
+}
+
+void fitSearchBar(MRSearchBar *field, const Presentation &)
+{
+    field->fitLengths();
+}
+
+void showTitle(QMenu *menu, const Controller &record, const Presentation &how)
+{
+    menu->setTitle(how.text(record));
 }
 
 void nameByToolTip(QWidget *control, const QString &text, const QString &tip)

@@ -5,10 +5,10 @@
 
 #include "toolbar/NamedList.h"
 
-#include <QIcon>
-#include <QSize>
+#include <QString>
 
-class Appearance;
+class Presentation;
+class MRSearchBar;
 class QAction;
 class QActionGroup;
 class QMenu;
@@ -21,23 +21,14 @@ class ControlFactory
 {
 public:
     /**
-     * @param owner     the toolbar, which owns what has no other parent
-     * @param directory the skin's directory of resources
-     * @param appearance of the toolbar; the icons follow it
-     * @param scale     what lengths at 96 dpi are multiplied by
+     * @param owner        the toolbar, which owns what has no other parent
+     * @param presentation what all controls of the toolbar are shown by
      */
     ControlFactory(QWidget *owner, NamedList<QAction> &actions, NamedList<QActionGroup> &groups,
-                   const QString &directory, Appearance &appearance, float scale);
+                   Presentation &presentation);
 
     QWidget *owner() const { return m_owner; }
-    const Appearance &appearance() const { return m_appearance; }
-
-    /** The icon of that name in the description; empty if the skin has none. */
-    QIcon icon(const QString &name) const;
-    /** A length at 96 dpi in pixels of this screen, truncated. */
-    int scaled(double designLength) const;
-    QSize iconSize(double designSide) const;
-    float scale() const { return m_scale; }
+    Presentation &presentation() const { return m_presentation; }
 
     /** The first action of exactly that name, or null. */
     QAction *action(const QString &name) const;
@@ -54,15 +45,13 @@ public:
     /** A flat button as they stand on the top line. */
     QPushButton *makeTopLineButton(const Controller &record, QWidget *parent) const;
     /** A menu that the sheets know as the toolbar's; entries of a row's menu begin as described. */
-    QMenu *makeMenu(const QString &text, QWidget *parent, bool isRowMenu) const;
+    QMenu *makeMenu(QWidget *parent, bool isRowMenu) const;
 
 private:
     QWidget *m_owner;
     NamedList<QAction> &m_actions;
     NamedList<QActionGroup> &m_groups;
-    QString m_directory;
-    Appearance &m_appearance;
-    float m_scale;
+    Presentation &m_presentation;
 };
 
 /** Marks a menu as the toolbar's; the entries of a row's menu begin as they are described. */
@@ -70,6 +59,12 @@ void markMenu(QMenu *menu, bool isRowMenu);
 
 /** Whether the entries of this menu begin as they are described, and not disabled. */
 bool isRowMenu(const QMenu *menu);
+
+/** Gives a search field the lengths inside it. */
+void fitSearchBar(MRSearchBar *field, const Presentation &how);
+
+/** Shows the title of a menu. */
+void showTitle(QMenu *menu, const Controller &record, const Presentation &how);
 
 /** Gives a control that shows only an icon the title of its tooltip as accessible name. */
 void nameByToolTip(QWidget *control, const QString &text, const QString &tip);

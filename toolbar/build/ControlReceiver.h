@@ -32,7 +32,7 @@ public:
     /** A search field of an extra group. */
     virtual void takeExtraSearchField(MRSearchBar *field) = 0;
     /** Makes the menu for the list of recent files. */
-    virtual QMenu *makeRecentFilesMenu(const QString &title, QMenu *parent) = 0;
+    virtual QMenu *makeRecentFilesMenu(QMenu *parent) = 0;
     /** The entry that clears that list, which its menu reports. */
     virtual void takeClearEntry(QAction *entry) = 0;
     virtual void takeDropButton(MRDropButton *button) = 0;

@@ -3,8 +3,6 @@
 
 #include "toolbar/build/ControlWidth.h"
 
-#include "toolbar/skin/ScreenDensity.h"
-
 #include <algorithm>
 
 namespace {
@@ -14,33 +12,44 @@ constexpr double mostCharacters = 4.0;
 constexpr double buttonCharacterWidth = 18.0;
 constexpr double shownEntryCharacterWidth = 22.0;
 constexpr double arrowWidth = 12.0;
+constexpr double groupMenuCharacterWidth = 24.0;
+
+double longest(const QStringList &texts, double fewest)
+{
+    double characters = fewest;
+    for (const QString &text : texts)
+        characters = std::max(characters, static_cast<double>(text.size()));
+    return characters;
+}
 
 } // namespace
 
-int ControlWidth::ofButton(const QString &text, float scale)
+double ControlWidth::ofButton(const QString &text)
 {
     double characters = static_cast<double>(text.size());
     if (characters < fewestCharacters)
         characters = fewestCharacters;
     else if (characters > mostCharacters)
         characters -= 1.0;
-    return ScreenDensity::scaled(characters * buttonCharacterWidth, scale);
+    return characters * buttonCharacterWidth;
 }
 
-int ControlWidth::ofEmptyMenu(const QString &text, float scale)
+double ControlWidth::ofEmptyMenu(const QString &text)
 {
-    return ScreenDensity::scaled(
-        shownEntryCharacterWidth * static_cast<double>(text.size()) + arrowWidth, scale);
+    return shownEntryCharacterWidth * static_cast<double>(text.size()) + arrowWidth;
 }
 
-int ControlWidth::ofMenu(const QString &text, const QStringList &entryTexts, int index, float scale)
+double ControlWidth::ofMenu(const QString &text, const QStringList &entryTexts, int index)
 {
     double characters = static_cast<double>(text.size());
-    if (index >= 1) {
-        for (const QString &entry : entryTexts)
-            characters = std::max(characters, static_cast<double>(entry.size()));
-    }
+    if (index >= 1)
+        characters = longest(entryTexts, characters);
     characters = std::clamp(characters, fewestCharacters, mostCharacters);
     const double characterWidth = index >= 1 ? shownEntryCharacterWidth : buttonCharacterWidth;
-    return ScreenDensity::scaled(characterWidth * characters + arrowWidth, scale);
+    return characterWidth * characters + arrowWidth;
+}
+
+double ControlWidth::ofGroupMenu(const QStringList &texts)
+{
+    return longest(texts, 0.0) * groupMenuCharacterWidth + arrowWidth;
 }

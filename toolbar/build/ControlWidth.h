@@ -5,19 +5,21 @@
 
 #include <QStringList>
 
-/** How wide the controls of a tool row are, by the length of their texts; in pixels. */
+/** How wide the controls of a tool row are, by the length of their texts; in pixels at 96 dpi. */
 namespace ControlWidth {
 
-/** @param scale physical dpi of the screen by 96 */
-int ofButton(const QString &text, float scale);
+double ofButton(const QString &text);
 
 /** A menu without entries in its description. */
-int ofEmptyMenu(const QString &text, float scale);
+double ofEmptyMenu(const QString &text);
 
 /**
  * @param entryTexts texts of the menu's entries
  * @param index      1-based position of the entry that the button shows, or less for none
  */
-int ofMenu(const QString &text, const QStringList &entryTexts, int index, float scale);
+double ofMenu(const QString &text, const QStringList &entryTexts, int index);
+
+/** A button of a group that shows the entry which was last chosen. @param texts all it may show */
+double ofGroupMenu(const QStringList &texts);
 
 } // namespace ControlWidth

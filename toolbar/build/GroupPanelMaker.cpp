@@ -5,6 +5,8 @@
 
 #include "toolbar/build/ControlFactory.h"
 #include "toolbar/build/ControlReceiver.h"
+#include "toolbar/build/ControlWidth.h"
+#include "toolbar/build/Presentation.h"
 #include "toolbar/description/Controller.h"
 #include "toolbar/description/Names.h"
 #include "toolbar/widgets/MRDropButton.h"
@@ -28,30 +30,37 @@ namespace {
 
 constexpr int buttonsPerColumn = 2;
 
-qsizetype longestText(const QString &text, const QMenu &menu)
+void showLabel(QLabel *label, const Controller &record, const Presentation &how)
 {
-    qsizetype longest = text.size();
-    const QList<QAction *> actions = menu.actions();
-    for (const QAction *action : actions)
-        longest = std::max<qsizetype>(longest, action->text().size());
-    return longest;
+    label->setText(how.text(record));
 }
 
-QLabel *makeLabel(const Controller &record)
+template <typename Field>
+void showField(Field *field, const Controller &record, const Presentation &how)
 {
-    auto *label = new QLabel(record.text);
-    label->setObjectName(record.name);
-    return label;
+    field->setPlaceholderText(how.toolTip(record));
 }
 
-QLineEdit *makePlainField(const Controller &record)
+/** A button that shows an entry of its menu by now goes on to show that. */
+template <bool isAllMenu>
+void showMenuButton(MRGroupButton *button, const Controller &record, const Presentation &how)
 {
-    auto *field = new QLineEdit;
-    field->setObjectName(record.name);
-    field->setProperty(Property::module, Module::input);
-    field->setPlaceholderText(record.tooltip);
-    new PlaceholderTint(field);
-    return field;
+    const QAction *entry = button->defaultAction();
+    if (!entry || entry->icon().isNull())
+        button->SetIcon(how.icon(record));
+    if (!entry) // The blanks are room for the arrow.
+        button->setText(isAllMenu ? how.text(record) + QStringLiteral("  ") : how.text(record));
+    setToolTipCard(button, how.toolTip(record));
+}
+
+void fitMenuButton(MRGroupButton *button, const Controller &record, const Presentation &how)
+{
+    QStringList texts{how.text(record)};
+    const QList<QAction *> entries =
+        button->menu() ? button->menu()->actions() : QList<QAction *>();
+    for (const QAction *entry : entries)
+        texts.append(entry->text());
+    button->setFixedWidth(how.length(ControlWidth::ofGroupMenu(texts)));
 }
 
 } // namespace
@@ -90,6 +99,24 @@ QWidget *GroupPanelMaker::makeExtraControl(QWidget *panel, const Controller &rec
     return makeExtraSearchField(panel, record);
 }
 
+QLabel *GroupPanelMaker::makeLabel(const Controller &record) const
+{
+    auto *label = new QLabel;
+    label->setObjectName(record.name);
+    m_factory.presentation().show<&showLabel>(label, record);
+    return label;
+}
+
+QLineEdit *GroupPanelMaker::makePlainField(const Controller &record) const
+{
+    auto *field = new QLineEdit;
+    field->setObjectName(record.name);
+    field->setProperty(Property::module, Module::input);
+    m_factory.presentation().show<&showField<QLineEdit>>(field, record);
+    new PlaceholderTint(field);
+    return field;
+}
+
 MRSearchBar *GroupPanelMaker::makeExtraSearchField(QWidget *panel, const Controller &record)
 {
     QList<QPushButton *> buttons;
@@ -102,10 +129,11 @@ MRSearchBar *GroupPanelMaker::makeExtraSearchField(QWidget *panel, const Control
 
     QPushButton *previous = buttons.size() == 2 ? buttons.first() : nullptr;
     auto *field = new MRSearchBar(m_factory.owner(), nullptr, previous, buttons.last(), false);
+    m_factory.presentation().fit<&fitSearchBar>(field);
     field->SetResizable(false);
     field->SetRelational(false);
     field->setObjectName(record.name);
-    field->setPlaceholderText(record.tooltip);
+    m_factory.presentation().show<&showField<MRSearchBar>>(field, record);
     m_receiver.takeExtraSearchField(field);
     return field;
 }
@@ -160,7 +188,7 @@ QToolButton *GroupPanelMaker::makeGroupButton(const Controller &record)
     button->setObjectName(record.name);
     button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     button->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
-    button->setIconSize(m_factory.iconSize(16.0));
+    m_factory.presentation().fit<&fitSmallIcon<QToolButton>>(button);
     return button;
 }
 
@@ -169,30 +197,24 @@ QToolButton *GroupPanelMaker::makeMenuButton(const Controller &record)
     auto *button = new MRGroupButton(nullptr);
     button->setPopupMode(record.checkable ? QToolButton::MenuButtonPopup
                                           : QToolButton::InstantPopup);
-    button->setText(record.text);
-    button->SetIcon(m_factory.icon(record.icon));
-    setToolTipCard(button, record.tooltip);
-    showMenu(button, record);
+    Presentation &presentation = m_factory.presentation();
+    const auto *action = qobject_cast<MRDropButtonAction *>(m_factory.action(record.name));
+    if (action && !record.checkable)
+        presentation.show<&showMenuButton<true>>(button, record);
+    else
+        presentation.show<&showMenuButton<false>>(button, record);
+    if (action && action->GetMenu())
+        giveMenu(button, record, action->GetMenu());
     return button;
 }
 
-void GroupPanelMaker::showMenu(MRGroupButton *button, const Controller &record)
+void GroupPanelMaker::giveMenu(MRGroupButton *button, const Controller &record, QMenu *menu)
 {
-    const auto *action = qobject_cast<MRDropButtonAction *>(m_factory.action(record.name));
-    if (!action)
-        return;
-    if (!record.checkable)
-        button->setText(record.text + QStringLiteral("  "));
-    QMenu *menu = action->GetMenu();
-    if (!menu)
-        return;
-
     menu->setProperty(Property::rowMenu, "true");
     button->setMenu(menu);
     if (!record.checkable)
         return;
-    const double characters = static_cast<double>(longestText(record.text, *menu));
-    button->setFixedWidth(m_factory.scaled(characters * 24.0 + 12.0));
+    m_factory.presentation().fit<&fitMenuButton>(button, record);
     if (record.index > 0)
         button->SetDefaultAction(menu->actions().value(record.index - 1));
     if (record.switchable)

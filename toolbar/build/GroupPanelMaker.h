@@ -9,6 +9,9 @@ class ControlFactory;
 class ControlReceiver;
 class MRGroupButton;
 class MRSearchBar;
+class QLabel;
+class QLineEdit;
+class QMenu;
 class QPushButton;
 class QToolBar;
 class QToolButton;
@@ -29,11 +32,13 @@ public:
 
 private:
     QWidget *makeExtraControl(QWidget *panel, const Controller &record);
+    QLabel *makeLabel(const Controller &record) const;
+    QLineEdit *makePlainField(const Controller &record) const;
     MRSearchBar *makeExtraSearchField(QWidget *panel, const Controller &record);
     QPushButton *makeExtraButton(QWidget *panel, const Controller &record);
     QToolButton *makeGroupButton(const Controller &record);
     QToolButton *makeMenuButton(const Controller &record);
-    void showMenu(MRGroupButton *button, const Controller &record);
+    void giveMenu(MRGroupButton *button, const Controller &record, QMenu *menu);
     QToolButton *makePlainButton(const Controller &record);
 
     ControlFactory &m_factory;

@@ -5,6 +5,7 @@
 
 #include "toolbar/build/ControlFactory.h"
 #include "toolbar/build/ControlReceiver.h"
+#include "toolbar/build/Presentation.h"
 #include "toolbar/commands/ActionData.h"
 #include "toolbar/commands/ShownShortcuts.h"
 #include "toolbar/description/Controller.h"
@@ -22,6 +23,17 @@ bool holdsCommands(const QString &section)
 {
     return section == Section::tabBar || section == Section::appButton
            || section == Section::additional;
+}
+
+void showSubMenu(QMenu *menu, const Controller &record, const Presentation &how)
+{
+    showTitle(menu, record, how);
+    showIcon(menu, how.icon(record));
+}
+
+void showStatusTip(QAction *entry, const Controller &record, const Presentation &how)
+{
+    entry->setStatusTip(how.toolTip(record));
 }
 
 } // namespace
@@ -62,12 +74,11 @@ void MenuMaker::appendMenu(QMenu *menu, const Controller &record, QProxyStyle *s
 // Apart from what calls itself, which thereby needs little of the stack for each level.
 QMenu *MenuMaker::makeSubMenu(QMenu *menu, const Controller &record, QProxyStyle *style)
 {
-    QMenu *subMenu = RecentFiles::isMenuName(record.name)
-                         ? m_receiver.makeRecentFilesMenu(record.text, menu)
-                         : new QMenu(record.text, menu);
+    QMenu *subMenu = RecentFiles::isMenuName(record.name) ? m_receiver.makeRecentFilesMenu(menu)
+                                                          : new QMenu(menu);
     markMenu(subMenu, isRowMenu(menu));
     subMenu->setObjectName(record.name);
-    subMenu->setIcon(m_factory.icon(record.icon));
+    m_factory.presentation().show<&showSubMenu>(subMenu, record);
     if (style)
         subMenu->setStyle(style);
     return subMenu;
@@ -82,7 +93,7 @@ void MenuMaker::appendEntry(QMenu *menu, const Controller &record)
 
     m_factory.joinGroup(entry, record.group);
     setShortcut(entry, record);
-    entry->setStatusTip(record.tooltip);
+    m_factory.presentation().show<&showStatusTip>(entry, record);
     entry->setCheckable(record.checkable);
     entry->setChecked(record.checked);
     entry->setVisible(record.visible);

@@ -4,6 +4,7 @@
 #include "toolbar/build/QuickAccessMaker.h"
 
 #include "toolbar/build/ControlFactory.h"
+#include "toolbar/build/Presentation.h"
 #include "toolbar/description/Controller.h"
 #include "toolbar/description/Names.h"
 #include "toolbar/skin/Skin.h"
@@ -13,6 +14,35 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QToolBar>
+
+namespace {
+
+void showToolTip(QAction *action, const Controller &record, const Presentation &how)
+{
+    setToolTipCard(action, how.toolTip(record));
+}
+
+void showButton(QWidget *button, const Controller &record, const Presentation &how)
+{
+    nameByToolTip(button, how.text(record), how.toolTip(record));
+}
+
+void showEntry(QAction *entry, const Controller &record, const Presentation &how)
+{
+    entry->setText(how.text(record));
+}
+
+void showMenuTitle(QMenu *menu, const Controller &record, const Presentation &how)
+{
+    menu->setTitle(how.toolTip(record));
+}
+
+void showTitleEntry(QAction *title, const Controller &record, const Presentation &how)
+{
+    title->setText(how.toolTip(record));
+}
+
+} // namespace
 
 QuickAccessMaker::QuickAccessMaker(const ControlFactory &factory,
                                    const QList<Controller *> &records, const QString &setting)
@@ -27,7 +57,7 @@ QToolBar *QuickAccessMaker::makeBar() const
     auto *bar = new QToolBar;
     bar->setObjectName(Section::quickAccessBar);
     bar->setProperty(Property::inToolBar, "true");
-    bar->setIconSize(m_factory.iconSize(16.0));
+    m_factory.presentation().fit<&fitSmallIcon<QToolBar>>(bar);
     bar->setContextMenuPolicy(Qt::NoContextMenu);
     bar->setMovable(false);
     for (const Controller *record : m_records) {
@@ -35,7 +65,7 @@ QToolBar *QuickAccessMaker::makeBar() const
             continue;
         QAction *action = makeButton(bar, *record);
         bar->addAction(action);
-        nameByToolTip(bar->widgetForAction(action), record->text, record->tooltip);
+        m_factory.presentation().show<&showButton>(bar->widgetForAction(action), *record);
     }
     return bar;
 }
@@ -52,13 +82,13 @@ QAction *QuickAccessMaker::makeButton(QToolBar *bar, const Controller &record) c
     }
     action->setChecked(record.checked);
     action->setVisible(m_setting.isShown(record.name, record.visible));
-    setToolTipCard(action, record.tooltip);
+    m_factory.presentation().show<&showToolTip>(action, record);
     return action;
 }
 
 QMenu *QuickAccessMaker::makeMenu() const
 {
-    QMenu *menu = m_factory.makeMenu(QString(), m_factory.owner(), true);
+    QMenu *menu = m_factory.makeMenu(m_factory.owner(), true);
     menu->setObjectName(Name::customise);
     menu->setProperty(Property::module, Module::menu);
     for (const Controller *record : m_records) {
@@ -70,7 +100,8 @@ QMenu *QuickAccessMaker::makeMenu() const
 
 QAction *QuickAccessMaker::makeEntry(QMenu *menu, const Controller &record) const
 {
-    auto *entry = new QAction(record.text, menu);
+    auto *entry = new QAction(menu);
+    m_factory.presentation().show<&showEntry>(entry, record);
     entry->setIconVisibleInMenu(!menu->isEmpty());
     entry->setCheckable(record.checkable);
     entry->setChecked(m_setting.isShown(record.name, record.visible));
@@ -85,10 +116,11 @@ QPushButton *QuickAccessMaker::makeCustomiseButton(QMenu *menu, const Controller
     button->setStyleSheet(QStringLiteral("QPushButton::menu-indicator{image:none;}"));
     button->setMenu(menu);
 
-    menu->setTitle(record.tooltip);
+    m_factory.presentation().show<&showMenuTitle>(menu, record);
     const QList<QAction *> entries = menu->actions();
     if (!entries.isEmpty()) {
-        auto *title = new QAction(record.tooltip, menu);
+        auto *title = new QAction(menu);
+        m_factory.presentation().show<&showTitleEntry>(title, record);
         title->setObjectName(Name::customiseTitle);
         title->setEnabled(false);
         title->setIconVisibleInMenu(true);

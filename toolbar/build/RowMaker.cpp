@@ -8,6 +8,7 @@
 #include "toolbar/build/ControlWidth.h"
 #include "toolbar/build/GroupPanelMaker.h"
 #include "toolbar/build/MenuMaker.h"
+#include "toolbar/build/Presentation.h"
 #include "toolbar/commands/ActionData.h"
 #include "toolbar/description/Controller.h"
 #include "toolbar/description/Names.h"
@@ -81,47 +82,98 @@ private:
     const QWidget *m_field;
 };
 
-QLabel *addCaption(QWidget *container, const QString &text)
+void showLabel(QLabel *label, const Controller &record, const Presentation &how)
 {
-    auto *caption = new QLabel(text);
+    label->setText(how.text(record));
+}
+
+QLabel *addCaption(QWidget *container, const Controller &record, Presentation &presentation)
+{
+    auto *caption = new QLabel;
+    presentation.show<&showLabel>(caption, record);
     caption->setObjectName(Part::caption);
     caption->setAlignment(Qt::AlignCenter);
     container->layout()->addWidget(caption);
     return caption;
 }
 
-/** What a field is called for those who cannot see where it stands. */
-QString spokenName(const Controller &record)
+void showToolTip(QAction *action, const Controller &record, const Presentation &how)
 {
-    return record.tooltip.isEmpty() ? record.text : toolTipTitle(record.tooltip);
+    setToolTipCard(action, how.toolTip(record));
+}
+
+void showRowButton(QWidget *button, const Controller &record, const Presentation &how)
+{
+    button->setAccessibleName(how.text(record));
+}
+
+void fitRowButton(QWidget *button, const Controller &record, const Presentation &how)
+{
+    if (!Skin::isLum())
+        button->setFixedWidth(how.length(ControlWidth::ofButton(how.text(record))));
+}
+
+/** The button of a command that a panel shows: the row has it, but no room for it. */
+void fitHiddenButton(QWidget *button, const Presentation &)
+{
+    button->setFixedWidth(0);
+}
+
+/** What a field is called for those who cannot see where it stands. */
+void showSpokenName(QWidget *field, const Controller &record, const Presentation &how)
+{
+    const QString tip = how.toolTip(record);
+    field->setAccessibleName(tip.isEmpty() ? how.text(record) : toolTipTitle(tip));
 }
 
 /** Makes the described entry of the menu, if there is one, the button's own. */
-void takeEntry(MRDropButtonAction *button, QMenu *menu, const Controller &record, QString *tooltip)
+void takeEntry(MRDropButtonAction *button, QMenu *menu, const Controller &record)
 {
     QAction *entry = menu->actions().value(record.index - 1);
     if (record.index < 1 || !entry)
         return;
 
     button->SetAction(entry);
-    button->SetText(entry->text());
-    if (record.withaction) {
+    if (record.withaction)
         menu->removeAction(entry);
-        if (tooltip->isEmpty())
-            *tooltip = entry->text();
-    }
 }
 
-int menuWidth(const Controller &record, const QMenu *menu, float scale)
+void showMenu(MRDropButtonAction *action, const Controller &record, const Presentation &how)
+{
+    // The blanks are room for the arrow.
+    const QAction *entry = action->GetAction();
+    const QString text = how.text(record);
+    action->showFace(entry               ? entry->text()
+                     : record.switchable ? text
+                                         : text + QStringLiteral("  "),
+                     how.icon(record));
+}
+
+int menuWidth(const QMenu *menu, const Controller &record, const Presentation &how)
 {
     if (!menu)
-        return ControlWidth::ofEmptyMenu(record.text, scale);
+        return how.length(ControlWidth::ofEmptyMenu(how.text(record)));
 
     QStringList entryTexts;
     const QList<QAction *> entries = menu->actions();
     for (const QAction *entry : entries)
         entryTexts.append(entry->text());
-    return ControlWidth::ofMenu(record.text, entryTexts, record.index, scale);
+    return how.length(ControlWidth::ofMenu(how.text(record), entryTexts, record.index));
+}
+
+void showMenuButton(MRDropButtonAction *action, const Controller &record, const Presentation &how)
+{
+    QString tip = how.toolTip(record);
+    if (tip.isEmpty() && record.withaction && action->GetAction())
+        tip = action->GetAction()->text();
+    setToolTipCard(action->GetWidget(), tip);
+}
+
+void fitMenuButton(MRDropButtonAction *action, const Controller &record, const Presentation &how)
+{
+    if (MRDropButton *button = action->GetWidget())
+        button->setFixedWidth(menuWidth(action->GetMenu(), record, how));
+    action->fitMenuCopies();
 }
 
 } // namespace
@@ -183,7 +235,7 @@ void RowMaker::addButton(const Controller &record, QToolBar *row, bool addToRow)
         action = makeButtonAction(record);
 
     m_factory.joinGroup(action, record.group);
-    setToolTipCard(action, record.tooltip);
+    m_factory.presentation().show<&showToolTip>(action, record);
     action->setCheckable(record.checkable);
     action->setChecked(record.checked);
     action->setVisible(record.visible);
@@ -191,8 +243,14 @@ void RowMaker::addButton(const Controller &record, QToolBar *row, bool addToRow)
         row->addAction(action);
     if (record.doubleclick)
         ActionData::addDoubleClick(action);
-    if (QWidget *button = row->widgetForAction(action))
-        setButtonWidth(button, record, addToRow);
+    if (QWidget *button = row->widgetForAction(action)) {
+        Presentation &presentation = m_factory.presentation();
+        presentation.show<&showRowButton>(button, record);
+        if (addToRow)
+            presentation.fit<&fitRowButton>(button, record);
+        else
+            presentation.fit<&fitHiddenButton>(button);
+    }
     m_factory.addAction(action);
     if (isNew)
         m_receiver.takeCommand(action);
@@ -207,20 +265,9 @@ QAction *RowMaker::makeButtonAction(const Controller &record)
     return action;
 }
 
-void RowMaker::setButtonWidth(QWidget *button, const Controller &record, bool addToRow) const
-{
-    button->setAccessibleName(record.text);
-    if (!addToRow)
-        button->setFixedWidth(0);
-    else if (!Skin::isLum())
-        button->setFixedWidth(ControlWidth::ofButton(record.text, m_factory.scale()));
-}
-
 void RowMaker::addMenu(const Controller &record, QToolBar *row, bool addToRow)
 {
     auto *action = new MRDropButtonAction(row, m_factory.owner());
-    action->SetText(record.switchable ? record.text : record.text + QStringLiteral("  "));
-    action->SetIcon(m_factory.icon(record.icon));
     action->SetCheckable(record.checkable);
     action->SetSwichable(record.switchable);
     action->setVisible(record.visible);
@@ -228,20 +275,20 @@ void RowMaker::addMenu(const Controller &record, QToolBar *row, bool addToRow)
     action->SetWithAction(record.withaction);
     ActionData::set(action, record.available);
 
-    QString tooltip = record.tooltip;
     QMenu *menu = record.children.isEmpty() ? nullptr : makeDropMenu(record);
     if (menu) {
         action->SetMenu(menu);
-        takeEntry(action, menu, record, &tooltip);
+        takeEntry(action, menu, record);
     }
+    m_factory.presentation().show<&showMenu>(action, record);
 
     if (addToRow)
         row->addAction(action);
     action->setObjectName(record.name);
     m_factory.addAction(action);
     if (MRDropButton *button = action->GetWidget()) {
-        setToolTipCard(button, tooltip);
-        button->setFixedWidth(addToRow ? menuWidth(record, menu, m_factory.scale()) : 0);
+        m_factory.presentation().show<&showMenuButton>(action, record);
+        m_factory.presentation().fit<&fitMenuButton>(action, record);
         button->SetName(record.name);
         m_receiver.takeDropButton(button);
     }
@@ -249,7 +296,8 @@ void RowMaker::addMenu(const Controller &record, QToolBar *row, bool addToRow)
 
 QMenu *RowMaker::makeDropMenu(const Controller &record)
 {
-    QMenu *menu = m_factory.makeMenu(record.text, m_factory.owner(), true);
+    QMenu *menu = m_factory.makeMenu(m_factory.owner(), true);
+    m_factory.presentation().show<&showTitle>(menu, record);
     menu->setProperty(Property::module, Module::menu);
     menu->setObjectName(record.name);
     m_menus.append(menu, record.children, nullptr);
@@ -270,7 +318,7 @@ void RowMaker::addComboBox(const Controller &record, QToolBar *row)
     auto *box = new QComboBox;
     box->setEditable(record.editable);
     box->setObjectName(record.name);
-    box->setAccessibleName(spokenName(record));
+    m_factory.presentation().show<&showSpokenName>(box, record);
     box->setFocusPolicy(Qt::ClickFocus);
     for (const Controller *item : record.children) {
         box->addItem(QIcon(), item->text, item->name);
@@ -288,13 +336,14 @@ void RowMaker::addComboBox(const Controller &record, QToolBar *row)
     }
 
     QWidget *container = makeCaptionedContainer(box);
-    addCaption(container, record.text);
+    addCaption(container, record, m_factory.presentation());
     addWidget(container, record, row);
 }
 
 void RowMaker::addLabel(const Controller &record, QToolBar *row)
 {
-    auto *label = new QLabel(record.text);
+    auto *label = new QLabel;
+    m_factory.presentation().show<&showLabel>(label, record);
     label->setObjectName(record.name);
     if (record.name == Name::totalPageLabel)
         m_receiver.takeTotalPageLabel(label);
@@ -306,10 +355,10 @@ void RowMaker::addLineEdit(const Controller &record, QToolBar *row)
     auto *field = new QLineEdit;
     field->setProperty(Property::module, Module::input);
     field->setObjectName(record.name);
-    field->setAccessibleName(spokenName(record));
+    m_factory.presentation().show<&showSpokenName>(field, record);
     QWidget *container = makeCaptionedContainer(field);
     if (record.name.contains(Word::goToPage, Qt::CaseInsensitive)) {
-        m_receiver.takePageField(field, addCaption(container, record.text));
+        m_receiver.takePageField(field, addCaption(container, record, m_factory.presentation()));
     } else {
         const QRegularExpression digits(QStringLiteral("^[0-9]*$"));
         field->setValidator(new QRegularExpressionValidator(digits, field));

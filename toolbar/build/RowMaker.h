@@ -32,7 +32,6 @@ private:
     void addControl(const Controller &record, QToolBar *row, bool addToRow);
     void addButton(const Controller &record, QToolBar *row, bool addToRow);
     QAction *makeButtonAction(const Controller &record);
-    void setButtonWidth(QWidget *button, const Controller &record, bool addToRow) const;
     void addMenu(const Controller &record, QToolBar *row, bool addToRow);
     QMenu *makeDropMenu(const Controller &record);
     void addButtonGroup(const Controller &record, QToolBar *row);

@@ -6,6 +6,7 @@
 #include "toolbar/build/ControlFactory.h"
 #include "toolbar/build/ControlReceiver.h"
 #include "toolbar/build/MenuMaker.h"
+#include "toolbar/build/Presentation.h"
 #include "toolbar/description/Controller.h"
 #include "toolbar/description/Names.h"
 #include "toolbar/skin/Appearance.h"
@@ -51,6 +52,19 @@ FieldRecords fieldRecords(const QList<Controller *> &records)
     return found;
 }
 
+void showLabel(QLabel *label, const Controller &record, const Presentation &how)
+{
+    label->setText(how.text(record));
+    const QIcon icon = how.icon(record);
+    if (!icon.isNull())
+        label->setPixmap(icon.pixmap(how.iconSize(16.0)));
+}
+
+void showField(MRSearchBar *field, const Controller &record, const Presentation &how)
+{
+    field->setPlaceholderText(how.prompt(record));
+}
+
 } // namespace
 
 SearchMaker::SearchMaker(const ControlFactory &factory, ControlReceiver &receiver,
@@ -71,26 +85,23 @@ MRSearchBar *SearchMaker::makeField()
     QPushButton *previous = records.previous ? makeDirectionButton(*records.previous) : nullptr;
     QPushButton *next = records.next ? makeDirectionButton(*records.next) : nullptr;
     auto *field = new MRSearchBar(m_factory.owner(), label, previous, next, true);
+    m_factory.presentation().fit<&fitSearchBar>(field);
     field->SetButtonProperty(Property::module, QLatin1String(Module::searchButton));
     if (records.field) {
         field->setObjectName(records.field->name);
-        field->setPlaceholderText(records.field->prompt);
+        m_factory.presentation().show<&showField>(field, *records.field);
     }
     return field;
 }
 
 QLabel *SearchMaker::makeLabel(const Controller &record) const
 {
-    auto *label = new QLabel(record.text);
+    auto *label = new QLabel;
     label->setObjectName(record.name);
-    const QIcon icon = m_factory.icon(record.icon);
-    if (icon.isNull())
-        return label;
-    const auto draw = [label, icon, size = m_factory.iconSize(16.0)] {
-        label->setPixmap(icon.pixmap(size));
-    };
-    draw();
-    QObject::connect(&m_factory.appearance(), &Appearance::changed, label, draw);
+    Presentation &presentation = m_factory.presentation();
+    presentation.show<&showLabel>(label, record);
+    QObject::connect(&presentation.appearance(), &Appearance::changed, label,
+                     [label, &record, &presentation] { showLabel(label, record, presentation); });
     return label;
 }
 
@@ -116,7 +127,7 @@ QPushButton *SearchMaker::makeSetButton(MenuMaker &menus)
     button->setProperty(Property::module, Module::button);
     button->setCheckable(record.checkable);
 
-    QMenu *menu = m_factory.makeMenu(QString(), button, true);
+    QMenu *menu = m_factory.makeMenu(button, true);
     menus.append(menu, record.children, nullptr);
     menu->setProperty(Property::module, Module::menu);
     menu->setObjectName(record.name);

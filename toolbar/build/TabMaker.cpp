@@ -4,6 +4,7 @@
 #include "toolbar/build/TabMaker.h"
 
 #include "toolbar/build/ControlFactory.h"
+#include "toolbar/build/Presentation.h"
 #include "toolbar/description/Controller.h"
 #include "toolbar/description/Names.h"
 #include "toolbar/widgets/MRMainToolBar.h"
@@ -29,6 +30,21 @@ Qt::Alignment rowAlignment(ToolBarAlignment alignment)
     return Qt::AlignCenter;
 }
 
+void showTab(QPushButton *button, const Controller &tab, const Presentation &how)
+{
+    button->setText(how.text(tab));
+}
+
+void fitRow(MRMainToolBar *row, const Presentation &how)
+{
+    row->setIconSize(how.iconSize(24.0));
+}
+
+void fitArrows(MRScrollWidget *holder, const Presentation &)
+{
+    holder->fitArrows();
+}
+
 } // namespace
 
 TabMaker::TabMaker(const ControlFactory &factory, ToolBarAlignment alignment)
@@ -41,7 +57,7 @@ QPushButton *TabMaker::makeButton(const Controller &tab, int position) const
 {
     auto *button = new QPushButton;
     button->setProperty(Property::inToolBar, "true");
-    button->setText(tab.text);
+    m_factory.presentation().show<&showTab>(button, tab);
     button->setObjectName(tab.name);
     button->setProperty(Property::tabIndex, QByteArray::number(position).constData());
     button->setCheckable(tab.checkable);
@@ -51,7 +67,7 @@ QPushButton *TabMaker::makeButton(const Controller &tab, int position) const
     button->setProperty(Property::module, Module::tabButton);
 
     // The library has no use for it; it is there for hosts that look for a menu below the tab.
-    m_factory.makeMenu(QString(), button, false);
+    m_factory.makeMenu(button, false);
     return button;
 }
 
@@ -62,7 +78,7 @@ MRMainToolBar *TabMaker::makeRow(const Controller &tab) const
     row->setContextMenuPolicy(Qt::NoContextMenu);
     row->setObjectName(tab.name);
     row->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    row->setIconSize(m_factory.iconSize(24.0));
+    m_factory.presentation().fit<&fitRow>(row);
     row->setAcceptDrops(false);
     row->setProperty(Property::module, Module::toolRow);
     row->setFilled(tab.checked);
@@ -94,6 +110,7 @@ MRMainToolBar *TabMaker::addRow(QWidget *page, const Controller &tab) const
     auto *holder = new MRScrollWidget;
     holder->SetWidget(row, rowAlignment(m_alignment));
     layout->addWidget(holder);
+    m_factory.presentation().fit<&fitArrows>(holder);
     return row;
 }
 

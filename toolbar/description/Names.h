@@ -111,9 +111,10 @@ inline constexpr QLatin1String externalSheet =
     latin1("externalqss"); ///< The host applies the sheet.
 inline constexpr QLatin1String quickAccess = latin1("quickaccessbarbuttons");
 inline constexpr QLatin1String scheme = latin1("scheme"); ///< Light, dark, or as the system is.
+inline constexpr QLatin1String scale = latin1("scalefactor"); ///< A number, or "screen".
 
 /** Those that are taken out of the map before anything else sees it. */
-inline constexpr QLatin1String options[] = {scheme};
+inline constexpr QLatin1String options[] = {scheme, scale};
 } // namespace SkinKey
 
 /** Dynamic properties, most of which the style sheets select by. */

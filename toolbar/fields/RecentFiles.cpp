@@ -59,9 +59,9 @@ bool RecentFiles::isClearName(const QString &name)
     return isCommand(name, Name::clearHistory);
 }
 
-QMenu *RecentFiles::createMenu(const QString &title, QWidget *parent)
+QMenu *RecentFiles::createMenu(QWidget *parent)
 {
-    m_menu = new BatchMenu(title, parent);
+    m_menu = new BatchMenu(parent);
     return m_menu;
 }
 

@@ -32,7 +32,7 @@ public:
     static bool isClearName(const QString &name);
 
     /** Makes the menu for the list from now on. */
-    QMenu *createMenu(const QString &title, QWidget *parent);
+    QMenu *createMenu(QWidget *parent);
     const QMenu *menu() const;
 
     /**

@@ -3,9 +3,9 @@
 
 #pragma once
 
-#include <QWidget>
+class QWidget;
 
-/** How dense the screen of a widget is: what the skins' lengths at 96 dpi are multiplied by. */
+/** What the skins' lengths at 96 dpi are multiplied by for a widget. */
 namespace ScreenDensity {
 
 inline constexpr int designDpi = 96;
@@ -22,22 +22,16 @@ constexpr int credible(int dpi)
     return dpi < least || dpi > most ? designDpi : dpi;
 }
 
-inline int dpiX(const QWidget *widget)
-{
-    return credible(widget->physicalDpiX());
-}
+/**
+ * By how much longer than at 96 dpi the lengths of a widget are: by the density of its screen, if
+ * the host has not chosen a scale for its toolbar. In single precision, as sizes are computed.
+ */
+float factor(const QWidget *widget);
+/** The same from the density in the other direction. */
+float verticalFactor(const QWidget *widget);
 
-/** By how much longer than at 96 dpi the lengths on the widget's screen are. */
-inline double scale(const QWidget *widget)
-{
-    return static_cast<double>(dpiX(widget)) / designDpi;
-}
-
-/** The same in single precision, as the sizes of the toolbar are computed with it. */
-inline float factor(const QWidget *widget)
-{
-    return static_cast<float>(dpiX(widget)) / designDpi;
-}
+/** The same, as the sheets of single controls are written with it. */
+double scale(const QWidget *widget);
 
 /** A length at 96 dpi times the factor, truncated. */
 inline int scaled(double designLength, float factor)

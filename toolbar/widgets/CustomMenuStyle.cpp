@@ -3,6 +3,7 @@
 
 #include "toolbar/widgets/CustomMenuStyle.h"
 
+#include "toolbar/skin/Scale.h"
 #include "toolbar/skin/ScreenDensity.h"
 
 #include <QPainter>
@@ -54,6 +55,8 @@ int CustomMenuStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
     if (metric != PM_SmallIconSize)
         return QProxyStyle::pixelMetric(metric, option, widget);
 
+    if (const auto chosen = Scale::chosenFor(widget))
+        return ScreenDensity::scaled(m_smallIconSize, *chosen);
     // Not the menu's own dpi: menus of one toolbar agree before they have met a screen.
     const QWidget screenProbe;
     return ScreenDensity::scaled(m_smallIconSize, ScreenDensity::factor(&screenProbe));

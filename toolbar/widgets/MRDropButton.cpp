@@ -71,17 +71,45 @@ MRDropButton::MRDropButton(QWidget *, QWidget *parent, QString text, QString ico
     setMouseTracking(false);
 }
 
+QString MRDropButton::faceText(const QAction *entry) const
+{
+    return m_textSwitchable ? entry->text() + QStringLiteral("   ")
+                            : QStringLiteral("    ") + entry->text();
+}
+
 void MRDropButton::takeFace(QAction *action)
 {
+    m_previousFace = m_face;
+    m_face = {action, false};
     m_previousIcon = icon();
     if (!action->icon().isNull())
         setIcon(action->icon());
 
     m_previousText = text();
-    setText(m_textSwitchable ? action->text() + QStringLiteral("   ")
-                             : QStringLiteral("    ") + action->text());
+    setText(faceText(action));
     setCheckable(true);
     m_currentAction = action;
+}
+
+void MRDropButton::showFaceAgain(const QString &ownText, const QIcon &ownIcon)
+{
+    const auto show = [this, &ownText, &ownIcon](const Face &face, QString &text, QIcon &icon) {
+        if (face.entry)
+            text = faceText(face.entry);
+        else if (face.isOwn)
+            text = ownText;
+        if (face.isOwn)
+            icon = ownIcon;
+        else if (face.entry && !face.entry->icon().isNull())
+            icon = face.entry->icon();
+    };
+    show(m_previousFace, m_previousText, m_previousIcon);
+    QString shownText = text();
+    QIcon shownIcon = icon();
+    show(m_face, shownText, shownIcon);
+    setText(shownText);
+    if (shownIcon.cacheKey() != icon().cacheKey())
+        setIcon(shownIcon);
 }
 
 void MRDropButton::SetAction(QAction *action)
@@ -129,6 +157,7 @@ void MRDropButton::Reset()
         setIcon(m_previousIcon);
     if (!m_previousText.isEmpty())
         setText(m_previousText);
+    m_face = m_previousFace;
     m_currentAction = nullptr;
     Q_EMIT currentActionChanged();
 }
@@ -282,7 +311,7 @@ void MRDropButtonAction::setUpMenuCopy(MRDropButton *copy)
     copy->setProperty(Property::position, "toolbarextend");
     copy->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     copy->SetTextSwitchable(false);
-    copy->setText(QStringLiteral("   ") + m_text);
+    copy->setText(menuCopyText());
     if (m_menu && m_extendMenu) {
         connect(m_menu, &QMenu::triggered, this, &MRDropButtonAction::DoDelayCloseMenuSlot,
                 Qt::UniqueConnection);
@@ -363,6 +392,38 @@ void MRDropButtonAction::SetWithAction(bool withAction)
 void MRDropButtonAction::SetAction(QAction *action)
 {
     m_defaultAction = action;
+}
+
+QAction *MRDropButtonAction::GetAction() const
+{
+    return m_defaultAction;
+}
+
+void MRDropButtonAction::showFace(const QString &text, const QIcon &icon)
+{
+    m_text = text;
+    m_icon = icon;
+    const QList<QWidget *> buttons = createdWidgets();
+    for (QWidget *widget : buttons) {
+        auto *button = static_cast<MRDropButton *>(widget);
+        const bool isCopy = button != m_firstWidget;
+        button->showFaceAgain(isCopy ? menuCopyText() : m_text, m_icon);
+    }
+}
+
+void MRDropButtonAction::fitMenuCopies()
+{
+    if (!m_extendMenu)
+        return;
+    adoptExtendMenu(nullptr);
+    const QList<QWidget *> buttons = createdWidgets();
+    for (QWidget *button : buttons)
+        static_cast<MRDropButton *>(button)->followScheme();
+}
+
+QString MRDropButtonAction::menuCopyText() const
+{
+    return QStringLiteral("   ") + m_text;
 }
 
 void MRDropButtonAction::setVisible(bool visible)

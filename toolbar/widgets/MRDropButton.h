@@ -65,6 +65,12 @@ public:
      */
     void followFace(const MRDropButton &other);
 
+    /**
+     * Shows what it shows now again, because the texts mean something else: an entry's text where
+     * it shows an entry, these otherwise.
+     */
+    void showFaceAgain(const QString &ownText, const QIcon &ownIcon);
+
 public Q_SLOTS:
     /** Gives the button the face of @p action, checks it and refreshes the toolbar. */
     void DoSwitchSlot(QAction *action);
@@ -91,10 +97,20 @@ protected:
 private:
     friend class MRDropButtonAction;
 
+    /** Whose text and icon a face are: an entry's, or the button's own. */
+    struct Face
+    {
+        QPointer<QAction> entry;
+        bool isOwn = true;
+    };
+
+    QString faceText(const QAction *entry) const;
     void takeFace(QAction *action);
     void refreshToolBar();
 
     QPointer<QAction> m_currentAction;
+    Face m_face;
+    Face m_previousFace;
     QIcon m_previousIcon;
     QString m_previousText;
     QString m_name;
@@ -140,6 +156,11 @@ public:
     void SetWithAction(bool withAction);
     /** Sets the entry that the button of the tool row shows at first. */
     void SetAction(QAction *action);
+    QAction *GetAction() const;
+    /** Gives its buttons another text and icon, made ones too; those that show an entry keep it. */
+    void showFace(const QString &text, const QIcon &icon);
+    /** Gives the menu of what the row has no room for, and the copy there, the lengths of now. */
+    void fitMenuCopies();
 
     /** Shows or hides every button of the action. */
     void setVisible(bool visible);
@@ -162,6 +183,7 @@ private:
     void setUpMenuCopy(MRDropButton *copy);
     void setUpMenu(MRDropButton *button);
     void linkCopy(MRDropButton *copy);
+    QString menuCopyText() const;
 
     QPointer<MRDropButton> m_firstWidget;
     QIcon m_icon;

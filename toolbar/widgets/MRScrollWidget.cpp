@@ -29,8 +29,7 @@ constexpr int scrollDuration = 300;
 /** Side of an arrow's square, in pixels. */
 int arrowSide(const QWidget *widget)
 {
-    const auto dpi = static_cast<float>(ScreenDensity::credible(widget->physicalDpiY()));
-    return ScreenDensity::scaled(12.0, dpi / ScreenDensity::designDpi);
+    return ScreenDensity::scaled(12.0, ScreenDensity::verticalFactor(widget));
 }
 
 /**
@@ -102,13 +101,17 @@ MRExtendButton::MRExtendButton(QWidget *parent)
 void MRExtendButton::SetObjectName(QString name)
 {
     setObjectName(name);
-    const int side = arrowSide(this);
-    m_arrow->setIconSize(QSize(side, side));
-
+    fitArrow();
     const bool isLeft = name.contains(leftSide);
     m_arrow->setObjectName(isLeft ? leftSide : rightSide);
     m_arrow->setAccessibleName(isLeft ? tr("向左滚动") : tr("向右滚动"));
     updateArrow();
+}
+
+void MRExtendButton::fitArrow()
+{
+    const int side = arrowSide(this);
+    m_arrow->setIconSize(QSize(side, side));
 }
 
 void MRExtendButton::updateArrow()
@@ -282,11 +285,11 @@ MRScrollWidget::MRScrollWidget(QWidget *parent)
 
     for (MRExtendButton *button : {m_left, m_right}) {
         button->SetExtendButtonVisible(false);
-        button->setMinimumWidth(arrowSide(this));
         connect(button, &MRExtendButton::Clicked, m_area, &MRScrollArea::DoScrollAction);
     }
     connect(m_area, &MRScrollArea::SetExtendButtonVisible, this,
             &MRScrollWidget::DoSetExtendButtonVisible);
+    fitArrows();
     // By the order of construction the right arrow would come before the row.
     setTabOrder(m_area, m_right);
 }
@@ -295,6 +298,14 @@ void MRScrollWidget::SetWidget(QWidget *widget, Qt::Alignment alignment)
 {
     m_area->setWidget(widget);
     m_area->setAlignment(alignment);
+}
+
+void MRScrollWidget::fitArrows()
+{
+    for (MRExtendButton *button : {m_left, m_right}) {
+        button->fitArrow();
+        button->setMinimumWidth(arrowSide(this));
+    }
 }
 
 void MRScrollWidget::DoSetExtendButtonVisible(QString side, bool visible)

@@ -33,6 +33,9 @@ public:
     /** Shows or hides the arrow; the container stays. */
     void SetExtendButtonVisible(bool visible);
 
+    /** Gives the arrow the size that the scale asks for. */
+    void fitArrow();
+
 Q_SIGNALS:
     /** The arrow was clicked. */
     void Clicked();
@@ -102,6 +105,9 @@ public:
 
     /** Puts @p widget into the area, which owns it from now on. */
     void SetWidget(QWidget *widget, Qt::Alignment alignment);
+
+    /** Gives the arrows the size that the scale asks for. */
+    void fitArrows();
 
 public Q_SLOTS:
     /** Shows or hides an arrow: the left one for exactly "left", otherwise the right one. */

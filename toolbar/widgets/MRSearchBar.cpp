@@ -4,6 +4,7 @@
 #include "toolbar/widgets/MRSearchBar.h"
 
 #include "toolbar/description/Names.h"
+#include "toolbar/skin/Scale.h"
 #include "toolbar/skin/ScreenDensity.h"
 #include "toolbar/skin/Skin.h"
 #include "toolbar/widgets/FieldKeyFilter.h"
@@ -26,6 +27,7 @@ MRSearchBar::MRSearchBar(QWidget *parent, QLabel *label, QPushButton *previous, 
                          bool mainBar)
     : QLineEdit(parent)
     , m_layout(new QHBoxLayout)
+    , m_indent(new QSpacerItem(0, 2, QSizePolicy::Minimum, QSizePolicy::Minimum))
     , m_next(next)
     , m_previous(previous)
     , m_scale(ScreenDensity::factor(this))
@@ -35,10 +37,9 @@ MRSearchBar::MRSearchBar(QWidget *parent, QLabel *label, QPushButton *previous, 
     setButtonsVisible(false);
     fillLayout(label);
     setAlignment(Qt::AlignVCenter);
-    if (m_mainBar && Skin::isLum()) {
+    if (m_mainBar && Skin::isLum())
         setTextMargins(0, 0, 0, 0);
-        m_layout->setContentsMargins(scaledLength(4), 0, scaledLength(6), 0);
-    }
+    fitLengths();
     for (QPushButton *button : buttons())
         button->setCursor(Qt::ArrowCursor);
     setLayout(m_layout);
@@ -60,8 +61,7 @@ void MRSearchBar::fillLayout(QLabel *label)
 {
     m_layout->setSpacing(0);
     m_layout->setContentsMargins(0, 0, 0, 0);
-    m_layout->addItem(
-        new QSpacerItem(scaledLength(4), 2, QSizePolicy::Minimum, QSizePolicy::Minimum));
+    m_layout->addItem(m_indent);
     if (label)
         m_layout->addWidget(label);
     m_layout->addStretch();
@@ -85,8 +85,25 @@ void MRSearchBar::applyWidth(int pixelsPerCharacter)
     if (!m_resizable || Skin::isLum())
         return;
 
+    m_pixelsPerCharacter = pixelsPerCharacter;
     const int designWidth = static_cast<int>(placeholderText().size()) * pixelsPerCharacter;
     setFixedWidth(scaledLength(designWidth));
+}
+
+void MRSearchBar::fitLengths()
+{
+    m_scale = Scale::chosenFor(this).value_or(m_scale);
+    m_indent->changeSize(scaledLength(4), 2, QSizePolicy::Minimum, QSizePolicy::Minimum);
+    if (m_mainBar && Skin::isLum())
+        m_layout->setContentsMargins(scaledLength(4), 0, scaledLength(6), 0);
+    m_layout->invalidate();
+    if (m_pixelsPerCharacter > 0)
+        applyWidth(m_pixelsPerCharacter);
+    if (m_hasRestingMargin)
+        setTextMargins(0, 0, 0, scaledLength(3));
+    // The buttons get their size from the sheet, and the layout sets it later.
+    if (m_hasRoomForButtons)
+        QMetaObject::invokeMethod(this, &MRSearchBar::applyRoomForButtons, Qt::QueuedConnection);
 }
 
 QSize MRSearchBar::sizeHint() const
@@ -143,20 +160,32 @@ void MRSearchBar::mousePressEvent(QMouseEvent *event)
 void MRSearchBar::focusInEvent(QFocusEvent *event)
 {
     setButtonsVisible(true);
+    m_hasRoomForButtons = true;
+    m_hasRestingMargin = false;
+    applyRoomForButtons();
+    QLineEdit::focusInEvent(event);
+}
+
+void MRSearchBar::applyRoomForButtons()
+{
+    if (!m_hasRoomForButtons)
+        return;
     const QList<QPushButton *> present = buttons();
     const int buttonWidth = present.isEmpty() ? 0 : present.first()->width();
     const int room = static_cast<int>(present.size()) * buttonWidth;
     const bool isMirrored = isRightToLeft();
     setTextMargins(isMirrored ? room : 0, 0, isMirrored ? 0 : room, 0);
-    QLineEdit::focusInEvent(event);
 }
 
 void MRSearchBar::focusOutEvent(QFocusEvent *event)
 {
     if (m_resizable && text().isEmpty()) {
         setButtonsVisible(false);
-        if (!Skin::isLum())
+        if (!Skin::isLum()) {
+            m_hasRoomForButtons = false;
+            m_hasRestingMargin = true;
             setTextMargins(0, 0, 0, scaledLength(3));
+        }
         if (!placeholderText().isEmpty())
             applyWidth(restingPixelsPerCharacter);
     }

@@ -11,6 +11,7 @@
 class QHBoxLayout;
 class QLabel;
 class QPushButton;
+class QSpacerItem;
 
 /**
  * A search field with buttons for both directions inside its right edge. The buttons appear with
@@ -42,6 +43,9 @@ public:
     /** As wide as the skin or the placeholder allows. */
     QSize sizeHint() const override;
 
+    /** Gives the field and what is inside it the lengths that the scale asks for. */
+    void fitLengths();
+
     /** By how many pixels the field is wider at the moment than at rest. */
     int widening() const;
 
@@ -65,9 +69,11 @@ private:
     void fillLayout(QLabel *label);
     void setButtonsVisible(bool visible);
     void applyWidth(int pixelsPerCharacter);
+    void applyRoomForButtons();
     int scaledLength(int designPixels) const;
 
     QHBoxLayout *m_layout;
+    QSpacerItem *m_indent; ///< Before the first thing inside the field.
     QPointer<QPushButton> m_next;
     QPointer<QPushButton> m_previous;
     bool m_hovered = false;
@@ -75,4 +81,7 @@ private:
     bool m_relational = false;
     float m_scale;
     bool m_mainBar;
+    int m_pixelsPerCharacter = 0; ///< That the width was set by; 0 until it is.
+    bool m_hasRoomForButtons = false;
+    bool m_hasRestingMargin = false;
 };

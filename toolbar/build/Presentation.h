@@ -1,0 +1,119 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QIcon>
+#include <QPointer>
+#include <QSize>
+
+#include <vector>
+
+class Appearance;
+struct Controller;
+
+/**
+ * What the controls show: their texts and icons, and their lengths. Each control is given them by a
+ * function of its kind, which is kept and called again when they mean something else.
+ *
+ * Such a function is called any number of times. It leaves alone what the host or the user sets: it
+ * neither enables nor checks, shows nor hides.
+ */
+class Presentation
+{
+public:
+    /**
+     * @param directory the skin's directory of resources
+     * @param scale     what lengths at 96 dpi are multiplied by
+     */
+    Presentation(const QString &directory, Appearance &appearance, const float &scale);
+    Q_DISABLE_COPY_MOVE(Presentation)
+
+    /** Gives a control its texts and its icon, from now on. @param how a function of its kind */
+    template <auto how, typename Control>
+    void show(Control *control, const Controller &record)
+    {
+        how(control, record, *this);
+        m_given.push_back({control, &record, &callAgain<how, Control>, false});
+    }
+
+    /** Gives a control its lengths, from now on; they may follow from its text. */
+    template <auto how, typename Control>
+    void fit(Control *control, const Controller &record)
+    {
+        how(control, record, *this);
+        m_given.push_back({control, &record, &callAgain<how, Control>, true});
+    }
+
+    /** The same for lengths that no record has a say in. */
+    template <auto how, typename Control>
+    void fit(Control *control)
+    {
+        how(control, *this);
+        m_given.push_back({control, nullptr, &callAgainWithout<how, Control>, true});
+    }
+
+    /** Gives all controls everything again, in the order in which they were given it. */
+    void showAgain();
+    /** Gives all controls their lengths again. */
+    void fitAgain();
+
+    const Appearance &appearance() const { return m_appearance; }
+    QString text(const Controller &record) const;
+    /** The tooltip as described; what is to be seen of it, SetWidgetToolTip() knows. */
+    QString toolTip(const Controller &record) const;
+    QString prompt(const Controller &record) const;
+    /** Empty if the skin has no such icon. */
+    QIcon icon(const Controller &record) const;
+
+    /** A length at 96 dpi in pixels of this screen, truncated. */
+    int length(double designLength) const;
+    /** The size of a square icon. */
+    QSize iconSize(double designSide) const;
+
+private:
+    using Call = void (*)(QObject *control, const Controller *record, Presentation &self);
+
+    struct Given
+    {
+        QPointer<QObject> control;
+        const Controller *record;
+        Call call;
+        bool isLength;
+    };
+
+    template <auto how, typename Control>
+    static void callAgain(QObject *control, const Controller *record, Presentation &self)
+    {
+        how(static_cast<Control *>(control), *record, self);
+    }
+
+    template <auto how, typename Control>
+    static void callAgainWithout(QObject *control, const Controller *, Presentation &self)
+    {
+        how(static_cast<Control *>(control), self);
+    }
+
+    void giveAgain(bool lengthsAlone);
+
+    const QString &m_directory;
+    Appearance &m_appearance;
+    const float &m_scale;
+    std::vector<Given> m_given;
+};
+
+/** Gives a button or an action its icon, unless it has that already: all that shows it is measured
+ *  anew for another one. */
+template <typename Control>
+void showIcon(Control *control, const QIcon &icon)
+{
+    if (control->icon().cacheKey() != icon.cacheKey())
+        control->setIcon(icon);
+}
+
+/** The icons of the top line and of menus and panels are of this size. */
+template <typename Control>
+void fitSmallIcon(Control *control, const Presentation &how)
+{
+    control->setIconSize(how.iconSize(16.0));
+}
