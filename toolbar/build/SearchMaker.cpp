@@ -55,6 +55,10 @@ FieldRecords fieldRecords(const QList<Controller *> &records)
 void showLabel(QLabel *label, const Controller &record, const Presentation &how)
 {
     label->setText(how.text(record));
+}
+
+void drawIcon(QLabel *label, const Controller &record, const Presentation &how)
+{
     const QIcon icon = how.icon(record);
     if (!icon.isNull())
         label->setPixmap(icon.pixmap(how.iconSize(16.0)));
@@ -100,8 +104,9 @@ QLabel *SearchMaker::makeLabel(const Controller &record) const
     label->setObjectName(record.name);
     Presentation &presentation = m_factory.presentation();
     presentation.show<&showLabel>(label, record);
+    presentation.fit<&drawIcon>(label, record);
     QObject::connect(&presentation.appearance(), &Appearance::changed, label,
-                     [label, &record, &presentation] { showLabel(label, record, presentation); });
+                     [label, &record, &presentation] { drawIcon(label, record, presentation); });
     return label;
 }
 

@@ -1,0 +1,145 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
+#include "tests/support/TestHost.h"
+#include "toolbar/widgets/MRDropButton.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPointer>
+#include <QToolBar>
+
+#include <cmath>
+
+namespace {
+
+const QString scaleKey = "scalefactor";
+
+/** What a user leaves behind in some minutes: tabs, a menu, a zoom and a drop
+ * button. */
+void use(TestHost &host)
+{
+    host.showEnabled();
+    host.window().resize(1400, 700);
+    host.openEachTab([](const QString &) {});
+    host.enableEverything();
+    host.facade().DoSetPageInfoSlot(3, 12);
+    host.facade().DoSetZoomModeSlot("vzmode_37p");
+    const QList<MRDropButton *> buttons = host.toolBar()->findChildren<MRDropButton *>();
+    for (MRDropButton *button : buttons) {
+        if (button->menu() && button->menu()->actions().size() > 1)
+            button->DoSwitchSlot(button->menu()->actions().at(1));
+    }
+    QTest::qWait(1);
+}
+
+/** The toolbar with each of its tabs open, and its menus. */
+QList<QImage> pictures(TestHost &host)
+{
+    QList<QImage> taken;
+    host.openEachTab([&taken, &host](const QString &) {
+        QTest::qWait(1);
+        taken.append(host.toolBar()->grab().toImage());
+    });
+    const QList<MRDropButton *> buttons = host.toolBar()->findChildren<MRDropButton *>();
+    for (MRDropButton *button : buttons) {
+        if (button->menu()) {
+            button->menu()->resize(button->menu()->sizeHint());
+            taken.append(button->menu()->grab().toImage());
+        }
+    }
+    return taken;
+}
+
+} // namespace
+
+class ScaleTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void shouldLookAsBuiltForTheScale_data()
+    {
+        QTest::addColumn<int>("skin");
+        QTest::newRow("marodi") << marodi;
+        QTest::newRow("lum") << lum;
+    }
+
+    void shouldLookAsBuiltForTheScale()
+    {
+        QFETCH(int, skin);
+        const SkinChoice choice(skin);
+        const auto atOne = TestHost::withFile(QStringLiteral(SHOWCASE), {{scaleKey, "1"}});
+        const auto atTwo = TestHost::withFile(QStringLiteral(SHOWCASE), {{scaleKey, "2"}});
+        use(*atOne);
+        use(*atTwo);
+        const QList<QImage> small = pictures(*atOne);
+        const QList<QImage> large = pictures(*atTwo);
+        QVERIFY(large.first().height() > small.first().height());
+
+        atOne->facade().DoSetScaleSlot(2);
+        QVERIFY2(pictures(*atOne) == large, "enlarged while running");
+        atOne->facade().DoSetScaleSlot(1);
+        QVERIFY2(pictures(*atOne) == small, "back again");
+        atTwo->facade().DoSetSkinStyleSlot({{scaleKey, "1"}});
+        QVERIFY2(pictures(*atTwo) == small, "made smaller by the skin map");
+    }
+
+    void shouldIgnoreAnImpossibleScale_data()
+    {
+        QTest::addColumn<QString>("scale");
+        for (const char *scale : {"0.49", "4.01", "-1", "nan", "inf", "", "two", "1,5", "Screen"})
+            QTest::newRow(scale) << scale;
+    }
+
+    void shouldIgnoreAnImpossibleScale()
+    {
+        QFETCH(QString, scale);
+        const auto host = TestHost::withFile(QStringLiteral(SHOWCASE), {{scaleKey, "1.5"}});
+        const QString sheet = host->find<QToolBar>("mrtoolbar")->styleSheet();
+        host->facade().DoSetSkinStyleSlot({{scaleKey, scale}});
+        host->facade().DoSetScaleSlot(scale.toDouble());
+        host->facade().DoSetScaleSlot(std::nan(""));
+        QCOMPARE(host->find<QToolBar>("mrtoolbar")->styleSheet(), sheet);
+    }
+
+    void shouldFollowTheScreenOfItsWindow()
+    {
+        const auto plain = TestHost::withFile(QStringLiteral(SHOWCASE));
+        const auto host = TestHost::withFile(QStringLiteral(SHOWCASE), {{scaleKey, "3"}});
+        host->show();
+        host->facade().DoSetSkinStyleSlot({{scaleKey, "screen"}});
+        QCOMPARE(host->find<QToolBar>("mrtoolbar")->styleSheet(),
+                 plain->find<QToolBar>("mrtoolbar")->styleSheet());
+        // Windows come and go with what the host does to them.
+        host->window().setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
+        host->window().show();
+        QCOMPARE(host->find<QToolBar>("mrtoolbar")->styleSheet(),
+                 plain->find<QToolBar>("mrtoolbar")->styleSheet());
+    }
+
+    void shouldScaleTheSearchFieldInUse()
+    {
+        const auto host = TestHost::withFile(QStringLiteral(SHOWCASE), {{scaleKey, "1"}});
+        host->showEnabled();
+        auto *field = host->find<QLineEdit>("st_input");
+        const int atRest = field->width();
+        QTest::mouseClick(field, Qt::LeftButton);
+        QTest::keyClicks(field, "word");
+        const int widened = field->width();
+        const int room = field->textMargins().right();
+        host->facade().DoSetScaleSlot(2);
+        QCOMPARE(field->width(), 2 * widened);
+        QTRY_VERIFY(field->textMargins().right() > room);
+        host->facade().DoSetScaleSlot(1);
+        QTRY_COMPARE(field->textMargins().right(), room);
+        field->clear();
+        host->toolBar()->setFocus();
+        QTRY_COMPARE(field->width(), atRest);
+    }
+};
+
+QTEST_MAIN(ScaleTest)
+
+#include "tst_scale.moc"
