@@ -4,11 +4,12 @@
 #include "tests/support/TestHost.h"
 #include "toolbar/widgets/MRDropButton.h"
 
-#include <QComboBox>
+#include <QApplication>
 #include <QLineEdit>
 #include <QMenu>
-#include <QPointer>
+#include <QScopeGuard>
 #include <QToolBar>
+#include <QToolButton>
 
 #include <cmath>
 
@@ -28,9 +29,10 @@ void use(TestHost &host)
     host.facade().DoSetZoomModeSlot("vzmode_37p");
     const QList<MRDropButton *> buttons = host.toolBar()->findChildren<MRDropButton *>();
     for (MRDropButton *button : buttons) {
-        if (button->menu() && button->menu()->actions().size() > 1)
-            button->DoSwitchSlot(button->menu()->actions().at(1));
+        if (button->isCheckable() && button->menu())
+            button->DoSwitchSlot(button->menu()->actions().last());
     }
+    QTest::mouseMove(&host.window(), host.window().rect().center());
     QTest::qWait(1);
 }
 
@@ -74,6 +76,7 @@ private Q_SLOTS:
         const auto atTwo = TestHost::withFile(QStringLiteral(SHOWCASE), {{scaleKey, "2"}});
         use(*atOne);
         use(*atTwo);
+        atOne->window().move(0, 0);
         const QList<QImage> small = pictures(*atOne);
         const QList<QImage> large = pictures(*atTwo);
         QVERIFY(large.first().height() > small.first().height());
@@ -117,6 +120,82 @@ private Q_SLOTS:
         host->window().show();
         QCOMPARE(host->find<QToolBar>("mrtoolbar")->styleSheet(),
                  plain->find<QToolBar>("mrtoolbar")->styleSheet());
+    }
+
+    void shouldBeHitByFingers_data() { shouldLookAsBuiltForTheScale_data(); }
+
+    void shouldBeHitByFingers()
+    {
+        QFETCH(int, skin);
+        const SkinChoice choice(skin);
+        const auto host = TestHost::withFile(QStringLiteral(SHOWCASE), {{"touchmode", "true"}});
+        use(*host);
+        const int least = int(std::ceil(9 / 25.4 * host->window().physicalDpiX()));
+        host->openEachTab([&host, least](const QString &tab) {
+            const auto buttons = host->toolBar()->findChildren<QAbstractButton *>();
+            for (const QAbstractButton *button : buttons) {
+                const QSize size = button->visibleRegion().boundingRect().size();
+                if (!button->isVisible() || size.isEmpty())
+                    continue;
+                QVERIFY2(size.width() >= least && size.height() >= least && size == button->size(),
+                         qPrintable(QStringLiteral("%1, %2: %3 x %4 of %5 x %6")
+                                        .arg(tab, button->objectName())
+                                        .arg(size.width())
+                                        .arg(size.height())
+                                        .arg(button->width())
+                                        .arg(button->height())));
+            }
+        });
+        const QList<QMenu *> menus = host->toolBar()->findChildren<QMenu *>();
+        for (QMenu *menu : menus) {
+            menu->ensurePolished();
+            const QList<QAction *> entries = menu->actions();
+            for (QAction *entry : entries) {
+                if (!entry->isSeparator() && entry->isVisible())
+                    QVERIFY2(menu->actionGeometry(entry).height() >= least,
+                             qPrintable(menu->objectName() + ' ' + entry->objectName()));
+            }
+        }
+
+        host->facade().DoSetSkinStyleSlot({{"touchmode", "false"}});
+        const auto plain = TestHost::withFile(QStringLiteral(SHOWCASE));
+        use(*plain);
+        host->show();
+        QVERIFY2(pictures(*host) == pictures(*plain), "back again");
+    }
+
+    void shouldHaveRoomForTheFontOfTheApplication_data() { shouldLookAsBuiltForTheScale_data(); }
+
+    void shouldHaveRoomForTheFontOfTheApplication()
+    {
+        QFETCH(int, skin);
+        const SkinChoice choice(skin);
+        const QFont previous = QApplication::font();
+        const auto restore = qScopeGuard([&previous] { QApplication::setFont(previous); });
+        const auto host =
+            TestHost::withFile(QStringLiteral(SHOWCASE), {{"fontfromapplication", "true"}});
+        use(*host);
+        const QList<QImage> before = pictures(*host);
+        for (const int points : {14, 20}) {
+            QFont font = previous;
+            font.setPointSize(points);
+            QApplication::setFont(font);
+            QTest::qWait(1);
+            host->openEachTab([&host, &font](const QString &tab) {
+                const auto buttons = host->toolBar()->findChildren<QToolButton *>();
+                for (const QToolButton *button : buttons) {
+                    if (button->toolButtonStyle() == Qt::ToolButtonIconOnly || !button->isVisible())
+                        continue;
+                    QCOMPARE(QFontInfo(button->font()).pixelSize(), QFontInfo(font).pixelSize());
+                    const QFontMetrics metrics(button->font());
+                    QVERIFY2(button->width() >= metrics.horizontalAdvance(button->text()),
+                             qPrintable(tab + ' ' + button->text()));
+                }
+            });
+        }
+        QApplication::setFont(previous);
+        QTest::qWait(1);
+        QVERIFY2(pictures(*host) == before, "back again");
     }
 
     void shouldScaleTheSearchFieldInUse()

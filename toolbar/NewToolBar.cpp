@@ -106,8 +106,7 @@ NewToolBar::NewToolBar(QMainWindow *mainWindow, QDomNode &description, QMap<QStr
     m_quickAccessButtons = skin.value(SkinKey::quickAccess);
     const QMap<QString, QString> options = takeOptions(skin);
     chooseAppearance(options, skin);
-    m_scaling->choose(options.value(SkinKey::scale));
-    m_scale = m_scaling->factor();
+    chooseScale(options);
 
     // A document that can't be used leaves an empty toolbar that works.
     Init(description);

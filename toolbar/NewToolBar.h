@@ -189,6 +189,7 @@ private:
     static QMap<QString, QString> takeOptions(QMap<QString, QString> &skin);
     void chooseAppearance(const QMap<QString, QString> &options,
                           const QMap<QString, QString> &colours);
+    void chooseScale(const QMap<QString, QString> &options);
     void InitSkinStyle(QMap<QString, QString> skin);
     void SwitchSkinStyle(QMap<QString, QString> skin);
     bool ResetSkinStyle();

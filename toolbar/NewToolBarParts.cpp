@@ -121,7 +121,7 @@ ControlLists NewToolBar::Parts::controlLists(const NewToolBar &toolBar, const Zo
 
 NewToolBar::Parts::Parts(NewToolBar &toolBar)
     : receiver(toolBar)
-    , presentation(toolBar.m_resourceDir, *toolBar.m_appearance, toolBar.m_scale)
+    , presentation(toolBar.m_resourceDir, *toolBar.m_appearance, *toolBar.m_scaling)
     , factory(&toolBar, toolBar.m_actions, toolBar.m_actionGroups, presentation)
     , shortcuts(&toolBar)
     , menus(factory, receiver, shortcuts)

@@ -117,6 +117,14 @@ void NewToolBar::chooseAppearance(const QMap<QString, QString> &options,
                       colours.isEmpty() ? QString() : Skin::mainColour(colours));
 }
 
+void NewToolBar::chooseScale(const QMap<QString, QString> &options)
+{
+    m_scaling->choose(options.value(SkinKey::scale));
+    m_scaling->chooseTouch(options.value(SkinKey::touch));
+    m_scaling->chooseApplicationFont(options.value(SkinKey::applicationFont));
+    m_scale = m_scaling->factor();
+}
+
 void NewToolBar::InitSkinStyle(QMap<QString, QString> skin)
 {
     m_skinMap = Skin::initialMap(skin);
@@ -130,7 +138,7 @@ void NewToolBar::SwitchSkinStyle(QMap<QString, QString> skin)
     if (!skin.isEmpty())
         m_skinMap = Skin::switchedMap(skin);
     chooseAppearance(options, skin);
-    m_scaling->choose(options.value(SkinKey::scale));
+    chooseScale(options);
     if (!skin.isEmpty())
         ResetSkinStyle();
 }
@@ -139,6 +147,11 @@ bool NewToolBar::ResetSkinStyle()
 {
     QString sheet = StyleSheet::filled(LoadQss(GetResourceDir() + QStringLiteral("qssfile.qss")),
                                        m_skinMap, Skin::isLum());
+    if (m_scaling->usesApplicationFont())
+        sheet = StyleSheet::withoutFonts(sheet);
+    if (const int target = m_scaling->leastTarget())
+        sheet += StyleSheet::forTouch(LoadQss(GetResourceDir() + QStringLiteral("touch.qss")),
+                                      target, m_scale);
     if (const SchemeColours *colours = m_appearance->colours())
         sheet += schemeSheet(LoadQss(GetResourceDir() + QStringLiteral("scheme.qss")), *colours);
     if (m_externalQss) {

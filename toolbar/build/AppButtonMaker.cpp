@@ -98,10 +98,12 @@ MRMenuButton *AppButtonMaker::makeButton(MRMenuButton *anchor) const
 void AppButtonMaker::makeMenu(MRMenuButton *button, const Controller &record,
                               CustomMenuStyle *style) const
 {
-    QMenu *menu = m_factory.makeMenu(button, false);
+    auto *menu = new QMenu(button);
+    markMenu(menu, false);
     m_factory.presentation().show<&showTitle>(menu, record);
     menu->setObjectName(record.name);
     menu->setProperty(Property::module, Module::menu);
+    m_factory.presentation().fit<&fitMenuIcons<CustomMenuStyle>>(style);
     menu->setStyle(style);
     button->SetMenu(menu);
 }

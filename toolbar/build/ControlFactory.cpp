@@ -95,6 +95,7 @@ QMenu *ControlFactory::makeMenu(QWidget *parent, bool isRowMenu) const
 {
     auto *menu = new QMenu(parent);
     markMenu(menu, isRowMenu);
+    m_presentation.fit<&fitMenuIcons<QMenu>>(menu);
     return menu;
 }
 

@@ -11,7 +11,6 @@ constexpr double fewestCharacters = 2.5;
 constexpr double mostCharacters = 4.0;
 constexpr double buttonCharacterWidth = 18.0;
 constexpr double shownEntryCharacterWidth = 22.0;
-constexpr double arrowWidth = 12.0;
 constexpr double groupMenuCharacterWidth = 24.0;
 
 double longest(const QStringList &texts, double fewest)
@@ -36,7 +35,7 @@ double ControlWidth::ofButton(const QString &text)
 
 double ControlWidth::ofEmptyMenu(const QString &text)
 {
-    return shownEntryCharacterWidth * static_cast<double>(text.size()) + arrowWidth;
+    return shownEntryCharacterWidth * static_cast<double>(text.size()) + arrow;
 }
 
 double ControlWidth::ofMenu(const QString &text, const QStringList &entryTexts, int index)
@@ -46,10 +45,10 @@ double ControlWidth::ofMenu(const QString &text, const QStringList &entryTexts, 
         characters = longest(entryTexts, characters);
     characters = std::clamp(characters, fewestCharacters, mostCharacters);
     const double characterWidth = index >= 1 ? shownEntryCharacterWidth : buttonCharacterWidth;
-    return characterWidth * characters + arrowWidth;
+    return characterWidth * characters + arrow;
 }
 
 double ControlWidth::ofGroupMenu(const QStringList &texts)
 {
-    return longest(texts, 0.0) * groupMenuCharacterWidth + arrowWidth;
+    return longest(texts, 0.0) * groupMenuCharacterWidth + arrow;
 }

@@ -8,6 +8,9 @@
 /** How wide the controls of a tool row are, by the length of their texts; in pixels at 96 dpi. */
 namespace ControlWidth {
 
+/** That of the arrow of a menu, beside the text. */
+inline constexpr double arrow = 12.0;
+
 double ofButton(const QString &text);
 
 /** A menu without entries in its description. */

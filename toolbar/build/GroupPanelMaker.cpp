@@ -60,7 +60,9 @@ void fitMenuButton(MRGroupButton *button, const Controller &record, const Presen
         button->menu() ? button->menu()->actions() : QList<QAction *>();
     for (const QAction *entry : entries)
         texts.append(entry->text());
-    button->setFixedWidth(how.length(ControlWidth::ofGroupMenu(texts)));
+    constexpr double icon = 16.0;
+    button->setFixedWidth(
+        how.buttonWidth(ControlWidth::ofGroupMenu(texts), texts, icon + ControlWidth::arrow));
 }
 
 } // namespace

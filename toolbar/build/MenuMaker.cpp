@@ -81,6 +81,8 @@ QMenu *MenuMaker::makeSubMenu(QMenu *menu, const Controller &record, QProxyStyle
     m_factory.presentation().show<&showSubMenu>(subMenu, record);
     if (style)
         subMenu->setStyle(style);
+    else
+        m_factory.presentation().fit<&fitMenuIcons<QMenu>>(subMenu);
     return subMenu;
 }
 

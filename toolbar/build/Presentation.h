@@ -6,10 +6,15 @@
 #include <QIcon>
 #include <QPointer>
 #include <QSize>
+#include <QStringList>
 
+#include <memory>
 #include <vector>
 
 class Appearance;
+class CustomMenuStyle;
+class QMenu;
+class Scale;
 struct Controller;
 
 /**
@@ -24,9 +29,9 @@ class Presentation
 public:
     /**
      * @param directory the skin's directory of resources
-     * @param scale     what lengths at 96 dpi are multiplied by
+     * @param scale     of the toolbar; lengths at 96 dpi are multiplied by it
      */
-    Presentation(const QString &directory, Appearance &appearance, const float &scale);
+    Presentation(const QString &directory, Appearance &appearance, const Scale &scale);
     Q_DISABLE_COPY_MOVE(Presentation)
 
     /** Gives a control its texts and its icon, from now on. @param how a function of its kind */
@@ -68,6 +73,16 @@ public:
 
     /** A length at 96 dpi in pixels of this screen, truncated. */
     int length(double designLength) const;
+    /**
+     * The width of a button that shows one of these texts, in pixels.
+     * @param byRule what it is by the number of characters, at 96 dpi
+     * @param beside room for what stands beside the text, at 96 dpi
+     */
+    int buttonWidth(double byRule, const QStringList &texts, double beside) const;
+    /** Has the icons of a menu follow the scale; they follow the screen by themselves. */
+    void fitIcons(QMenu *menu) const;
+    /** The same for the menus of a style. */
+    void fitIcons(CustomMenuStyle *style) const;
     /** The size of a square icon. */
     QSize iconSize(double designSide) const;
 
@@ -98,7 +113,8 @@ private:
 
     const QString &m_directory;
     Appearance &m_appearance;
-    const float &m_scale;
+    const Scale &m_scale;
+    mutable std::shared_ptr<CustomMenuStyle> m_menuStyle; ///< None while menus follow the screen.
     std::vector<Given> m_given;
 };
 
@@ -116,4 +132,11 @@ template <typename Control>
 void fitSmallIcon(Control *control, const Presentation &how)
 {
     control->setIconSize(how.iconSize(16.0));
+}
+
+/** See Presentation::fitIcons(). */
+template <typename MenuOrStyle>
+void fitMenuIcons(MenuOrStyle *menuOrStyle, const Presentation &how)
+{
+    how.fitIcons(menuOrStyle);
 }

@@ -110,7 +110,8 @@ void showRowButton(QWidget *button, const Controller &record, const Presentation
 void fitRowButton(QWidget *button, const Controller &record, const Presentation &how)
 {
     if (!Skin::isLum())
-        button->setFixedWidth(how.length(ControlWidth::ofButton(how.text(record))));
+        button->setFixedWidth(
+            how.buttonWidth(ControlWidth::ofButton(how.text(record)), {how.text(record)}, 0.0));
 }
 
 /** The button of a command that a panel shows: the row has it, but no room for it. */
@@ -151,14 +152,23 @@ void showMenu(MRDropButtonAction *action, const Controller &record, const Presen
 
 int menuWidth(const QMenu *menu, const Controller &record, const Presentation &how)
 {
+    // As the buttons show them, with blanks as room for the arrow.
+    const QString blanks = QStringLiteral("    ");
+    const QString text = how.text(record);
     if (!menu)
-        return how.length(ControlWidth::ofEmptyMenu(how.text(record)));
+        return how.buttonWidth(ControlWidth::ofEmptyMenu(text), {text + blanks},
+                               ControlWidth::arrow);
 
     QStringList entryTexts;
+    QStringList shownTexts{text + blanks};
     const QList<QAction *> entries = menu->actions();
-    for (const QAction *entry : entries)
+    for (const QAction *entry : entries) {
         entryTexts.append(entry->text());
-    return how.length(ControlWidth::ofMenu(how.text(record), entryTexts, record.index));
+        if (record.index >= 1 || record.switchable)
+            shownTexts.append(entry->text() + blanks);
+    }
+    return how.buttonWidth(ControlWidth::ofMenu(text, entryTexts, record.index), shownTexts,
+                           ControlWidth::arrow);
 }
 
 void showMenuButton(MRDropButtonAction *action, const Controller &record, const Presentation &how)

@@ -112,9 +112,11 @@ inline constexpr QLatin1String externalSheet =
 inline constexpr QLatin1String quickAccess = latin1("quickaccessbarbuttons");
 inline constexpr QLatin1String scheme = latin1("scheme"); ///< Light, dark, or as the system is.
 inline constexpr QLatin1String scale = latin1("scalefactor"); ///< A number, or "screen".
+inline constexpr QLatin1String touch = latin1("touchmode");   ///< "true": for fingers.
+inline constexpr QLatin1String applicationFont = latin1("fontfromapplication"); ///< "true".
 
 /** Those that are taken out of the map before anything else sees it. */
-inline constexpr QLatin1String options[] = {scheme, scale};
+inline constexpr QLatin1String options[] = {scheme, scale, touch, applicationFont};
 } // namespace SkinKey
 
 /** Dynamic properties, most of which the style sheets select by. */

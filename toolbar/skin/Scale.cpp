@@ -6,12 +6,15 @@
 #include "toolbar/Latin1.h"
 #include "toolbar/skin/ScreenDensity.h"
 
+#include <QApplication>
 #include <QEvent>
+#include <QFontInfo>
 #include <QScreen>
 #include <QWidget>
 #include <QWindow>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -19,12 +22,33 @@ constexpr QLatin1String ownScreen = latin1("screen");
 constexpr double least = 0.5;
 constexpr double most = 4.0;
 
-/** Those whose host has chosen a factor. */
+/** The lengths of the skins have room for texts of this size, in pixels at 96 dpi. */
+constexpr float roomyTextSize = 14.0F;
+
+constexpr double targetMillimetres = 9.0;
+constexpr double millimetresPerInch = 25.4;
+
+/** Those whose host has chosen something. */
 QList<const Scale *> &chosenScales()
 {
     // Never destroyed: a toolbar may outlive what is static.
     static auto *scales = new QList<const Scale *>;
     return *scales;
+}
+
+void addToChosen(const Scale *scale)
+{
+    if (!chosenScales().contains(scale))
+        chosenScales().append(scale);
+}
+
+std::optional<bool> truthOf(const QString &text)
+{
+    if (text == QLatin1String("true"))
+        return true;
+    if (text == QLatin1String("false"))
+        return false;
+    return std::nullopt;
 }
 
 /** By how much the application enlarges itself, on whatever screen it is. */
@@ -39,7 +63,8 @@ double applicationFactor()
 Scale::Scale(QWidget *toolBar)
     : QObject(toolBar)
     , m_toolBar(toolBar)
-    , m_factor(ScreenDensity::factor(toolBar))
+    , m_chosen(ScreenDensity::factor(toolBar))
+    , m_factor(m_chosen)
 {
 }
 
@@ -72,25 +97,88 @@ void Scale::set(double factor)
 
 void Scale::take(float factor)
 {
-    if (!m_isChosen)
-        chosenScales().append(this);
+    addToChosen(this);
     m_isChosen = true;
+    m_chosen = factor;
+    update();
+}
+
+void Scale::update()
+{
+    float factor = m_chosen;
+    if (m_usesApplicationFont)
+        factor = std::max(factor, QFontInfo(QApplication::font()).pixelSize() / roomyTextSize);
     if (factor == m_factor)
         return;
     m_factor = factor;
     Q_EMIT changed();
 }
 
-std::optional<float> Scale::chosenFor(const QWidget *widget)
+void Scale::chooseApplicationFont(const QString &choice)
+{
+    const auto isWanted = truthOf(choice);
+    if (!isWanted || *isWanted == m_usesApplicationFont)
+        return;
+    addToChosen(this);
+    m_usesApplicationFont = *isWanted;
+    // Only while it matters: the filter sees every event of the application.
+    qApp->removeEventFilter(this);
+    if (m_usesApplicationFont)
+        qApp->installEventFilter(this);
+    followFont();
+}
+
+void Scale::followFont()
+{
+    const float before = m_factor;
+    update();
+    // Texts and widths are different ones, too.
+    if (m_factor == before)
+        Q_EMIT changed();
+}
+
+void Scale::chooseTouch(const QString &choice)
+{
+    const auto isWanted = truthOf(choice);
+    if (!isWanted || *isWanted == m_isForTouch)
+        return;
+    addToChosen(this);
+    m_isForTouch = *isWanted;
+    Q_EMIT changed();
+}
+
+int Scale::leastTarget() const
+{
+    if (!m_isForTouch)
+        return 0;
+    const int dpi = ScreenDensity::credible(m_toolBar->physicalDpiX());
+    return static_cast<int>(std::ceil(targetMillimetres / millimetresPerInch * dpi));
+}
+
+const Scale *Scale::nearestTo(const QWidget *widget)
 {
     const QList<const Scale *> &all = chosenScales();
     for (; widget && !all.isEmpty(); widget = widget->parentWidget()) {
         for (const Scale *scale : all) {
             if (scale->m_toolBar == widget)
-                return scale->m_factor;
+                return scale;
         }
     }
-    return std::nullopt;
+    return nullptr;
+}
+
+std::optional<float> Scale::chosenFor(const QWidget *widget)
+{
+    const Scale *scale = nearestTo(widget);
+    if (!scale || !scale->isChosen())
+        return std::nullopt;
+    return scale->m_factor;
+}
+
+int Scale::leastTargetFor(const QWidget *widget)
+{
+    const Scale *scale = nearestTo(widget);
+    return scale ? scale->leastTarget() : 0;
 }
 
 float Scale::ofScreen(const QScreen *screen)
@@ -132,6 +220,8 @@ bool Scale::eventFilter(QObject *watched, QEvent *event)
     // Shown again, the toolbar may be in another window.
     if (watched == m_toolBar && event->type() == QEvent::Show)
         followWindow();
+    if (watched == qApp && event->type() == QEvent::ApplicationFontChange)
+        followFont();
     return false;
 }
 

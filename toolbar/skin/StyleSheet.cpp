@@ -9,6 +9,7 @@
 #include <QRegularExpression>
 #include <QTextStream>
 
+#include <algorithm>
 #include <cmath>
 
 QString LoadQss(const QString &path)
@@ -54,4 +55,32 @@ QString StyleSheet::scaled(const QString &sheet, float factor)
         copied = match.capturedEnd(1);
     }
     return result + sheet.mid(copied);
+}
+
+QString StyleSheet::withoutFonts(QString sheet)
+{
+    static const QRegularExpression font(QStringLiteral("font-(family|size)\\s*:[^;}]*;?"));
+    return sheet.remove(font);
+}
+
+QString StyleSheet::forTouch(QString sheet, int target, float factor)
+{
+    // Rounded up, so that no length is rounded down to less than the target later.
+    const int side = static_cast<int>(std::ceil(static_cast<float>(target) / factor));
+    constexpr int leastLine = 38;
+    constexpr int gap = 2;
+    // Icon and text of a button stay together in the middle of a row that holds two targets.
+    constexpr int iconAndText = 50;
+    constexpr int arrowAboveEnd = 6;
+    const int rows = 2 * side + gap;
+    const int padding = std::max(0, (rows - iconAndText) / 2);
+    sheet.replace(QLatin1String("[TargetLine]"), QString::number(std::max(side, leastLine)));
+    sheet.replace(QLatin1String("[TargetRows]"), QString::number(rows));
+    sheet.replace(QLatin1String("[TargetPage]"), QString::number(rows + 2 * gap));
+    sheet.replace(QLatin1String("[TargetPadding]"), QString::number(padding));
+    sheet.replace(QLatin1String("[TargetArrow]"), QString::number(padding + arrowAboveEnd));
+    sheet.replace(QLatin1String("[TargetContent]"), QString::number(rows - 2 * padding));
+    // The frame of a group's menu button is beside that.
+    sheet.replace(QLatin1String("[TargetGroup]"), QString::number(side - 2 * gap));
+    return sheet.replace(QLatin1String("[Target]"), QString::number(side));
 }

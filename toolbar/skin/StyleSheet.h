@@ -21,4 +21,14 @@ QString filled(QString sheet, const QMap<QString, QString> &skin, bool isCompact
 /** The sheet with every length in pixels multiplied by @p factor and rounded half up. */
 QString scaled(const QString &sheet, float factor);
 
+/** The sheet without what it says of the family and the size of fonts. */
+QString withoutFonts(QString sheet);
+
+/**
+ * The lengths of a toolbar for fingers: the template with its placeholders filled.
+ * @param target the least side of a button, in pixels
+ * @param factor what the lengths of the result are going to be multiplied by
+ */
+QString forTouch(QString sheet, int target, float factor);
+
 } // namespace StyleSheet

@@ -3,9 +3,9 @@
 
 #include "toolbar/widgets/CustomMenuStyle.h"
 
-#include "toolbar/skin/Scale.h"
 #include "toolbar/skin/ScreenDensity.h"
 
+#include <QMenu>
 #include <QPainter>
 #include <QStyleOptionMenuItem>
 #include <QWidget>
@@ -22,6 +22,23 @@ QRect subMenuArrowRect(const QStyleOptionMenuItem &item)
     return QStyle::visualRect(item.direction, rect, arrow);
 }
 
+/**
+ * A style must be deleted after the menus that use it: each of them has one of these among its
+ * children.
+ */
+class StyleShare : public QObject
+{
+public:
+    StyleShare(std::shared_ptr<CustomMenuStyle> style, QMenu *menu)
+        : QObject(menu)
+        , m_style(std::move(style))
+    {
+    }
+
+private:
+    std::shared_ptr<CustomMenuStyle> m_style;
+};
+
 } // namespace
 
 CustomMenuStyle::CustomMenuStyle(int smallIconSize)
@@ -32,6 +49,17 @@ CustomMenuStyle::CustomMenuStyle(int smallIconSize)
 void CustomMenuStyle::setSmallIconSize(int smallIconSize)
 {
     m_smallIconSize = smallIconSize;
+}
+
+void CustomMenuStyle::setScale(float scale)
+{
+    m_scale = scale;
+}
+
+void CustomMenuStyle::share(const std::shared_ptr<CustomMenuStyle> &style, QMenu *menu)
+{
+    new StyleShare(style, menu);
+    menu->setStyle(style.get());
 }
 
 void CustomMenuStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
@@ -55,8 +83,8 @@ int CustomMenuStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
     if (metric != PM_SmallIconSize)
         return QProxyStyle::pixelMetric(metric, option, widget);
 
-    if (const auto chosen = Scale::chosenFor(widget))
-        return ScreenDensity::scaled(m_smallIconSize, *chosen);
+    if (m_scale)
+        return ScreenDensity::scaled(m_smallIconSize, *m_scale);
     // Not the menu's own dpi: menus of one toolbar agree before they have met a screen.
     const QWidget screenProbe;
     return ScreenDensity::scaled(m_smallIconSize, ScreenDensity::factor(&screenProbe));

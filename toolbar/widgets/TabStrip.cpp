@@ -4,6 +4,7 @@
 #include "toolbar/widgets/TabStrip.h"
 
 #include "toolbar/description/Names.h"
+#include "toolbar/skin/Scale.h"
 #include "toolbar/skin/ScreenDensity.h"
 
 #include <QEvent>
@@ -22,7 +23,8 @@ constexpr double chevronHeight = 8.0;
 
 int arrowWidth(const QWidget *widget)
 {
-    return ScreenDensity::scaled(arrowDesignWidth, ScreenDensity::factor(widget));
+    return std::max(ScreenDensity::scaled(arrowDesignWidth, ScreenDensity::factor(widget)),
+                    Scale::leastTargetFor(widget));
 }
 
 } // namespace

@@ -55,6 +55,8 @@ void addOptions(QCommandLineParser &parser)
          QStringLiteral("file")},
         {QStringLiteral("scheme"), QStringLiteral("light, dark, contrast or system"),
          QStringLiteral("scheme")},
+        {QStringLiteral("font-size"), QStringLiteral("size of the application's font in points"),
+         QStringLiteral("points")},
         {QStringLiteral("dark-palette"), QStringLiteral("give the application a dark palette")},
         {QStringLiteral("out"), QStringLiteral("file of the picture"), QStringLiteral("file"),
          QStringLiteral("toolbar.png")},
@@ -97,6 +99,11 @@ int main(int argc, char *argv[])
     const QString scheme = parser.value(QStringLiteral("scheme"));
     if (!scheme.isEmpty())
         skinMap.insert(QStringLiteral("scheme"), scheme);
+    if (const int points = parser.value(QStringLiteral("font-size")).toInt(); points > 0) {
+        QFont font = QApplication::font();
+        font.setPointSize(points);
+        QApplication::setFont(font);
+    }
     // Something for the scheme of the system to follow.
     if (parser.isSet(QStringLiteral("dark-palette")))
         QApplication::setPalette(QPalette(QColor(0x30, 0x30, 0x30)));
