@@ -43,11 +43,6 @@ def stamp(d):
     d.line(5, 21, 19, 21, stroke="red", pen=BOLD)
 
 
-def _cell(d, x, y, size=6, stroke="ink"):
-    """One character of the text, as a box."""
-    d.rect(x, y, size, size, 1, stroke=stroke, fill="tint")
-
-
 def revision_add(d):
     text_lines(d, 2.5, 21.5, (3.5, 8.5))
     text_lines(d, 2.5, 10.5, (13.5, 18.5))
@@ -80,27 +75,28 @@ def revision_moveout(d):
     arrow(d, (7, 12), (21, 12), 4, stroke="red", pen=BOLD)
 
 
-def _spacing(d, cells, tails, tips):
-    for x in cells:
-        _cell(d, x, 13.5)
-    for tail, tip in zip(tails, tips):
-        arrow(d, (tail, 7), (tip, 7), 3, stroke="red", pen=BOLD)
+def _space_between(d, rows, arrows):
+    """Lines of text and, beside them, what happens to the space between them."""
+    text_lines(d, 12.5, 21.5, rows)
+    for tail, tip in arrows:
+        arrow(d, (6, tail), (6, tip), 3, stroke="red", pen=BOLD)
 
 
 def revision_increasespace(d):
-    _spacing(d, (2.5, 15.5), (10, 14), (3, 21))
+    _space_between(d, (2.5, 11.5, 20.5), ((11.5, 3), (11.5, 20)))
 
 
 def revision_reducespace(d):
-    _spacing(d, (4.5, 13.5), (3, 21), (10, 14))
+    _space_between(d, (7.5, 11.5, 15.5), ((3, 9), (20, 14)))
 
 
 def _shift(d, forward):
-    """A character moved against a line: towards the start of the text if forward."""
-    _cell(d, 14.5 if forward else 2.5, 8.5, 7)
-    tail, tip = mirrored([(12, 12), (18, 12)], 12, forward)
-    arrow(d, tail, tip, 3, stroke="red", pen=BOLD)
-    d.polyline(mirrored([(21, 6), (21, 18)], 12, forward), stroke="red", pen=BOLD)
+    """Lines moved within their paragraph: towards the start of the text if forward."""
+    text_lines(d, 2.5, 21.5, (4.5, 19.5))
+    for y in (9.5, 14.5):
+        d.polyline(mirrored([(14.5, y), (21.5, y)], 12, forward))
+    tail, tip = mirrored([(3, 12), (11, 12)], 12, forward)
+    arrow(d, tail, tip, 4, stroke="red", pen=BOLD)
 
 
 def revision_moveback(d):

@@ -67,11 +67,6 @@ def lock(d):
     d.rect(7, 9, 2, 4, stroke=None, fill="accent")
 
 
-def _cell(d, x, y, size=4, stroke="ink"):
-    """One character of the text, as a box."""
-    d.rect(x, y, size, size, 0.5, stroke=stroke, fill="tint")
-
-
 def revision_add(d):
     text_lines(d, 1.5, 14.5, (2.5, 5.5))
     text_lines(d, 1.5, 6.5, (8.5, 11.5))
@@ -104,26 +99,33 @@ def revision_moveout(d):
     arrow(d, (5, 8), (14, 8), 3, stroke="red", pen=BOLD)
 
 
-def _spacing(d, cells, tails, tips):
-    for x in cells:
-        _cell(d, x, 9.5)
-    for tail, tip in zip(tails, tips):
-        arrow(d, (tail, 5), (tip, 5), 2, stroke="red", pen=BOLD)
+def _red_arrow(d, tail, neck, towards):
+    """An arrow along an axis; its shaft ends at the neck, where the head begins."""
+    d.line(*tail, *neck, stroke="red", pen=BOLD, cap="butt")
+    head = 3
+    tip = [at + head * way for at, way in zip(neck, towards)]
+    solid_head(d, *tip, head, towards, stroke="red")
 
 
 def revision_increasespace(d):
-    _spacing(d, (1.5, 10.5), (6.5, 9.5), (2, 14))
+    text_lines(d, 9.5, 14.5, (1.5, 7.5, 13.5))
+    _red_arrow(d, (4, 8), (4, 4), (0, -1))
+    _red_arrow(d, (4, 7), (4, 11), (0, 1))
 
 
 def revision_reducespace(d):
-    _spacing(d, (2.5, 9.5), (2, 14), (6, 10))
+    text_lines(d, 9.5, 14.5, (4.5, 7.5, 10.5))
+    _red_arrow(d, (4, 1), (4, 4), (0, 1))
+    _red_arrow(d, (4, 14), (4, 11), (0, -1))
 
 
 def _shift(d, forward):
-    _cell(d, 10.5 if forward else 1.5, 6, 4)
-    tail, tip = mirrored([(8, 8), (11.5, 8)], 8, forward)
-    arrow(d, tail, tip, 2.5, stroke="red", pen=BOLD)
-    d.polyline(mirrored([(14, 3), (14, 13)], 8, forward), stroke="red", pen=BOLD)
+    """Lines moved within their paragraph: towards the start of the text if forward."""
+    text_lines(d, 1.5, 14.5, (2.5, 13.5))
+    for y in (6.5, 9.5):
+        d.polyline(mirrored([(9.5, y), (14.5, y)], 8, forward))
+    tail, neck = mirrored([(1, 8), (4, 8)], 8, forward)
+    _red_arrow(d, tail, neck, (-1 if forward else 1, 0))
 
 
 def revision_moveback(d):
