@@ -134,6 +134,18 @@ private Q_SLOTS:
         }
     }
 
+    void shouldShowTheRoundEndsOfATabThatFillsTheStrip()
+    {
+        const SkinChoice choice(lum);
+        TestHost host(manyTabs(3));
+        host.window().resize(1, host.scaled(300));
+        host.show();
+        QTest::mouseClick(arrow(host, false), Qt::LeftButton);
+        const QPushButton *tab = host.shownTabs().at(1);
+        QVERIFY(arrow(host, true) && arrow(host, false));
+        QCOMPARE(tab->visibleRegion().boundingRect(), tab->rect());
+    }
+
     void shouldKeepTheWindowNarrowWhenTheSearchFieldWidens()
     {
         const auto host = TestHost::withShipped(QStringLiteral("marodi/mr_toolbar.debug.xml"));

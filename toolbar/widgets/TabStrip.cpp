@@ -6,6 +6,7 @@
 #include "toolbar/description/Names.h"
 #include "toolbar/skin/Scale.h"
 #include "toolbar/skin/ScreenDensity.h"
+#include "toolbar/skin/Skin.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -97,8 +98,10 @@ QSize TabStrip::minimumSizeHint() const
     const QList<QWidget *> tabs = shownTabs();
     for (const QWidget *tab : tabs)
         widest = std::max(widest, std::max(tab->minimumWidth(), tab->sizeHint().width()));
-    // Arrows on both sides then take from the tab no more than the empty room beside its text.
-    return {widest + arrowWidth(this), m_tabs->layout()->minimumSize().height()};
+    // Where tabs have round ends a tab keeps both; elsewhere arrows on both sides take no more from
+    // it than the empty room beside its text.
+    const int arrows = Skin::isLum() ? 2 : 1;
+    return {widest + arrows * arrowWidth(this), m_tabs->layout()->minimumSize().height()};
 }
 
 QList<QWidget *> TabStrip::shownTabs() const
