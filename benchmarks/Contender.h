@@ -27,4 +27,6 @@ public:
     virtual void setChecked(QString &name, bool checked) = 0;
     /** Sets another main colour; returns false if there are no colours to change. */
     virtual bool changeColours() { return false; }
+    /** Lays everything out for another scale; returns false if there is no scale to change. */
+    virtual bool changeScale() { return false; }
 };

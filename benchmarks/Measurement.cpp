@@ -71,6 +71,7 @@ QJsonObject Measurement::run()
     setStates();
     moveMouse();
     switchColours();
+    switchScale();
     return m_figures;
 }
 
@@ -178,6 +179,17 @@ void Measurement::switchColours()
     waitForPaint(paints);
     settle();
     stopwatch.store(m_figures, QStringLiteral("change of colours ms"));
+}
+
+void Measurement::switchScale()
+{
+    const EventCount paints(QEvent::Paint);
+    const Stopwatch stopwatch;
+    if (!m_contender->changeScale())
+        return;
+    waitForPaint(paints);
+    settle();
+    stopwatch.store(m_figures, QStringLiteral("change of scale ms"));
 }
 
 void Measurement::clickTab(int tab)

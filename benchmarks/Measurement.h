@@ -29,6 +29,7 @@ private:
     void openAllTabs();
     void setStates();
     void switchColours();
+    void switchScale();
     void moveMouse();
 
     void clickTab(int tab);

@@ -14,13 +14,21 @@ namespace {
 const QStringList &lines()
 {
     static const QStringList names{
-        QStringLiteral("description ms"),       QStringLiteral("construction ms"),
-        QStringLiteral("first window ms"),      QStringLiteral("first window at rest ms"),
-        QStringLiteral("second tab ms"),        QStringLiteral("usable state us"),
-        QStringLiteral("checked state us"),     QStringLiteral("change of colours ms"),
-        QStringLiteral("mouse move us"),        QStringLiteral("allocations of 100 moves"),
-        QStringLiteral("layouts of 100 moves"), QStringLiteral("sheets set by 100 moves"),
-        QStringLiteral("memory at first MiB"),  QStringLiteral("memory with all rows MiB"),
+        QStringLiteral("description ms"),
+        QStringLiteral("construction ms"),
+        QStringLiteral("first window ms"),
+        QStringLiteral("first window at rest ms"),
+        QStringLiteral("second tab ms"),
+        QStringLiteral("usable state us"),
+        QStringLiteral("checked state us"),
+        QStringLiteral("change of colours ms"),
+        QStringLiteral("change of scale ms"),
+        QStringLiteral("mouse move us"),
+        QStringLiteral("allocations of 100 moves"),
+        QStringLiteral("layouts of 100 moves"),
+        QStringLiteral("sheets set by 100 moves"),
+        QStringLiteral("memory at first MiB"),
+        QStringLiteral("memory with all rows MiB"),
     };
     return names;
 }

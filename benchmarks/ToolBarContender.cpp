@@ -44,6 +44,12 @@ void ToolBarContender::setChecked(QString &name, bool checked)
     m_toolBar->DoSetControlCheckedStateSlot(name, checked);
 }
 
+bool ToolBarContender::changeScale()
+{
+    m_toolBar->DoSetScaleSlot(1.5);
+    return true;
+}
+
 bool ToolBarContender::changeColours()
 {
     m_toolBar->DoSetSkinStyleSlot({{QStringLiteral("[MainColor]"), QStringLiteral("#336699")}});

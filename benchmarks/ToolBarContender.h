@@ -25,6 +25,7 @@ public:
     void setUsable(QString &name, bool usable) override;
     void setChecked(QString &name, bool checked) override;
     bool changeColours() override;
+    bool changeScale() override;
 
 private:
     Workload m_workload;
