@@ -48,7 +48,7 @@ struct SearchContentOption
 typedef SearchContentOption SearchOption;
 
 /**
- * Settings of a skin: colour placeholders such as "[MainColor]", and three keys of behaviour.
+ * Settings of a skin: colour placeholders such as "[MainColor]", and keys of behaviour.
  *
  * "externalqss" (any value) leaves applying the style sheet to the host, "quickaccessbarbuttons" is
  * the setting that MRToolBar::GetQuickAccessButtonList() returned; both count at construction.
@@ -62,6 +62,10 @@ typedef SearchContentOption SearchOption;
  * for the density of the screen that the window is on, in units of the application's own scaling.
  * It is no colour either, and a map without it, or with another value, keeps the scale; without any
  * that is the physical density of the screen at construction.
+ *
+ * "touchmode" and "fontfromapplication" are "true" or "false" and no colours either. The first
+ * makes no button and no entry of a menu smaller than 9 mm; the second gives the texts the
+ * application's font and size, and widths and lengths that follow.
  */
 typedef QMap<QString, QString> ToolBarSkinStyle;
 
