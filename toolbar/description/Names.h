@@ -110,7 +110,7 @@ namespace SkinKey {
 inline constexpr QLatin1String externalSheet =
     latin1("externalqss"); ///< The host applies the sheet.
 inline constexpr QLatin1String quickAccess = latin1("quickaccessbarbuttons");
-inline constexpr QLatin1String scheme = latin1("scheme"); ///< Light, dark, or as the system is.
+inline constexpr QLatin1String scheme = latin1("scheme");     ///< Light, dark, or as the system is.
 inline constexpr QLatin1String scale = latin1("scalefactor"); ///< A number, or "screen".
 inline constexpr QLatin1String touch = latin1("touchmode");   ///< "true": for fingers.
 inline constexpr QLatin1String applicationFont = latin1("fontfromapplication"); ///< "true".

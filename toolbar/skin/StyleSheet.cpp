@@ -65,22 +65,31 @@ QString StyleSheet::withoutFonts(QString sheet)
 
 QString StyleSheet::forTouch(QString sheet, int target, float factor)
 {
-    // Rounded up, so that no length is rounded down to less than the target later.
-    const int side = static_cast<int>(std::ceil(static_cast<float>(target) / factor));
+    // The sheet is in lengths at 96 dpi, which are rounded when they are scaled; what has to fit
+    // into what is decided in pixels, and rounded up.
+    const auto atDesign = [factor](int pixels) {
+        return static_cast<int>(std::ceil(static_cast<float>(pixels) / factor));
+    };
+    const auto inPixels = [factor](int length) {
+        return static_cast<int>(std::floor(static_cast<float>(length) * factor + 0.5F));
+    };
     constexpr int leastLine = 38;
-    constexpr int gap = 2;
-    // Icon and text of a button stay together in the middle of a row that holds two targets.
-    constexpr int iconAndText = 50;
-    constexpr int arrowAboveEnd = 6;
-    const int rows = 2 * side + gap;
-    const int padding = std::max(0, (rows - iconAndText) / 2);
+    constexpr int gap = 2;           // Between the buttons of a group, in pixels.
+    constexpr int frames = 4;        // Of a group's menu button, above and below, in pixels.
+    constexpr int iconAndText = 50;  // Of a button, in the middle of a row.
+    constexpr int arrowAboveEnd = 6; // Of the row.
+    constexpr int aroundRow = 4;     // By which a page is higher.
+
+    const int side = atDesign(target);
+    const int framed = atDesign(inPixels(side) - frames);
+    const int row = atDesign(2 * std::max(inPixels(side), inPixels(framed) + frames) + gap);
+    const int padding = std::max(0, (row - iconAndText) / 2);
     sheet.replace(QLatin1String("[TargetLine]"), QString::number(std::max(side, leastLine)));
-    sheet.replace(QLatin1String("[TargetRows]"), QString::number(rows));
-    sheet.replace(QLatin1String("[TargetPage]"), QString::number(rows + 2 * gap));
+    sheet.replace(QLatin1String("[TargetRow]"), QString::number(row));
+    sheet.replace(QLatin1String("[TargetPage]"), QString::number(row + aroundRow));
     sheet.replace(QLatin1String("[TargetPadding]"), QString::number(padding));
     sheet.replace(QLatin1String("[TargetArrow]"), QString::number(padding + arrowAboveEnd));
-    sheet.replace(QLatin1String("[TargetContent]"), QString::number(rows - 2 * padding));
-    // The frame of a group's menu button is beside that.
-    sheet.replace(QLatin1String("[TargetGroup]"), QString::number(side - 2 * gap));
+    sheet.replace(QLatin1String("[TargetContent]"), QString::number(row - 2 * padding - gap));
+    sheet.replace(QLatin1String("[TargetFramed]"), QString::number(framed));
     return sheet.replace(QLatin1String("[Target]"), QString::number(side));
 }
