@@ -8,6 +8,7 @@
 #include "toolbar/description/Controller.h"
 #include "toolbar/description/Names.h"
 #include "toolbar/widgets/MRSearchBar.h"
+#include "toolbar/widgets/RoundedMenu.h"
 #include "toolbar/widgets/ToolTipCard.h"
 
 #include <QAction>
@@ -96,6 +97,7 @@ QMenu *ControlFactory::makeMenu(QWidget *parent, bool isRowMenu) const
     auto *menu = new QMenu(parent);
     markMenu(menu, isRowMenu);
     m_presentation.fit<&fitMenuIcons<QMenu>>(menu);
+    RoundedMenu::prepare(menu);
     return menu;
 }
 

@@ -11,6 +11,7 @@
 #include "toolbar/description/Controller.h"
 #include "toolbar/description/Names.h"
 #include "toolbar/fields/RecentFiles.h"
+#include "toolbar/widgets/RoundedMenu.h"
 
 #include <QAction>
 #include <QMenu>
@@ -77,6 +78,7 @@ QMenu *MenuMaker::makeSubMenu(QMenu *menu, const Controller &record, QProxyStyle
     QMenu *subMenu = RecentFiles::isMenuName(record.name) ? m_receiver.makeRecentFilesMenu(menu)
                                                           : new QMenu(menu);
     markMenu(subMenu, isRowMenu(menu));
+    RoundedMenu::prepare(subMenu);
     subMenu->setObjectName(record.name);
     m_factory.presentation().show<&showSubMenu>(subMenu, record);
     if (style)

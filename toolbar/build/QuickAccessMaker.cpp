@@ -8,6 +8,7 @@
 #include "toolbar/description/Controller.h"
 #include "toolbar/description/Names.h"
 #include "toolbar/skin/Skin.h"
+#include "toolbar/widgets/RoundedMenu.h"
 #include "toolbar/widgets/ToolTipCard.h"
 
 #include <QAction>
@@ -60,6 +61,7 @@ QToolBar *QuickAccessMaker::makeBar() const
     m_factory.presentation().fit<&fitSmallIcon<QToolBar>>(bar);
     bar->setContextMenuPolicy(Qt::NoContextMenu);
     bar->setMovable(false);
+    RoundedMenu::prepareExtensionOf(bar);
     for (const Controller *record : m_records) {
         if (record->name == Name::customise)
             continue;

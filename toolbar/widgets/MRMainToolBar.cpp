@@ -4,6 +4,7 @@
 #include "toolbar/widgets/MRMainToolBar.h"
 
 #include "toolbar/description/Names.h"
+#include "toolbar/widgets/RoundedMenu.h"
 
 #include <QEvent>
 #include <QLayout>
@@ -16,6 +17,7 @@ MRMainToolBar::MRMainToolBar(QWidget *parent)
     , m_extensionName(m_extension ? m_extension->objectName() : QString())
 {
     setProperty(Property::inToolBar, "true");
+    RoundedMenu::prepareExtensionOf(this);
     if (m_extension)
         m_extension->setAccessibleName(tr("更多"));
 }
