@@ -6,158 +6,154 @@
 #include "toolbar/Latin1.h"
 #include "toolbar/skin/SchemeColours.h"
 
-#include <QStringList>
-
 namespace {
 
 // The texts are kept to the letter, deliberately: a missing colon, a single colon, a stray "%" and
-// a doubled brace are part of them, and the look of the buttons is what Qt makes of that.
+// a doubled brace are part of them, and the look of the buttons is what Qt makes of that. In
+// brackets stand the roles of a scheme, and what the tables below have besides.
 
 constexpr char rowArrowMarodi[] =
-    "QToolButton::menu-button:hover{background-color:%1;border:2px solid %2;"
-    "border-left:2px solid %2;border-top-right-radius:2px;border-bottom-right-radius:2px;} "
-    "QToolButton:menu-button:pressed{background-color:%1;} "
-    "QToolButton{background-color:%2;border:1px solid %2;}";
+    "QToolButton::menu-button:hover{background-color:[pressed];border:2px solid [hover];"
+    "border-left:2px solid [hover];border-top-right-radius:2px;border-bottom-right-radius:2px;} "
+    "QToolButton:menu-button:pressed{background-color:[pressed];} "
+    "QToolButton{background-color:[hover];border:1px solid [hover];}";
 
 constexpr char rowBodyMarodi[] =
-    "QToolButton{background-color:%1;border 1px solid %2;} QToolButton::menu-button:hover{"
-    "background-color:%2;border:2px solid %2;border-left:2px solid %2;"
+    "QToolButton{background-color:[pressed];border 1px solid [hover];} "
+    "QToolButton::menu-button:hover{"
+    "background-color:[hover];border:2px solid [hover];border-left:2px solid [hover];"
     "border-top-right-radius:2px;border-bottom-right-radius:2px;} "
-    "QToolButton::menu-button:pressed{background-color:%1;}";
+    "QToolButton::menu-button:pressed{background-color:[pressed];}";
 
 constexpr char rowArrowLum[] =
-    "QToolButton{background-color:#ffffff;border:1px solid %1;border-radius:3px;} "
-    "QToolButton::menu-button{background-color:%1;border:1px solid %1;"
+    "QToolButton{background-color:[surface];border:1px solid [hover];border-radius:3px;} "
+    "QToolButton::menu-button{background-color:[hover];border:1px solid [hover];"
     "border-top-right-radius:3px;border-bottom-right-radius:3px;} "
-    "QToolButton::menu-button:pressed{background-color:%2;border:none;"
+    "QToolButton::menu-button:pressed{background-color:[pressed];border:none;"
     "%border-top-right-radius:3px;border-bottom-right-radius:3px;}";
 
 constexpr char rowBodyLum[] =
-    "QToolButton{background-color:%1;border-radius:3px;} "
-    "QToolButton:pressed{background-color:%2;} QToolButton:checked{background-color:%3;} "
-    "QToolButton::menu-button{background-color:#ffffff;border:1px solid %1;"
+    "QToolButton{background-color:[hover];border-radius:3px;} "
+    "QToolButton:pressed{background-color:[pressed];} "
+    "QToolButton:checked{background-color:[checked];} "
+    "QToolButton::menu-button{background-color:[surface];border:1px solid [hover];"
     "border-top-right-radius:3px;border-bottom-right-radius:3px;}";
 
 constexpr char menuArrowMarodi[] =
-    "QToolButton::menu-button:hover{background-color:%1;border:2px solid %2;"
-    "border-left:2px solid %2;border-top-right-radius:2px;border-bottom-right-radius:2px;} "
-    "QToolButton:menu-button:pressed{background-color:%1;} QToolButton::menu-arrow{"
-    "image: url(:/mr_toolbar/Resources/marodi/icons/icon19-22/arrowDown.svg);"
+    "QToolButton::menu-button:hover{background-color:[pressed];border:2px solid [hover];"
+    "border-left:2px solid [hover];border-top-right-radius:2px;border-bottom-right-radius:2px;} "
+    "QToolButton:menu-button:pressed{background-color:[pressed];} QToolButton::menu-arrow{"
+    "image: url(:/mr_toolbar/Resources/marodi/[arrow].svg);"
     "subcontrol-position: right center;top:0.1em;} "
-    "QToolButton{background-color:%2;border:2px solid %2;height:%3em;padding-left:2px;}} "
-    "QToolButton:pressed{background-color:%1;}";
+    "QToolButton{background-color:[hover];border:2px solid [hover];"
+    "height:[height]em;padding-left:2px;}} "
+    "QToolButton:pressed{background-color:[pressed];}";
 
 constexpr char menuBodyMarodi[] =
-    "QToolButton::menu-button:hover{background-color:%2;border:2px solid %2;"
-    "border-left:2px solid %2;border-top-right-radius:2px;border-bottom-right-radius:2px;} "
-    "QToolButton:menu-button:pressed{background-color:%2;} QToolButton::menu-arrow{"
-    "image: url(:/mr_toolbar/Resources/marodi/icons/icon19-22/arrowDown.svg);"
+    "QToolButton::menu-button:hover{background-color:[hover];border:2px solid [hover];"
+    "border-left:2px solid [hover];border-top-right-radius:2px;border-bottom-right-radius:2px;} "
+    "QToolButton:menu-button:pressed{background-color:[hover];} QToolButton::menu-arrow{"
+    "image: url(:/mr_toolbar/Resources/marodi/[arrow].svg);"
     "subcontrol-position: right center;top:0.1em;} "
-    "QToolButton{background-color:%1;border:2px solid %2;height:%3em;padding-left:2px;}} "
-    "QToolButton:pressed{background-color:%1;}";
+    "QToolButton{background-color:[pressed];border:2px solid [hover];"
+    "height:[height]em;padding-left:2px;}} "
+    "QToolButton:pressed{background-color:[pressed];}";
 
 constexpr char menuArrowLum[] =
-    "QToolButton{padding-left:3px;background-color:#ffffff;border:1px solid %3;"
-    "border-radius:3px;} QToolButton::menu-button{background-color:%3;border:none;} "
-    "QToolButton::menu-button:pressed{background-color:%2;border:none;} "
-    "QToolButton:checked{background-color:%1;border:none;}";
+    "QToolButton{padding-left:3px;background-color:[surface];border:1px solid [hover];"
+    "border-radius:3px;} QToolButton::menu-button{background-color:[hover];border:none;} "
+    "QToolButton::menu-button:pressed{background-color:[pressed];border:none;} "
+    "QToolButton:checked{background-color:[checked];border:none;}";
 
 constexpr char menuBodyLum[] =
-    "QToolButton::menu-button:hover{background-color:#ffffff;} QToolButton::menu-indicator{"
-    "image: url(:/mr_toolbar/Resources/lum/icons/icon19-22/arrowDown.svg);"
+    "QToolButton::menu-button:hover{background-color:[surface];} QToolButton::menu-indicator{"
+    "image: url(:/mr_toolbar/Resources/lum/[arrow].svg);"
     " subcontrol-position: right center;} "
-    "QToolButton{background-color:%1;border:1px solid %1;padding-left:3px;} "
-    "QToolButton:pressed{background-color:%2;} QToolButton:checked{background-color:%3;}";
+    "QToolButton{background-color:[hover];border:1px solid [hover];padding-left:3px;} "
+    "QToolButton:pressed{background-color:[pressed];} "
+    "QToolButton:checked{background-color:[checked];}";
 
 constexpr char groupArrowMarodi[] =
-    "QToolButton::menu-button:hover{background-color:%1;border:2px solid %2;"
-    "border-left:2px solid %2;border-top-right-radius:2px;border-bottom-right-radius:2px;} "
-    "QToolButton{background-color:%2;border:2px solid %2;} QToolButton:pressed{background:%1;}";
+    "QToolButton::menu-button:hover{background-color:[pressed];border:2px solid [hover];"
+    "border-left:2px solid [hover];border-top-right-radius:2px;border-bottom-right-radius:2px;} "
+    "QToolButton{background-color:[hover];border:2px solid [hover];} "
+    "QToolButton:pressed{background:[pressed];}";
 
 constexpr char groupBodyMarodi[] =
-    "QToolButton::menu-button:hover{background-color:%2;border:2px solid %2;"
-    "border-left:2px solid %2;border-top-right-radius:2px;border-bottom-right-radius:2px;} "
-    "QToolButton{background:%1;border:2px solid %2;}";
+    "QToolButton::menu-button:hover{background-color:[hover];border:2px solid [hover];"
+    "border-left:2px solid [hover];border-top-right-radius:2px;border-bottom-right-radius:2px;} "
+    "QToolButton{background:[pressed];border:2px solid [hover];}";
 
-// The colours are fixed; they do not come from the skin map. A scheme replaces them.
-constexpr QLatin1String white = latin1("#FFFFFF");
-constexpr QLatin1String grey = latin1("#EAEAEA");
-constexpr QLatin1String hovered = latin1("rgb(219,222,227)");
-constexpr QLatin1String pressed = latin1("rgb(183,185,190)");
-constexpr QLatin1String checked = latin1("rgb(195,198,202)");
+// What a scheme appends: what is checked can be told from both parts.
+constexpr char checkedInScheme[] = " QToolButton:checked{background-color:[checked];}"
+                                   " QToolButton:checked:hover{background-color:[checkedHover];}";
 
-struct Replacement
+/** What a role is while there is no scheme. The colours do not come from the skin map. */
+struct LightValue
 {
-    QLatin1String fixed;
-    QColor SchemeColours::*colour;
+    QLatin1String role;
+    QLatin1String marodi;
+    QLatin1String lum;
 };
 
-// White in capitals is the part under the pointer, of marodi; in small letters the other one, of
-// lum.
-constexpr Replacement replacements[] = {
-    {white, &SchemeColours::pressed},
-    {grey, &SchemeColours::hover},
-    {latin1("#ffffff"), &SchemeColours::surface},
-    {hovered, &SchemeColours::hover},
-    {pressed, &SchemeColours::pressed},
-    {checked, &SchemeColours::checked},
-    {latin1("#D3D3D3"), &SchemeColours::checked},
+// In marodi the part under the pointer is "pressed", and the other one "hover".
+constexpr LightValue lightValues[] = {
+    {latin1("[surface]"), latin1(""), latin1("#ffffff")},
+    {latin1("[hover]"), latin1("#EAEAEA"), latin1("rgb(219,222,227)")},
+    {latin1("[pressed]"), latin1("#FFFFFF"), latin1("rgb(183,185,190)")},
+    {latin1("[checked]"), latin1("#D3D3D3"), latin1("rgb(195,198,202)")},
 };
 
-QString filled(const char *sheet, const QStringList &values)
+constexpr QLatin1String arrow = latin1("[arrow]");
+constexpr QLatin1String lightArrow = latin1("icons/icon19-22/arrowDown");
+constexpr QLatin1String schemeArrow = latin1("dark/arrowDown");
+
+QString inLight(QString sheet, bool isLum)
 {
-    QString text = QString::fromLatin1(sheet);
-    for (const QString &value : values)
-        text = text.arg(value);
-    return text;
+    for (const LightValue &value : lightValues)
+        sheet.replace(value.role, isLum ? value.lum : value.marodi);
+    return sheet.replace(arrow, lightArrow);
 }
 
-/** What a button on a tool row shows in the skin lum, drop button or group button. */
-QString lumRowSheet(bool overArrow)
+QString inScheme(QString sheet, const SchemeColours &colours)
 {
-    return overArrow ? filled(rowArrowLum, {hovered, pressed})
-                     : filled(rowBodyLum, {hovered, pressed, checked});
+    sheet.replace(arrow, schemeArrow);
+    return schemeSheet(sheet + QLatin1String(checkedInScheme), colours);
 }
 
-QString menuSheet(bool overArrow, bool isLum, double scale)
+QString menuTemplate(bool overArrow, bool isLum, double scale)
 {
-    if (isLum) {
-        return overArrow ? filled(menuArrowLum, {checked, pressed, hovered})
-                         : filled(menuBodyLum, {hovered, pressed, checked});
-    }
+    if (isLum)
+        return QString::fromLatin1(overArrow ? menuArrowLum : menuBodyLum);
     constexpr double heightInEms = 2.0;
-    const QString height = QStringLiteral("%1").arg(heightInEms * scale);
-    return filled(overArrow ? menuArrowMarodi : menuBodyMarodi, {white, grey, height});
+    return QString::fromLatin1(overArrow ? menuArrowMarodi : menuBodyMarodi)
+        .replace(QLatin1String("[height]"), QStringLiteral("%1").arg(heightInEms * scale));
+}
+
+/** Of a button on a tool row in the skin lum, drop button or group button. */
+const char *lumRowTemplate(bool overArrow)
+{
+    return overArrow ? rowArrowLum : rowBodyLum;
 }
 
 } // namespace
 
-QString HoverSheets::dropButton(bool inExtendMenu, bool overArrow, bool isLum, double scale)
+QString HoverSheets::filled(const QString &sheet, bool isLum, const SchemeColours *colours)
+{
+    return colours ? inScheme(sheet, *colours) : inLight(sheet, isLum);
+}
+
+QString HoverSheets::dropButton(bool inExtendMenu, bool overArrow, bool isLum, double scale,
+                                const SchemeColours *colours)
 {
     if (inExtendMenu)
-        return menuSheet(overArrow, isLum, scale);
-    if (isLum)
-        return lumRowSheet(overArrow);
-    return filled(overArrow ? rowArrowMarodi : rowBodyMarodi, {white, grey});
+        return filled(menuTemplate(overArrow, isLum, scale), isLum, colours);
+    const char *marodi = overArrow ? rowArrowMarodi : rowBodyMarodi;
+    return filled(QString::fromLatin1(isLum ? lumRowTemplate(overArrow) : marodi), isLum, colours);
 }
 
-QString HoverSheets::groupButton(bool overArrow, bool isLum)
+QString HoverSheets::groupButton(bool overArrow, bool isLum, const SchemeColours *colours)
 {
-    if (isLum)
-        return lumRowSheet(overArrow);
-    return filled(overArrow ? groupArrowMarodi : groupBodyMarodi, {white, grey});
-}
-
-QString HoverSheets::inScheme(QString sheet, const SchemeColours *colours)
-{
-    if (!colours)
-        return sheet;
-
-    for (const Replacement &replacement : replacements)
-        sheet.replace(replacement.fixed, (colours->*replacement.colour).name());
-    sheet.replace(QLatin1String("icons/icon19-22/arrowDown"), QLatin1String("dark/arrowDown"));
-    return sheet
-           + QStringLiteral(" QToolButton:checked{background-color:%1;}"
-                            " QToolButton:checked:hover{background-color:%2;}")
-                 .arg(colours->checked.name(), colours->checkedHover.name());
+    const char *marodi = overArrow ? groupArrowMarodi : groupBodyMarodi;
+    return filled(QString::fromLatin1(isLum ? lumRowTemplate(overArrow) : marodi), isLum, colours);
 }

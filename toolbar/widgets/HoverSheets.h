@@ -7,7 +7,10 @@
 
 struct SchemeColours;
 
-/** The style sheets by which split buttons show which of their two parts the pointer is over. */
+/**
+ * The style sheets by which split buttons show which of their two parts the pointer is over.
+ * Without the colours of a scheme they have those of the skin.
+ */
 namespace HoverSheets {
 
 /**
@@ -16,16 +19,16 @@ namespace HoverSheets {
  * @param overArrow whether the pointer is over the arrow that opens the button's menu
  * @param scale physical dpi by 96; the height of a button in a menu follows it
  */
-QString dropButton(bool inExtendMenu, bool overArrow, bool isLum, double scale);
+QString dropButton(bool inExtendMenu, bool overArrow, bool isLum, double scale,
+                   const SchemeColours *colours = nullptr);
 
 /** The sheet of a checkable group button under the pointer. */
-QString groupButton(bool overArrow, bool isLum);
+QString groupButton(bool overArrow, bool isLum, const SchemeColours *colours = nullptr);
 
 /**
- * A sheet of fixed colours, one of these or a button's own, in those of a scheme: the part under
- * the pointer stands out from the other one, and what is checked can be told from both. Without
- * colours the sheet stays as it is.
+ * A button's own sheet, with its roles filled in: "[surface]", "[hover]", "[pressed]", "[checked]",
+ * and "[arrow]" for the file, below the skin's directory, of the arrow that opens a menu.
  */
-QString inScheme(QString sheet, const SchemeColours *colours);
+QString filled(const QString &sheet, bool isLum, const SchemeColours *colours);
 
 } // namespace HoverSheets

@@ -24,15 +24,15 @@ constexpr char extendMenuMarodi[] = "QMenu:item{padding-left:%1em;} QMenu::icon{
 
 constexpr char menuCopyLum[] =
     "QToolButton{height:%1em;transparent;padding-left:3px;} QToolButton::menu-indicator{"
-    "image: url(:/mr_toolbar/Resources/lum/icons/icon19-22/arrowDown.svg);"
+    "image: url(:/mr_toolbar/Resources/lum/[arrow].svg);"
     " subcontrol-position: right center;} "
     "QToolButton::menu-button{border:1px solid transparent;}";
 
 constexpr char menuCopyMarodi[] =
     "QToolButton{height:%2em;padding-left:4px;} QToolButton::menu-arrow{"
-    "image: url(:/mr_toolbar/Resources/marodi/icons/icon19-22/arrowDown.svg);"
+    "image: url(:/mr_toolbar/Resources/marodi/[arrow].svg);"
     " subcontrol-position: right center;top:0.1em;} QToolButton::menu-indicator{"
-    "image: url(:/mr_toolbar/Resources/marodi/icons/icon19-22/arrowDown.svg);"
+    "image: url(:/mr_toolbar/Resources/marodi/[arrow].svg);"
     " subcontrol-position: right center;top:0.1em;}";
 
 QString extendMenuSheet(double scale)
@@ -45,11 +45,13 @@ QString extendMenuSheet(double scale)
     return QString::fromLatin1(extendMenuMarodi).arg(scale * paddingInEms).arg(iconOffsetInEms);
 }
 
-QString menuCopySheet(double scale)
+QString menuCopySheet(double scale, const SchemeColours *colours)
 {
+    const bool isLum = Skin::isLum();
     // One marker each: the first text has only a %1, the second only a %2.
-    return Skin::isLum() ? QString::fromLatin1(menuCopyLum).arg(scale * 1.75)
-                         : QString::fromLatin1(menuCopyMarodi).arg(scale * 2.0);
+    const QString sheet = isLum ? QString::fromLatin1(menuCopyLum).arg(scale * 1.75)
+                                : QString::fromLatin1(menuCopyMarodi).arg(scale * 2.0);
+    return HoverSheets::filled(sheet, isLum, colours);
 }
 
 } // namespace
@@ -199,6 +201,7 @@ void MRDropButton::SetUpdateToolbar(bool update)
 void MRDropButton::SetInHideFlag(bool inHide)
 {
     m_inHide = inHide;
+    forgetHover();
 }
 
 void MRDropButton::SetName(QString name)
@@ -219,10 +222,10 @@ void MRDropButton::changeEvent(QEvent *event)
         Q_EMIT enabledChanged(isEnabledTo(parentWidget()));
 }
 
-QString MRDropButton::hoverSheet(bool isOverArrow) const
+QString MRDropButton::hoverSheet(bool isOverArrow, const SchemeColours *colours) const
 {
-    return HoverSheets::dropButton(m_inHide, isOverArrow, Skin::isLum(),
-                                   ScreenDensity::scale(this));
+    return HoverSheets::dropButton(m_inHide, isOverArrow, Skin::isLum(), ScreenDensity::scale(this),
+                                   colours);
 }
 
 void MRDropButton::followScheme()
@@ -231,8 +234,7 @@ void MRDropButton::followScheme()
     if (!m_inHide)
         return;
     m_savedStyleSheet.clear();
-    setStyleSheet(HoverSheets::inScheme(menuCopySheet(ScreenDensity::scale(this)),
-                                        Appearance::coloursFor(this)));
+    setStyleSheet(menuCopySheet(ScreenDensity::scale(this), Appearance::coloursFor(this)));
 }
 
 // As with moves, neither this handler nor the next one lets the base class have the event.

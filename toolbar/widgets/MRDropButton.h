@@ -91,7 +91,7 @@ protected:
     void changeEvent(QEvent *event) override;
     void enterEvent(QtCompat::EnterEvent *event) override;
     void leaveEvent(QEvent *event) override;
-    QString hoverSheet(bool isOverArrow) const override;
+    QString hoverSheet(bool isOverArrow, const SchemeColours *colours) const override;
     void followScheme() override;
 
 private:

@@ -22,7 +22,7 @@ constexpr char leftSheet[] =
     "border-left:2px solid transparent;border-top-right-radius:2px;"
     "border-bottom-right-radius:2px;} "
     "QToolButton{background:transparent;border:2px solid transparent;} "
-    "QToolButton:checked{background:%1;}";
+    "QToolButton:checked{background:[checked];}";
 
 } // namespace
 
@@ -75,9 +75,9 @@ void MRGroupButton::mouseMoveEvent(QMouseEvent *event)
         SplitButton::mouseMoveEvent(event);
 }
 
-QString MRGroupButton::hoverSheet(bool isOverArrow) const
+QString MRGroupButton::hoverSheet(bool isOverArrow, const SchemeColours *colours) const
 {
-    return HoverSheets::groupButton(menu() && isOverArrow, Skin::isLum());
+    return HoverSheets::groupButton(menu() && isOverArrow, Skin::isLum(), colours);
 }
 
 void MRGroupButton::leaveEvent(QEvent *event)
@@ -91,9 +91,10 @@ void MRGroupButton::followScheme()
 {
     if (!m_wasLeft)
         return;
-    // The checked colour is the same in both skins, deliberately.
-    const QString sheet = QString::fromLatin1(leftSheet).arg(QStringLiteral("#D3D3D3"));
-    setStyleSheet(HoverSheets::inScheme(sheet, Appearance::coloursFor(this)));
+    // The checked colour is that of marodi in both skins, deliberately.
+    constexpr bool isLum = false;
+    setStyleSheet(
+        HoverSheets::filled(QString::fromLatin1(leftSheet), isLum, Appearance::coloursFor(this)));
 }
 
 MRButtonGroup::MRButtonGroup(QObject *parent)

@@ -33,7 +33,7 @@ protected:
     void actionEvent(QActionEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void leaveEvent(QEvent *event) override;
-    QString hoverSheet(bool isOverArrow) const override;
+    QString hoverSheet(bool isOverArrow, const SchemeColours *colours) const override;
     void followScheme() override;
 
 private:

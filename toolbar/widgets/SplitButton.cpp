@@ -4,7 +4,8 @@
 #include "toolbar/widgets/SplitButton.h"
 
 #include "toolbar/skin/Appearance.h"
-#include "toolbar/widgets/HoverSheets.h"
+#include "toolbar/skin/ScreenDensity.h"
+#include "toolbar/skin/Skin.h"
 
 #include <QKeyEvent>
 #include <QStyleOptionToolButton>
@@ -22,10 +23,29 @@ void SplitButton::keyPressEvent(QKeyEvent *event)
 
 void SplitButton::mouseMoveEvent(QMouseEvent *)
 {
-    // The base class does not get the event, and the sheet is set on every move: deliberate, as the
-    // look of pressing and dragging depends on it.
-    setStyleSheet(
-        HoverSheets::inScheme(hoverSheet(isPointerOverArrow()), Appearance::coloursFor(this)));
+    // The base class does not get the event: deliberate, as the look of pressing and dragging
+    // depends on it.
+    const Hover now = hover();
+    // When the pointer leaves the button, that gets another sheet.
+    if (m_hover == now && styleSheet() == m_hoverSheet)
+        return;
+    m_hover = now;
+    m_hoverSheet = hoverSheet(now.isOverArrow, Appearance::coloursFor(this));
+    // Qt styles the button anew also for the same text.
+    if (styleSheet() != m_hoverSheet)
+        setStyleSheet(m_hoverSheet);
+}
+
+bool SplitButton::Hover::operator==(const Hover &other) const
+{
+    return isOverArrow == other.isOverArrow && hasMenu == other.hasMenu && isLum == other.isLum
+           && scale == other.scale && look == other.look;
+}
+
+SplitButton::Hover SplitButton::hover() const
+{
+    return {isPointerOverArrow(), menu() != nullptr, Skin::isLum(), ScreenDensity::scale(this),
+            m_look};
 }
 
 void SplitButton::changeEvent(QEvent *event)
