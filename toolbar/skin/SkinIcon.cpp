@@ -39,8 +39,7 @@ int drawnSideOf(const QString &path)
     return 0;
 }
 
-/** Whether a drawing is white all over: one for the coloured strip, and unseen elsewhere. */
-bool isForColouredStrip(const QString &path)
+bool isWhiteAllOver(const QString &path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
@@ -48,6 +47,16 @@ bool isForColouredStrip(const QString &path)
     const QByteArray drawing = file.readAll();
     const auto colours = drawing.count('#');
     return colours > 0 && colours == drawing.count("#ffffff");
+}
+
+/** Whether a drawing is one for the coloured strip: white all over, and unseen elsewhere. */
+bool isForColouredStrip(const QString &path)
+{
+    // Asked for each size of each icon, but files are read only once. Never destroyed, as the
+    // icons.
+    static auto &answers = *new QHash<QString, bool>;
+    const auto known = answers.constFind(path);
+    return known == answers.cend() ? *answers.insert(path, isWhiteAllOver(path)) : *known;
 }
 
 /**
