@@ -7,14 +7,19 @@
 #include "toolbar/build/Presentation.h"
 #include "toolbar/description/Controller.h"
 #include "toolbar/description/Names.h"
-#include "toolbar/skin/Appearance.h"
+#include "toolbar/skin/TurnedIcon.h"
 #include "toolbar/widgets/ToolTipCard.h"
 
-#include <QPointer>
 #include <QPushButton>
 #include <QVariant>
 
 namespace {
+
+/** What unfolds has the picture of what folds, upside down. */
+void showTurned(QPushButton *button, const Controller &record, const Presentation &how)
+{
+    button->setIcon(turnedIcon(how.icon(record)));
+}
 
 void replaceTip(QPushButton *button, const QString &tip)
 {
@@ -44,18 +49,7 @@ QPushButton *AdditionalMaker::makeUnfoldButton(QPushButton *foldButton,
 {
     QPushButton *button = makeButton(record);
     button->setObjectName(Name::unfold);
-    const auto turn = [foldButton, button] {
-        const QPixmap foldPixmap = foldButton->icon().pixmap(foldButton->iconSize());
-        if (!foldPixmap.isNull())
-            button->setIcon(QIcon(foldPixmap.transformed(QTransform().rotate(180))));
-    };
-    turn();
-    const QPointer<QPushButton> fold(foldButton);
-    QObject::connect(&m_factory.presentation().appearance(), &Appearance::changed, button,
-                     [fold, turn] {
-                         if (fold)
-                             turn();
-                     });
+    m_factory.presentation().show<&showTurned>(button, record);
 
     const auto separator = record.tooltip.indexOf(QLatin1Char(';'));
     if (separator >= 0) {

@@ -98,8 +98,7 @@ MRMenuButton *AppButtonMaker::makeButton(MRMenuButton *anchor) const
 void AppButtonMaker::makeMenu(MRMenuButton *button, const Controller &record,
                               CustomMenuStyle *style) const
 {
-    auto *menu = new QMenu(button);
-    markMenu(menu, false);
+    QMenu *menu = m_factory.makeMenu(button, false);
     m_factory.presentation().show<&showTitle>(menu, record);
     menu->setObjectName(record.name);
     menu->setProperty(Property::module, Module::menu);

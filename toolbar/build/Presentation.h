@@ -63,7 +63,6 @@ public:
     /** Gives all controls their lengths again. */
     void fitAgain();
 
-    const Appearance &appearance() const { return m_appearance; }
     QString text(const Controller &record) const;
     /** The tooltip as described; what is to be seen of it, SetWidgetToolTip() knows. */
     QString toolTip(const Controller &record) const;

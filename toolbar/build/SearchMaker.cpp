@@ -9,10 +9,9 @@
 #include "toolbar/build/Presentation.h"
 #include "toolbar/description/Controller.h"
 #include "toolbar/description/Names.h"
-#include "toolbar/skin/Appearance.h"
+#include "toolbar/widgets/IconLabel.h"
 #include "toolbar/widgets/MRSearchBar.h"
 
-#include <QLabel>
 #include <QMenu>
 #include <QPushButton>
 
@@ -52,16 +51,13 @@ FieldRecords fieldRecords(const QList<Controller *> &records)
     return found;
 }
 
-void showLabel(QLabel *label, const Controller &record, const Presentation &how)
-{
-    label->setText(how.text(record));
-}
-
-void drawIcon(QLabel *label, const Controller &record, const Presentation &how)
+void showLabel(IconLabel *label, const Controller &record, const Presentation &how)
 {
     const QIcon icon = how.icon(record);
-    if (!icon.isNull())
-        label->setPixmap(icon.pixmap(how.iconSize(16.0)));
+    if (icon.isNull())
+        label->setText(how.text(record));
+    else
+        label->setIcon(icon, how.iconSize(16.0));
 }
 
 void showField(MRSearchBar *field, const Controller &record, const Presentation &how)
@@ -100,13 +96,9 @@ MRSearchBar *SearchMaker::makeField()
 
 QLabel *SearchMaker::makeLabel(const Controller &record) const
 {
-    auto *label = new QLabel;
+    auto *label = new IconLabel;
     label->setObjectName(record.name);
-    Presentation &presentation = m_factory.presentation();
-    presentation.show<&showLabel>(label, record);
-    presentation.fit<&drawIcon>(label, record);
-    QObject::connect(&presentation.appearance(), &Appearance::changed, label,
-                     [label, &record, &presentation] { drawIcon(label, record, presentation); });
+    m_factory.presentation().fit<&showLabel>(label, record);
     return label;
 }
 
