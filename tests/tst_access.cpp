@@ -1,15 +1,26 @@
 // SPDX-FileCopyrightText: The MRToolBar authors
 // SPDX-License-Identifier: MIT
 
+#include "tests/support/Describe.h"
+#include "tests/support/Menus.h"
+#include "tests/support/Pointer.h"
 #include "tests/support/TestDocuments.h"
 #include "tests/support/TestHost.h"
+#include "toolbar/commands/ActionData.h"
+#include "toolbar/widgets/MRMainToolBar.h"
 
 #include <QAccessible>
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QMenu>
+#include <QShortcut>
 #include <QStackedWidget>
 #include <QToolBar>
+#include <QToolButton>
+#include <QWindow>
+
+using namespace Describe;
 
 namespace {
 
@@ -36,9 +47,94 @@ bool isWithoutMeaning(const QWidget *control)
            || (button && button->text().isEmpty() && button->icon().isNull());
 }
 
+/** Opens the menu of a button and returns how many entries can be chosen. */
+int entriesOf(QToolButton *button)
+{
+    int entries = 0;
+    whenMenuPops([&entries](QMenu *menu) { entries = menu->actions().size(); });
+    QTest::mouseClick(button, Qt::LeftButton, {}, arrowOf(button));
+    return entries;
+}
+
+const QString withKey = "shortcut='Ctrl+T'";
+const QKeySequence key("Ctrl+T");
+
+QString appMenu(const QString &entries)
+{
+    return section("appbutton", menu("menu_file", entries));
+}
+
+/** Tabs "row", on show, and "other". */
+QString tabs(const QString &controls, const QString &otherControls = button("plain"))
+{
+    return row(controls, tab("other", otherControls));
+}
+
+/** A host with a field of its own and, if requested, a shortcut for the key. */
+class KeyHost : public TestHost
+{
+public:
+    explicit KeyHost(const QString &sections, bool hasShortcut = false)
+        : TestHost(sections)
+        , active(&facade(), &MRToolBar::DoActive)
+    {
+        window().setCentralWidget(field);
+        showEnabled();
+        field->setFocus();
+        if (!hasShortcut)
+            return;
+        auto *shortcut = new QShortcut(key, &window());
+        QObject::connect(shortcut, &QShortcut::activated, shortcut, [this] { ++hostCalls; });
+    }
+
+    void openMenus()
+    {
+        whenMenuPops([](QMenu *) {});
+        click("menu_file");
+        enableEverything();
+    }
+    void openTab(const QString &name)
+    {
+        find<QPushButton>(name)->click();
+        enableEverything();
+    }
+
+    /** Sends the key to the focused widget, both directly and through the window. */
+    void press(QWidget *focused)
+    {
+        // A menu that has just been closed may still be the active window.
+        window().activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window()));
+        focused->setFocus(Qt::TabFocusReason);
+        active.clear();
+        hostCalls = 0;
+        QTest::keyClick(focused, Qt::Key_T, Qt::ControlModifier);
+        QTest::keyClick(focused->window()->windowHandle(), Qt::Key_T, Qt::ControlModifier);
+        QCoreApplication::processEvents();
+    }
+    QStringList commands() const { return texts(active); }
+
+    QSignalSpy active;
+    QLineEdit *const field = new QLineEdit;
+    int hostCalls = 0;
+
+    /** The widgets that may have the focus: the host's field and the controls of the toolbar. */
+    QWidgetList focusPlaces() const
+    {
+        QWidgetList places{field};
+        const QWidgetList controls = shownControls(toolBar());
+        for (QWidget *control : controls) {
+            if (qobject_cast<QAbstractButton *>(control) && control->isEnabled()
+                && control->focusPolicy() != Qt::NoFocus)
+                places.append(control);
+        }
+        return places;
+    }
+};
+
 } // namespace
 
-/** Accessible names and roles, and the use by the keyboard alone. */
+/** Accessible names and roles, the use by the keyboard alone, and the shortcuts of entries. */
 class AccessTest : public QObject
 {
     Q_OBJECT
@@ -48,9 +144,8 @@ private Q_SLOTS:
 
     void shouldGiveEveryControlAnAccessibleNameAndRole()
     {
-        QFETCH(int, skin);
         QFETCH(QString, path);
-        const SkinChoice choice(skin);
+        const SkinChoice choice;
         const auto host = TestHost::withFile(path);
         host->show();
         const QWidgetList controls = shownControls(host->toolBar());
@@ -58,9 +153,8 @@ private Q_SLOTS:
         for (QWidget *control : controls) {
             QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(control);
             QVERIFY(accessible);
-            const QString place = QLatin1String(control->metaObject()->className())
-                                  + QLatin1Char(' ') + control->objectName() + " in "
-                                  + control->parentWidget()->objectName();
+            const QString place =
+                control->parentWidget()->objectName() + '/' + control->objectName();
             QVERIFY2(accessible->role() != QAccessible::NoRole, qPrintable(place));
             if (!isWithoutMeaning(control))
                 QVERIFY2(!accessible->text(QAccessible::Name).isEmpty(), qPrintable(place));
@@ -71,9 +165,8 @@ private Q_SLOTS:
 
     void shouldMoveTheFocusAlongTheTopLineThenTheRowByTab()
     {
-        QFETCH(int, skin);
         QFETCH(QString, path);
-        const SkinChoice choice(skin);
+        const SkinChoice choice;
         const auto host = TestHost::withFile(path);
         host->show();
         host->enableEverything();
@@ -100,9 +193,41 @@ private Q_SLOTS:
         }
     }
 
+    void shouldReportEveryCommandAndOpenEveryMenuOfARowByMouse_data() { TestDocuments::addAll(); }
+
+    void shouldReportEveryCommandAndOpenEveryMenuOfARowByMouse()
+    {
+        QFETCH(QString, path);
+        const SkinChoice choice;
+        const auto host = TestHost::withFile(path);
+        connect(&host->facade(), &MRToolBar::DoRequestAuthority, this,
+                [&host] { host->enableEverything(); });
+        host->enableEverything();
+        host->show();
+        QSignalSpy active(&host->facade(), &MRToolBar::DoActive);
+        int commands = 0;
+        host->openEachTab([&](const QString &tab) {
+            const auto *row = host->find<MRMainToolBar>(tab);
+            for (auto *button : row ? row->findChildren<QToolButton *>() : QList<QToolButton *>()) {
+                const QAction *action = button->defaultAction();
+                if (!button->isVisible() || button->visibleRegion().isEmpty())
+                    continue;
+                if (button->menu()) {
+                    QVERIFY2(entriesOf(button) > 0, qPrintable(button->objectName()));
+                } else if (action && ActionData::isAvailable(action) && action->isEnabled()) {
+                    active.clear();
+                    QTest::mouseClick(button, Qt::LeftButton);
+                    QTRY_COMPARE(TestHost::texts(active), QStringList(action->objectName()));
+                    ++commands;
+                }
+            }
+        });
+        QVERIFY(commands >= 10);
+    }
+
     void shouldGiveTheFocusByNameToWhatIsOnShowOnly()
     {
-        const auto host = TestHost::withShipped(QStringLiteral("marodi/mr_toolbar.release.xml"));
+        const auto host = TestHost::withRelease();
         auto *document = new QLineEdit;
         host->window().setCentralWidget(document);
         host->window().resize(host->scaled(500), host->scaled(400));
@@ -123,36 +248,26 @@ private Q_SLOTS:
         QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("menu_file"));
 
         document->setFocus();
-        host->setUsable(QStringLiteral("d_gotopage"), false);
+        host->setUsable("d_gotopage", false);
         for (const char *name : {"d_gotopage", "st_icon", "no control"}) {
             QVERIFY2(!giveFocus(name), name);
             QCOMPARE(QApplication::focusWidget(), document);
         }
-        host->setUsable(QStringLiteral("d_gotopage"), true);
-        host->setVisible(QStringLiteral("d_gotopage"), false);
+        host->setUsable("d_gotopage", true);
+        host->setVisible("d_gotopage", false);
         QVERIFY(!giveFocus("d_gotopage"));
-        delete host->find<QToolBar>(QStringLiteral("mrtoolbar"));
+        delete host->find<QToolBar>("mrtoolbar");
         QVERIFY(!giveFocus(""));
-    }
-
-    void shouldReturnTheFocusToTheDocumentByEscape_data()
-    {
-        QTest::addColumn<bool>("isEmbedded");
-        QTest::newRow("window of its own") << false;
-        QTest::newRow("part of another window") << true;
     }
 
     void shouldReturnTheFocusToTheDocumentByEscape()
     {
-        QFETCH(bool, isEmbedded);
-        QMainWindow outer;
-        const auto host = TestHost::withShipped(QStringLiteral("marodi/mr_toolbar.release.xml"));
-        if (isEmbedded) {
-            outer.setCentralWidget(new QWidget);
-            host->window().setParent(outer.centralWidget());
-            outer.resize(host->window().size());
-            outer.show();
-        }
+        QMainWindow outer; // Hosts also embed their window in another one.
+        const auto host = TestHost::withRelease();
+        outer.setCentralWidget(new QWidget);
+        host->window().setParent(outer.centralWidget());
+        outer.resize(host->window().size());
+        outer.show();
         auto *document = new QLineEdit;
         host->window().setCentralWidget(document);
         host->show();
@@ -167,6 +282,115 @@ private Q_SLOTS:
         // A click on a command does not take the focus from the document.
         host->click(QStringLiteral("e_preference"));
         QCOMPARE(QApplication::focusWidget(), document);
+    }
+
+    void shouldShowTheKeysOfApplicationMenusWithoutTakingThem_data()
+    {
+        QTest::addColumn<QString>("sections");
+        const QString file = appMenu(item("x", withKey) + menu("inner", item("y", withKey)));
+        const QString drop = menu("drop", item("x") + item("z"));
+        QTest::newRow("in the menu alone") << file + tabs(button("plain"));
+        QTest::newRow("on two rows") << file + tabs(button("x"), button("x"));
+        QTest::newRow("on a row that is filled later") << file + tabs(button("a"), button("x"));
+        QTest::newRow("in a group") << file + tabs(group("g", button("x") + button("y")));
+        QTest::newRow("in a group that is made later")
+            << file + tabs(button("a"), group("g", button("x")));
+        QTest::newRow("in a drop menu") << file + tabs(drop);
+        QTest::newRow("in the quick access bar")
+            << file + section("quickaccessbar", button("x")) + tabs(button("x"));
+        QTest::newRow("in the options of the search")
+            << file + section("searchbar", button("s_next") + optionsButton("st_set", item("x")));
+    }
+
+    void shouldShowTheKeysOfApplicationMenusWithoutTakingThem()
+    {
+        QFETCH(QString, sections);
+        for (const int skin : {marodi, lum}) {
+            const SkinChoice choice(skin);
+            for (const bool hasShortcut : {true, false}) {
+                KeyHost host(sections, hasShortcut);
+                host.openMenus();
+                QCOMPARE(host.action("x")->shortcut(), key);
+                for (const char *tab : {"", "other", "row"}) {
+                    if (host.find<QPushButton>(tab))
+                        host.openTab(tab);
+                    const QWidgetList places = host.focusPlaces();
+                    for (QWidget *place : places) {
+                        host.press(place);
+                        QVERIFY2(host.commands().isEmpty(), qPrintable(place->objectName()));
+                        QCOMPARE(host.hostCalls, hasShortcut ? 2 : 0);
+                    }
+                }
+                QCOMPARE(host.action("x")->shortcut(), key);
+            }
+        }
+    }
+
+    void shouldNotTriggerByAKeyInAnOpenMenu()
+    {
+        KeyHost host(appMenu(item("x", withKey)) + tabs(button("x")));
+        host.openMenus();
+        auto *rowButton = host.focusPlaces().last();
+        QCOMPARE(rowButton->actions(), QList<QAction *>{host.action("x")});
+        rowButton->setFocus(Qt::TabFocusReason);
+        const QSignalSpy triggers(host.action("x"), &QAction::triggered);
+        bool wasOpen = false;
+        whenMenuPops([&wasOpen, &host](QMenu *menu) {
+            wasOpen = host.action("x")->shortcut() == key;
+            QTest::keyClick(menu, Qt::Key_T, Qt::ControlModifier);
+            QTest::keyClick(menu->windowHandle(), Qt::Key_T, Qt::ControlModifier);
+        });
+        host.click("menu_file");
+        QVERIFY(wasOpen);
+        QCOMPARE(triggers.count(), 0);
+    }
+
+    void shouldKeepTheKeyOfARowMenuWorking()
+    {
+        const QString drop = menu("drop", item("x", withKey) + item("z"));
+        for (const QString &entry : {item("y"), item("x", withKey)}) { // Alone and shared.
+            for (const bool menusFirst : {false, true}) {
+                KeyHost host(appMenu(entry) + tabs(button("plain"), drop));
+                if (menusFirst)
+                    host.openMenus();
+                host.openTab("other");
+                host.press(host.field);
+                QCOMPARE(host.commands(), (QStringList{"x", "x"}));
+                host.openMenus();
+                host.press(host.field);
+                QCOMPARE(host.commands(), (QStringList{"x", "x"}));
+                host.openTab("row");
+                host.press(host.field);
+                QCOMPARE(host.commands(), QStringList());
+            }
+        }
+    }
+
+    void shouldKeepTheKeyOfASearchOptionWorking()
+    {
+        KeyHost host(
+            appMenu(item("y"))
+            + section("searchbar", button("s_next") + optionsButton("st_set", item("x", withKey))));
+        const QSignalSpy triggers(host.action("x"), &QAction::triggered);
+        host.press(host.field);
+        QCOMPARE(triggers.count(), 2);
+        host.openMenus();
+        host.press(host.field);
+        QCOMPARE(triggers.count(), 4);
+    }
+
+    void shouldPreferTheKeyOfTheMenuToTheRowsAndThatOfTheHostToBoth()
+    {
+        KeyHost host(appMenu(item("x", withKey)) + tabs(menu("drop", item("x", "shortcut='F2'"))));
+        host.openMenus();
+        QCOMPARE(host.action("x")->shortcut(), key);
+        host.press(host.field);
+        QCOMPARE(host.commands(), QStringList());
+        KeyHost other(appMenu(item("x", withKey)) + tabs(button("x")));
+        other.action("x")->setShortcut(key);
+        other.openMenus();
+        other.press(other.field);
+        QCOMPARE(other.commands(), (QStringList{"x", "x"}));
     }
 };
 

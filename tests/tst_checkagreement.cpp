@@ -58,13 +58,11 @@ private Q_SLOTS:
     void shouldReadAsTheParserDoes()
     {
         QFETCH(QString, path);
-
         const QDomDocument parsed = TestDocuments::read(path);
         const SourceDocument source = readDocument(TestDocuments::content(path));
         QVERIFY(!source.fault);
         const QVector<int> sections = source.elements.front().children;
         QCOMPARE(sections.size(), 5);
-
         QDomElement section = parsed.documentElement().firstChildElement();
         for (const int index : sections) {
             QList<Controller *> records;
@@ -87,54 +85,40 @@ private Q_SLOTS:
         }
     }
 
-    void shouldReportAsErrorsWhatTheToolbarLeavesOut_data()
-    {
-        QTest::addColumn<QByteArray>("description");
-        QTest::addColumn<bool>("isBuilt");
-
-        const QByteArray button = "<button action='wanted' text='Wanted'/>";
-        const QByteArray extra = "<extra usable='true'><label name='wanted'/></extra>";
-        QTest::newRow("in place") << row(button) << true;
-        QTest::newRow("wrong element") << row("<menuitem action='wanted'/>") << false;
-        QTest::newRow("below a button")
-            << row("<button action='a'>" + button + "</button>") << false;
-        QTest::newRow("extra group") << row(extra, scalable) << true;
-        QTest::newRow("idle extra group") << row(extra) << false;
-        QTest::newRow("third menu")
-            << document("<toolbar_appbutton><menu name='a'/><menu name='b'/><menu name='wanted'/>"
-                        "</toolbar_appbutton>")
-            << false;
-        QTest::newRow("unknown section")
-            << document("<toolbar_additional>" + button + "</toolbar_additional>") << false;
-        QTest::newRow("known section")
-            << document("<toolbar_addtional>" + button + "</toolbar_addtional>") << true;
-        QTest::newRow("tab all the same")
-            << document("<toolbar_tabbar><button name='wanted' checkable='true' checked='true'/>"
-                        "</toolbar_tabbar>")
-            << true;
-        QTest::newRow("search field alone")
-            << document("<toolbar_searchbar><lineedit action='wanted'/></toolbar_searchbar>")
-            << false;
-        QTest::newRow("no prefix") << row(button).replace(" prefix=\"\"", "") << false;
-    }
-
     void shouldReportAsErrorsWhatTheToolbarLeavesOut()
     {
-        QFETCH(QByteArray, description);
-        QFETCH(bool, isBuilt);
-
-        QDomDocument parsed;
-        QVERIFY(parsed.setContent(description));
-        QMainWindow window;
-        QDomElement root = parsed.documentElement();
-        const MRToolBar toolBar(&window, root, {}, ToolBarLeft);
-        QCOMPARE(window.findChild<QObject *>("wanted") != nullptr, isBuilt);
-
-        const QVector<Finding> findings = checkDescription(description);
-        const bool hasErrors =
-            std::any_of(findings.begin(), findings.end(),
-                        [](const Finding &one) { return one.severity == Severity::Error; });
-        QCOMPARE(hasErrors, !isBuilt);
+        const QByteArray button = "<button action='wanted' text='Wanted'/>";
+        const QByteArray idle = "<extra usable='true'><label name='wanted'/></extra>";
+        const QList<std::pair<QByteArray, bool>> descriptions{
+            {row(button), true},
+            {row("<menuitem action='wanted'/>"), false},
+            {row("<button action='a'>" + button + "</button>"), false},
+            {row(idle, "scalable='true'"), true},
+            {row(idle), false},
+            {document("<toolbar_appbutton><menu name='a'/><menu name='b'/><menu name='wanted'/>"
+                      "</toolbar_appbutton>"),
+             false},
+            {document("<toolbar_additional>" + button + "</toolbar_additional>"), false},
+            {document("<toolbar_addtional>" + button + "</toolbar_addtional>"), true},
+            {document("<toolbar_tabbar><button name='wanted' checkable='true' checked='true'/>"
+                      "</toolbar_tabbar>"),
+             true},
+            {document("<toolbar_searchbar><lineedit action='wanted'/></toolbar_searchbar>"), false},
+            {row(button).replace(" prefix=\"\"", ""), false}};
+        for (const auto &[description, isBuilt] : descriptions) {
+            QDomDocument parsed;
+            QVERIFY(parsed.setContent(description));
+            QMainWindow window;
+            QDomElement root = parsed.documentElement();
+            const MRToolBar toolBar(&window, root, {}, ToolBarLeft);
+            const bool wasBuilt = window.findChild<QObject *>("wanted");
+            QVERIFY2(wasBuilt == isBuilt, description.constData());
+            const QVector<Finding> findings = checkDescription(description);
+            const bool hasErrors =
+                std::any_of(findings.begin(), findings.end(),
+                            [](const Finding &one) { return one.severity == Severity::Error; });
+            QVERIFY2(hasErrors != isBuilt, description.constData());
+        }
     }
 
     void shouldFindTheIconsThatTheToolbarFinds()

@@ -64,7 +64,6 @@ private Q_SLOTS:
         QCOMPARE(areShown(parsed("<b visible='False' usable='0' available='FALSE'/>")), all);
         QCOMPARE(areShown(parsed("<b visible='false' usable='false' available='false'/>")),
                  QList<bool>({false, false, false}));
-
         const QByteArray flags = "<b checkable='%1' checked='%1' check='%1' editable='%1' "
                                  "switchable='%1' withaction='%1' scalable='%1' doubleclick='%1'/>";
         for (const QByteArray word : {"1", "True", "yes", "true"}) {
@@ -91,7 +90,6 @@ private Q_SLOTS:
         parse("<toolbar_maintoolbar><a name='1'/></toolbar_maintoolbar><toolbar_whole/>"
               "<toolbar_tabbar/><Toolbar_tabbar><a name='1'/></Toolbar_tabbar>");
         QVERIFY(m_records.isEmpty());
-
         QDomElement element;
         ParseXMLElement(nullptr, &m_records);
         ParseXMLElement(&element, nullptr);
@@ -108,8 +106,7 @@ private Q_SLOTS:
               "text='x'/></extra></toolbar_tabbar>");
         QCOMPARE(m_records.size(), 3);
         QCOMPARE(m_records.at(0)->type, QString("sperator"));
-        QVERIFY(m_records.at(1)->type.isEmpty());
-        QVERIFY(m_records.at(2)->type.isEmpty());
+        QVERIFY(m_records.at(1)->type.isEmpty() && m_records.at(2)->type.isEmpty());
         QCOMPARE(m_records.at(2)->children.size(), 1);
     }
 

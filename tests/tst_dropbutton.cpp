@@ -46,6 +46,11 @@ public:
         QVERIFY(button() && copy);
     }
 
+    void showWithButton()
+    {
+        row->addAction(action);
+        show();
+    }
     void show()
     {
         window.show();
@@ -78,57 +83,45 @@ private Q_SLOTS:
     void shouldShowTheChosenEntryAndRepeatItOnAClick()
     {
         Row fixture;
-        fixture.row->addAction(fixture.action);
-        fixture.show();
+        fixture.showWithButton();
         MRDropButton *button = fixture.button();
         const QSignalSpy repeated(fixture.line, &QAction::triggered);
         fixture.line->setCheckable(true);
-
         fixture.line->trigger();
         QCOMPARE(button->text(), QStringLiteral("Line   "));
         QCOMPARE(shownColour(*button), QColor(Qt::red));
         QVERIFY(button->isChecked());
         QCOMPARE(button->GetCurrentAction(), fixture.line);
-
         QTest::mouseClick(button, Qt::LeftButton, {}, bodyOf(button));
         QCOMPARE(repeated.count(), 2);
         QVERIFY(button->isChecked() && fixture.line->isChecked());
-
         // An entry without an icon does not change the icon of the button.
         fixture.plain->trigger();
         QCOMPARE(button->text(), QStringLiteral("Plain   "));
         QCOMPARE(shownColour(*button), QColor(Qt::red));
     }
 
-    void shouldOpenTheMenuByKeyAndWithNothingToRepeat_data()
-    {
-        QTest::addColumn<QString>("entry"); // The state of the entry that a click repeats.
-        for (const char *entry : {"none", "disabled", "deleted", "usable"})
-            QTest::newRow(entry) << entry;
-    }
-
     void shouldOpenTheMenuByKeyAndWithNothingToRepeat()
     {
-        QFETCH(QString, entry);
-        Row fixture;
-        fixture.row->addAction(fixture.action);
-        fixture.show();
-        MRDropButton *button = fixture.button();
-        const QSignalSpy triggered(&fixture.menu, &QMenu::triggered);
-        if (entry != "none")
-            button->SetAction(fixture.line);
-        fixture.line->setEnabled(entry != "disabled");
-        if (entry == "deleted")
-            delete fixture.line;
-
-        QMenu *popped = nullptr;
-        whenMenuPops([&popped](QMenu *menu) { popped = menu; });
-        if (entry == "usable")
-            QTest::keyClick(button, Qt::Key_Down, Qt::AltModifier);
-        else
-            QTest::mouseClick(button, Qt::LeftButton, {}, bodyOf(button));
-        QTRY_COMPARE(popped, &fixture.menu);
-        QCOMPARE(triggered.count(), 0);
+        for (const QString entry : {"none", "disabled", "deleted", "usable"}) {
+            Row fixture;
+            fixture.showWithButton();
+            MRDropButton *button = fixture.button();
+            const QSignalSpy triggered(&fixture.menu, &QMenu::triggered);
+            if (entry != "none")
+                button->SetAction(fixture.line);
+            fixture.line->setEnabled(entry != "disabled");
+            if (entry == "deleted")
+                delete fixture.line;
+            QMenu *popped = nullptr;
+            whenMenuPops([&popped](QMenu *menu) { popped = menu; });
+            if (entry == "usable")
+                QTest::keyClick(button, Qt::Key_Down, Qt::AltModifier);
+            else
+                QTest::mouseClick(button, Qt::LeftButton, {}, bodyOf(button));
+            QTRY_COMPARE(popped, &fixture.menu);
+            QCOMPARE(triggered.count(), 0);
+        }
     }
 
     void shouldGoBackOneSwitchOnReset()
@@ -138,7 +131,6 @@ private Q_SLOTS:
         fixture.line->trigger();
         fixture.oval->trigger();
         QCoreApplication::processEvents();
-
         fixture.button()->Reset();
         QCOMPARE(fixture.button()->text(), QStringLiteral("Line   "));
         QCOMPARE(fixture.copy->text(), QStringLiteral("    Line"));
@@ -159,19 +151,15 @@ private Q_SLOTS:
         QVERIFY(!button->isChecked() && !fixture.copy->isChecked());
         QCOMPARE(button->property("position").toString(), QStringLiteral("toolbar"));
         QCOMPARE(fixture.copy->property("position").toString(), QStringLiteral("toolbarextend"));
-
         fixture.oval->trigger();
         QCOMPARE(fixture.copy->text(), QStringLiteral("    Oval"));
         QVERIFY(button->isChecked() && fixture.copy->isChecked());
-
         button->setChecked(false);
         QVERIFY(!fixture.copy->isChecked());
         fixture.copy->setChecked(true);
         QVERIFY(button->isChecked());
-
         button->DoSwitchSlot(fixture.plain);
         QTRY_COMPARE(fixture.copy->GetCurrentAction(), fixture.plain);
-
         button->setEnabled(false);
         QVERIFY(!fixture.copy->isEnabled());
     }
@@ -190,7 +178,6 @@ private Q_SLOTS:
         fixture.button()->setEnabled(false); // The state of the action overrides this.
         fixture.action->setEnabled(true);
         QVERIFY(fixture.button()->isEnabled() && fixture.copy->isEnabled());
-
         fixture.action->setVisible(false);
         QVERIFY(fixture.button()->isHidden() && fixture.copy->isHidden());
         fixture.action->setVisible(true);
@@ -202,17 +189,14 @@ private Q_SLOTS:
         Row fixture;
         fixture.addWithCopy();
         fixture.extendMenu.reset();
-        QVERIFY(!fixture.copy);
-        QVERIFY(!fixture.action->GetExtendMenu());
+        QVERIFY(!fixture.copy && !fixture.action->GetExtendMenu());
         fixture.line->trigger();
         fixture.action->DoDelayCloseMenuSlot();
         fixture.action->setEnabled(false);
-
         fixture.addWithCopy();
         QCOMPARE(fixture.action->GetExtendMenu(), fixture.extendMenu.get());
         QCOMPARE(fixture.copy->GetCurrentAction(), fixture.line);
         QVERIFY(fixture.copy->isChecked() && !fixture.copy->isEnabled());
-
         delete fixture.button();
         QVERIFY(!fixture.action->GetWidget());
         fixture.oval->trigger();
@@ -270,24 +254,20 @@ private Q_SLOTS:
             const SkinChoice choice(skin);
             Row fixture;
             fixture.action->SetCheckable(isSplit);
-            fixture.row->addAction(fixture.action);
-            fixture.show();
+            fixture.showWithButton();
             MRDropButton *button = fixture.button();
             // The size on a row, because the style sheets alone would move the arrow.
             button->setFixedSize(90, 50);
             const QString body = HoverSheets::dropButton(false, false, skin == lum, 1.0);
             const QString arrow = HoverSheets::dropButton(false, isSplit, skin == lum, 1.0);
-
             QTest::mouseMove(button, bodyOf(button));
             QTRY_COMPARE(button->styleSheet(), body);
             QTest::mouseMove(button, arrowOf(button));
             QTRY_COMPARE(button->styleSheet(), arrow);
-
             // A move of the pointer sets the style sheet again.
             button->setStyleSheet(QString());
             QTest::mouseMove(button, arrowOf(button) + QPoint(0, 1));
             QTRY_COMPARE(button->styleSheet(), arrow);
-
             movePointerAway();
             QTRY_VERIFY(button->styleSheet().isEmpty());
         }
@@ -302,7 +282,6 @@ private Q_SLOTS:
         button.setGeometry(50, 80, 120, 40);
         button.setStyleSheet(QStringLiteral("QToolButton{height:2em;}"));
         fixture.show();
-
         QTest::mouseMove(&button, bodyOf(&button));
         QTRY_COMPARE(button.styleSheet(),
                      HoverSheets::dropButton(true, false, false, button.physicalDpiX() / 96.0));

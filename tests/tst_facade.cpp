@@ -4,6 +4,13 @@
 #include "tests/support/Describe.h"
 #include "tests/support/TestHost.h"
 
+#include <QApplication>
+#include <QComboBox>
+#include <QMenu>
+#include <QMenuBar>
+#include <QToolBar>
+#include <QWindow>
+
 using namespace Describe;
 
 namespace {
@@ -23,7 +30,6 @@ void verifyIsNeutral(MRToolBar &facade)
     QVERIFY(!facade.IsSupportByToolBar(name) && !facade.GetControlCheckedState(name));
     QCOMPARE(facade.GetQuickAccessButtonList() + facade.GetToolBarStyleSheet(), QString());
     QCOMPARE(facade.GetControlGeometry(name), QRect(QPoint(0, 0), QPoint(-1, -1)));
-
     facade.DoSetControlUsableStateSlot(name, true);
     facade.DoSetControlCheckedStateSlot(name, true);
     facade.DoSetControlVisibleStateSlot(name, true);
@@ -32,9 +38,41 @@ void verifyIsNeutral(MRToolBar &facade)
     facade.DoResetToolbarSlot();
 }
 
+/** Clicks with the right button, as the windowing system would report it. */
+void rightClick(const QWidget *widget, const QPoint &place)
+{
+    const QWidget *window = widget->window();
+    QTest::mouseClick(window->windowHandle(), Qt::RightButton, {}, widget->mapTo(window, place));
+}
+
+/** Closes the open menu and returns the texts of its entries. */
+QStringList takePoppedTexts()
+{
+    QCoreApplication::processEvents();
+    QWidget *popup = QApplication::activePopupWidget();
+    if (!popup)
+        return {};
+    QStringList texts("a popup");
+    const QList<QAction *> entries = popup->actions();
+    for (const QAction *entry : entries) {
+        if (entry->isVisible())
+            texts.append(entry->text());
+    }
+    popup->close();
+    return texts;
+}
+
+QToolBar *addHostBar(TestHost &host)
+{
+    auto *bar = host.window().addToolBar("Host's own");
+    bar->setObjectName("host's own");
+    bar->addAction("An action of the host");
+    return bar;
+}
+
 } // namespace
 
-/** The class MRToolBar: its signals, slots and queries. */
+/** The class MRToolBar, and the strip: the QToolBar "mrtoolbar" that contains the toolbar. */
 class FacadeTest : public QObject
 {
     Q_OBJECT
@@ -44,8 +82,7 @@ private Q_SLOTS:
     {
         TestHost host(
             row("<button text='nameless'/>" + button("a", "checkable='true' checked='true'")));
-        QVERIFY(host.facade().IsSupportByToolBar("a"));
-        QVERIFY(host.toolBar()->IsSupportByToolBar(""));
+        QVERIFY(host.facade().IsSupportByToolBar("a") && host.toolBar()->IsSupportByToolBar(""));
         QVERIFY2(!host.facade().IsSupportByToolBar(""), "No control has an empty name");
         host.deleteWindow();
         verifyIsNeutral(host.facade());
@@ -131,6 +168,106 @@ private Q_SLOTS:
         QVERIFY(search.direction == 0 && search.wholeWord && !search.noCase && search.newSearch);
         QCOMPARE(backgrounds.count(), 1);
         QCOMPARE(backgrounds.first().first().value<BackgroundStyle>(), Background_Eyeguard);
+    }
+
+    void shouldNotOpenTheMenuOfTheWindow()
+    {
+        TestHost host(everything());
+        host.window().addToolBarBreak();
+        addHostBar(host);
+        host.show();
+        const QPoint inside(3, 3);
+        const QList<std::pair<const char *, QPoint>> places{
+            {"mrtoolbar", {1, 1}},       {"top_widget", {800, 6}}, {"menu_file", inside},
+            {"first", inside},           {"second", inside},       {"tabwidget", {1200, 20}},
+            {"d_totalpagelabel", inside}};
+        for (int state = 0; state < 2; ++state) { // With disabled rows and with enabled ones.
+            for (const auto &[name, place] : places) {
+                const auto *widget = host.find<QWidget>(name);
+                QVERIFY2(widget->rect().contains(place), name);
+                rightClick(widget, place);
+                QVERIFY2(takePoppedTexts().isEmpty(), name);
+            }
+            host.enableRows();
+        }
+    }
+
+    void shouldNotOpenTheMenuOfTheWindowOnAnyPart()
+    {
+        TestHost host(everything());
+        addHostBar(host);
+        host.find<QComboBox>("v_zoom")->setEditable(false);
+        host.showEnabled();
+        const QWidgetList parts = host.find<QToolBar>("mrtoolbar")->findChildren<QWidget *>();
+        QVERIFY(parts.size() > 20);
+        for (QWidget *part : parts) {
+            const bool hasOwnMenu =
+                part->inherits("QLineEdit") || part->parentWidget()->inherits("QLineEdit");
+            if (!part->isVisible() || part->window() != &host.window() || hasOwnMenu)
+                continue;
+            const QPoint centre = part->rect().center();
+            for (const auto reason : {QContextMenuEvent::Mouse, QContextMenuEvent::Keyboard}) {
+                QContextMenuEvent event(reason, centre, part->mapToGlobal(centre));
+                QApplication::sendEvent(part, &event);
+                QVERIFY2(takePoppedTexts().isEmpty(), part->metaObject()->className());
+            }
+        }
+        for (const char *name : {"mrtoolbar", "first"})
+            QCOMPARE(host.find<QToolBar>(name)->contextMenuPolicy(), Qt::NoContextMenu);
+    }
+
+    void shouldBeListedInTheMenuOfTheWindowForAHostThatWantsItOnly()
+    {
+        TestHost host(everything());
+        auto *menuBar = host.window().menuBar();
+        menuBar->addMenu("Host's own");
+        host.show();
+        rightClick(menuBar, QPoint(600, 4)); // A menu without entries is not opened.
+        QCOMPARE(takePoppedTexts(), QStringList());
+        auto *hostBar = addHostBar(host);
+        QTRY_VERIFY(hostBar->isVisible());
+        rightClick(menuBar, QPoint(600, 4));
+        QCOMPARE(takePoppedTexts(), (QStringList{"a popup", "Host's own"}));
+        auto *toggle = host.find<QToolBar>("mrtoolbar")->toggleViewAction();
+        toggle->setVisible(true);
+        rightClick(menuBar, QPoint(600, 4));
+        QCOMPARE(takePoppedTexts(), (QStringList{"a popup", "mr_toolbar", "Host's own"}));
+        host.setVisible("toolbar_whole", false);
+        host.setVisible("toolbar_whole", true);
+        QVERIFY(toggle->isVisible());
+    }
+
+    void shouldBeDeletedWithItsBarOrItsWindow_data()
+    {
+        QTest::addColumn<bool>("isMoved");
+        QTest::addColumn<QString>("deleted");
+        for (const char *deleted : {"toolbar", "mrtoolbar", "host's own", "window"}) {
+            QTest::addRow("%s, in its strip", deleted) << false << deleted;
+            QTest::addRow("%s, moved", deleted) << true << deleted;
+        }
+    }
+
+    void shouldBeDeletedWithItsBarOrItsWindow()
+    {
+        QFETCH(bool, isMoved);
+        QFETCH(QString, deleted);
+        TestHost host(everything());
+        const QPointer<NewToolBar> toolBar(host.toolBar());
+        const QPointer<QToolBar> strip(host.find<QToolBar>("mrtoolbar"));
+        const QPointer<QToolBar> hostBar(addHostBar(host));
+        if (isMoved)
+            hostBar->addWidget(toolBar);
+        host.show();
+        if (deleted == "window")
+            host.deleteWindow();
+        else
+            delete (deleted == "toolbar" ? toolBar : host.find<QWidget>(deleted));
+        runDeferredDeletes();
+        const bool staysInStrip = !isMoved && deleted == "host's own";
+        QCOMPARE(!toolBar.isNull(), staysInStrip);
+        QCOMPARE(!strip.isNull(), staysInStrip);
+        const bool keepsHostBar = deleted == "toolbar" || deleted == "mrtoolbar";
+        QCOMPARE(hostBar && hostBar->isVisible(), keepsHostBar);
     }
 };
 

@@ -11,6 +11,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
+#include <QStackedWidget>
 #include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
@@ -18,18 +19,6 @@
 namespace {
 
 using namespace Describe;
-
-const QString everyMenu =
-    section("appbutton",
-            menu("menu_file", item("f_open") + menu("menu_more", item("f_more"))
-                                  + menu("f_openrecent", item("no_file") + item("f_clearhistory")))
-                + menu("set", item("s_one")))
-    + section("quickaccessbar", button("qbar_f_save") + button("qbar_f_print"))
-    + row(
-        menu("drop", item("d_one") + menu("d_more", item("d_two")), "checkable='true'")
-        + group("two", menu("group", item("g_one"), "checkable='true' index='1' switchable='true'"))
-        + comboBox("v_zoom", choice("vzmode_10p", "10%") + choice("vzmode_50p", "50%"),
-                   "editable='true' index='1'"));
 
 /** How the user chooses a command: the control that opens the menu, then the entries. */
 struct MenuPath
@@ -39,9 +28,9 @@ struct MenuPath
 };
 
 const QMap<QString, MenuPath> menuPaths{
-    {"row", {"drop", {"d_one"}}},
-    {"sub-menu of a row", {"drop", {"d_more", "d_two"}}},
-    {"group", {"group", {"g_one"}}},
+    {"row", {"d_drop", {"d_b"}}},
+    {"sub-menu of a row", {"d_drop", {"d_more", "d_two"}}},
+    {"group", {"g_menu", {"g_a"}}},
     {"application", {"menu_file", {"f_open"}}},
     {"sub-menu of the application", {"menu_file", {"menu_more", "f_more"}}},
     {"recent file", {"menu_file", {"f_openrecent", "f_openrecentfile"}}},
@@ -57,8 +46,8 @@ void pressEntries(QMenu *menu, const QStringList &names)
         QVERIFY2(entry, qPrintable(name));
         menu->setActiveAction(entry);
         const QPointer<QMenu> subMenu = entry->menu();
-        QTest::keyPress(menu,
-                        Qt::Key_Return); // The menu may be deleted before the key is released.
+        // The menu may be deleted before the key is released.
+        QTest::keyPress(menu, Qt::Key_Return);
         if (!subMenu)
             return;
         QTRY_VERIFY(subMenu->isVisible());
@@ -66,9 +55,11 @@ void pressEntries(QMenu *menu, const QStringList &names)
     }
 }
 
-void chooseZoom(const QComboBox *box, bool byKeys)
+void chooseZoom(QComboBox *box, bool byKeys)
 {
     QAbstractItemView *list = box->view();
+    box->showPopup();
+    QTRY_VERIFY(list->isVisible());
     const QModelIndex entry = list->model()->index(1, 0);
     list->setCurrentIndex(entry);
     if (byKeys)
@@ -77,9 +68,66 @@ void chooseZoom(const QComboBox *box, bool byKeys)
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(entry).center());
 }
 
+void openMenuLater(const TestHost &host, const QString &name)
+{
+    const bool isOverflow = name.startsWith("qt_toolbar");
+    auto *opener =
+        isOverflow
+            ? host.find<QToolBar>("toolbar_quickaccessbar")->findChild<QAbstractButton *>(name)
+            : host.find<QAbstractButton>(name);
+    const bool isSplit = qobject_cast<QToolButton *>(opener);
+    // The click may delete the button, so the test does not call click() itself.
+    QMetaObject::invokeMethod(opener, isSplit ? "showMenu" : "click", Qt::QueuedConnection);
+}
+
+void use(TestHost &host, const QString &choice, bool byKeys)
+{
+    if (menuPaths.contains(choice)) {
+        const MenuPath path = menuPaths.value(choice);
+        whenMenuPops([path, byKeys](QMenu *menu) {
+            byKeys ? pressEntries(menu, path.entries) : clickEntries(menu, path.entries);
+        });
+        openMenuLater(host, path.opener);
+    } else if (choice == "zoom list") {
+        chooseZoom(host.find<QComboBox>("v_zoom"), byKeys);
+    } else if (auto *box = host.find<QComboBox>(choice)) {
+        box->setFocus();
+        box->lineEdit()->setText("37");
+        QTest::keyPress(box, byKeys ? Qt::Key_Return : Qt::Key_Enter);
+    } else if (auto *field = host.find<QLineEdit>(choice)) {
+        field->setText("2");
+        QTest::keyPress(field, byKeys ? Qt::Key_Return : Qt::Key_Enter);
+    } else if (auto *button = host.find<QAbstractButton>(choice)) {
+        button->click();
+    } else {
+        host.find<QAction>(choice)->trigger();
+    }
+}
+
+void deleteBy(const QString &way, TestHost &host)
+{
+    QMainWindow &window = host.window();
+    if (way == "delete window and facade")
+        host.deleteFacade();
+    if (way == "delete window later") {
+        host.releaseWindow()->deleteLater();
+    } else if (way == "close window") {
+        host.releaseWindow()->setAttribute(Qt::WA_DeleteOnClose);
+        window.close();
+    } else if (way == "delete facade") {
+        host.deleteFacade();
+    } else if (way == "delete toolbar") {
+        delete host.toolBar();
+    } else if (way == "delete strip") {
+        delete host.find<QToolBar>("mrtoolbar");
+    } else {
+        host.deleteWindow();
+    }
+}
+
 } // namespace
 
-/** Deletion by the host in a slot that a choice has called, also in a nested event loop. */
+/** Deletion by the host: in any order, with a menu open, and in a slot that a choice has called. */
 class HostAnswerTest : public QObject
 {
     Q_OBJECT
@@ -93,7 +141,9 @@ private Q_SLOTS:
         QTest::addColumn<bool>("byKeys");
         QTest::addColumn<QString>("way");
         QTest::addColumn<bool>("isAsked");
-        for (const QString &choice : menuPaths.keys() + QStringList{"zoom list", "typed zoom"}) {
+        const QStringList controls{"v_zoom", "zoom list", "second",   "g_one",      "two",
+                                   "h_help", "st_next",   "st_input", "d_gotopage", "qbar_f_open"};
+        for (const QString &choice : menuPaths.keys() + controls) {
             for (const bool byKeys : {false, true}) {
                 for (const char *way :
                      {"delete window", "delete window later", "close window", "delete toolbar",
@@ -113,11 +163,12 @@ private Q_SLOTS:
         QFETCH(bool, byKeys);
         QFETCH(QString, way);
         QFETCH(bool, isAsked);
-        TestHost host(everyMenu);
+        TestHost host(everything());
         prepare(host);
         const QPointer<NewToolBar> toolBar = host.toolBar();
+        int answers = 0;
         const auto answer = [&] {
-            ++m_answers;
+            ++answers;
             if (!isAsked) {
                 deleteBy(way, host);
                 return;
@@ -134,10 +185,11 @@ private Q_SLOTS:
         connect(&host.facade(), &MRToolBar::DoActive, this, answer);
         connect(&host.facade(), &MRToolBar::DoOpenFile, this, answer);
         connect(&host.facade(), &MRToolBar::DoSetZoomMode, this, answer);
-
-        m_answers = 0;
+        connect(&host.facade(), &MRToolBar::DoRequestAuthority, this, answer);
+        connect(&host.facade(), &MRToolBar::DoSearchContent, this, answer);
+        connect(&host.facade(), &MRToolBar::DoGotoPage, this, answer);
         use(host, choice, byKeys);
-        QTRY_COMPARE(m_answers, 1);
+        QTRY_COMPARE(answers, 1);
         runDeferredDeletes();
         QVERIFY(!toolBar);
         const QWidgetList widgets = QApplication::allWidgets();
@@ -146,70 +198,90 @@ private Q_SLOTS:
                      qPrintable("left behind: " + widget->objectName()));
     }
 
+    void shouldAllowEveryOrderOfDeletion_data()
+    {
+        QTest::addColumn<QString>("way");
+        // Empty: only the timer of the double click is running.
+        QTest::addColumn<QString>("openMenuOf");
+        for (const char *way :
+             {"delete window", "delete facade", "delete toolbar", "delete strip"}) {
+            for (const char *button : {"", "menu_file", "ab_set", "qt_set", "d_plain", "st_set"})
+                QTest::addRow("%s, menu of '%s'", way, button) << way << button;
+        }
+    }
+
+    void shouldAllowEveryOrderOfDeletion()
+    {
+        QFETCH(QString, way);
+        QFETCH(QString, openMenuOf);
+        TestHost host = TestHost::enabled(everything());
+        const QSignalSpy active(host.toolBar(), &NewToolBar::DoActive);
+        QStringList heard;
+        connect(&host.facade(), &MRToolBar::DoActive, this,
+                [&heard](const QString &name) { heard.append(name); });
+
+        host.action("slow")->trigger();
+        bool isDeleted = openMenuOf.isEmpty();
+        if (isDeleted) {
+            deleteBy(way, host);
+        } else {
+            whenMenuPops([&](QMenu *) {
+                isDeleted = true;
+                deleteBy(way, host);
+            });
+            openMenuLater(host, openMenuOf);
+            QTRY_VERIFY(isDeleted);
+        }
+        runDeferredDeletes();
+        QTest::qWait(300);
+        QVERIFY2(heard.isEmpty(), "A deleted toolbar has reported a command");
+        QVERIFY(!QApplication::activePopupWidget());
+        QCOMPARE(active.count(), way == "delete facade" ? 1 : 0);
+        if (way == "delete toolbar" || way == "delete strip")
+            QVERIFY2(host.window().findChildren<QToolBar *>().isEmpty(), "An empty strip remains");
+        if (way != "delete facade")
+            QVERIFY(!host.facade().IsSupportByToolBar("two"));
+    }
+
+    void shouldWorkWithoutAUsableDescription()
+    {
+        const QByteArray tabs = section("tabbar", tab("t", {})).toUtf8();
+        for (const QByteArray &xml : {"<config prefix=''>" + tabs + "</config>",
+                                      "<uiconfig>" + tabs + "</uiconfig>", QByteArray()}) {
+            QDomDocument document;
+            document.setContent(xml);
+            QDomElement root = document.documentElement();
+            QMainWindow window;
+            MRToolBar facade(&window, root, {}, ToolBarLeft);
+            window.show();
+            QVERIFY(QTest::qWaitForWindowExposed(&window));
+            auto *toolBar = window.findChild<NewToolBar *>();
+            QVERIFY(toolBar && toolBar->isVisible() && !window.findChild<QAbstractButton *>("t"));
+            QCOMPARE(window.findChild<QStackedWidget *>("tabwidget")->count(), 0);
+            QVERIFY(!toolBar->InitMainToolBar("") && toolBar->InitMainToolBar("0"));
+            toolBar->Inner_DoDelayLoadMenuSlot();
+            for (QString name : {"toolbar_whole", "toolbar_maintoolbar", "toolbar_tabbar", "any"}) {
+                facade.DoSetControlVisibleStateSlot(name, false);
+                facade.DoSetControlUsableStateSlot(name, false);
+                QVERIFY(!facade.GetCompositeEnable(name) && !facade.GetCompositeVisible(name));
+            }
+        }
+    }
+
 private:
-    /** Shows the host with all menus filled and all commands enabled. */
+    /** Shows the host with all menus filled, all commands enabled and something to search for. */
     static void prepare(TestHost &host)
     {
         host.toolBar()->Inner_DoDelayLoadMenuSlot();
         host.facade().DoUpdateRecentFileSlot({"/one.ofd"});
+        host.facade().DoSetPageInfoSlot(1, 9);
+        host.find<QLineEdit>("st_input")->setText("text");
         host.showEnabled();
         host.enableEverything();
         auto *quickBar = host.find<QToolBar>("toolbar_quickaccessbar");
         quickBar->setMaximumWidth(quickBar->sizeHint().width() * 2 / 3);
         QTRY_VERIFY(quickBar->findChild<QToolButton *>("qt_toolbar_ext_button")->isVisible());
     }
-
-    static void use(TestHost &host, const QString &choice, bool byKeys)
-    {
-        auto *box = host.find<QComboBox>("v_zoom");
-        if (choice == "typed zoom") {
-            box->setFocus();
-            box->lineEdit()->setText("37");
-            QTest::keyPress(box, byKeys ? Qt::Key_Return : Qt::Key_Enter);
-        } else if (choice == "zoom list") {
-            box->showPopup();
-            QTRY_VERIFY(box->view()->isVisible());
-            chooseZoom(box, byKeys);
-        } else {
-            const MenuPath path = menuPaths.value(choice);
-            whenMenuPops([path, byKeys](QMenu *menu) {
-                byKeys ? pressEntries(menu, path.entries) : clickEntries(menu, path.entries);
-            });
-            // The click may delete the button, so the test does not call click() itself.
-            auto *opener = openerOf(host, path.opener);
-            const bool isSplit = qobject_cast<QToolButton *>(opener);
-            QMetaObject::invokeMethod(opener, isSplit ? "showMenu" : "click", Qt::QueuedConnection);
-        }
-    }
-
-    static QAbstractButton *openerOf(const TestHost &host, const QString &name)
-    {
-        const QString bar = "toolbar_quickaccessbar";
-        return name.startsWith("qt_toolbar")
-                   ? host.find<QToolBar>(bar)->findChild<QToolButton *>(name)
-                   : host.find<QAbstractButton>(name);
-    }
-
-    static void deleteBy(const QString &way, TestHost &host)
-    {
-        QMainWindow &window = host.window();
-        if (way == "delete window and facade")
-            host.deleteFacade();
-        if (way == "delete window later") {
-            host.releaseWindow()->deleteLater();
-        } else if (way == "close window") {
-            host.releaseWindow()->setAttribute(Qt::WA_DeleteOnClose);
-            window.close();
-        } else if (way == "delete toolbar") {
-            delete host.toolBar();
-        } else if (way == "delete strip") {
-            delete host.find<QToolBar>("mrtoolbar");
-        } else {
-            host.deleteWindow();
-        }
-    }
-
-    int m_answers = 0;
 };
 
 QTEST_MAIN(HostAnswerTest)

@@ -15,12 +15,7 @@
 #include <QToolBar>
 #include <QToolTip>
 
-#include <functional>
 #include <limits>
-
-/** The host's answer to a command. */
-using Answer = std::function<void(TestHost &)>;
-Q_DECLARE_METATYPE(Answer)
 
 using namespace Describe;
 
@@ -88,89 +83,69 @@ private Q_SLOTS:
                  tabs * controlsOfATab);
     }
 
-    void shouldHoldThousandsOfNestedMenus_data()
-    {
-        QTest::addColumn<int>("depth");
-        QTest::addColumn<TestHost::SkinMap>("skin");
-        // With a style sheet Qt visits all ancestors of every menu to find its rules.
-        QTest::newRow("with its sheet") << 1000 << TestHost::SkinMap();
-        QTest::newRow("without") << 10000 << TestHost::SkinMap{{"externalqss", ""}};
-    }
-
     void shouldHoldThousandsOfNestedMenus()
     {
-        QFETCH(int, depth);
-        QFETCH(TestHost::SkinMap, skin);
-        const QDomDocument document = nestedMenus(depth);
-        QDomElement root = document.documentElement();
-        auto window = std::make_unique<QMainWindow>();
-        MRToolBar facade(window.get(), root, skin, ToolBarLeft);
-        window->findChild<NewToolBar *>()->Inner_DoDelayLoadMenuSlot();
-        // The innermost menu has no children, so it becomes an entry.
-        QVERIFY(facade.IsSupportByToolBar(QStringLiteral("m%1").arg(depth - 1)));
-        window.reset();
-        runDeferredDeletes();
-        QVERIFY(!facade.IsSupportByToolBar(QStringLiteral("m%1").arg(depth - 1)));
-    }
-
-    void shouldTakeTextsOfAMegabyte_data()
-    {
-        QTest::addColumn<QString>("attribute");
-        for (const char *attribute :
-             {"text", "tooltip", "tooltip card", "icon", "shortcut", "group"})
-            QTest::newRow(attribute) << QString(attribute).section(' ', 0, 0);
+        // With a style sheet Qt visits all ancestors of every menu to find its rules.
+        const QList<std::pair<int, TestHost::SkinMap>> rows{{1000, {}},
+                                                            {10000, {{"externalqss", ""}}}};
+        for (const auto &[depth, skin] : rows) {
+            const QDomDocument document = nestedMenus(depth);
+            QDomElement root = document.documentElement();
+            auto window = std::make_unique<QMainWindow>();
+            MRToolBar facade(window.get(), root, skin, ToolBarLeft);
+            window->findChild<NewToolBar *>()->Inner_DoDelayLoadMenuSlot();
+            // The innermost menu has no children, so it becomes an entry.
+            const QString innermost = QStringLiteral("m%1").arg(depth - 1);
+            QVERIFY(facade.IsSupportByToolBar(innermost));
+            window.reset();
+            runDeferredDeletes();
+            QVERIFY(!facade.IsSupportByToolBar(innermost));
+        }
     }
 
     void shouldTakeTextsOfAMegabyte()
     {
-        QFETCH(QString, attribute);
-        const bool isCard = QString(QTest::currentDataTag()).endsWith("card");
-        const QString value = (isCard ? "title;" : "") + QString(1 << 20, QLatin1Char('w'));
-        const QString huge = QStringLiteral("<%1 name='big' %2='%3'/>");
-        QString controls;
-        for (const char *type : {"button", "label", "menu"})
-            controls += huge.arg(type, attribute, value);
-        TestHost host(rowWithLast(controls));
-        host.show();
-        host.setUsable("last", true);
-        QCOMPARE(host.window().width(), 1300);
-        verifyReports(host, "last");
+        const QString huge(1 << 20, QLatin1Char('w'));
+        const QString card = "title;" + huge;
+        for (const auto &[attribute, value] : {std::pair{"text", huge},
+                                               {"tooltip", huge},
+                                               {"tooltip", card},
+                                               {"icon", huge},
+                                               {"shortcut", huge},
+                                               {"group", huge}}) {
+            QString controls;
+            for (const char *type : {"button", "label", "menu"})
+                controls += QStringLiteral("<%1 name='big' %2='%3'/>").arg(type, attribute, value);
+            TestHost host = TestHost::shown(rowWithLast(controls));
+            host.setUsable("last", true);
+            QCOMPARE(host.window().width(), 1300);
+            verifyReports(host, "last");
+        }
     }
 
     void shouldKeepNamesOutOfStyleSheets_data()
     {
         QTest::addColumn<QString>("name");
-        QTest::newRow("quotes") << "a\"b'c";
-        QTest::newRow("end of a rule") << "a;}QWidget{background:red;min-height:400px}";
-        QTest::newRow("slashes") << "../a\\b//c/";
-        QTest::newRow("selector") << "#a[b=\"c\"]::d,*";
-        QTest::newRow("placeholders") << "%1%2%L3 [MainColor]";
-        QTest::newRow("markup") << "<b>a</b>&lt;";
-        QTest::newRow("control characters") << QString("a\nb\tc\rd");
-        QTest::newRow("ampersands") << "&a&&b";
+        for (const QString name :
+             {"a\"b'c", "a;}QWidget{background:red;min-height:400px}", "../a\\b//c/",
+              "#a[b=\"c\"]::d,*", "%1%2%L3 [MainColor]", "<b>a</b>&lt;", "a\nb\tc\rd", "&a&&b"})
+            QTest::newRow(qPrintable(name.simplified())) << name;
     }
 
     void shouldKeepNamesOutOfStyleSheets()
     {
         QFETCH(QString, name);
         const QString pattern =
-            "<toolbar_quickaccessbar><button action='%1' text='q'/></toolbar_quickaccessbar>"
-            "<toolbar_tabbar><tabbutton name='%1' text='T' checkable='true' checked='true'>"
-            "<menu name='%1' text='M' tooltip='%1' checkable='true' switchable='true'>"
-            "<menuitem action='%1' text='e'/></menu>"
-            "<buttongroup name='%1'><menu name='%1' text='g' checkable='true'>"
-            "<menuitem action='i' text='i'/></menu></buttongroup>"
-            "<button action='plain' text='Plain' tooltip='Plain'/></tabbutton></toolbar_tabbar>";
+            section("quickaccessbar", button("%1"))
+            + row("<menu name='%1' text='M' tooltip='%1' checkable='true' switchable='true'>"
+                  "<menuitem action='%1' text='e'/></menu>"
+                  + group("%1", menu("%1", item("i"), "checkable='true'")) + button("plain"));
         const WarningTrap trap;
-        TestHost harmless(pattern.arg(QStringLiteral("harmless")));
-        TestHost host(pattern.arg(name.toHtmlEscaped()
-                                      .replace('\'', "&#39;")
-                                      .replace('\n', "&#10;")
-                                      .replace('\t', "&#9;")
-                                      .replace('\r', "&#13;")));
-        harmless.show();
-        host.show();
-
+        TestHost harmless = TestHost::shown(pattern.arg("harmless"));
+        QString escaped = name.toHtmlEscaped().replace('\'', "&#39;");
+        for (const char blank : {'\n', '\t', '\r'})
+            escaped.replace(blank, QStringLiteral("&#%1;").arg(int(blank)));
+        TestHost host = TestHost::shown(QString(pattern).replace("%1", escaped));
         QVERIFY(host.facade().IsSupportByToolBar(name));
         auto *drop = host.toolBar()->findChild<MRDropButton *>();
         if (!name.contains(QLatin1Char(';')))
@@ -180,9 +155,10 @@ private Q_SLOTS:
             QTest::mouseMove(widget, widget->rect().center());
             QVERIFY2(!widget->styleSheet().contains(name), qPrintable(widget->styleSheet()));
         }
-        QCOMPARE(host.find<QToolBar>("mrtoolbar")->styleSheet(),
-                 harmless.find<QToolBar>("mrtoolbar")->styleSheet());
-        QCOMPARE(host.toolBar()->size(), harmless.toolBar()->size());
+        const auto sheetOf = [](const TestHost &any) {
+            return any.find<QToolBar>("mrtoolbar")->styleSheet();
+        };
+        QCOMPARE(sheetOf(host), sheetOf(harmless));
         QCOMPARE(WarningTrap::warnings(), QStringList());
     }
 
@@ -191,38 +167,31 @@ private Q_SLOTS:
         for (const char *name :
              {"../../../../../../../../etc/passwd", "/etc/passwd", "file:///etc/passwd",
               ":/mr_toolbar/Resources/lum/qssfile.qss", "../../..", "icon16"}) {
-            TestHost host(rowWithLast(button("odd", QStringLiteral("icon='%1'").arg(name))));
-            host.show();
+            TestHost host =
+                TestHost::shown(rowWithLast(button("odd", QStringLiteral("icon='%1'").arg(name))));
             QVERIFY2(host.action("odd")->icon().isNull(), name);
         }
     }
 
-    void shouldTakeAnySkin_data()
-    {
-        QTest::addColumn<QString>("key");
-        QTest::addColumn<QString>("value");
-        QTest::newRow("megabyte") << "[MainColor]" << QString(1 << 20, QLatin1Char('f'));
-        QTest::newRow("letter") << "e" << QString("xyz");
-        QTest::newRow("brace") << "{" << QString("}");
-        QTest::newRow("whole rule") << "[MainColor]" << QString("red;} QWidget{background:blue");
-    }
-
     void shouldTakeAnySkin()
     {
-        QFETCH(QString, key);
-        QFETCH(QString, value);
-        const WarningTrap trap; // Qt may warn of the sheet.
-        TestHost host(plainRow, {{key, value}});
-        host.show();
-        host.facade().DoSetSkinStyleSlot({{key, value}});
-        host.setUsable("plain", true);
-        verifyReports(host, "plain");
-
-        // A valid skin undoes it.
+        const QList<std::pair<QString, QString>> entries{
+            {"[MainColor]", QString(1 << 20, QLatin1Char('f'))},
+            {"e", "xyz"},
+            {"{", "}"},
+            {"[MainColor]", "red;} QWidget{background:blue"}};
         TestHost untouched(plainRow);
-        host.facade().DoSetSkinStyleSlot({{"[MainColor]", "#008AD9"}});
-        QCOMPARE(host.find<QToolBar>("mrtoolbar")->styleSheet(),
-                 untouched.find<QToolBar>("mrtoolbar")->styleSheet());
+        for (const auto &[key, value] : entries) {
+            const WarningTrap trap; // Qt may warn of the sheet.
+            TestHost host = TestHost::shown(plainRow, {{key, value}});
+            host.facade().DoSetSkinStyleSlot({{key, value}});
+            host.setUsable("plain", true);
+            verifyReports(host, "plain");
+            // A valid skin undoes it.
+            host.facade().DoSetSkinStyleSlot({{"[MainColor]", "#008AD9"}});
+            QCOMPARE(host.find<QToolBar>("mrtoolbar")->styleSheet(),
+                     untouched.find<QToolBar>("mrtoolbar")->styleSheet());
+        }
     }
 
     void shouldIgnoreAnImpossibleScreenDensity()
@@ -236,8 +205,7 @@ private Q_SLOTS:
 
     void shouldIgnoreAChangeOfTheScreenDensity()
     {
-        TestHost host(rowWithLast(button("plain")));
-        host.showEnabled();
+        TestHost host = TestHost::enabled(rowWithLast(button("plain")));
         QTest::qWait(10);
         const QSize size = host.toolBar()->size();
         QScreen *screen = QGuiApplication::primaryScreen();
@@ -253,8 +221,7 @@ private Q_SLOTS:
 
     void shouldAllowDeletionWithABubbleOpen()
     {
-        TestHost host(plainRow);
-        host.show();
+        TestHost host = TestHost::shown(plainRow);
         const QPointer<CCR_ToolTipWidget> bubble = new CCR_ToolTipWidget(&host.window());
         bubble->resize(200, 60);
         bubble->setLabelText(QStringLiteral("text"));
@@ -280,54 +247,6 @@ private Q_SLOTS:
         host.deleteWindow();
         QTest::qWait(350);
         QVERIFY(!host.facade().IsSupportByToolBar("last"));
-    }
-
-    void shouldAllowAnyCallFromTheHandlerOfACommand_data()
-    {
-        QTest::addColumn<QString>("control");
-        QTest::addColumn<Answer>("answer");
-        const QList<std::pair<const char *, Answer>> answers{
-            {"reset", [](TestHost &host) { host.facade().DoResetToolbarSlot(); }},
-            {"skin",
-             [](TestHost &host) {
-                 host.facade().DoSetSkinStyleSlot({{"[MainColor]", "#123456"}});
-             }},
-            {"hide", [](TestHost &host) { host.setVisible("toolbar_whole", false); }},
-            {"leave the tab", [](TestHost &host) { host.setVisible("row", false); }},
-            {"disable", [](TestHost &host) { host.setUsable("toolbar_maintoolbar", false); }},
-            {"check", [](TestHost &host) { host.setChecked("entry", true); }},
-            {"delete", [](TestHost &host) { host.toolBar()->deleteLater(); }},
-        };
-        for (const auto &[what, answer] : answers) {
-            for (const char *control : {"plain", "entry", "other", "add"})
-                QTest::addRow("%s from %s", what, control) << control << answer;
-        }
-    }
-
-    void shouldAllowAnyCallFromTheHandlerOfACommand()
-    {
-        QFETCH(QString, control);
-        QFETCH(Answer, answer);
-        TestHost host(row(button("plain", "checkable='true' group='g'")
-                              + menu("drop", item("entry", "checkable='true' group='g'"),
-                                     "checkable='true' switchable='true'")
-                              + group("two", button("other")),
-                          tab("u", {}))
-                      + section("addtional", button("add")));
-        host.showEnabled();
-        const QPointer<NewToolBar> toolBar = host.toolBar();
-        int heard = 0;
-        connect(&host.facade(), &MRToolBar::DoActive, this, [&] {
-            if (++heard == 1)
-                answer(host);
-        });
-        if (auto *button = host.find<QPushButton>(control))
-            button->click();
-        else
-            host.action(control)->trigger();
-        runDeferredDeletes();
-        QCOMPARE(heard, 1);
-        QCOMPARE(host.facade().IsSupportByToolBar("plain"), !toolBar.isNull());
     }
 };
 

@@ -1,27 +1,26 @@
 // SPDX-FileCopyrightText: The MRToolBar authors
 // SPDX-License-Identifier: MIT
 
-#include "tests/support/TestDocuments.h"
+#include "tests/support/Icons.h"
 #include "tests/support/TestHost.h"
 #include "toolbar/handwrite/MRHandWriteDialog.h"
 #include "toolbar/skin/Contrast.h"
 #include "toolbar/skin/IconColours.h"
 #include "toolbar/skin/SchemeColours.h"
-#include "toolbar/widgets/CCR_ToolTipWidget.h"
 
 #include <QApplication>
 #include <QDirIterator>
-#include <QLabel>
 #include <QMenu>
 #include <QToolBar>
-#include <QToolButton>
+
+#include <algorithm>
 
 using SkinMap = QMap<QString, QString>;
 
 namespace {
 
 const QString schemeKey = "scheme";
-const QRgb mainColours[] = {0xff008ad9, 0xff1b7a3d, 0xffc1272d, 0xffffd400, 0xff101214};
+const QRgb green = 0xff1b7a3d;
 
 /** Gives the application a palette for the time of one test. */
 class PaletteChoice
@@ -40,11 +39,6 @@ public:
 private:
     QPalette m_previous;
 };
-
-QString shippedDocument(int skin)
-{
-    return skin == lum ? "lum/mr_toolbar.release.xml" : "marodi/mr_toolbar.release.xml";
-}
 
 QString appliedSheet(const TestHost &host)
 {
@@ -65,38 +59,20 @@ QImage menuPicture(const TestHost &host)
     return image;
 }
 
-double lightness(const QImage &image)
-{
-    double sum = 0;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x)
-            sum += qGray(image.pixel(x, y));
-    }
-    return sum / image.width() / image.height() / 255;
-}
-
 bool isDark(const QImage &image)
 {
-    return lightness(image) < 0.4;
+    double sum = 0;
+    const int count = pixelsOf(image, [&sum](const QColor &colour) {
+        sum += qGray(colour.rgb());
+        return true;
+    });
+    return sum / count / 255 < 0.4;
 }
 
-bool hasBlue(const QImage &image)
+bool isBlue(const QColor &colour)
 {
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            const QColor colour = image.pixelColor(x, y);
-            const int hue = colour.hsvHue();
-            if (colour.alpha() > 0 && colour.hsvSaturation() > 60 && hue > 180 && hue < 250)
-                return true;
-        }
-    }
-    return false;
-}
-
-QList<QColor> groundsOf(const SchemeColours &colours)
-{
-    return {colours.strip, colours.surface, colours.raised,       colours.field,
-            colours.hover, colours.pressed, colours.checkedHover, colours.checked};
+    const int hue = colour.hsvHue();
+    return colour.alpha() > 0 && colour.hsvSaturation() > 60 && hue > 180 && hue < 250;
 }
 
 } // namespace
@@ -115,25 +91,16 @@ private Q_SLOTS:
         QVERIFY2(std::abs(grey - 4.478) < 0.001, qPrintable(QString::number(grey)));
     }
 
-    void shouldReachTheContrastOfTheScheme()
+    void shouldTellFocusFramesAndDividersFromTheirGrounds()
     {
         for (const Scheme scheme : {Scheme::Dark, Scheme::Contrast}) {
-            const double text = scheme == Scheme::Dark ? 4.5 : 7.0;
-            const double icon = scheme == Scheme::Dark ? 3.0 : 4.5;
-            for (const QRgb mainColour : mainColours) {
+            const double least = scheme == Scheme::Dark ? 3.0 : 4.5;
+            for (const QRgb mainColour : {0xff008ad9, 0xffc1272d, 0xffffd400, 0xff101214}) {
                 const SchemeColours colours = schemeColours({scheme, mainColour});
-                for (const QColor &ground : groundsOf(colours)) {
-                    QVERIFY(Contrast::ratio(colours.text, ground) >= text);
-                    QVERIFY(Contrast::ratio(colours.accent, ground) >= icon);
-                }
-                // The pointer does nothing to what is disabled.
-                for (const QColor &ground : {colours.strip, colours.surface, colours.checked})
-                    QVERIFY(Contrast::ratio(colours.dimText, ground) >= 3.0);
-                QVERIFY(Contrast::ratio(colours.onAccent, colours.accent) >= text);
-                QVERIFY(Contrast::ratio(colours.focus, colours.field) >= icon);
-                QVERIFY(Contrast::ratio(colours.frame, colours.surface) >= icon);
-                if (scheme == Scheme::Contrast)
-                    QVERIFY(Contrast::ratio(colours.divider, colours.surface) >= 4.5);
+                QVERIFY(Contrast::ratio(colours.focus, colours.field) >= least);
+                QVERIFY(Contrast::ratio(colours.frame, colours.surface) >= least);
+                QVERIFY(scheme == Scheme::Dark
+                        || Contrast::ratio(colours.divider, colours.surface) >= least);
             }
         }
     }
@@ -142,7 +109,7 @@ private Q_SLOTS:
     void shouldShowEveryDrawingOnEveryGround()
     {
         for (const Scheme scheme : {Scheme::Dark, Scheme::Contrast}) {
-            const SchemeColours colours = schemeColours({scheme, mainColours[1]});
+            const SchemeColours colours = schemeColours({scheme, green});
             QDirIterator files(":/mr_toolbar/Resources", {"*.svg", "*.png"}, QDir::Files,
                                QDirIterator::Subdirectories);
             while (files.hasNext()) {
@@ -151,40 +118,33 @@ private Q_SLOTS:
                 if (!path.contains("/icons/") && !path.contains("/extend"))
                     continue;
                 const QImage image =
-                    IconColours::drawing(path, {scheme, mainColours[1]}).pixmap(48, 48).toImage();
+                    IconColours::drawing(path, {scheme, green}).pixmap(48, 48).toImage();
                 QVERIFY2(!image.isNull(), qPrintable(path));
-                QVERIFY2(!hasBlue(image), qPrintable(path + " is blue in a green skin"));
+                QVERIFY2(pixelsOf(image, isBlue) == 0, qPrintable(path + " is blue, not green"));
                 double highest = 1;
-                for (int y = 0; y < image.height(); ++y) {
-                    for (int x = 0; x < image.width(); ++x) {
-                        const QColor colour = image.pixelColor(x, y);
-                        if (colour.alpha() > 250)
-                            highest = std::max(highest, Contrast::ratio(colour, colours.pressed));
-                    }
-                }
+                pixelsOf(image, [&](const QColor &colour) {
+                    if (colour.alpha() > 250)
+                        highest = std::max(highest, Contrast::ratio(colour, colours.pressed));
+                    return false;
+                });
                 QVERIFY2(highest >= colours.iconContrast, qPrintable(path + " is too dark"));
             }
         }
     }
 
-    void shouldNotTakeTheSchemeForAColour_data()
-    {
-        QTest::addColumn<SkinMap>("given");
-        QTest::addColumn<SkinMap>("colours");
-        QTest::newRow("light") << SkinMap{{schemeKey, "light"}} << SkinMap{};
-        QTest::newRow("no such scheme") << SkinMap{{schemeKey, "Dark"}} << SkinMap{};
-        QTest::newRow("with a colour") << SkinMap{{schemeKey, "light"}, {"[MainColor]", "red"}}
-                                       << SkinMap{{"[MainColor]", "red"}};
-    }
+    void shouldNotTakeTheSchemeForAColour_data() { addSkins(); }
 
     void shouldNotTakeTheSchemeForAColour()
     {
-        QFETCH(SkinMap, given);
-        QFETCH(SkinMap, colours);
-        for (const int skin : {marodi, lum}) {
-            const SkinChoice choice(skin);
-            const auto host = TestHost::withShipped(shippedDocument(skin), given);
-            const auto expected = TestHost::withShipped(shippedDocument(skin), colours);
+        const SkinChoice choice;
+        const SkinMap red{{"[MainColor]", "red"}};
+        const QList<std::pair<SkinMap, SkinMap>> maps{
+            {{{schemeKey, "light"}}, {}},
+            {{{schemeKey, "Dark"}}, {}},
+            {{{schemeKey, "light"}, {"[MainColor]", "red"}}, red}};
+        for (const auto &[given, colours] : maps) {
+            const auto host = TestHost::withRelease(given);
+            const auto expected = TestHost::withRelease(colours);
             QCOMPARE(appliedSheet(*host), appliedSheet(*expected));
             host->show();
             expected->show();
@@ -200,7 +160,6 @@ private Q_SLOTS:
         const QString dark = appliedSheet(host);
         QVERIFY2(dark.startsWith(light.left(200)) && dark.contains("#ABCDEF"), "Colours are lost");
         QVERIFY(dark != light);
-
         host.facade().DoSetSkinStyleSlot({{schemeKey, "no such scheme"}});
         QCOMPARE(appliedSheet(host), dark);
         host.facade().DoSetSkinStyleSlot({{"[ToolBarBgColor]", "#FEDCBA"}});
@@ -218,90 +177,68 @@ private Q_SLOTS:
         QVERIFY(!host.facade().GetToolBarStyleSheet().contains("/dark/"));
     }
 
-    void shouldComeBackToThePixel_data()
-    {
-        QTest::addColumn<int>("skin");
-        QTest::newRow("marodi") << marodi;
-        QTest::newRow("lum") << lum;
-    }
+    void shouldComeBackToThePixel_data() { addSkins(); }
 
     void shouldComeBackToThePixel()
     {
-        QFETCH(int, skin);
-        const SkinChoice choice(skin);
+        const SkinChoice choice;
         PaletteChoice palette;
-        const auto host = TestHost::withShipped(shippedDocument(skin), {{schemeKey, "system"}});
+        const auto host = TestHost::withRelease({{schemeKey, "system"}});
         host->show();
         host->enableEverything();
         host->toolBar()->Inner_DoDelayLoadMenuSlot();
         MRHandWriteDialog dialog(&host->window());
-        const QList<QImage> before{picture(*host), menuPicture(*host), dialog.grab().toImage()};
-        for (const QImage &image : before)
-            QVERIFY(!isDark(image));
-
+        const auto look = [&] {
+            return QList<QImage>{picture(*host), menuPicture(*host), dialog.grab().toImage()};
+        };
+        const QList<QImage> before = look();
+        QCOMPARE(std::count_if(before.begin(), before.end(), isDark), 0);
         palette.makeDark();
         QTRY_VERIFY(isDark(picture(*host)));
-        const QList<QImage> dark{picture(*host), menuPicture(*host), dialog.grab().toImage()};
-        for (const QImage &image : dark)
-            QVERIFY(isDark(image));
-
+        const QList<QImage> dark = look();
+        QCOMPARE(std::count_if(dark.begin(), dark.end(), isDark), 3);
         palette.makeLight();
         QTRY_VERIFY(!isDark(picture(*host)));
-        const QList<QImage> after{picture(*host), menuPicture(*host), dialog.grab().toImage()};
-        for (int i = 0; i < before.size(); ++i) {
-            before.at(i).save(QStringLiteral("before_%1.png").arg(i));
-            after.at(i).save(QStringLiteral("after_%1.png").arg(i));
+        const QList<QImage> after = look();
+        for (int i = 0; i < before.size(); ++i)
             QVERIFY2(before.at(i) == after.at(i), qPrintable(QStringLiteral("picture %1").arg(i)));
-        }
     }
 
-    void shouldSwitchBeforeItIsShown()
+    void shouldSwitchBeforeItIsShownAndTakeNoColourFromThePalette()
     {
-        const auto dark = TestHost::withShipped(shippedDocument(marodi), {{schemeKey, "dark"}});
-        const auto switched = TestHost::withShipped(shippedDocument(marodi));
+        PaletteChoice palette;
+        const auto dark = TestHost::withRelease({{schemeKey, "dark"}});
+        const auto switched = TestHost::withRelease();
         switched->facade().DoSetSkinStyleSlot({{schemeKey, "dark"}});
         for (const auto *host : {&dark, &switched})
             (*host)->show();
-        QCOMPARE(picture(*switched), picture(*dark));
-    }
-
-    void shouldTakeNoColourFromThePalette()
-    {
-        PaletteChoice palette;
-        const auto host = TestHost::withShipped(shippedDocument(marodi), {{schemeKey, "dark"}});
-        host->show();
-        const QImage onLight = picture(*host);
+        const QImage onLight = picture(*dark);
+        QCOMPARE(picture(*switched), onLight);
         palette.makeDark();
-        QCOMPARE(picture(*host), onLight);
+        QCOMPARE(picture(*dark), onLight);
     }
 
     void shouldServeTwoToolBarsWithTwoSchemes()
     {
-        const auto dark = TestHost::withShipped(shippedDocument(marodi), {{schemeKey, "dark"}});
-        const auto light = TestHost::withShipped(shippedDocument(marodi), {{schemeKey, "light"}});
-        const auto plain = TestHost::withShipped(shippedDocument(marodi));
+        const auto dark = TestHost::withRelease({{schemeKey, "dark"}});
+        const auto light = TestHost::withRelease({{schemeKey, "light"}});
+        const auto plain = TestHost::withRelease();
         for (const auto *host : {&dark, &light, &plain})
             (*host)->show();
         QVERIFY(isDark(picture(*dark)));
         QCOMPARE(picture(*light), picture(*plain));
         QVERIFY(!isDark(picture(*light)));
-
         const QString name = "t_handtool";
-        const QImage darkIcon = dark->action(name)->icon().pixmap(24).toImage();
-        const QImage lightIcon = light->action(name)->icon().pixmap(24).toImage();
-        QVERIFY(darkIcon != lightIcon);
+        const auto iconOf = [&name](const TestHost &host) {
+            return host.action(name)->icon().pixmap(24).toImage();
+        };
+        const QImage lightIcon = iconOf(*light);
+        QVERIFY(iconOf(*dark) != lightIcon);
         dark->facade().DoSetSkinStyleSlot({{schemeKey, "light"}});
-        QCOMPARE(dark->action(name)->icon().pixmap(24).toImage(), lightIcon);
-    }
-
-    void shouldDrawAnIconThatOutlivesItsToolBar()
-    {
-        QIcon icon;
-        {
-            const auto host = TestHost::withShipped(shippedDocument(lum), {{schemeKey, "dark"}});
-            icon = host->action("f_open")->icon();
-        }
-        QVERIFY(!icon.pixmap(24).isNull());
+        QCOMPARE(iconOf(*dark), lightIcon);
+        const QIcon icon = dark->action(name)->icon();
+        dark->deleteWindow();
+        QVERIFY2(!icon.pixmap(24).isNull(), "The icon does not outlive its toolbar");
     }
 
     void shouldDressTheHostsOwnWindowsLikeItsToolBar()
@@ -310,7 +247,6 @@ private Q_SLOTS:
         QWidget elsewhere;
         MRHandWriteDialog stray(&elsewhere);
         QVERIFY(!isDarkNow(&stray));
-
         auto dark = std::make_unique<TestHost>("", SkinMap{{schemeKey, "dark"}});
         MRHandWriteDialog ofDark(&dark->window());
         QVERIFY(isDarkNow(&ofDark) && isDarkNow(&stray));
@@ -318,7 +254,6 @@ private Q_SLOTS:
         MRHandWriteDialog ofLight(&light.window());
         QVERIFY2(!isDarkNow(&stray), "The last choice is for those without a toolbar");
         QVERIFY(isDarkNow(&ofDark) && !isDarkNow(&ofLight));
-
         light.facade().DoSetSkinStyleSlot({{schemeKey, "dark"}});
         QVERIFY(isDarkNow(&ofLight) && isDarkNow(&stray));
     }

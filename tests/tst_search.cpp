@@ -3,6 +3,7 @@
 
 #include "tests/support/Describe.h"
 #include "tests/support/Menus.h"
+#include "tests/support/Rows.h"
 #include "tests/support/TestHost.h"
 
 #include <QLineEdit>
@@ -56,6 +57,51 @@ SearchOption lastOf(const QSignalSpy &spy)
     return spy.last().first().value<SearchOption>();
 }
 
+/** Searches from a field by Return or a button; direction -1 stands for none at all. */
+const struct
+{
+    const char *name, *field, *text, *button;
+    int direction;
+} searchesOfFields[]{
+    {"Return", "st_input", "abc", "", 1},
+    {"next", "st_input", "abc", "st_next", 1},
+    {"previous", "st_input", "abc", "st_prev", 0},
+    {"Return, empty", "st_input", "", "", -1},
+    {"next, empty", "st_input", "", "st_next", -1},
+    {"second field, Return", "gis_input", "abc", "", 1},
+    {"second field, next", "gis_input", "abc", "gis_next", 1},
+    {"second field, previous", "gis_input", "abc", "gis_prev", 0},
+    {"second field, empty", "gis_input", "", "gis_next", -1},
+};
+
+/** Searches from other fields; the text of the main field must not be empty. */
+const struct
+{
+    const char *name, *field, *main, *own, *button, *searched;
+} searchesOfRows[]{
+    {"Return", "law_input", "main", "own", "", "own"},
+    {"Return, main field empty", "law_input", "", "own", "", ""},
+    {"Return, empty", "law_input", "main", "", "", ""},
+    {"next", "law_input", "main", "own", "law_next", "main"},
+    {"earlier Return", "gis_earlier_input", "main", "own", "", "own"},
+    {"earlier Return, second field empty", "gis_earlier_input", "", "own", "", ""},
+    {"earlier next", "gis_earlier_input", "main", "own", "gis_earlier_next", "main"},
+};
+
+/** Fields in use; their resting width is that at 96 dpi, 0 if it is fixed. */
+const struct
+{
+    const char *name;
+    int skin;
+    const char *field, *prompt;
+    int resting;
+} fieldsInUse[]{
+    {"marodi", marodi, "st_input", "点此查找文本", 108},
+    {"lum", lum, "st_input", "点此查找文本", 0},
+    {"no prompt", marodi, "st_input", "", 0},
+    {"field of a row", marodi, "gis_input", "", 0},
+};
+
 } // namespace
 
 /** The search fields and the additional controls. */
@@ -64,135 +110,79 @@ class SearchTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void shouldSearchFromItsFields_data()
-    {
-        QTest::addColumn<QString>("field");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("button");
-        QTest::addColumn<int>("direction"); // -1: no search at all.
-        const auto row = [](const char *name, const char *field, const char *text,
-                            const char *button, int direction) {
-            QTest::newRow(name) << field << text << button << direction;
-        };
-        row("Return", "st_input", "abc", "", 1);
-        row("next", "st_input", "abc", "st_next", 1);
-        row("previous", "st_input", "abc", "st_prev", 0);
-        row("Return, empty", "st_input", "", "", -1);
-        row("next, empty", "st_input", "", "st_next", -1);
-        row("second field, Return", "gis_input", "abc", "", 1);
-        row("second field, next", "gis_input", "abc", "gis_next", 1);
-        row("second field, previous", "gis_input", "abc", "gis_prev", 0);
-        row("second field, empty", "gis_input", "", "gis_next", -1);
-    }
+    void shouldSearchFromItsFields_data() { addRows(searchesOfFields); }
 
     void shouldSearchFromItsFields()
     {
-        QFETCH(QString, field);
-        QFETCH(QString, text);
-        QFETCH(QString, button);
-        QFETCH(int, direction);
-        TestHost host(sections());
-        host.show();
-        const bool isSecondField = field == "gis_input";
+        const auto &row = rowOf(searchesOfFields);
+        TestHost host = TestHost::shown(sections());
+        const bool isSecondField = QString(row.field) == "gis_input";
         host.find<QLineEdit>(isSecondField ? "st_input" : "gis_input")->setText("not this");
         const QSignalSpy searches(&host.facade(), &MRToolBar::DoSearchContent);
-        searchFor(host, field, text, button);
-        QCOMPARE(searches.count(), direction < 0 ? 0 : 1);
-        if (direction < 0)
+        searchFor(host, row.field, row.text, row.button);
+        QCOMPARE(searches.count(), row.direction < 0 ? 0 : 1);
+        if (row.direction < 0)
             return;
-        QCOMPARE(lastOf(searches).content, text);
-        QCOMPARE(lastOf(searches).direction, direction);
+        QCOMPARE(lastOf(searches).content, QString(row.text));
+        QCOMPARE(lastOf(searches).direction, row.direction);
         QCOMPARE(lastOf(searches).newSearch, isSecondField);
-
         searchFor(host, "st_input", "then");
         QCOMPARE(searches.count(), 2);
         QVERIFY2(lastOf(searches).direction == 1 && !lastOf(searches).newSearch,
                  "The former search affects this one");
     }
 
-    void shouldSearchFromAnyFieldOfARow_data()
-    {
-        QTest::addColumn<QString>("field");
-        QTest::addColumn<QString>("main"); // The text of the main field, which must not be empty.
-        QTest::addColumn<QString>("own");
-        QTest::addColumn<QString>("button");
-        QTest::addColumn<QString>("searched");
-        const auto row = [](const char *name, const char *field, const char *main, const char *own,
-                            const char *button, const char *searched) {
-            QTest::newRow(name) << field << main << own << button << searched;
-        };
-        row("Return", "law_input", "main", "own", "", "own");
-        row("Return, main field empty", "law_input", "", "own", "", "");
-        row("Return, empty", "law_input", "main", "", "", "");
-        row("next", "law_input", "main", "own", "law_next", "main");
-        row("earlier Return", "gis_earlier_input", "main", "own", "", "own");
-        row("earlier Return, second field empty", "gis_earlier_input", "", "own", "", "");
-        row("earlier next", "gis_earlier_input", "main", "own", "gis_earlier_next", "main");
-    }
+    void shouldSearchFromAnyFieldOfARow_data() { addRows(searchesOfRows); }
 
     void shouldSearchFromAnyFieldOfARow()
     {
-        QFETCH(QString, field);
-        QFETCH(QString, main);
-        QFETCH(QString, own);
-        QFETCH(QString, button);
-        QFETCH(QString, searched);
-        TestHost host(sections(otherField("law") + otherField("gis_earlier") + gisField));
-        host.show();
-        const bool isEarlier = field.startsWith("gis");
+        const auto &[name, field, main, own, button, searched] = rowOf(searchesOfRows);
+        TestHost host =
+            TestHost::shown(sections(otherField("law") + otherField("gis_earlier") + gisField));
+        const bool isEarlier = QString(field).startsWith("gis");
         host.find<QLineEdit>(isEarlier ? "gis_input" : "st_input")->setText(main);
         const QSignalSpy searches(&host.facade(), &MRToolBar::DoSearchContent);
         searchFor(host, field, own, button);
-        QCOMPARE(searches.count(), searched.isEmpty() ? 0 : 1);
-        if (searched.isEmpty())
+        QCOMPARE(searches.count(), *searched ? 1 : 0);
+        if (searches.isEmpty())
             return;
-        QCOMPARE(lastOf(searches).content, searched);
+        QCOMPARE(lastOf(searches).content, QString(searched));
         QCOMPARE(lastOf(searches).newSearch, isEarlier);
-    }
-
-    void shouldKeepASearchApartFromOneInItsHandler_data()
-    {
-        QTest::addColumn<QString>("control");
-        QTest::addColumn<QString>("answer"); // The button that the host clicks in its answer.
-        QTest::addColumn<QStringList>("searches");
-        const QStringList inner{"second 1 new", "main 0 repeated"};
-        QTest::newRow("main within second") << "gis_next"
-                                            << "st_prev" << inner;
-        QTest::newRow("second within main")
-            << "st_prev"
-            << "gis_next" << QStringList{"main 0 repeated", "second 1 new"};
-        // One control emits two searches, with another search in between.
-        QTest::newRow("main within second, which goes on")
-            << "gis_input_next"
-            << "st_prev" << inner + QStringList("second 1 new");
     }
 
     void shouldKeepASearchApartFromOneInItsHandler()
     {
-        QFETCH(QString, control);
-        QFETCH(QString, answer);
-        const QString next = control.startsWith("gis_input") ? control : "gis_next";
-        TestHost host(sections(QString(gisField).replace("gis_next", next)));
-        host.showEnabled();
-        host.find<QLineEdit>("st_input")->setText("main");
-        host.find<QLineEdit>("gis_input")->setText("second");
-        QStringList heard;
-        connect(&host.facade(), &MRToolBar::DoSearchContent, this, [&](const SearchOption &option) {
-            heard.append(
-                QStringLiteral("%1 %2 %3")
-                    .arg(option.content, QString::number(option.direction),
-                         option.newSearch ? QStringLiteral("new") : QStringLiteral("repeated")));
-            if (heard.size() == 1)
-                host.find<QPushButton>(answer)->click();
-        });
-        host.find<QPushButton>(control)->click();
-        QTEST(heard, "searches");
+        const QStringList inner{"second 1 new", "main 0 repeated"};
+        // The control, the button that the host clicks in its answer, and the searches.
+        const QList<std::tuple<QString, QString, QStringList>> rows{
+            {"gis_next", "st_prev", inner},
+            {"st_prev", "gis_next", {"main 0 repeated", "second 1 new"}},
+            // One control emits two searches, with another search in between.
+            {"gis_input_next", "st_prev", inner + QStringList("second 1 new")}};
+        for (const auto &[control, answer, searches] : rows) {
+            const QString next = control.startsWith("gis_input") ? control : "gis_next";
+            TestHost host =
+                TestHost::enabled(sections(QString(gisField).replace("gis_next", next)));
+            host.find<QLineEdit>("st_input")->setText("main");
+            host.find<QLineEdit>("gis_input")->setText("second");
+            QStringList heard;
+            connect(&host.facade(), &MRToolBar::DoSearchContent, this,
+                    [&heard, &host, button = answer](const SearchOption &option) {
+                        heard.append(QStringLiteral("%1 %2 %3")
+                                         .arg(option.content)
+                                         .arg(option.direction)
+                                         .arg(option.newSearch ? "new" : "repeated"));
+                        if (heard.size() == 1)
+                            host.find<QPushButton>(button)->click();
+                    });
+            host.find<QPushButton>(control)->click();
+            QCOMPARE(heard, searches);
+        }
     }
 
     void shouldCarryTheOptionsOfItsMenu()
     {
-        TestHost host(sections());
-        host.show();
+        TestHost host = TestHost::shown(sections());
         const QSignalSpy searches(&host.facade(), &MRToolBar::DoSearchContent);
         const QString wholeWord = "st_option_wholeword";
         const QString noCase = "st_option_nocase";
@@ -229,8 +219,7 @@ private Q_SLOTS:
     {
         for (const int skin : {marodi, lum}) {
             const SkinChoice choice(skin);
-            TestHost host(sections());
-            host.show();
+            TestHost host = TestHost::shown(sections());
             for (const char *colour : {"", "#7A3B1B"}) {
                 if (*colour)
                     host.facade().DoSetSkinStyleSlot({{"[MainColor.checked]", colour}});
@@ -244,30 +233,15 @@ private Q_SLOTS:
         }
     }
 
-    void shouldWidenAndShowItsButtonsInUse_data()
-    {
-        QTest::addColumn<int>("skin");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("prompt");
-        QTest::addColumn<int>("resting"); // Width without focus at 96 dpi; 0 if fixed.
-        QTest::newRow("marodi") << marodi << "st_input"
-                                << "点此查找文本" << 108;
-        QTest::newRow("lum") << lum << "st_input"
-                             << "点此查找文本" << 0;
-        QTest::newRow("no prompt") << marodi << "st_input"
-                                   << "" << 0;
-        QTest::newRow("field of a row") << marodi << "gis_input"
-                                        << "" << 0;
-    }
+    void shouldWidenAndShowItsButtonsInUse_data() { addRows(fieldsInUse); }
 
     void shouldWidenAndShowItsButtonsInUse()
     {
-        QFETCH(int, skin);
-        QFETCH(QString, name);
-        QFETCH(QString, prompt);
-        QFETCH(int, resting);
-        const SkinChoice choice(skin);
-        TestHost host(sections(gisField, prompt));
+        const auto &row = rowOf(fieldsInUse);
+        const int resting = row.resting;
+        const QString name = row.field;
+        const SkinChoice choice(row.skin);
+        TestHost host(sections(gisField, row.prompt));
         auto *document = new QLineEdit;
         host.window().setCentralWidget(document);
         host.showEnabled();

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The MRToolBar authors
 // SPDX-License-Identifier: MIT
 
+#include "tests/support/Rows.h"
 #include "tests/support/TestHost.h"
 #include "tests/support/WarningTrap.h"
 #include "toolbar/skin/StyleSheet.h"
@@ -45,6 +46,28 @@ QString shippedTemplate(int skin)
     return LoadQss(
         QString(":/mr_toolbar/Resources/%1/qssfile.qss").arg(skin == lum ? "lum" : "marodi"));
 }
+
+const SkinMap hoverIsPressed{{"[MainColor.hover]", "rgb(183,185,190)"},
+                             {"[MainColor.pressed]", QString()}};
+
+/** Skin maps, and how the colours after construction differ from those after a switch. */
+const struct
+{
+    const char *name;
+    int skin;
+    SkinMap given, deviation;
+} skins[]{
+    {"lum", lum, {}, {}},
+    {"any other", -1, {}, {}},
+    {"any other, some", -1, {{"[DefaultFontSize]", "[LightColor]"}}, {}},
+    {"lum, hover", lum, {{"[MainColor.hover]", "blue"}}, hoverIsPressed},
+    // The sheets do not use [LightColor], so a value refers to it.
+    {"lum, pressed",
+     lum,
+     {{"[MainColor.pressed]", "red"}, {"[Color.checked]", "[LightColor]"}},
+     {}},
+    {"left to the host", marodi, {{external, ""}}, {}},
+};
 
 } // namespace
 
@@ -104,31 +127,11 @@ private Q_SLOTS:
             QVERIFY2(NewToolBar::ScaleSheet(sheet, factor) == QLatin1String(scaled), name);
     }
 
-    void shouldApplyTheSheetOfItsSkin_data()
-    {
-        QTest::addColumn<int>("skin");
-        QTest::addColumn<SkinMap>("given");
-        // How the colours after construction differ from those after a switch.
-        QTest::addColumn<SkinMap>("deviation");
-        const SkinMap hoverIsPressed{{"[MainColor.hover]", "rgb(183,185,190)"},
-                                     {"[MainColor.pressed]", QString()}};
-        const SkinMap hover{{"[MainColor.hover]", "blue"}};
-        // The sheets do not use [LightColor], so a value refers to it.
-        const SkinMap pressed{{"[MainColor.pressed]", "red"}, {"[Color.checked]", "[LightColor]"}};
-        const SkinMap fontSize{{"[DefaultFontSize]", "[LightColor]"}};
-        QTest::newRow("lum") << lum << SkinMap{} << SkinMap{};
-        QTest::newRow("any other") << -1 << SkinMap{} << SkinMap{};
-        QTest::newRow("any other, some") << -1 << fontSize << SkinMap{};
-        QTest::newRow("lum, hover") << lum << hover << hoverIsPressed;
-        QTest::newRow("lum, pressed") << lum << pressed << SkinMap{};
-        QTest::newRow("left to the host") << marodi << SkinMap{{external, ""}} << SkinMap{};
-    }
+    void shouldApplyTheSheetOfItsSkin_data() { addRows(skins); }
 
     void shouldApplyTheSheetOfItsSkin()
     {
-        QFETCH(int, skin);
-        QFETCH(SkinMap, given);
-        QFETCH(SkinMap, deviation);
+        const auto &[name, skin, given, deviation] = rowOf(skins);
         const SkinChoice choice(skin);
         const bool isExternal = given.contains(external);
         TestHost host("", given);
@@ -159,20 +162,13 @@ private Q_SLOTS:
         QVERIFY(isApplied(switched));
     }
 
-    void shouldLeaveEverythingInItsPlaceWhenColoursChange_data()
-    {
-        QTest::addColumn<int>("skin");
-        QTest::newRow("marodi") << marodi;
-        QTest::newRow("lum") << lum;
-    }
+    void shouldLeaveEverythingInItsPlaceWhenColoursChange_data() { addSkins(); }
 
     void shouldLeaveEverythingInItsPlaceWhenColoursChange()
     {
-        QFETCH(int, skin);
-        const SkinChoice choice(skin);
-        const SkinMap &colours = skin == lum ? lumDefaults : marodiDefaults;
-        const auto host = TestHost::withShipped(
-            QString("%1/mr_toolbar.release.xml").arg(skin == lum ? "lum" : "marodi"), colours);
+        const SkinChoice choice;
+        const SkinMap &colours = NewToolBar::uiStyle == lum ? lumDefaults : marodiDefaults;
+        const auto host = TestHost::withRelease(colours);
         host->window().resize(host->scaled(700), host->scaled(300));
         host->show();
         host->enableEverything();
@@ -183,7 +179,6 @@ private Q_SLOTS:
         QVERIFY(bar->value() > host->scaled(50));
         const int place = bar->value();
         const QImage before = host->window().grab().toImage();
-
         host->facade().DoSetSkinStyleSlot(with(colours, {{"[ToolBarBgColor]", "#223344"}}));
         QCOMPARE(bar->value(), place);
         QTRY_VERIFY(host->window().grab().toImage() != before);
@@ -208,34 +203,21 @@ private Q_SLOTS:
         }
     }
 
-    void shouldCauseNoWarnings_data()
-    {
-        QTest::addColumn<int>("skin");
-        QTest::addColumn<QString>("document");
-        QTest::addColumn<SkinMap>("map");
-        QTest::newRow("marodi") << marodi << "marodi/mr_toolbar.debug.xml" << SkinMap{};
-        QTest::newRow("lum") << lum << "lum/mr_toolbar.release.xml" << SkinMap{};
-        QTest::newRow("lum, without a pressed colour")
-            << lum << "lum/mr_toolbar.release.xml" << SkinMap{{"[MainColor]", "red"}};
-    }
-
     void shouldCauseNoWarnings()
     {
-        QFETCH(int, skin);
-        QFETCH(QString, document);
-        QFETCH(SkinMap, map);
-        const SkinChoice choice(skin);
-        const WarningTrap trap;
-        const auto host = TestHost::withShipped(document, map);
-        host->show();
-        host->toolBar()->Inner_DoDelayLoadMenuSlot();
-        host->openEachTab([](const QString &) { QCoreApplication::processEvents(); });
-
-        const QRegularExpression aboutSheets("style ?sheet|Unknown property|Could not parse",
-                                             QRegularExpression::CaseInsensitiveOption);
-        QStringList warnings = WarningTrap::warnings().filter(aboutSheets);
-        warnings.removeDuplicates();
-        QVERIFY2(warnings.isEmpty(), qPrintable(warnings.join('\n')));
+        for (const auto &[skin, map] : {std::pair{marodi, SkinMap()},
+                                        {lum, SkinMap()},
+                                        {lum, SkinMap{{"[MainColor]", "red"}}}}) {
+            const SkinChoice choice(skin);
+            const WarningTrap trap;
+            const auto host = TestHost::withRelease(map);
+            host->show();
+            host->toolBar()->Inner_DoDelayLoadMenuSlot();
+            host->openEachTab([](const QString &) { QCoreApplication::processEvents(); });
+            const QRegularExpression aboutSheets("style ?sheet|Unknown property|Could not parse",
+                                                 QRegularExpression::CaseInsensitiveOption);
+            QCOMPARE(WarningTrap::warnings().filter(aboutSheets), QStringList());
+        }
     }
 };
 

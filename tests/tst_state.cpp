@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "tests/support/Describe.h"
+#include "tests/support/Rows.h"
 #include "tests/support/TestHost.h"
 #include "toolbar/widgets/MRDropButton.h"
 #include "toolbar/widgets/MRMainToolBar.h"
@@ -16,26 +17,6 @@
 using namespace Describe;
 
 namespace {
-
-QString foldControls()
-{
-    return section("addtional", button("h_info") + button("t_fold"));
-}
-
-/** The sections of a toolbar with every area. */
-QString everything()
-{
-    return section("appbutton", menu("menu_file", item("f_exit"))
-                                    + menu("ab_set", menu("menu_edit", item("e_undo"))))
-           + section("quickaccessbar", button("qbar_f_open", "checkable='true'")
-                                           + button("qbar_f_print", "checkable='true'")
-                                           + button("qt_set"))
-           + section("tabbar",
-                     tab("a", button("x") + button("y", "checkable='true'"), "checked='true'")
-                         + tab("b", button("z")))
-           + section("searchbar", field("st_input") + button("st_next") + button("st_set"))
-           + foldControls();
-}
 
 /** A letter for each enabled control with the name "x". */
 QString enabledPlaces(TestHost &host)
@@ -62,6 +43,47 @@ QString enabledPlaces(TestHost &host)
     return places;
 }
 
+/** The widgets that a reserved name stands for; none for other names. */
+const struct
+{
+    const char *name;
+    QStringList members;
+} areas[]{
+    {"toolbar_whole", {"mrtoolbar"}},
+    {"toolbar_appbutton", {"menu_file", "ab_set"}},
+    {"toolbar_toptoolbar", {"top_widget"}},
+    {"toolbar_quickaccessbar", {"toolbar_quickaccessbar", "qt_set"}},
+    {"toolbar_searchbar", {"st_input", "st_set"}},
+    {"toolbar_addtional", {"h_help", "t_fold"}},
+    {"toolbar_maintoolbar", {"first_row"}},
+    {"toolbar_tabbar", {"first", "second", "third"}},
+    {"toolbar_else", {}},
+    {"x/toolbar_whole", {}},
+};
+
+const QString tabX = tab("x", {});
+const QString additionalX = section("addtional", button("x"));
+const QString appX = section("appbutton", menu("x", {}));
+const QString quickX = section("quickaccessbar", button("qbar_x") + button("qbar_f_x"));
+// Its action ignores states by name, so that the test sees those of the button alone.
+const QString dropX = menu("x", {}, "available='false'");
+
+/** The controls of the row on show, the tabs after it, other sections, and what stays enabled. */
+const struct
+{
+    const char *name;
+    QString row, tabs, sections;
+    const char *left;
+} lookUps[]{
+    {"action, additional", button("x"), "", additionalX, ""},
+    {"action, tab, application button", button("x"), tabX, appX, ""},
+    {"additional before drop button, tab", dropX, tabX, additionalX, "TD"},
+    {"drop button before tab", dropX, tabX, appX, "TP"},
+    {"first quick entry before tab", "", tabX, quickX, "TQ"},
+    {"group button before tab", group("g", button("x")), tabX, "", "T"},
+    {"unavailable group button", group("g", button("x", "available='false'")), tabX, appX, ""},
+};
+
 } // namespace
 
 /** The enabled and visible states by name, of areas and single controls, and their queries. */
@@ -70,31 +92,18 @@ class StateTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void shouldAddressWholeAreasByReservedNames_data()
-    {
-        QTest::addColumn<QStringList>("members");
-        QTest::newRow("toolbar_whole") << QStringList("mrtoolbar");
-        QTest::newRow("toolbar_appbutton") << QStringList{"menu_file", "ab_set"};
-        QTest::newRow("toolbar_toptoolbar") << QStringList("top_widget");
-        QTest::newRow("toolbar_quickaccessbar") << QStringList{"toolbar_quickaccessbar", "qt_set"};
-        QTest::newRow("toolbar_searchbar") << QStringList{"st_input", "st_set"};
-        QTest::newRow("toolbar_addtional") << QStringList{"h_info", "t_fold"};
-        QTest::newRow("toolbar_maintoolbar") << QStringList("a_row");
-        QTest::newRow("toolbar_tabbar") << QStringList{"a", "b"};
-        QTest::newRow("toolbar_else") << QStringList();
-        QTest::newRow("x/toolbar_whole") << QStringList();
-    }
+    void shouldAddressWholeAreasByReservedNames_data() { addRows(areas); }
 
     void shouldAddressWholeAreasByReservedNames()
     {
-        QFETCH(QStringList, members);
+        QStringList members = rowOf(areas).members;
         TestHost host(everything());
         const QString name = QTest::currentDataTag();
         host.showEnabled();
-        host.find<MRMainToolBar>("a")->setObjectName("a_row");
+        host.find<MRMainToolBar>("first")->setObjectName("first_row");
         const bool isArea = !members.isEmpty();
         if (!isArea) // None of these may change.
-            members = QStringList{"mrtoolbar", "menu_file", "top_widget", "b", "h_info", "a_row"};
+            members = QStringList{"mrtoolbar", "menu_file", "top_widget", "second", "first_row"};
         const auto holding = [&host, &members](bool (QWidget::*state)() const) {
             return std::count_if(members.begin(), members.end(), [&](const QString &member) {
                 const auto *button = host.find<QPushButton>(member);
@@ -115,44 +124,19 @@ private Q_SLOTS:
         }
     }
 
-    void shouldLookANameUpPlaceByPlace_data()
-    {
-        QTest::addColumn<QString>("row");  // Controls of the row on show.
-        QTest::addColumn<QString>("tabs"); // The tabs after it.
-        QTest::addColumn<QString>("sections");
-        QTest::addColumn<QString>("left"); // The controls still enabled afterwards.
-        const QString tabX = tab("x", {});
-        const QString grouped = group("g", button("x"));
-        const QString unavailable = group("g", button("x", "available='false'"));
-        const QString additional = section("addtional", button("x"));
-        const QString app = section("appbutton", menu("x", {}));
-        const QString quick = section("quickaccessbar", button("qbar_x") + button("qbar_f_x"));
-        // Its action ignores states by name, so that the test sees those of the button alone.
-        const QString drop = menu("x", {}, "available='false'");
-        QTest::newRow("action, additional") << button("x") << "" << additional << "";
-        QTest::newRow("action, tab, application button") << button("x") << tabX << app << "";
-        QTest::newRow("additional before drop button, tab") << drop << tabX << additional << "TD";
-        QTest::newRow("drop button before tab") << drop << tabX << app << "TP";
-        QTest::newRow("first quick entry before tab") << "" << tabX << quick << "TQ";
-        QTest::newRow("group button before tab") << grouped << tabX << ""
-                                                 << "T";
-        QTest::newRow("unavailable group button") << unavailable << tabX << app << "";
-    }
+    void shouldLookANameUpPlaceByPlace_data() { addRows(lookUps); }
 
     void shouldLookANameUpPlaceByPlace()
     {
-        QFETCH(QString, row);
-        QFETCH(QString, tabs);
-        QFETCH(QString, sections);
-        TestHost host(section("tabbar", tab("row", row, "checked='true'") + tabs) + sections);
-        host.showEnabled();
+        const auto &[name, rowX, tabs, sections, left] = rowOf(lookUps);
+        TestHost host = TestHost::enabled(row(rowX, tabs) + sections);
         if (auto *drop = host.find<MRDropButton>("x"))
             drop->setEnabled(true);
         const QList<QAction *> entries = host.find<QToolBar>("toolbar_quickaccessbar")->actions();
         for (QAction *entry : entries)
             entry->setEnabled(true);
         host.setUsable("x", false);
-        QTEST(enabledPlaces(host), "left");
+        QCOMPARE(enabledPlaces(host), QString(left));
     }
 
     void shouldEnableTheRowsOnTheFirstReport()
@@ -162,10 +146,10 @@ private Q_SLOTS:
         auto *strip = host.find<QToolBar>("mrtoolbar");
         QVERIFY(!stack->isEnabled());
         strip->setEnabled(false);
-        host.setUsable("x", false);
+        host.setUsable("two", false);
         QVERIFY(stack->isEnabledTo(strip));
         strip->setEnabled(true);
-        QVERIFY(host.action("x")->isEnabled()); // A disabled toolbar ignores states by name.
+        QVERIFY(host.action("two")->isEnabled()); // A disabled toolbar ignores states by name.
         stack->setEnabled(false);
         host.setUsable("x", true);
         QVERIFY(!stack->isEnabled()); // Only the first report enables the rows.
@@ -173,12 +157,12 @@ private Q_SLOTS:
 
     void shouldSetOnlyTheFirstActionWhileTheRowIsDisabled()
     {
-        TestHost host(row(button("h_info") + button("menu_h_info")) + foldControls());
+        TestHost host(row(button("h_info") + button("menu_h_info"))
+                      + section("addtional", button("h_info")));
         host.enableRows();
         host.find<MRScrollWidget>(QString())->setEnabled(false);
         host.setUsable("h_info", false);
-        QVERIFY(!host.action("h_info")->isEnabled());
-        QVERIFY(host.action("menu_h_info")->isEnabled());
+        QVERIFY(!host.action("h_info")->isEnabled() && host.action("menu_h_info")->isEnabled());
         QVERIFY(host.find<QPushButton>("h_info")->isEnabled());
         host.setUsable("toolbar_addtional", false);
         QVERIFY(host.find<QPushButton>("h_info")->isEnabled());
@@ -209,8 +193,7 @@ private Q_SLOTS:
                                           {"my toolbar_quickaccessbar/f_open", "sOP"},
                                           {"f_open", "s-P"},
                                           {"qt_set", "-OP"}};
-        TestHost host(everything());
-        host.show();
+        TestHost host = TestHost::shown(everything());
         const auto shown = [&host] {
             const auto *set = host.find<QPushButton>("qt_set");
             QString text = set->isVisible() ? "s" : "-";
@@ -234,10 +217,9 @@ private Q_SLOTS:
 
     void shouldSetTheContainerOfAField()
     {
-        TestHost host(row(comboBox("v_zoom", choice("m1", "1%") + choice("m2", "2%"))
-                          + button("v_zoomlist") + field("d_gotopage")
-                          + button("d_gotopageinput")));
-        host.showEnabled();
+        TestHost host = TestHost::enabled(
+            row(comboBox("v_zoom", choice("m1", "1%") + choice("m2", "2%")) + button("v_zoomlist")
+                + field("d_gotopage") + button("d_gotopageinput")));
         const QStringList names{"v_zoom", "v_zoomlist", "d_gotopage", "d_gotopageinput"};
         for (int i = 0; i < names.size(); i += 2) {
             const QString &name = names.at(i);
@@ -258,36 +240,35 @@ private Q_SLOTS:
 
     void shouldAnswerForSingleControls()
     {
-        TestHost host(everything() + section("tabbar", tab("b", {})));
+        TestHost host(everything() + section("tabbar", tab("third", {})));
         host.toolBar()->Inner_DoDelayLoadMenuSlot();
         host.showEnabled();
         const auto enabled = [&host](const char *name) {
             return host.facade().GetCompositeEnable(name);
         };
-        QVERIFY(enabled("x") && enabled("menu_file") && enabled("ab_set"));
-        QVERIFY(!enabled("nothing") && !enabled("h_info") && !enabled("") && !enabled("f_exit"));
+        QVERIFY(enabled("two") && enabled("menu_file") && enabled("ab_set"));
+        QVERIFY(!enabled("nothing") && !enabled("h_help") && !enabled("") && !enabled("f_open"));
         // The entry that opens a menu has the name of the menu.
-        QVERIFY(enabled("menu_edit"));
-        host.setUsable("menu_edit", false);
-        QVERIFY(!enabled("menu_edit"));
+        QVERIFY(enabled("menu_view"));
+        host.setUsable("menu_view", false);
+        QVERIFY(!enabled("menu_view"));
         // Of two tabs with one name the last one is queried.
-        host.window().findChildren<QPushButton *>("b").last()->setEnabled(false);
-        QVERIFY(!enabled("b") && enabled("a"));
-        QVERIFY(!host.facade().GetControlCheckedState("x"));
-        QVERIFY(host.facade().IsSupportByToolBar("e_undo"));
-        QVERIFY(!host.facade().IsSupportByToolBar("undo"));
+        host.window().findChildren<QPushButton *>("third").last()->setEnabled(false);
+        QVERIFY(!enabled("third") && enabled("first"));
+        QVERIFY(!host.facade().GetControlCheckedState("two"));
+        QVERIFY(host.facade().IsSupportByToolBar("v_a") && !host.facade().IsSupportByToolBar("a"));
         QVERIFY(!host.facade().IsSupportByToolBar("qbar_f_open"));
     }
 
     void shouldReportTheGeometryOnTheScreen()
     {
-        TestHost host(everything());
-        host.show();
-        const QWidget *widget = host.find<MRMainToolBar>("a")->widgetForAction(host.action("y"));
+        TestHost host = TestHost::shown(everything());
+        const QWidget *widget =
+            host.find<MRMainToolBar>("first")->widgetForAction(host.action("two"));
         QTRY_VERIFY(widget->x() > 0);
-        QCOMPARE(host.facade().GetControlGeometry("y"),
+        QCOMPARE(host.facade().GetControlGeometry("two"),
                  QRect(widget->mapToGlobal(QPoint()), widget->size()));
-        for (const char *name : {"nothing", "z", "f_exit", "qbar_f_open", ""})
+        for (const char *name : {"nothing", "three", "f_open", "qbar_f_open", ""})
             QCOMPARE(host.facade().GetControlGeometry(name), QRect());
     }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "tests/support/Describe.h"
+#include "tests/support/Rows.h"
 #include "tests/support/TestHost.h"
 #include "toolbar/widgets/MRMainToolBar.h"
 #include "toolbar/widgets/MRMenuButton.h"
@@ -23,28 +24,24 @@ QString tabBar(const QString &tabs)
     return section("tabbar", tabs) + section("addtional", button("t_fold"));
 }
 
-const QString checkable = "checkable='true'";
-const QString shown = "checkable='true' checked='true'";
-const QString uncheckable = "checkable='false'";
-
-/** Tabs "0", "1" and so on with a button each and these attributes. */
-QString tabsWith(const QStringList &attributes)
+/** Tabs "0", "1" and so on with a button each: s is on show, c checkable, u not, U on show. */
+QString tabsOf(const QString &kinds)
 {
     QString tabs;
-    for (int i = 0; i < attributes.size(); ++i) {
-        const QString name = QString::number(i);
+    for (int i = 0; i < kinds.size(); ++i) {
+        const QChar kind = kinds.at(i);
+        const QString attributes = QString(kind.toLower() == 'u' ? "" : "checkable='true' ")
+                                   + (kind == 's' || kind == 'U' ? "checked='true'" : "");
         tabs += QStringLiteral("<tabbutton name='%1' text='%1' %2>%3</tabbutton>")
-                    .arg(name, attributes.at(i), button("command" + name));
+                    .arg(QString::number(i), attributes, button("command" + QString::number(i)));
     }
     return tabBar(tabs);
 }
 
-/** Tabs "0" to "2" with a button each, of which one is on show. */
-QString threeTabs(int checkedTab = 0)
+/** Three checkable tabs, of which one is on show. */
+QString threeTabs(int current = 0)
 {
-    QStringList attributes{checkable, checkable, checkable};
-    attributes[checkedTab] = shown;
-    return tabsWith(attributes);
+    return tabsOf(QString("ccc").replace(current, 1, 's'));
 }
 
 QStackedWidget *stack(const TestHost &host)
@@ -81,52 +78,52 @@ void actInLoop(TestHost &host, const QString &steps)
     loop.exec();
 }
 
-void addAnswer(const char *name, const QStringList &tabs, const char *steps, const char *answer,
-               int tab, bool isFolded = false)
+using React = void (*)(TestHost &, const QString &);
+
+/** The steps of a user, and the answer that the host gives once, to DoRequestAuthority(). */
+void exchange(TestHost &host, React react, const QString &steps, const QString &answer)
 {
-    QTest::newRow(name) << tabs << steps << answer << tab << isFolded;
+    host.showEnabled();
+    bool isAnswered = false;
+    const auto connection =
+        QObject::connect(&host.facade(), &MRToolBar::DoRequestAuthority, &host.facade(), [&] {
+            if (!std::exchange(isAnswered, true))
+                react(host, answer);
+        });
+    act(host, steps);
+    QObject::disconnect(connection);
 }
 
-void addAnswersOfCheckableTabs()
+/** The tab on show after the host's answer. */
+const struct
 {
-    const QStringList plain{shown, checkable, checkable};
-    addAnswer("hides the tab on show", plain, "click 1", "hide 0", 1);
-    addAnswer("hides the tab on show, not the next clicked", plain, "click 2", "hide 0", 2);
-    addAnswer("disables the tab on show", plain, "click 2", "disable 0", 2);
-    addAnswer("hides all others", plain, "click 2", "hide 0,hide 1", 2);
-    addAnswer("sends all states", plain, "click 1", "enable 0,enable 1,enable 2", 1);
-    addAnswer("sends all states twice", plain, "click 2", "enable 0,enable 1,enable 0,enable 2", 2);
-    addAnswer("opens another tab", plain, "click 1", "click 2", 2);
-    addAnswer("opens another tab by its position", plain, "click 1", "open 2", 2);
-    addAnswer("opens the tab, too", plain, "click 1", "click 1", 1);
-    addAnswer("opens another tab, then the tab", plain, "click 1", "click 2,click 1", 1);
-    addAnswer("returns to the tab on show", plain, "click 1", "click 0", 0);
-    addAnswer("leaves the tab on show, then returns", plain, "click 1", "enable 0,click 0", 0);
-    addAnswer("opens the tab and folds it", plain, "click 1", "click 1,click 1", 1, true);
-    addAnswer("opens the tab, then hides it", plain, "click 1", "click 1,hide 1", 2);
-    addAnswer("is asked while the rows are folded", plain, "click 0,click 1", "click 1", 1);
-    addAnswer("has left a tab and disables it", plain, "hide 0", "disable 0", 1);
-    addAnswer("has left a tab and opens another", plain, "hide 0", "click 2", 2);
-    addAnswer("has left a tab and leaves another", plain, "enable 0", "click 2,hide 2", 0);
-    addAnswer("has opened the tab before", plain, "click 1,click 0,click 1", "", 1);
-    addAnswer("has no tab on show at first", {checkable, checkable}, "click 0", "", 0);
-    addAnswer("has no tab on show at first, opens one", {checkable, checkable}, "click 0",
-              "click 0", 0);
-    addAnswer("has no tab on show at first, hides it", {checkable, checkable}, "click 0", "hide 0",
-              1);
-}
-
-void addAnswersOfAnUncheckableTab()
-{
-    const QStringList mixed{shown, uncheckable, checkable};
-    addAnswer("has a tab that takes no check", mixed, "click 1", "", 1);
-    addAnswer("opens a tab that takes no check twice", mixed, "click 1", "click 1", 1);
-    addAnswer("hides the tab on show for it", mixed, "click 1", "hide 0", 1);
-    addAnswer("returns from it", mixed, "click 1", "click 0", 0);
-    addAnswer("opens another one instead of it", mixed, "click 1", "click 2", 2);
-    addAnswer("leaves it", mixed, "click 1,hide 1", "", 2);
-    addAnswer("begins with it", {shown, uncheckable + " checked='true'"}, "", "", 1);
-}
+    const char *name, *tabs, *steps, *answer;
+    int tab;
+    bool isFolded = false;
+} answers[]{
+    {"hides the tab on show", "scc", "click 2", "hide 0", 2},
+    {"disables the tab on show", "scc", "click 2", "disable 0", 2},
+    {"hides all others", "scc", "click 2", "hide 0,hide 1", 2},
+    {"sends all states twice", "scc", "click 2", "enable 0,enable 1,enable 0,enable 2", 2},
+    {"opens another tab", "scc", "click 1", "click 2", 2},
+    {"opens another tab by its position", "scc", "click 1", "open 2", 2},
+    {"opens another tab, then the tab", "scc", "click 1", "click 2,click 1", 1},
+    {"returns to the tab on show", "scc", "click 1", "click 0", 0},
+    {"leaves the tab on show, then returns", "scc", "click 1", "enable 0,click 0", 0},
+    {"opens the tab and folds it", "scc", "click 1", "click 1,click 1", 1, true},
+    {"opens the tab, then hides it", "scc", "click 1", "click 1,hide 1", 2},
+    {"is asked while the rows are folded", "scc", "click 0,click 1", "click 1", 1},
+    {"has left a tab and disables it", "scc", "hide 0", "disable 0", 1},
+    {"has left a tab and opens another", "scc", "hide 0", "click 2", 2},
+    {"has left a tab and leaves another", "scc", "enable 0", "click 2,hide 2", 0},
+    {"has no tab on show at first, opens one", "cc", "click 0", "click 0", 0},
+    {"has no tab on show at first, hides it", "cc", "click 0", "hide 0", 1},
+    {"opens a tab that takes no check twice", "suc", "click 1", "click 1", 1},
+    {"hides the tab on show for it", "suc", "click 1", "hide 0", 1},
+    {"returns from it", "suc", "click 1", "click 0", 0},
+    {"leaves it", "suc", "click 1,hide 1", "", 2},
+    {"begins with it", "sU", "", "", 1},
+};
 
 } // namespace
 
@@ -139,8 +136,7 @@ private Q_SLOTS:
     void shouldShowTheCheckedTabWhateverItsPosition()
     {
         for (int current = 0; current < 3; ++current) {
-            TestHost host(threeTabs(current));
-            host.show();
+            TestHost host = TestHost::shown(threeTabs(current));
             for (int i = 0; i < 3; ++i) {
                 const auto *row = host.find<MRMainToolBar>(QString::number(i));
                 QCOMPARE(row->isVisible(), i == current);
@@ -152,8 +148,7 @@ private Q_SLOTS:
 
     void shouldFillARowAndAskForStatesOnItsFirstOpening()
     {
-        TestHost host(threeTabs());
-        host.show();
+        TestHost host = TestHost::shown(threeTabs());
         QList<bool> isKnownWhenAsked;
         connect(&host.facade(), &MRToolBar::DoRequestAuthority, &host.facade(),
                 [&] { isKnownWhenAsked.append(host.facade().IsSupportByToolBar("command1")); });
@@ -167,8 +162,7 @@ private Q_SLOTS:
 
     void shouldFoldAndUnfoldTheRows()
     {
-        TestHost host(threeTabs());
-        host.show();
+        TestHost host = TestHost::shown(threeTabs());
         bool isShown = true;
         // Hiding and showing the additional controls must not change which button is visible.
         const auto verifyButtons = [&host, &isShown] {
@@ -198,8 +192,8 @@ private Q_SLOTS:
 
     void shouldOpenAnEmptyPageForATabWithoutControls()
     {
-        TestHost host(tabBar(tab("a", button("command"), "checked='true'") + tab("b", {})));
-        host.show();
+        TestHost host =
+            TestHost::shown(tabBar(tab("a", button("command"), "checked='true'") + tab("b", {})));
         QSignalSpy asked(&host.facade(), &MRToolBar::DoRequestAuthority);
         host.click("b");
         QCOMPARE(stack(host)->currentIndex(), 1);
@@ -209,9 +203,9 @@ private Q_SLOTS:
 
     void shouldFillTheLaterRowOfTwoTabsOfOneName()
     {
-        TestHost host(tabBar(tab("first", button("x"), "checked='true'") + tab("same", button("y"))
-                             + tab("same", button("z"))));
-        host.show();
+        TestHost host =
+            TestHost::shown(tabBar(tab("first", button("x"), "checked='true'")
+                                   + tab("same", button("y")) + tab("same", button("z"))));
         QSignalSpy asked(&host.facade(), &MRToolBar::DoRequestAuthority);
         host.click("same"); // The first button of that name.
         QCOMPARE(asked.size(), 1);
@@ -227,9 +221,9 @@ private Q_SLOTS:
     {
         const QString disabled = "<extra usable='false'>" + label("caption", "Find")
                                  + field("plain", "tooltip='Type'") + "</extra>";
-        TestHost host(tabBar(tab("a", button("x") + disabled, "checked='true' scalable='true'")
-                             + tab("b", button("y"), "scalable='true'") + tab("c", disabled)));
-        host.show();
+        TestHost host = TestHost::shown(
+            tabBar(tab("a", button("x") + disabled, "checked='true' scalable='true'")
+                   + tab("b", button("y"), "scalable='true'") + tab("c", disabled)));
         const auto *caption = host.find<QLabel>("caption");
         const auto *plain = host.find<QLineEdit>("plain");
         QVERIFY(caption->isVisible() && !caption->isEnabled() && !plain->isEnabled());
@@ -239,7 +233,6 @@ private Q_SLOTS:
         QCOMPARE(panel->contentsMargins(), QMargins(0, 0, 22, 0));
         QVERIFY(panel->x() > host.find<MRMainToolBar>("a")->mapTo(stack(host), QPoint(9, 0)).x());
         QCOMPARE(host.window().findChildren<QLabel *>("caption").size(), 1); // "c" has no panel.
-
         host.click("b");
         QVERIFY(!panel->isVisible());
         host.click("a");
@@ -259,9 +252,7 @@ private Q_SLOTS:
         };
         const QString three = next + button("gis_prev") + button("gis_more");
         QVERIFY(!TestHost(tabWith(three)).find<QLineEdit>("gis_input"));
-
-        TestHost host(tabWith(next));
-        host.showEnabled();
+        TestHost host = TestHost::enabled(tabWith(next));
         QSignalSpy found(&host.facade(), &MRToolBar::DoSearchContent);
         QTest::keyClicks(host.find<QLineEdit>("gis_input"), "Oslo");
         host.click("gis_next");
@@ -271,39 +262,14 @@ private Q_SLOTS:
         QCOMPARE(option.direction, 1);
     }
 
-    void shouldLeaveTheShownTabWhenItIsHiddenOrDisabled_data()
-    {
-        QTest::addColumn<int>("current"); // The index of the tab on show, of three.
-        QTest::addColumn<QStringList>("disabled");
-        QTest::addColumn<int>("next");
-        QTest::newRow("the next one") << 0 << QStringList() << 1;
-        QTest::newRow("wraps around") << 2 << QStringList() << 0;
-        QTest::newRow("the next one is disabled") << 0 << QStringList("1") << 0;
-        QTest::newRow("no other one is usable") << 1 << QStringList{"0", "2"} << 1;
-    }
-
     void shouldLeaveTheShownTabWhenItIsHiddenOrDisabled()
     {
-        QFETCH(int, current);
-        QFETCH(QStringList, disabled);
-        const QString name = QString::number(current);
-        for (const bool hides : {false, true}) {
-            TestHost host(threeTabs(current));
-            host.showEnabled();
-            for (const QString &other : std::as_const(disabled))
-                host.find<QPushButton>(other)->setEnabled(false);
-            hides ? host.setVisible(name, false) : host.setUsable(name, false);
-            QTEST(stack(host)->currentIndex(), "next");
-            QVERIFY(!host.find<MRMainToolBar>(name)->isVisible());
-            const auto *tabButton = host.find<QPushButton>(name);
-            QVERIFY(hides ? !tabButton->isVisible() : !tabButton->isEnabled());
-            QVERIFY(!host.find<QPushButton>("t_fold")->isVisible());
-            QVERIFY(host.find<QPushButton>("t_extend")->isVisible());
-            if (hides || stack(host)->currentIndex() == current)
-                continue;
-            host.find<QPushButton>(name)->setEnabled(true);
-            host.click(name);
-            QVERIFY2(host.find<MRMainToolBar>(name)->isVisible(), "The row has not come back");
+        // The tab on show of three, the disabled ones, and the next one on show.
+        const QList<std::tuple<int, QStringList, int>> rows{
+            {0, {}, 1}, {2, {}, 0}, {0, {"1"}, 0}, {1, {"0", "2"}, 1}};
+        for (const auto &[current, disabled, next] : rows) {
+            for (const bool hides : {false, true})
+                leave(current, disabled, hides, next);
         }
     }
 
@@ -318,52 +284,22 @@ private Q_SLOTS:
         }
     }
 
-    void shouldLeaveTheShownTabOnceWhenAllStatesAreSentAgain()
-    {
-        TestHost host(threeTabs());
-        host.show();
-        connect(&host.facade(), &MRToolBar::DoRequestAuthority, &host.facade(),
-                [&host] { host.setUsable("0", false); });
-        host.setUsable("0", false);
-        QCOMPARE(stack(host)->currentIndex(), 1);
-        QVERIFY(host.find<MRMainToolBar>("1")->isVisible());
-    }
-
-    void shouldShowTheRowOfTheCheckedTabAfterAnAnswer_data()
-    {
-        QTest::addColumn<QStringList>("tabs");
-        QTest::addColumn<QString>("steps");
-        QTest::addColumn<QString>("answer");
-        QTest::addColumn<int>("tab");
-        QTest::addColumn<bool>("isFolded");
-        addAnswersOfCheckableTabs();
-        addAnswersOfAnUncheckableTab();
-    }
+    void shouldShowTheRowOfTheCheckedTabAfterAnAnswer_data() { addRows(answers); }
 
     void shouldShowTheRowOfTheCheckedTabAfterAnAnswer()
     {
-        QFETCH(QStringList, tabs);
-        QFETCH(QString, steps);
-        QFETCH(QString, answer);
-        QFETCH(int, tab);
-        QFETCH(bool, isFolded);
-        for (const auto &react : {act, actInLoop}) {
-            TestHost host(tabsWith(tabs));
-            host.showEnabled();
-            bool isAnswered = false;
-            connect(&host.facade(), &MRToolBar::DoRequestAuthority, this, [&] {
-                if (!std::exchange(isAnswered, true))
-                    react(host, answer);
-            });
-            act(host, steps);
-            const auto *stack = host.find<QStackedWidget>("tabwidget");
-            QCOMPARE(stack->currentIndex(), tab);
-            QCOMPARE(!stack->isVisible(), isFolded);
-            for (int i = 0; i < tabs.size(); ++i) {
+        const auto &row = rowOf(answers);
+        for (const React react : {act, actInLoop}) {
+            TestHost host(tabsOf(row.tabs));
+            exchange(host, react, row.steps, row.answer);
+            QCOMPARE(stack(host)->currentIndex(), row.tab);
+            QCOMPARE(!stack(host)->isVisible(), row.isFolded);
+            for (int i = 0; row.tabs[i]; ++i) {
                 const QString name = QString::number(i);
-                QCOMPARE(host.find<MRMainToolBar>(name)->isVisible(), i == tab && !isFolded);
+                QCOMPARE(host.find<MRMainToolBar>(name)->isVisible(),
+                         i == row.tab && !row.isFolded);
                 QCOMPARE(host.find<QPushButton>(name)->isChecked(),
-                         i == tab && tabs.at(i).startsWith(checkable));
+                         i == row.tab && row.tabs[i] != 'u' && row.tabs[i] != 'U');
             }
         }
     }
@@ -372,20 +308,35 @@ private Q_SLOTS:
     {
         for (const char *answer : {"delete", "click 2,delete", "hide 0,delete"}) {
             for (const char *steps : {"click 1", "hide 0"}) {
-                for (const auto &react : {act, actInLoop}) {
-                    TestHost host(tabsWith({shown, checkable, checkable}));
-                    host.showEnabled();
+                for (const React react : {act, actInLoop}) {
+                    TestHost host = TestHost::shown(threeTabs());
                     const QPointer<NewToolBar> toolBar = host.toolBar();
-                    bool isAnswered = false;
-                    connect(&host.facade(), &MRToolBar::DoRequestAuthority, this, [&] {
-                        if (!std::exchange(isAnswered, true))
-                            react(host, answer);
-                    });
-                    act(host, steps);
+                    exchange(host, react, steps, answer);
                     QVERIFY(toolBar.isNull());
                 }
             }
         }
+    }
+
+private:
+    static void leave(int current, const QStringList &disabled, bool hides, int next)
+    {
+        TestHost host = TestHost::enabled(threeTabs(current));
+        for (const QString &other : disabled)
+            host.find<QPushButton>(other)->setEnabled(false);
+        const QString name = QString::number(current);
+        hides ? host.setVisible(name, false) : host.setUsable(name, false);
+        QCOMPARE(stack(host)->currentIndex(), next);
+        auto *tabButton = host.find<QPushButton>(name);
+        QVERIFY(!host.find<MRMainToolBar>(name)->isVisible());
+        QVERIFY(hides ? !tabButton->isVisible() : !tabButton->isEnabled());
+        QVERIFY(!host.find<QPushButton>("t_fold")->isVisible());
+        QVERIFY(host.find<QPushButton>("t_extend")->isVisible());
+        if (hides || next == current)
+            return;
+        tabButton->setEnabled(true);
+        host.click(name);
+        QVERIFY2(host.find<MRMainToolBar>(name)->isVisible(), "The row has not come back");
     }
 };
 

@@ -13,6 +13,7 @@
 #include <QTimer>
 #include <QToolTip>
 
+#include <array>
 #include <utility>
 
 using namespace Describe;
@@ -197,78 +198,52 @@ private Q_SLOTS:
         QVERIFY(!host.box->isEditable());
     }
 
-    void shouldShowAZoomThatTheHostReports_data()
-    {
-        QTest::addColumn<QString>("shown");
-        QTest::addColumn<QString>("checked");
-        const QString custom = "vzmode_custom";
-        QTest::newRow("vzmode_100p") << QString("100%") << "vzmode_original";
-        QTest::newRow("vzmode_10p") << "10%" << custom;
-        QTest::newRow("vzmode_50p") << "50%" << custom; // Already shown.
-        QTest::newRow("vzmode_37p") << "37%" << custom;
-        QTest::newRow("vzmode_37.5P") << "37.5%" << custom;
-        QTest::newRow("vzmode_clip") << "cli%" << QString(); // Not a percentage.
-        QTest::newRow("vzmode_fitpage") << "Page" << QString();
-    }
-
     void shouldShowAZoomThatTheHostReports()
     {
-        QFETCH(QString, shown);
-        ZoomHost host;
-        QSignalSpy active(&host.facade(), &MRToolBar::DoActive);
-        int answers = 0;
-        // A host that confirms every report must not cause an endless loop.
-        connect(&host.facade(), &MRToolBar::DoSetZoomMode, &host.facade(), [&](QString heard) {
-            QVERIFY(++answers < 5);
-            host.facade().DoSetZoomModeSlot(heard);
-        });
-        host.facade().DoSetZoomModeSlot(QTest::currentDataTag());
-        QVERIFY(answers <= 1);
-        QCOMPARE(host.box->currentText(), shown);
-        QCOMPARE(host.box->isEditable(), shown.endsWith('%'));
-        QCOMPARE(host.box->count(), predefined);
-        QVERIFY(active.isEmpty());
-        QTEST(host.checkedModes(), "checked");
-    }
-
-    void shouldShowTheLastZoomInTheBoxAndOnTheButtons_data()
-    {
-        QTest::addColumn<QString>("first");
-        QTest::addColumn<QString>("answer");
-        QTest::addColumn<QString>("shown");
-        QTest::addColumn<QString>("checked");
-        const QString actualSize = "vzmode_original";
-        const QString custom = "vzmode_custom";
-        const auto row = [](const char *first, const char *answer, const char *shown,
-                            const QString &checked) {
-            QTest::newRow(qPrintable(QStringLiteral("%1, then %2").arg(first, answer)))
-                << first << answer << shown << checked;
-        };
-        row("vzmode_100p", "vzmode_87p", "87%", custom);
-        row("vzmode_100p", "vzmode_10p", "10%", custom);
-        row("vzmode_10p", "vzmode_100p", "100%", actualSize);
-        row("vzmode_original", "vzmode_87p", "87%", custom);
-        row("vzmode_fitpage", "vzmode_100p", "100%", actualSize);
+        const QList<std::array<QString, 3>> rows{{"vzmode_100p", "100%", "vzmode_original"},
+                                                 {"vzmode_10p", "10%", "vzmode_custom"},
+                                                 {"vzmode_50p", "50%", "vzmode_custom"},
+                                                 {"vzmode_37.5P", "37.5%", "vzmode_custom"},
+                                                 {"vzmode_clip", "cli%", ""}, // No percentage.
+                                                 {"vzmode_fitpage", "Page", ""}};
+        for (const auto &[mode, shown, checked] : rows) {
+            ZoomHost host;
+            QSignalSpy active(&host.facade(), &MRToolBar::DoActive);
+            int answers = 0;
+            // A host that confirms every report must not cause an endless loop.
+            connect(&host.facade(), &MRToolBar::DoSetZoomMode, &host.facade(), [&](QString heard) {
+                QVERIFY(++answers < 5);
+                host.facade().DoSetZoomModeSlot(heard);
+            });
+            host.facade().DoSetZoomModeSlot(mode);
+            QVERIFY(answers <= 1 && active.isEmpty());
+            QCOMPARE(host.box->currentText() + host.checkedModes(), shown + checked);
+            QCOMPARE(host.box->isEditable(), shown.endsWith('%'));
+            QCOMPARE(host.box->count(), predefined);
+        }
     }
 
     void shouldShowTheLastZoomInTheBoxAndOnTheButtons()
     {
-        QFETCH(QString, first);
-        QFETCH(QString, answer);
-        for (const bool isUser : {false, true}) {
-            ZoomHost host;
-            bool isAnswered = false;
-            connect(&host.facade(), &MRToolBar::DoSetZoomMode, this, [&](const QString &mode) {
-                if (mode == first && !std::exchange(isAnswered, true))
-                    host.facade().DoSetZoomModeSlot(answer);
-            });
-            if (isUser)
-                host.choose(first);
-            else
-                host.facade().DoSetZoomModeSlot(first);
-            QVERIFY(isAnswered);
-            QTEST(host.box->currentText(), "shown");
-            QTEST(host.checkedModes(), "checked");
+        const QList<std::array<QString, 4>> rows{
+            {"vzmode_100p", "vzmode_87p", "87%", "vzmode_custom"},
+            {"vzmode_100p", "vzmode_10p", "10%", "vzmode_custom"},
+            {"vzmode_10p", "vzmode_100p", "100%", "vzmode_original"},
+            {"vzmode_original", "vzmode_87p", "87%", "vzmode_custom"},
+            {"vzmode_fitpage", "vzmode_100p", "100%", "vzmode_original"}};
+        for (const auto &[first, answer, shown, checked] : rows) {
+            for (const bool isUser : {false, true}) {
+                ZoomHost host;
+                bool isAnswered = false;
+                connect(&host.facade(), &MRToolBar::DoSetZoomMode, &host.facade(),
+                        [&, chosen = first, next = answer](const QString &mode) {
+                            if (mode == chosen && !std::exchange(isAnswered, true))
+                                host.facade().DoSetZoomModeSlot(next);
+                        });
+                isUser ? host.choose(first) : host.facade().DoSetZoomModeSlot(first);
+                QVERIFY(isAnswered);
+                QCOMPARE(host.box->currentText() + host.checkedModes(), shown + checked);
+            }
         }
     }
 

@@ -1,10 +1,9 @@
 // SPDX-FileCopyrightText: The MRToolBar authors
 // SPDX-License-Identifier: MIT
 
-#include "tests/fuzz/DescribedUse.h"
 #include "tests/monkey/RandomSource.h"
 #include "tests/support/Elements.h"
-#include "tests/support/Words.h"
+#include "tests/support/Use.h"
 
 #include <QApplication>
 #include <QDomDocument>
@@ -56,7 +55,6 @@ public:
         QDomDocument document;
         if (!document.setContent(xml))
             return {};
-
         for (int changes = 1 + m_random.below(mostChanges); changes > 0; --changes)
             change(document);
         return document.toByteArray(0);
@@ -164,7 +162,6 @@ size_t LLVMFuzzerCustomMutator(uint8_t *data, size_t size, size_t maxSize, unsig
     constexpr unsigned int shareOfBytes = 8;
     if (seed % shareOfBytes == 0)
         return LLVMFuzzerMutate(data, size, maxSize);
-
     const QByteArray document(reinterpret_cast<const char *>(data), static_cast<int>(size));
     const QByteArray mutated = DescriptionMutator(seed).mutated(document);
     if (mutated.isEmpty() || static_cast<size_t>(mutated.size()) > maxSize)

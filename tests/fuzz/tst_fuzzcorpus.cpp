@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: The MRToolBar authors
 // SPDX-License-Identifier: MIT
 
-#include "tests/fuzz/DescribedUse.h"
+#include "tests/support/Use.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QTest>
 

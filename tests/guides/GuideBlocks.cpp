@@ -47,7 +47,6 @@ QList<GuideBlock> guideBlocks(const QString &folder)
     while (files.hasNext())
         paths.append(files.next());
     paths.sort();
-
     QList<GuideBlock> blocks;
     for (const QString &path : std::as_const(paths))
         blocks.append(readBlock(path));

@@ -70,7 +70,6 @@ int main(int argc, char *argv[])
     QApplication application(argc, argv);
     if (argc != 3)
         return 2;
-
     const QDir folder(QString::fromLocal8Bit(argv[2]));
     bool isComplete = true;
     const QList<GuideBlock> blocks = guideBlocks(QString::fromLocal8Bit(argv[1]));

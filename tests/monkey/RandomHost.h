@@ -5,7 +5,6 @@
 
 #include "tests/monkey/RandomSource.h"
 #include "tests/monkey/Witness.h"
-#include "tests/support/Words.h"
 #include "toolbar/MRToolBar.h"
 
 #include <QMainWindow>

@@ -4,9 +4,15 @@
 #pragma once
 
 #include <QList>
-#include <QString>
+#include <QStringList>
 
 #include <random>
+
+/** The words of a text, for long lists of names without blanks. */
+inline QStringList words(const char *text)
+{
+    return QString::fromUtf8(text).split(QLatin1Char(' '));
+}
 
 /** All random numbers of a run, so that the seed determines the whole run. */
 class RandomSource

@@ -222,7 +222,6 @@ private Q_SLOTS:
                               ? stepsOfShortRun
                               : qEnvironmentVariableIntValue("MONKEY_STEPS");
         const auto seed = static_cast<unsigned int>(qEnvironmentVariableIntValue("MONKEY_SEED"));
-
         Monkey monkey(seed, TestDocuments::read(path));
         for (int i = 0; i < steps; ++i) {
             monkey.step();

@@ -79,7 +79,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("way");
         for (const char *way : {"overwritten", "in steps", "replaced", "moved aside", "linked"})
-            QTest::addRow("%s", way) << way;
+            QTest::newRow(way) << way;
     }
 
     void shouldFollowTheFileHoweverItIsSaved()
@@ -103,27 +103,21 @@ private Q_SLOTS:
         }
     }
 
-    void shouldKeepTheToolBarAndListFindings_data()
-    {
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<QString>("finding");
-        QTest::newRow("not well-formed") << describing("x_new").chopped(20) << "5 xml-syntax";
-        QTest::newRow("something else") << QByteArray("<html/>") << "1 wrong-root";
-        QTest::newRow("empty") << QByteArray("") << "1 xml-syntax";
-        QTest::newRow("removed") << QByteArray() << " unreadable";
-    }
-
     void shouldKeepTheToolBarAndListFindings()
     {
-        QFETCH(const QByteArray, content);
-        QFETCH(const QString, finding);
-        Preview preview;
-        content.isNull() ? void(std::filesystem::remove(preview.path)) : preview.save(content);
-        QTRY_COMPARE(preview.findings(), QStringList(finding));
-        QVERIFY(preview.has("x_old"));
-        preview.save(describing("x_new", "colour='red'"));
-        QTRY_VERIFY(preview.has("x_new"));
-        QCOMPARE(preview.findings(), QStringList("3 unknown-attribute"));
+        for (const auto &[content, finding] :
+             {std::pair{describing("x_new").chopped(20), "5 xml-syntax"},
+              {QByteArray("<html/>"), "1 wrong-root"},
+              {QByteArray(""), "1 xml-syntax"},
+              {QByteArray(), " unreadable"}}) {
+            Preview preview;
+            content.isNull() ? void(std::filesystem::remove(preview.path)) : preview.save(content);
+            QTRY_COMPARE(preview.findings(), QStringList(finding));
+            QVERIFY(preview.has("x_old"));
+            preview.save(describing("x_new", "colour='red'"));
+            QTRY_VERIFY(preview.has("x_new"));
+            QCOMPARE(preview.findings(), QStringList("3 unknown-attribute"));
+        }
     }
 
     void shouldKeepTheViewOfTheDocument()

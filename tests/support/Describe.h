@@ -83,4 +83,39 @@ inline QString row(const QString &controls, const QString &otherTabs = {})
     return section("tabbar", tab("row", controls, "checked='true'") + otherTabs);
 }
 
+/** Every kind of control in every area; of the tabs "first" is on show. */
+inline QString everything()
+{
+    const QString checkable = "checkable='true' ";
+    const QString drops =
+        menu("d_drop", item("d_a", checkable) + item("d_b") + menu("d_more", item("d_two")),
+             checkable + "switchable='true' index='1'")
+        + menu("d_plain", item("d_c") + menu("d_inner", item("d_d")));
+    const QString groups =
+        group("g", button("g_one") + menu("g_menu", item("g_a"), checkable + "index='1'")
+                       + button("g_two", checkable + "group='gg'"));
+    const QString fields =
+        comboBox("v_zoom", choice("vzmode_50p", "50%") + choice("vzmode_100p", "100%"),
+                 "index='1' editable='true'")
+        + field("d_gotopage", "text='Page'") + label("d_totalpagelabel", "/");
+    const QString firstRow = button("one", checkable) + "<sperator/>"
+                             + button("two", checkable + "group='g2'")
+                             + button("slow", "doubleclick='true'") + drops + groups + fields;
+    const QString search = searchField("gis_input", button("gis_prev") + button("gis_next"));
+    const QString recent = menu("f_openrecent", item("no_file") + item("f_clearhistory"));
+    return section("appbutton", menu("menu_file", item("f_open") + item("one")
+                                                      + menu("menu_more", item("f_more")) + recent)
+                                    + menu("set", item("s_one") + menu("menu_view", item("v_a"))))
+           + section("quickaccessbar", button("qbar_f_open", checkable)
+                                           + button("qbar_f_print", checkable) + button("qt_set"))
+           + section("tabbar",
+                     tab("first", firstRow, "checked='true'")
+                         + tab("second", button("one") + button("three"))
+                         + tab("third", button("four") + extra(search), "scalable='true'"))
+           + section("searchbar", label("s_label", "Search") + field("st_input") + button("st_prev")
+                                      + button("st_next")
+                                      + optionsButton("st_set", item("st_wholeword", checkable)))
+           + section("addtional", button("h_help") + button("t_fold"));
+}
+
 } // namespace Describe

@@ -17,6 +17,19 @@ QDomDocument parsed(const QByteArray &xml)
 
 } // namespace
 
+int SkinChoice::ofRow()
+{
+    QFETCH(int, skin);
+    return skin;
+}
+
+void addSkins()
+{
+    QTest::addColumn<int>("skin");
+    QTest::newRow("marodi") << marodi;
+    QTest::newRow("lum") << lum;
+}
+
 TestHost::TestHost(const QString &sections, const SkinMap &skin, ToolBarAlignment alignment)
     : TestHost(parsed("<uiconfig prefix=\"\">" + sections.toUtf8() + "</uiconfig>"), skin,
                alignment)
@@ -32,9 +45,29 @@ TestHost::TestHost(const QDomDocument &document, const SkinMap &skin, ToolBarAli
     m_facade = std::make_unique<MRToolBar>(m_window.get(), root, skin, alignment);
 }
 
+TestHost TestHost::shown(const QString &sections, const SkinMap &skin)
+{
+    TestHost host(sections, skin);
+    host.show();
+    return host;
+}
+
+TestHost TestHost::enabled(const QString &sections, const SkinMap &skin)
+{
+    TestHost host(sections, skin);
+    host.showEnabled();
+    return host;
+}
+
 std::unique_ptr<TestHost> TestHost::withShipped(const QString &path, const SkinMap &skin)
 {
     return withFile(TestDocuments::shippedPath(path), skin);
+}
+
+std::unique_ptr<TestHost> TestHost::withRelease(const SkinMap &skin)
+{
+    const QString folder = NewToolBar::uiStyle == lum ? "lum" : "marodi";
+    return withShipped(folder + "/mr_toolbar.release.xml", skin);
 }
 
 std::unique_ptr<TestHost> TestHost::withFile(const QString &path, const SkinMap &skin)

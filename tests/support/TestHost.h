@@ -21,7 +21,7 @@
 class SkinChoice
 {
 public:
-    explicit SkinChoice(int style)
+    explicit SkinChoice(int style = ofRow())
         : m_previous(std::exchange(NewToolBar::uiStyle, style))
     {
         // Needed by widgets that a test creates without a toolbar.
@@ -30,12 +30,18 @@ public:
     ~SkinChoice() { NewToolBar::uiStyle = m_previous; }
     Q_DISABLE_COPY_MOVE(SkinChoice)
 
+    /** The value of the column "skin". */
+    static int ofRow();
+
 private:
     int m_previous;
 };
 
 constexpr int marodi = 0;
 constexpr int lum = 1;
+
+/** The column "skin" with a row for each. */
+void addSkins();
 
 /** A host window with a toolbar, made from the sections of a description. */
 class TestHost
@@ -46,8 +52,14 @@ public:
     explicit TestHost(const QString &sections, const SkinMap &skin = {},
                       ToolBarAlignment alignment = ToolBarLeft);
 
+    /** The same on the screen, and the latter with enabled rows. */
+    static TestHost shown(const QString &sections, const SkinMap &skin = {});
+    static TestHost enabled(const QString &sections, const SkinMap &skin = {});
+
     /** A host with a shipped description such as "marodi/mr_toolbar.release.xml". */
     static std::unique_ptr<TestHost> withShipped(const QString &path, const SkinMap &skin = {});
+    /** The same with the release description of the chosen skin. */
+    static std::unique_ptr<TestHost> withRelease(const SkinMap &skin = {});
 
     /** A host with the description in a file. */
     static std::unique_ptr<TestHost> withFile(const QString &path, const SkinMap &skin = {});

@@ -1,0 +1,227 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
+#include "pages/PageView.h"
+#include "shell/Description.h"
+#include "shell/ReaderWindow.h"
+
+#include <toolbar/NewToolBar.h>
+
+#include <QAccessible>
+#include <QApplication>
+#include <QClipboard>
+#include <QDomDocument>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSet>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <QToolBar>
+
+namespace {
+
+/** The reader with a shipped description, in the active window. */
+struct Reader
+{
+    explicit Reader(const QString &skin)
+        : window(Description::read("release", skin, &error), QString())
+    {
+        window.openSample();
+        window.show();
+        window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        QTRY_VERIFY(view->hasFocus());
+    }
+
+    /** Sends a key to the focus widget, as the window system does. */
+    static void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        QWidget *receiver = QApplication::focusWidget();
+        QVERIFY2(receiver, "The focus is lost");
+        QTest::keyClick(receiver, key, modifiers);
+    }
+    /** Ctrl and the key lead into a field, and the end key from there to the pages. */
+    void enter(Qt::Key key, const QString &text, Qt::Key end = Qt::Key_Return) const
+    {
+        press(key, Qt::ControlModifier);
+        QVERIFY(qobject_cast<QLineEdit *>(QApplication::focusWidget())
+                || QApplication::focusWidget()->findChild<QLineEdit *>());
+        QTest::keyClicks(QApplication::focusWidget(), text);
+        press(end);
+        QTRY_VERIFY(view->hasFocus());
+    }
+    /** Whether the focus is in the toolbar. */
+    bool isInToolBar() const
+    {
+        return window.findChild<QToolBar *>()->isAncestorOf(QApplication::focusWidget());
+    }
+
+    QString error;
+    ReaderWindow window;
+    PageView *view = window.findChild<PageView *>();
+};
+
+enum Answer
+{
+    Enter,
+    Escape,
+    Discard
+};
+
+void give(Answer answer, QMessageBox *question)
+{
+    const QList<QAbstractButton *> buttons = question->buttons();
+    for (QAbstractButton *button : buttons) {
+        if (answer == Discard && question->buttonRole(button) == QMessageBox::DestructiveRole)
+            return button->click();
+    }
+    QWidget *focus = question->focusWidget();
+    QTest::keyClick(focus ? focus : question, answer == Enter ? Qt::Key_Return : Qt::Key_Escape);
+}
+
+void choose(const QString &file, QFileDialog *chooser)
+{
+    if (file.isEmpty())
+        return chooser->reject();
+    auto *field = chooser->findChild<QLineEdit *>();
+    field->setText(file);
+    QTest::keyClick(field, Qt::Key_Return);
+}
+
+/** Answers dialogs by a timer, because their event loops block the test. */
+class User
+{
+public:
+    User(Answer answer, const QString &file)
+    {
+        QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this, answer, file] {
+            QWidget *dialog = QApplication::activeModalWidget();
+            if (auto *question = qobject_cast<QMessageBox *>(dialog)) {
+                ++questions;
+                give(answer, question);
+            } else if (auto *chooser = qobject_cast<QFileDialog *>(dialog)) {
+                ++choosers;
+                choose(file, chooser);
+            }
+        });
+        m_timer.start(50);
+    }
+
+    int questions = 0;
+    int choosers = 0;
+
+private:
+    QTimer m_timer;
+};
+
+} // namespace
+
+/** The reader by the keyboard alone, and closing a document with unsaved changes. */
+class ReaderTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        qputenv("XDG_CONFIG_HOME", "/nowhere"); // Not the user's own settings.
+    }
+
+    void shouldReachAndLeaveEveryFieldByKeys_data()
+    {
+        QTest::addColumn<int>("style");
+        QTest::newRow("marodi") << 0;
+        QTest::newRow("lum") << 1;
+    }
+
+    void shouldReachAndLeaveEveryFieldByKeys()
+    {
+        QFETCH(int, style);
+        NewToolBar::uiStyle = style;
+        Reader reader(QTest::currentDataTag());
+        // A zoom box that shows no percentage is not editable and opens its list.
+        Reader::press(Qt::Key_M, Qt::ControlModifier);
+        QTRY_VERIFY(QApplication::activePopupWidget());
+        for (const Qt::Key key : {Qt::Key_End, Qt::Key_Return})
+            QTest::keyClick(QApplication::activePopupWidget()->focusWidget(), key);
+        QTRY_VERIFY(reader.view->hasFocus());
+        QVERIFY(reader.view->percent() > 3000.0);
+        reader.enter(Qt::Key_M, "37");
+        QCOMPARE(qRound(reader.view->percent()), 37);
+        Reader::press(Qt::Key_Plus, Qt::ControlModifier);
+        QVERIFY(reader.view->percent() > 38.0);
+        Reader::press(Qt::Key_0, Qt::ControlModifier);
+        QCOMPARE(qRound(reader.view->percent()), 100);
+        reader.enter(Qt::Key_G, "3");
+        QCOMPARE(reader.view->currentPage(), 2);
+        reader.enter(Qt::Key_G, "7", Qt::Key_Escape);
+        QCOMPARE(reader.view->currentPage(), 2);
+        reader.enter(Qt::Key_F, "", Qt::Key_Escape);
+        Reader::press(Qt::Key_A, Qt::ControlModifier);
+        Reader::press(Qt::Key_C, Qt::ControlModifier);
+        QVERIFY(QGuiApplication::clipboard()->text().size() > 100);
+    }
+
+    void shouldReachNamedControlsAndThePagesByTheTabKey_data()
+    {
+        shouldReachAndLeaveEveryFieldByKeys_data();
+    }
+
+    void shouldReachNamedControlsAndThePagesByTheTabKey()
+    {
+        QFETCH(int, style);
+        NewToolBar::uiStyle = style;
+        Reader reader(QTest::currentDataTag());
+        Reader::press(Qt::Key_F10);
+        QVERIFY(reader.isInToolBar());
+        QSet<QWidget *> stops;
+        for (QWidget *now = QApplication::focusWidget(); !stops.contains(now);
+             now = QApplication::focusWidget()) {
+            stops.insert(now);
+            const QAccessibleInterface *stop = QAccessible::queryAccessibleInterface(now);
+            QVERIFY2(!reader.isInToolBar() || !stop->text(QAccessible::Name).isEmpty(),
+                     now->metaObject()->className());
+            Reader::press(Qt::Key_Tab);
+        }
+        QVERIFY(stops.size() > 20 && stops.contains(reader.view));
+    }
+
+    void shouldFollowTheAnswerToTheQuestionForUnsavedMarks()
+    {
+        NewToolBar::uiStyle = 0;
+        const QList<std::tuple<Answer, const char *, bool, bool>> rows{
+            // The answer, the file, whether that is written, and whether the window is closed.
+            {Enter, "marks.pdf", true, true},
+            {Enter, "", false, false},
+            {Enter, "none/marks.pdf", false, false},
+            {Enter, "marks.txt", true, false},
+            {Escape, "", false, false},
+            {Discard, "", false, true}};
+        for (const auto &[answer, file, isSaved, isClosed] : rows) {
+            const QTemporaryDir folder;
+            const QString path = folder.filePath(file);
+            Reader reader("marodi");
+            const QWidgetList widgets = reader.window.findChildren<QWidget *>();
+            for (QWidget *widget : widgets) {
+                if (widget->inherits("NewToolBar"))
+                    QMetaObject::invokeMethod(widget, "DoActive", Q_ARG(QString, "ti_stamp"));
+            }
+            QTRY_VERIFY(reader.window.isWindowModified());
+            const User user(answer, *file ? path : QString());
+            QCOMPARE(reader.window.close(), isClosed);
+            QCOMPARE(user.questions, 1);
+            QCOMPARE(user.choosers, answer == Enter ? 1 : 0);
+            QCOMPARE(reader.window.isVisible(), !isClosed);
+            QCOMPARE(QFileInfo(path).isFile() && QFileInfo(path).size() > 0, isSaved);
+            QTRY_COMPARE(reader.window.isWindowModified(), !isSaved || !isClosed);
+        }
+    }
+};
+
+QTEST_MAIN(ReaderTest)
+#include "tst_reader.moc"
