@@ -130,7 +130,8 @@ private Q_SLOTS:
             "DoUpdateRecentFileSlot(QStringList) "
             "DoSetControlVisibleStateSlot(QString&,bool) DoSetBackgroundSlot(BackgroundStyle) "
             "DoSetSkinStyleSlot(ToolBarSkinStyle) DoResetToolbarSlot() DoSetFocusSlot(QString) "
-            "DoSetScaleSlot(double)";
+            "DoSetScaleSlot(double) DoSetControlTextSlot(QString&,QString) "
+            "DoSetControlToolTipSlot(QString&,QString) DoSetControlIconSlot(QString&,QIcon)";
         const QMetaObject &metaObject = MRToolBar::staticMetaObject;
         QStringList declared;
         for (int i = metaObject.methodOffset(); i < metaObject.methodCount(); ++i)

@@ -200,3 +200,21 @@ void MRToolBar::DoSetScaleSlot(double factor)
     if (m_toolBar)
         m_toolBar->SetScale(factor);
 }
+
+void MRToolBar::DoSetControlTextSlot(QString &objName, QString text)
+{
+    if (m_toolBar)
+        m_toolBar->SetControlText(objName, text);
+}
+
+void MRToolBar::DoSetControlToolTipSlot(QString &objName, QString tip)
+{
+    if (m_toolBar)
+        m_toolBar->SetControlToolTip(objName, tip);
+}
+
+void MRToolBar::DoSetControlIconSlot(QString &objName, QIcon icon)
+{
+    if (m_toolBar)
+        m_toolBar->SetControlIcon(objName, icon);
+}

@@ -6,6 +6,7 @@
 #include "toolbar/MRToolBarExport.h"
 #include "toolbar/ToolBarTypes.h"
 
+#include <QIcon>
 #include <QObject>
 #include <QPointer>
 #include <QRect>
@@ -180,6 +181,26 @@ public Q_SLOTS:
      * and applies it again.
      */
     void DoSetScaleSlot(double factor);
+    /**
+     * Gives the command another text than its description does, such as "Undo typing" or "Pause":
+     * wherever it stands, also on rows and in menus that are made later. An empty text gives the
+     * described one back. The widths of buttons follow; a tooltip that is described as the text
+     * does, too. A text set by name is shown as it is in every language.
+     *
+     * A menu's entry "menu_NAME" and the quick access button "qbar_NAME" have texts of their own.
+     */
+    void DoSetControlTextSlot(QString &objName, QString text);
+    /**
+     * The same for the tooltip; "title;description" becomes a card. An empty one gives the
+     * described tooltip back. "menu_NAME" and "qbar_NAME" have it, too, unless they have another
+     * one by their own names.
+     */
+    void DoSetControlToolTipSlot(QString &objName, QString tip);
+    /**
+     * The same for the icon, which is drawn as it is in every scheme, and dimmed while the command
+     * is disabled. A null icon gives the described one back.
+     */
+    void DoSetControlIconSlot(QString &objName, QIcon icon);
 
 private:
     void connectToolBar();

@@ -81,6 +81,9 @@ public:
     void ResetToolbarState();
     bool SetControlFocus(const QString &name);
     void SetScale(double factor);
+    void SetControlText(const QString &name, const QString &text);
+    void SetControlToolTip(const QString &name, const QString &tip);
+    void SetControlIcon(const QString &name, const QIcon &icon);
     /** @} */
 
     /** The skin's directory of resources, with its trailing slash. */

@@ -75,13 +75,13 @@ void NewToolBar::Receiver::takeZoomBox(QComboBox *box, const Controller &record)
     m_toolBar.m_parts->zoom.take(box, modes);
 }
 
-void NewToolBar::Receiver::takePageField(QLineEdit *field, QLabel *caption)
+void NewToolBar::Receiver::takePageField(QLineEdit *field, TotalLabel *caption)
 {
     m_toolBar.m_parts->pages.take(field, caption);
     connect(field, &QLineEdit::returnPressed, &m_toolBar, &NewToolBar::Inner_DoGotoPageSlot);
 }
 
-void NewToolBar::Receiver::takeTotalPageLabel(QLabel *label)
+void NewToolBar::Receiver::takeTotalPageLabel(TotalLabel *label)
 {
     m_toolBar.m_parts->pages.takeTotalLabel(label);
 }

@@ -39,8 +39,8 @@ public:
     void takeDropButton(MRDropButton *button) override;
     void takeGroupButton(QToolButton *button) override;
     void takeZoomBox(QComboBox *box, const Controller &record) override;
-    void takePageField(QLineEdit *field, QLabel *caption) override;
-    void takeTotalPageLabel(QLabel *label) override;
+    void takePageField(QLineEdit *field, TotalLabel *caption) override;
+    void takeTotalPageLabel(TotalLabel *label) override;
 
     /** Fills the row of a tab that is opened for the first time, and asks the host for states. */
     void fillRow(MRMainToolBar *row);

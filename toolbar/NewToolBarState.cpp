@@ -64,6 +64,21 @@ QRect NewToolBar::GetControlGeometry(QString name)
     return m_parts->states.geometry(name);
 }
 
+void NewToolBar::SetControlText(const QString &name, const QString &text)
+{
+    m_parts->presentation.setText(name, text);
+}
+
+void NewToolBar::SetControlToolTip(const QString &name, const QString &tip)
+{
+    m_parts->presentation.setToolTip(name, tip);
+}
+
+void NewToolBar::SetControlIcon(const QString &name, const QIcon &icon)
+{
+    m_parts->presentation.setIcon(name, icon);
+}
+
 bool NewToolBar::SetControlFocus(const QString &name)
 {
     return name.isEmpty() ? FocusEntry::enterFirst(this) : FocusEntry::enterControl(this, name);

@@ -21,11 +21,18 @@ void showTurned(QPushButton *button, const Controller &record, const Presentatio
     button->setIcon(turnedIcon(how.icon(record)));
 }
 
-void replaceTip(QPushButton *button, const QString &tip)
+/** The described tooltip of both fold buttons may hold one for each. */
+template <bool isForUnfolding>
+void showHalfToolTip(QPushButton *button, const Controller &record, const Presentation &how)
 {
-    button->setToolTip(QString());
-    setToolTipCard(button, tip);
-    nameByToolTip(button, button->text(), tip);
+    const QString tip = how.toolTip(record);
+    const auto separator = tip.indexOf(QLatin1Char(';'));
+    if (separator < 0 || how.takesToolTips())
+        return;
+    const QString half = isForUnfolding ? tip.mid(separator + 1) : tip.left(separator);
+    button->setToolTip(toolTipCard(half));
+    if (button->text().isEmpty())
+        button->setAccessibleName(toolTipTitle(half));
 }
 
 } // namespace
@@ -49,13 +56,10 @@ QPushButton *AdditionalMaker::makeUnfoldButton(QPushButton *foldButton,
 {
     QPushButton *button = makeButton(record);
     button->setObjectName(Name::unfold);
-    m_factory.presentation().show<&showTurned>(button, record);
-
-    const auto separator = record.tooltip.indexOf(QLatin1Char(';'));
-    if (separator >= 0) {
-        replaceTip(foldButton, record.tooltip.left(separator));
-        replaceTip(button, record.tooltip.mid(separator + 1));
-    }
+    Presentation &presentation = m_factory.presentation();
+    presentation.show<&showTurned>(button, record);
+    presentation.show<&showHalfToolTip<false>>(foldButton, record);
+    presentation.show<&showHalfToolTip<true>>(button, record);
     // On show while the rows are not, and they are at first.
     button->hide();
     return button;

@@ -24,15 +24,14 @@ constexpr QLatin1String noIndicatorSheet =
 void showSetButton(MRMenuButton *button, const Controller &record, const Presentation &how)
 {
     showIcon(button, how.icon(record));
-    setToolTipCard(button, how.toolTip(record));
-    nameByToolTip(button, QString(), how.toolTip(record));
+    showToolTip(button, record, how);
+    button->setAccessibleName(toolTipTitle(how.toolTip(record)));
 }
 
 void showAppButton(MRMenuButton *button, const Controller &record, const Presentation &how)
 {
     showSetButton(button, record, how);
     button->setText(how.text(record));
-    nameByToolTip(button, how.text(record), how.toolTip(record));
 }
 
 } // namespace

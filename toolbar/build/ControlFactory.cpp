@@ -28,8 +28,8 @@ void showTopLineButton(QPushButton *button, const Controller &record, const Pres
 {
     button->setText(how.text(record));
     showIcon(button, how.icon(record));
-    setToolTipCard(button, how.toolTip(record));
-    nameByToolTip(button, how.text(record), how.toolTip(record));
+    showToolTip(button, record, how);
+    nameWithoutText(button, record, how);
 }
 
 } // namespace
@@ -123,8 +123,26 @@ void showTitle(QMenu *menu, const Controller &record, const Presentation &how)
     menu->setTitle(how.text(record));
 }
 
-void nameByToolTip(QWidget *control, const QString &text, const QString &tip)
+void showToolTip(QObject *control, const Controller &record, const Presentation &how)
 {
-    if (text.isEmpty())
-        control->setAccessibleName(toolTipTitle(tip));
+    if (how.takesToolTips())
+        control->setProperty("toolTip", QString());
+    else
+        setToolTipCard(control, how.toolTip(record));
+}
+
+void showToolTipByName(QWidget *control, const Controller &record, const Presentation &how)
+{
+    if (how.takesToolTips())
+        control->setToolTip(QString());
+    else
+        setToolTipCard(control, how.toolTipByName(record));
+}
+
+void nameWithoutText(QWidget *control, const Controller &record, const Presentation &how)
+{
+    if (!record.text.isEmpty())
+        return;
+    const QString text = how.text(record);
+    control->setAccessibleName(text.isEmpty() ? toolTipTitle(how.toolTip(record)) : text);
 }

@@ -66,5 +66,11 @@ void fitSearchBar(MRSearchBar *field, const Presentation &how);
 /** Shows the title of a menu. */
 void showTitle(QMenu *menu, const Controller &record, const Presentation &how);
 
-/** Gives a control that shows only an icon the title of its tooltip as accessible name. */
-void nameByToolTip(QWidget *control, const QString &text, const QString &tip);
+/** Gives a widget or an action its tooltip. */
+void showToolTip(QObject *control, const Controller &record, const Presentation &how);
+
+/** The same where no described tooltip is shown, but one that is set by name. */
+void showToolTipByName(QWidget *control, const Controller &record, const Presentation &how);
+
+/** Gives a control that is described without a text an accessible name. */
+void nameWithoutText(QWidget *control, const Controller &record, const Presentation &how);

@@ -7,12 +7,12 @@ class MRDropButton;
 class MRSearchBar;
 class QAction;
 class QComboBox;
-class QLabel;
 class QLineEdit;
 class QMenu;
 class QPushButton;
 class QString;
 class QToolButton;
+class TotalLabel;
 struct Controller;
 
 /**
@@ -40,6 +40,6 @@ public:
     /** A filled list that is described by @p record, with its current entry set. */
     virtual void takeZoomBox(QComboBox *box, const Controller &record) = 0;
     /** @param caption the label below the field */
-    virtual void takePageField(QLineEdit *field, QLabel *caption) = 0;
-    virtual void takeTotalPageLabel(QLabel *label) = 0;
+    virtual void takePageField(QLineEdit *field, TotalLabel *caption) = 0;
+    virtual void takeTotalPageLabel(TotalLabel *label) = 0;
 };

@@ -14,7 +14,6 @@
 #include "toolbar/widgets/MRSearchBar.h"
 #include "toolbar/widgets/Panel.h"
 #include "toolbar/widgets/PlaceholderTint.h"
-#include "toolbar/widgets/ToolTipCard.h"
 
 #include <QAction>
 #include <QGridLayout>
@@ -22,6 +21,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
+#include <QStyle>
 #include <QToolBar>
 
 #include <algorithm>
@@ -33,12 +33,26 @@ constexpr int buttonsPerColumn = 2;
 void showLabel(QLabel *label, const Controller &record, const Presentation &how)
 {
     label->setText(how.text(record));
+    showToolTipByName(label, record, how);
 }
 
 template <typename Field>
 void showField(Field *field, const Controller &record, const Presentation &how)
 {
     field->setPlaceholderText(how.toolTip(record));
+}
+
+/** The sheets give a button room for a text, or none. */
+void showKind(QToolButton *button, const Controller &record, const Presentation &how)
+{
+    const char *kind = how.text(record).isEmpty() ? Module::plainGroupButton : Module::groupButton;
+    if (button->property(Property::module).toString() == QLatin1String(kind))
+        return;
+    button->setProperty(Property::module, kind);
+    if (button->testAttribute(Qt::WA_WState_Polished)) {
+        button->style()->unpolish(button);
+        button->style()->polish(button);
+    }
 }
 
 /** A button that shows an entry of its menu by now goes on to show that. */
@@ -48,9 +62,11 @@ void showMenuButton(MRGroupButton *button, const Controller &record, const Prese
     const QAction *entry = button->defaultAction();
     if (!entry || entry->icon().isNull())
         button->SetIcon(how.icon(record));
-    if (!entry) // The blanks are room for the arrow.
-        button->setText(isAllMenu ? how.text(record) + QStringLiteral("  ") : how.text(record));
-    setToolTipCard(button, how.toolTip(record));
+    if (entry)
+        return;
+    // The blanks are room for the arrow.
+    button->setText(isAllMenu ? how.text(record) + QStringLiteral("  ") : how.text(record));
+    showToolTip(button, record, how);
 }
 
 void fitMenuButton(MRGroupButton *button, const Controller &record, const Presentation &how)
@@ -185,12 +201,12 @@ QToolButton *GroupPanelMaker::makeGroupButton(const Controller &record)
     else
         return nullptr;
 
-    button->setProperty(Property::module,
-                        record.text.isEmpty() ? Module::plainGroupButton : Module::groupButton);
     button->setObjectName(record.name);
     button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     button->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
-    m_factory.presentation().fit<&fitSmallIcon<QToolButton>>(button);
+    Presentation &presentation = m_factory.presentation();
+    presentation.show<&showKind>(button, record);
+    presentation.fit<&fitSmallIcon<QToolButton>>(button);
     return button;
 }
 
@@ -216,7 +232,7 @@ void GroupPanelMaker::giveMenu(MRGroupButton *button, const Controller &record, 
     button->setMenu(menu);
     if (!record.checkable)
         return;
-    m_factory.presentation().fit<&fitMenuButton>(button, record);
+    m_factory.presentation().fit<&fitMenuButton>(button, record, Presentation::ItsEntries);
     if (record.index > 0)
         button->SetDefaultAction(menu->actions().value(record.index - 1));
     if (record.switchable)

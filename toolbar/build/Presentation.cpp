@@ -5,6 +5,7 @@
 
 #include "toolbar/description/Controller.h"
 #include "toolbar/skin/Appearance.h"
+#include "toolbar/skin/GivenIcon.h"
 #include "toolbar/skin/Scale.h"
 #include "toolbar/skin/ScreenDensity.h"
 #include "toolbar/skin/SkinIcon.h"
@@ -41,23 +42,110 @@ void Presentation::giveAgain(bool lengthsAlone)
     }
 }
 
+void Presentation::setText(const QString &name, const QString &text)
+{
+    m_byName.setText(name, text);
+    // The tooltip may be the text.
+    if (text.isEmpty())
+        giveToolTipsAgain(name);
+    else
+        giveAgain(name);
+}
+
+void Presentation::setToolTip(const QString &name, const QString &tip)
+{
+    m_byName.setToolTip(name, tip);
+    if (tip.isEmpty())
+        giveToolTipsAgain(name);
+    else
+        giveAgain(name);
+}
+
+void Presentation::setIcon(const QString &name, const QIcon &icon)
+{
+    m_byName.setIcon(name, icon.isNull() ? icon : givenIcon(icon, m_appearance));
+    giveAgain(name);
+}
+
+void Presentation::giveToolTipsAgain(const QString &name)
+{
+    // Apart from giving: several records may describe one action, and each may give it its tooltip.
+    m_takesToolTips = true;
+    giveAgain(name);
+    m_takesToolTips = false;
+    giveAgain(name);
+}
+
+void Presentation::giveAgain(const QString &name)
+{
+    if (name.isEmpty()) // Which no control is found by.
+        return;
+    findNames();
+    // In the order in which they were given: a button that shows an entry comes after the entry.
+    const QList<qsizetype> positions = m_positions.value(name);
+    for (const qsizetype position : positions) {
+        const Given &given = m_given[static_cast<std::size_t>(position)];
+        if (given.control)
+            given.call(given.control, given.record, *this);
+    }
+}
+
+void Presentation::findNames()
+{
+    for (; m_filed < m_given.size(); ++m_filed) {
+        const Given &given = m_given[m_filed];
+        if (given.record)
+            fileUnder(*given.record, static_cast<qsizetype>(m_filed), given.shows);
+    }
+}
+
+void Presentation::fileUnder(const Controller &record, qsizetype position, Shows shows)
+{
+    for (const QString &name : {record.name, TextsByName::commandOf(record.name)}) {
+        QList<qsizetype> &positions = m_positions[name];
+        if (positions.isEmpty() || positions.last() != position)
+            positions.append(position);
+    }
+    if (shows == Itself)
+        return;
+    for (const Controller *entry : record.children)
+        fileUnder(*entry, position, shows);
+}
+
 QString Presentation::text(const Controller &record) const
 {
-    return record.text;
+    const QString *given = m_byName.text(record);
+    return given ? *given : record.text;
 }
 
 QString Presentation::toolTip(const Controller &record) const
 {
-    return record.tooltip;
+    const QString *given = m_byName.toolTip(record);
+    return given ? *given : record.tooltip;
 }
 
 QString Presentation::prompt(const Controller &record) const
 {
-    return record.prompt;
+    const QString *given = m_byName.ownToolTip(record);
+    return given ? *given : record.prompt;
+}
+
+QString Presentation::toolTipByName(const Controller &record) const
+{
+    const QString *given = m_byName.ownToolTip(record);
+    return given ? *given : QString();
+}
+
+QIcon Presentation::iconByName(const Controller &record) const
+{
+    const QIcon *given = m_byName.icon(record);
+    return given ? *given : QIcon();
 }
 
 QIcon Presentation::icon(const Controller &record) const
 {
+    if (const QIcon *given = m_byName.icon(record))
+        return *given;
     return m_appearance.icon(skinIconPath(m_directory, record.icon));
 }
 

@@ -3,7 +3,11 @@
 
 #pragma once
 
+#include "toolbar/build/TextsByName.h"
+
+#include <QHash>
 #include <QIcon>
+#include <QList>
 #include <QPointer>
 #include <QSize>
 #include <QStringList>
@@ -27,6 +31,13 @@ struct Controller;
 class Presentation
 {
 public:
+    /** Whose texts and icons a control shows. */
+    enum Shows
+    {
+        Itself,
+        ItsEntries ///< Those of the records below its own, too, as a drop button does.
+    };
+
     /**
      * @param directory the skin's directory of resources
      * @param scale     of the toolbar; lengths at 96 dpi are multiplied by it
@@ -36,18 +47,18 @@ public:
 
     /** Gives a control its texts and its icon, from now on. @param how a function of its kind */
     template <auto how, typename Control>
-    void show(Control *control, const Controller &record)
+    void show(Control *control, const Controller &record, Shows shows = Itself)
     {
         how(control, record, *this);
-        m_given.push_back({control, &record, &callAgain<how, Control>, false});
+        m_given.push_back({control, &record, &callAgain<how, Control>, false, shows});
     }
 
     /** Gives a control its lengths, from now on; they may follow from its text. */
     template <auto how, typename Control>
-    void fit(Control *control, const Controller &record)
+    void fit(Control *control, const Controller &record, Shows shows = Itself)
     {
         how(control, record, *this);
-        m_given.push_back({control, &record, &callAgain<how, Control>, true});
+        m_given.push_back({control, &record, &callAgain<how, Control>, true, shows});
     }
 
     /** The same for lengths that no record has a say in. */
@@ -55,7 +66,7 @@ public:
     void fit(Control *control)
     {
         how(control, *this);
-        m_given.push_back({control, nullptr, &callAgainWithout<how, Control>, true});
+        m_given.push_back({control, nullptr, &callAgainWithout<how, Control>, true, Itself});
     }
 
     /** Gives all controls everything again, in the order in which they were given it. */
@@ -63,12 +74,27 @@ public:
     /** Gives all controls their lengths again. */
     void fitAgain();
 
+    /**
+     * Gives the controls of that name another text, tooltip or icon than is described, those that
+     * are made later too; nothing gives the described one back.
+     */
+    void setText(const QString &name, const QString &text);
+    void setToolTip(const QString &name, const QString &tip);
+    void setIcon(const QString &name, const QIcon &icon);
+
     QString text(const Controller &record) const;
     /** The tooltip as described; what is to be seen of it, SetWidgetToolTip() knows. */
     QString toolTip(const Controller &record) const;
     QString prompt(const Controller &record) const;
     /** Empty if the skin has no such icon. */
     QIcon icon(const Controller &record) const;
+
+    /** What is set by name, for controls that do not show what is described; else nothing. */
+    QString toolTipByName(const Controller &record) const;
+    QIcon iconByName(const Controller &record) const;
+    /** Whether controls are to give up the tooltips that they have, before they are given others:
+     *  a described tooltip may be empty, and that replaces none. */
+    bool takesToolTips() const { return m_takesToolTips; }
 
     /** A length at 96 dpi in pixels of this screen, truncated. */
     int length(double designLength) const;
@@ -94,6 +120,7 @@ private:
         const Controller *record;
         Call call;
         bool isLength;
+        Shows shows;
     };
 
     template <auto how, typename Control>
@@ -109,12 +136,20 @@ private:
     }
 
     void giveAgain(bool lengthsAlone);
+    void giveAgain(const QString &name);
+    void giveToolTipsAgain(const QString &name);
+    void findNames();
+    void fileUnder(const Controller &record, qsizetype position, Shows shows);
 
     const QString &m_directory;
     Appearance &m_appearance;
     const Scale &m_scale;
     mutable std::shared_ptr<CustomMenuStyle> m_menuStyle; ///< None while menus follow the screen.
     std::vector<Given> m_given;
+    TextsByName m_byName;
+    QHash<QString, QList<qsizetype>> m_positions; ///< In m_given; not before a name is asked for.
+    std::size_t m_filed = 0;                      ///< How many of m_given they are of.
+    bool m_takesToolTips = false;
 };
 
 /** Gives a button or an action its icon, unless it has that already: all that shows it is measured

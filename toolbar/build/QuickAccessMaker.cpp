@@ -9,7 +9,6 @@
 #include "toolbar/description/Names.h"
 #include "toolbar/skin/Skin.h"
 #include "toolbar/widgets/RoundedMenu.h"
-#include "toolbar/widgets/ToolTipCard.h"
 
 #include <QAction>
 #include <QMenu>
@@ -17,16 +16,6 @@
 #include <QToolBar>
 
 namespace {
-
-void showToolTip(QAction *action, const Controller &record, const Presentation &how)
-{
-    setToolTipCard(action, how.toolTip(record));
-}
-
-void showButton(QWidget *button, const Controller &record, const Presentation &how)
-{
-    nameByToolTip(button, how.text(record), how.toolTip(record));
-}
 
 void showEntry(QAction *entry, const Controller &record, const Presentation &how)
 {
@@ -67,7 +56,7 @@ QToolBar *QuickAccessMaker::makeBar() const
             continue;
         QAction *action = makeButton(bar, *record);
         bar->addAction(action);
-        m_factory.presentation().show<&showButton>(bar->widgetForAction(action), *record);
+        m_factory.presentation().show<&nameWithoutText>(bar->widgetForAction(action), *record);
     }
     return bar;
 }

@@ -12,6 +12,8 @@
 #include "toolbar/commands/ActionData.h"
 #include "toolbar/description/Controller.h"
 #include "toolbar/description/Names.h"
+#include "toolbar/fields/ChoiceText.h"
+#include "toolbar/fields/TotalLabel.h"
 #include "toolbar/skin/Skin.h"
 #include "toolbar/widgets/MRDropButton.h"
 #include "toolbar/widgets/MRGroupButton.h"
@@ -20,7 +22,6 @@
 
 #include <QAction>
 #include <QComboBox>
-#include <QLabel>
 #include <QLineEdit>
 #include <QListView>
 #include <QMenu>
@@ -82,24 +83,20 @@ private:
     const QWidget *m_field;
 };
 
-void showLabel(QLabel *label, const Controller &record, const Presentation &how)
+void showLabel(TotalLabel *label, const Controller &record, const Presentation &how)
 {
-    label->setText(how.text(record));
+    label->showText(how.text(record));
+    showToolTipByName(label, record, how);
 }
 
-QLabel *addCaption(QWidget *container, const Controller &record, Presentation &presentation)
+TotalLabel *addCaption(QWidget *container, const Controller &record, Presentation &presentation)
 {
-    auto *caption = new QLabel;
+    auto *caption = new TotalLabel;
     presentation.show<&showLabel>(caption, record);
     caption->setObjectName(Part::caption);
     caption->setAlignment(Qt::AlignCenter);
     container->layout()->addWidget(caption);
     return caption;
-}
-
-void showToolTip(QAction *action, const Controller &record, const Presentation &how)
-{
-    setToolTipCard(action, how.toolTip(record));
 }
 
 void showRowButton(QWidget *button, const Controller &record, const Presentation &how)
@@ -125,6 +122,13 @@ void showSpokenName(QWidget *field, const Controller &record, const Presentation
 {
     const QString tip = how.toolTip(record);
     field->setAccessibleName(tip.isEmpty() ? how.text(record) : toolTipTitle(tip));
+}
+
+/** The zoom box has choices of its own after those that are described. */
+void showChoices(QComboBox *box, const Controller &record, const Presentation &how)
+{
+    for (int index = 0; index < record.children.size(); ++index)
+        setChoiceText(box, index, how.text(*record.children.at(index)));
 }
 
 /** Makes the described entry of the menu, if there is one, the button's own. */
@@ -173,10 +177,9 @@ int menuWidth(const QMenu *menu, const Controller &record, const Presentation &h
 
 void showMenuButton(MRDropButtonAction *action, const Controller &record, const Presentation &how)
 {
-    QString tip = how.toolTip(record);
-    if (tip.isEmpty() && record.withaction && action->GetAction())
-        tip = action->GetAction()->text();
-    setToolTipCard(action->GetWidget(), tip);
+    showToolTip(action->GetWidget(), record, how);
+    if (record.withaction && action->GetAction() && how.toolTip(record).isEmpty())
+        setToolTipCard(action->GetWidget(), action->GetAction()->text());
 }
 
 void fitMenuButton(MRDropButtonAction *action, const Controller &record, const Presentation &how)
@@ -290,15 +293,16 @@ void RowMaker::addMenu(const Controller &record, QToolBar *row, bool addToRow)
         action->SetMenu(menu);
         takeEntry(action, menu, record);
     }
-    m_factory.presentation().show<&showMenu>(action, record);
+    Presentation &presentation = m_factory.presentation();
+    presentation.show<&showMenu>(action, record, Presentation::ItsEntries);
 
     if (addToRow)
         row->addAction(action);
     action->setObjectName(record.name);
     m_factory.addAction(action);
     if (MRDropButton *button = action->GetWidget()) {
-        m_factory.presentation().show<&showMenuButton>(action, record);
-        m_factory.presentation().fit<&fitMenuButton>(action, record);
+        presentation.show<&showMenuButton>(action, record, Presentation::ItsEntries);
+        presentation.fit<&fitMenuButton>(action, record, Presentation::ItsEntries);
         button->SetName(record.name);
         m_receiver.takeDropButton(button);
     }
@@ -335,6 +339,7 @@ void RowMaker::addComboBox(const Controller &record, QToolBar *row)
         if (!item->text.contains(QLatin1Char('%')))
             box->setEditable(false);
     }
+    m_factory.presentation().show<&showChoices>(box, record, Presentation::ItsEntries);
     if (box->count() > 0) {
         box->setView(new QListView);
         if (record.index > 0)
@@ -352,7 +357,7 @@ void RowMaker::addComboBox(const Controller &record, QToolBar *row)
 
 void RowMaker::addLabel(const Controller &record, QToolBar *row)
 {
-    auto *label = new QLabel;
+    auto *label = new TotalLabel;
     m_factory.presentation().show<&showLabel>(label, record);
     label->setObjectName(record.name);
     if (record.name == Name::totalPageLabel)

@@ -58,6 +58,7 @@ void showLabel(IconLabel *label, const Controller &record, const Presentation &h
         label->setText(how.text(record));
     else
         label->setIcon(icon, how.iconSize(16.0));
+    showToolTipByName(label, record, how);
 }
 
 void showField(MRSearchBar *field, const Controller &record, const Presentation &how)

@@ -33,6 +33,8 @@ Qt::Alignment rowAlignment(ToolBarAlignment alignment)
 void showTab(QPushButton *button, const Controller &tab, const Presentation &how)
 {
     button->setText(how.text(tab));
+    showIcon(button, how.iconByName(tab));
+    showToolTipByName(button, tab, how);
 }
 
 void fitRow(MRMainToolBar *row, const Presentation &how)

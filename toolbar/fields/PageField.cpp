@@ -5,9 +5,9 @@
 
 #include "toolbar/fields/PageText.h"
 #include "toolbar/fields/PageValidator.h"
+#include "toolbar/fields/TotalLabel.h"
 #include "toolbar/widgets/FieldKeyFilter.h"
 
-#include <QLabel>
 #include <QLineEdit>
 
 PageField::PageField(QPointer<QLineEdit> &field, int &currentPage, int &totalPages)
@@ -17,7 +17,7 @@ PageField::PageField(QPointer<QLineEdit> &field, int &currentPage, int &totalPag
 {
 }
 
-void PageField::take(QLineEdit *field, QLabel *caption)
+void PageField::take(QLineEdit *field, TotalLabel *caption)
 {
     field->setValidator(new PageValidator(field));
     new FieldKeyFilter(field);
@@ -25,7 +25,7 @@ void PageField::take(QLineEdit *field, QLabel *caption)
     m_caption = caption;
 }
 
-void PageField::takeTotalLabel(QLabel *label)
+void PageField::takeTotalLabel(TotalLabel *label)
 {
     m_totalLabel = label;
 }
@@ -42,15 +42,15 @@ void PageField::showPage(const QString &page)
 
 void PageField::showTotal(const QString &total)
 {
-    QLabel *label = m_totalLabel ? m_totalLabel : m_caption;
+    TotalLabel *label = m_totalLabel ? m_totalLabel : m_caption;
     if (!label)
         return;
 
     if (total == PageText::cleared) {
-        label->setText(PageText::withoutTotal(label->text(), m_totalPages));
+        label->clearTotal(m_totalPages);
         m_totalPages = 0;
     } else if (const auto text = PageText::totalText(total)) {
-        label->setText(PageText::withTotal(label->text(), m_totalPages, *text));
+        label->showTotal(*text, m_totalPages);
         m_totalPages = text->toInt();
     }
 }

@@ -8,8 +8,8 @@
 
 #include <optional>
 
-class QLabel;
 class QLineEdit;
+class TotalLabel;
 
 /** The field for the number of the page, and the label that shows how many pages there are. */
 class PageField
@@ -19,8 +19,8 @@ public:
     PageField(QPointer<QLineEdit> &field, int &currentPage, int &totalPages);
 
     /** @param caption the label below the field, which tells the total where no other label does */
-    void take(QLineEdit *field, QLabel *caption);
-    void takeTotalLabel(QLabel *label);
+    void take(QLineEdit *field, TotalLabel *caption);
+    void takeTotalLabel(TotalLabel *label);
 
     /** Shows the page that the host reports, as text; one blank clears the field. */
     void showPage(const QString &page);
@@ -34,6 +34,6 @@ private:
     QPointer<QLineEdit> &m_field;
     int &m_currentPage;
     int &m_totalPages;
-    QPointer<QLabel> m_totalLabel;
-    QPointer<QLabel> m_caption;
+    QPointer<TotalLabel> m_totalLabel;
+    QPointer<TotalLabel> m_caption;
 };

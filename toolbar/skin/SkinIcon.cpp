@@ -104,8 +104,7 @@ public:
         const QIcon drawing = drawingOfSide(qRound(qMin(rect.width(), rect.height()) * ratio));
         const qreal opacity = painter->opacity();
         if (mode == QIcon::Disabled)
-            painter->setOpacity(opacity
-                                * (m_look.isLight() ? disabledOpacity : disabledOpacityOnDark));
+            painter->setOpacity(opacity * disabledIconOpacity(m_look));
         drawing.paint(painter, rect, Qt::AlignCenter, QIcon::Normal, state);
         painter->setOpacity(opacity);
     }
@@ -137,6 +136,11 @@ QHash<IconKey, QIcon> &iconCache()
 }
 
 } // namespace
+
+qreal disabledIconOpacity(const SchemeLook &look)
+{
+    return look.isLight() ? disabledOpacity : disabledOpacityOnDark;
+}
 
 QString skinIconPath(const QString &directory, const QString &name)
 {

@@ -19,3 +19,6 @@ QString skinIconPath(const QString &directory, const QString &name);
  * control is disabled, on dark grounds as well as on light ones.
  */
 QIcon skinIcon(const QString &path, const SchemeLook &look = {});
+
+/** How much of an icon is left while its control is disabled. */
+qreal disabledIconOpacity(const SchemeLook &look);
