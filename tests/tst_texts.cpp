@@ -7,26 +7,29 @@
 #include "toolbar/widgets/MRDropButton.h"
 
 #include <QComboBox>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QToolBar>
+#include <QToolButton>
+#include <QToolTip>
 
 using namespace Describe;
 
 namespace {
 
-const QString tip = "tooltip='Tip'";
+const QString why = "tooltip='Tip' disabletip='Why;abc'";
 const QString everything =
     section("appbutton",
-            menu("menu_file", item("a") + item("menu_a") + menu("sub", item("b", tip))))
-    + section("quickaccessbar", button("qbar_a", tip) + button("qt_set"))
+            menu("menu_file", item("a") + item("menu_a") + menu("sub", item("b", why))))
+    + section("quickaccessbar", button("qbar_a", why) + button("qt_set"))
     + section("searchbar", field("st_input") + button("st_next"))
-    + section("addtional", "<button name='t_fold' tooltip='Fold;Unfold'/>" + button("extra", tip))
-    + row(button("a", tip) + button("plain") + label("label", "Label")
+    + section("addtional", "<button name='t_fold' tooltip='Fold;Unfold'/>" + button("extra", why))
+    + row(button("a", why) + button("plain") + label("label", "Label")
               + comboBox("list", choice("one", "1%") + choice("two", "2%"), "editable='true'")
-              + menu("drop", item("line") + item("oval"), "index='1' checkable='true' " + tip)
-              + group("g", button("in", tip)) + label("d_totalpagelabel", "of "),
+              + menu("drop", item("line") + item("oval"), "index='1' checkable='true' " + why)
+              + group("g", button("in", why)) + label("d_totalpagelabel", "of "),
           tab("later", button("d")));
 
 /** A host with all kinds of controls, which gives them other texts, tooltips and icons. */
@@ -71,9 +74,18 @@ QColor colourOf(const QIcon &icon, QIcon::Mode mode = QIcon::Normal)
     return icon.pixmap(16, mode).toImage().pixelColor(8, 8);
 }
 
+/** The tooltip that comes up over the middle of a widget. */
+QString tipOver(QWidget *widget)
+{
+    const QPoint middle = widget->rect().center();
+    QHelpEvent event(QEvent::ToolTip, middle, widget->mapToGlobal(middle));
+    QCoreApplication::sendEvent(widget, &event);
+    return QToolTip::text();
+}
+
 } // namespace
 
-/** Texts, tooltips and icons that the host sets by name. */
+/** Texts, tooltips and icons that the host sets by name, and tooltips of disabled controls. */
 class TextsTest : public QObject
 {
     Q_OBJECT
@@ -181,6 +193,37 @@ private Q_SLOTS:
         host.setText("d_totalpagelabel", {});
         host.facade().DoSetPageInfoSlot(3, 14);
         QCOMPARE(host.shown("d_totalpagelabel"), QString("of14"));
+    }
+
+    void shouldTellWhyAControlIsDisabled()
+    {
+        Host host;
+        host.showEnabled();
+        const auto *row = host.find<QToolBar>("row");
+        const auto *quickBar = host.find<QToolBar>("toolbar_quickaccessbar");
+        const QMap<QString, QWidget *> widgets{
+            {"a", row->widgetForAction(host.action("a"))},
+            {"drop", host.find<MRDropButton>("drop")},
+            {"in", host.find<QToolButton>("in")},
+            {"extra", host.find<QPushButton>("extra")},
+            {"qbar_a", quickBar->widgetForAction(host.quickAction())}};
+        for (auto widget = widgets.begin(); widget != widgets.end(); ++widget) {
+            for (const bool isUsable : {false, true, false}) {
+                host.setUsable(widget.key(), isUsable);
+                const QString tip = tipOver(widget.value());
+                QVERIFY2(isUsable ? tip == "Tip" : tip.contains(">Why<"), qPrintable(widget.key()));
+            }
+        }
+        host.setTip("a", "New");
+        QVERIFY(tipOver(widgets.value("a")).contains(">Why<"));
+        host.setUsable("a", true);
+        QCOMPARE(tipOver(widgets.value("a")), QString("New"));
+
+        host.openMenu();
+        QCOMPARE(host.action("b")->statusTip(), QString("Why;abc"));
+        host.setText("b", "New");
+        host.setUsable("b", true);
+        QCOMPARE(host.action("b")->statusTip() + '|' + host.shown("b"), QString("Tip|New|New"));
     }
 
     void shouldNeitherGrowNorTellTheHost()

@@ -47,6 +47,7 @@ void AppButtonMaker::describe(MRMenuButton *button, const Controller &record) co
 {
     m_factory.presentation().show<how>(button, record);
     m_factory.presentation().fit<&fitSmallIcon<MRMenuButton>>(button);
+    addDisabledTip(button, record, m_factory.presentation());
 }
 
 MRMenuButton *AppButtonMaker::makeAppButton(const Controller *record)

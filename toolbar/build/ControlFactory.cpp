@@ -7,6 +7,7 @@
 #include "toolbar/commands/ActionData.h"
 #include "toolbar/description/Controller.h"
 #include "toolbar/description/Names.h"
+#include "toolbar/widgets/DisabledTip.h"
 #include "toolbar/widgets/MRSearchBar.h"
 #include "toolbar/widgets/RoundedMenu.h"
 #include "toolbar/widgets/ToolTipCard.h"
@@ -89,6 +90,7 @@ QPushButton *ControlFactory::makeTopLineButton(const Controller &record, QWidget
     button->setObjectName(record.name);
     m_presentation.show<&showTopLineButton>(button, record);
     m_presentation.fit<&fitSmallIcon<QPushButton>>(button);
+    addDisabledTip(button, record, m_presentation);
     return button;
 }
 
@@ -137,6 +139,17 @@ void showToolTipByName(QWidget *control, const Controller &record, const Present
         control->setToolTip(QString());
     else
         setToolTipCard(control, how.toolTipByName(record));
+}
+
+void showDisabledTip(QObject *control, const Controller &record, const Presentation &how)
+{
+    DisabledTip::give(control, how.disabledToolTip(record));
+}
+
+void addDisabledTip(QObject *control, const Controller &record, Presentation &presentation)
+{
+    if (!record.disabletip.isEmpty())
+        presentation.show<&showDisabledTip>(control, record);
 }
 
 void nameWithoutText(QWidget *control, const Controller &record, const Presentation &how)

@@ -72,5 +72,11 @@ void showToolTip(QObject *control, const Controller &record, const Presentation 
 /** The same where no described tooltip is shown, but one that is set by name. */
 void showToolTipByName(QWidget *control, const Controller &record, const Presentation &how);
 
+/** Gives a widget or an action the tooltip that it has while it is disabled. */
+void showDisabledTip(QObject *control, const Controller &record, const Presentation &how);
+
+/** Sees to it that such a tooltip is shown, if there is one in the description. */
+void addDisabledTip(QObject *control, const Controller &record, Presentation &presentation);
+
 /** Gives a control that is described without a text an accessible name. */
 void nameWithoutText(QWidget *control, const Controller &record, const Presentation &how);

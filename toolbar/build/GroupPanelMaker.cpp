@@ -122,6 +122,7 @@ QLabel *GroupPanelMaker::makeLabel(const Controller &record) const
     auto *label = new QLabel;
     label->setObjectName(record.name);
     m_factory.presentation().show<&showLabel>(label, record);
+    addDisabledTip(label, record, m_factory.presentation());
     return label;
 }
 
@@ -131,6 +132,7 @@ QLineEdit *GroupPanelMaker::makePlainField(const Controller &record) const
     field->setObjectName(record.name);
     field->setProperty(Property::module, Module::input);
     m_factory.presentation().show<&showField<QLineEdit>>(field, record);
+    addDisabledTip(field, record, m_factory.presentation());
     new PlaceholderTint(field);
     return field;
 }
@@ -152,6 +154,7 @@ MRSearchBar *GroupPanelMaker::makeExtraSearchField(QWidget *panel, const Control
     field->SetRelational(false);
     field->setObjectName(record.name);
     m_factory.presentation().show<&showField<MRSearchBar>>(field, record);
+    addDisabledTip(field, record, m_factory.presentation());
     m_receiver.takeExtraSearchField(field);
     return field;
 }
@@ -207,6 +210,7 @@ QToolButton *GroupPanelMaker::makeGroupButton(const Controller &record)
     Presentation &presentation = m_factory.presentation();
     presentation.show<&showKind>(button, record);
     presentation.fit<&fitSmallIcon<QToolButton>>(button);
+    addDisabledTip(button, record, presentation);
     return button;
 }
 

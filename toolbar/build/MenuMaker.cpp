@@ -81,6 +81,7 @@ QMenu *MenuMaker::makeSubMenu(QMenu *menu, const Controller &record, QProxyStyle
     RoundedMenu::prepare(subMenu);
     subMenu->setObjectName(record.name);
     m_factory.presentation().show<&showSubMenu>(subMenu, record);
+    addDisabledTip(subMenu->menuAction(), record, m_factory.presentation());
     if (style)
         subMenu->setStyle(style);
     else
@@ -98,6 +99,7 @@ void MenuMaker::appendEntry(QMenu *menu, const Controller &record)
     m_factory.joinGroup(entry, record.group);
     setShortcut(entry, record);
     m_factory.presentation().show<&showStatusTip>(entry, record);
+    addDisabledTip(entry, record, m_factory.presentation());
     entry->setCheckable(record.checkable);
     entry->setChecked(record.checked);
     entry->setVisible(record.visible);

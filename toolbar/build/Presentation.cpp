@@ -130,6 +130,11 @@ QString Presentation::prompt(const Controller &record) const
     return given ? *given : record.prompt;
 }
 
+QString Presentation::disabledToolTip(const Controller &record) const
+{
+    return record.disabletip;
+}
+
 QString Presentation::toolTipByName(const Controller &record) const
 {
     const QString *given = m_byName.ownToolTip(record);

@@ -86,6 +86,8 @@ public:
     /** The tooltip as described; what is to be seen of it, SetWidgetToolTip() knows. */
     QString toolTip(const Controller &record) const;
     QString prompt(const Controller &record) const;
+    /** What a disabled control has for a tooltip; empty if that is its usual one. */
+    QString disabledToolTip(const Controller &record) const;
     /** Empty if the skin has no such icon. */
     QIcon icon(const Controller &record) const;
 

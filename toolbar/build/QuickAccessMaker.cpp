@@ -56,7 +56,9 @@ QToolBar *QuickAccessMaker::makeBar() const
             continue;
         QAction *action = makeButton(bar, *record);
         bar->addAction(action);
-        m_factory.presentation().show<&nameWithoutText>(bar->widgetForAction(action), *record);
+        QWidget *button = bar->widgetForAction(action);
+        m_factory.presentation().show<&nameWithoutText>(button, *record);
+        addDisabledTip(button, *record, m_factory.presentation());
     }
     return bar;
 }

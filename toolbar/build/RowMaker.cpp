@@ -259,6 +259,7 @@ void RowMaker::addButton(const Controller &record, QToolBar *row, bool addToRow)
     if (QWidget *button = row->widgetForAction(action)) {
         Presentation &presentation = m_factory.presentation();
         presentation.show<&showRowButton>(button, record);
+        addDisabledTip(button, record, presentation);
         if (addToRow)
             presentation.fit<&fitRowButton>(button, record);
         else
@@ -303,6 +304,7 @@ void RowMaker::addMenu(const Controller &record, QToolBar *row, bool addToRow)
     if (MRDropButton *button = action->GetWidget()) {
         presentation.show<&showMenuButton>(action, record, Presentation::ItsEntries);
         presentation.fit<&fitMenuButton>(action, record, Presentation::ItsEntries);
+        addDisabledTip(button, record, presentation);
         button->SetName(record.name);
         m_receiver.takeDropButton(button);
     }
@@ -340,6 +342,7 @@ void RowMaker::addComboBox(const Controller &record, QToolBar *row)
             box->setEditable(false);
     }
     m_factory.presentation().show<&showChoices>(box, record, Presentation::ItsEntries);
+    addDisabledTip(box, record, m_factory.presentation());
     if (box->count() > 0) {
         box->setView(new QListView);
         if (record.index > 0)
@@ -359,6 +362,7 @@ void RowMaker::addLabel(const Controller &record, QToolBar *row)
 {
     auto *label = new TotalLabel;
     m_factory.presentation().show<&showLabel>(label, record);
+    addDisabledTip(label, record, m_factory.presentation());
     label->setObjectName(record.name);
     if (record.name == Name::totalPageLabel)
         m_receiver.takeTotalPageLabel(label);
@@ -371,6 +375,7 @@ void RowMaker::addLineEdit(const Controller &record, QToolBar *row)
     field->setProperty(Property::module, Module::input);
     field->setObjectName(record.name);
     m_factory.presentation().show<&showSpokenName>(field, record);
+    addDisabledTip(field, record, m_factory.presentation());
     QWidget *container = makeCaptionedContainer(field);
     if (record.name.contains(Word::goToPage, Qt::CaseInsensitive)) {
         m_receiver.takePageField(field, addCaption(container, record, m_factory.presentation()));

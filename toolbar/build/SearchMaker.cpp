@@ -91,6 +91,7 @@ MRSearchBar *SearchMaker::makeField()
     if (records.field) {
         field->setObjectName(records.field->name);
         m_factory.presentation().show<&showField>(field, *records.field);
+        addDisabledTip(field, *records.field, m_factory.presentation());
     }
     return field;
 }

@@ -60,6 +60,7 @@ QPushButton *TabMaker::makeButton(const Controller &tab, int position) const
     auto *button = new QPushButton;
     button->setProperty(Property::inToolBar, "true");
     m_factory.presentation().show<&showTab>(button, tab);
+    addDisabledTip(button, tab, m_factory.presentation());
     button->setObjectName(tab.name);
     button->setProperty(Property::tabIndex, QByteArray::number(position).constData());
     button->setCheckable(tab.checkable);
