@@ -26,44 +26,44 @@ struct RoleTraits
 
 constexpr RoleTraits allTraits[]{
     {Role::Root, "the root", "prefix"},
-    {Role::AppButton, "an application button", "name action text icon tooltip"},
+    {Role::AppButton, "an application button", "name action text icon tooltip disabletip"},
     {Role::QuickButton, "a quick access button",
-     "name action text icon tooltip available checkable visible"},
-    {Role::QuickSet, "the customise button", "name action text icon tooltip visible"},
-    {Role::Tab, "a tab", "name action text checkable checked visible scalable"},
+     "name action text icon tooltip disabletip available checkable visible"},
+    {Role::QuickSet, "the customise button", "name action text icon tooltip disabletip visible"},
+    {Role::Tab, "a tab", "name action text disabletip checkable checked visible scalable"},
     {Role::RowButton, "a button of a row",
-     "name action text icon tooltip group checkable checked visible "
+     "name action text icon tooltip disabletip group checkable checked visible "
      "usable available doubleclick"},
     {Role::RowMenu, "a menu of a row",
-     "name action text icon tooltip index checkable switchable "
+     "name action text icon tooltip disabletip index checkable switchable "
      "withaction visible usable available"},
     {Role::ButtonGroup, "a button group", "visible"},
     {Role::GroupButton, "a button of a group",
-     "name action text icon tooltip group checkable checked visible "
+     "name action text icon tooltip disabletip group checkable checked visible "
      "usable available doubleclick"},
     {Role::GroupMenu, "a menu of a group",
-     "name action text icon tooltip index checkable switchable "
+     "name action text icon tooltip disabletip index checkable switchable "
      "withaction visible usable available"},
-    {Role::ComboBox, "a combo box", "name action text index editable visible"},
+    {Role::ComboBox, "a combo box", "name action text disabletip index editable visible"},
     {Role::Item, "an entry of a combo box", "name action text"},
-    {Role::RowLabel, "a label of a row", "name action text visible"},
-    {Role::RowField, "a field of a row", "name action text visible"},
+    {Role::RowLabel, "a label of a row", "name action text disabletip visible"},
+    {Role::RowField, "a field of a row", "name action text disabletip visible"},
     {Role::Separator, "a separator", ""},
     {Role::Extra, "an extra group", "usable"},
-    {Role::ExtraLabel, "a label of an extra group", "name action text"},
-    {Role::ExtraField, "a field of an extra group", "name action tooltip"},
-    {Role::ExtraButton, "a button of an extra group", "name action text icon tooltip"},
-    {Role::SubMenu, "a sub-menu", "name action text icon visible"},
+    {Role::ExtraLabel, "a label of an extra group", "name action text disabletip"},
+    {Role::ExtraField, "a field of an extra group", "name action tooltip disabletip"},
+    {Role::ExtraButton, "a button of an extra group", "name action text icon tooltip disabletip"},
+    {Role::SubMenu, "a sub-menu", "name action text disabletip icon visible"},
     {Role::MenuEntry, "a menu entry",
-     "name action text icon tooltip group shortcut checkable checked visible "
+     "name action text icon tooltip disabletip group shortcut checkable checked visible "
      "usable available doubleclick"},
     {Role::SearchLabel, "the label of the search bar", "name action text icon"},
-    {Role::SearchField, "the search field", "name action tooltip"},
-    {Role::SearchButton, "a search button", "name action text icon tooltip usable"},
+    {Role::SearchField, "the search field", "name action tooltip disabletip"},
+    {Role::SearchButton, "a search button", "name action text icon tooltip disabletip usable"},
     {Role::SearchSet, "the button of the search options",
-     "name action text icon tooltip checkable"},
+     "name action text icon tooltip disabletip checkable"},
     {Role::AdditionalButton, "an additional button",
-     "name action text icon tooltip checkable checked"},
+     "name action text icon tooltip disabletip checkable checked"},
 };
 
 const RoleTraits &traits(Role role)

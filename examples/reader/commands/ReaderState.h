@@ -14,6 +14,9 @@ struct ReaderState
     bool isModified = false;
     bool canUndo = false;
     bool canRedo = false;
+    QString undoText; ///< What can be undone, and next, redone; as the user is told.
+    QString redoText;
+    bool isFullScreen = false;
     bool hasSelection = false;
     int page = 0; ///< Counted from 1; 0 without a document.
     int pageCount = 0;

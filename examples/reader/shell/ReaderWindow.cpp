@@ -308,6 +308,9 @@ ReaderState ReaderWindow::state() const
     state.isModified = m_document.isModified();
     state.canUndo = m_document.undoStack().canUndo();
     state.canRedo = m_document.undoStack().canRedo();
+    state.undoText = m_document.undoStack().undoText();
+    state.redoText = m_document.undoStack().redoText();
+    state.isFullScreen = isFullScreen();
     state.hasSelection = !m_view->selection().isEmpty();
     state.page = m_document.isOpen() ? m_view->currentPage() + 1 : 0;
     state.pageCount = m_document.pageCount();

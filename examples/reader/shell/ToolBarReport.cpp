@@ -5,6 +5,8 @@
 
 #include <toolbar/MRToolBar.h>
 
+#include <QCoreApplication>
+
 namespace {
 
 const QString originalMode = QStringLiteral("vzmode_original");
@@ -22,6 +24,12 @@ QStringList zoomButtonNames()
             QStringLiteral("vzmode_fitpage")};
 }
 
+/** Empty, which is the described tooltip, when there is nothing to tell. */
+QString tellingWhat(const QString &tip, const QString &what)
+{
+    return what.isEmpty() ? QString() : tip.arg(what);
+}
+
 } // namespace
 
 ToolBarReport::ToolBarReport(MRToolBar &toolBar, const CommandTable &commands)
@@ -34,6 +42,7 @@ void ToolBarReport::tellAll(const ReaderState &state)
 {
     m_told = state;
     tellUsable(state);
+    tellTexts();
     tellPage();
     tellZoom();
     m_toolBar.DoSetBackgroundSlot(state.background);
@@ -46,6 +55,9 @@ void ToolBarReport::tellChanges(const ReaderState &state)
     const ReaderState before = m_told;
     m_told = state;
     tellUsable(state);
+    if (before.undoText != state.undoText || before.redoText != state.redoText
+        || before.isFullScreen != state.isFullScreen)
+        tellTexts();
     // A report replaces text that the user is typing, so it is sent only after a change.
     if (before.page != state.page || before.pageCount != state.pageCount)
         tellPage();
@@ -71,6 +83,19 @@ void ToolBarReport::tellUsable(const ReaderState &state)
         QString target = name;
         m_toolBar.DoSetControlUsableStateSlot(target, m_commands.isUsable(name, state));
     }
+}
+
+void ToolBarReport::tellTexts()
+{
+    const QString undo = QCoreApplication::translate("ToolBarReport", "撤销：%1 (Ctrl+Z)");
+    const QString redo = QCoreApplication::translate("ToolBarReport", "恢复：%1 (Ctrl+Y)");
+    const QString leave = QCoreApplication::translate("ToolBarReport", "退出全屏");
+    QString name = QStringLiteral("e_undo");
+    m_toolBar.DoSetControlToolTipSlot(name, tellingWhat(undo, m_told.undoText));
+    name = QStringLiteral("e_redo");
+    m_toolBar.DoSetControlToolTipSlot(name, tellingWhat(redo, m_told.redoText));
+    name = QStringLiteral("v_fullscreen");
+    m_toolBar.DoSetControlTextSlot(name, m_told.isFullScreen ? leave : QString());
 }
 
 void ToolBarReport::tellChecked(const ReaderState &state)

@@ -23,6 +23,7 @@ public:
 
 private:
     void tellUsable(const ReaderState &state);
+    void tellTexts();
     void tellChecked(const ReaderState &state);
     void tellPage();
     void tellZoom();
