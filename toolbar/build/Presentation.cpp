@@ -78,8 +78,6 @@ void Presentation::giveToolTipsAgain(const QString &name)
 
 void Presentation::giveAgain(const QString &name)
 {
-    if (name.isEmpty()) // Which no control is found by.
-        return;
     findNames();
     // In the order in which they were given: a button that shows an entry comes after the entry.
     const QList<qsizetype> positions = m_positions.value(name);

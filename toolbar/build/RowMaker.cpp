@@ -177,9 +177,12 @@ int menuWidth(const QMenu *menu, const Controller &record, const Presentation &h
 
 void showMenuButton(MRDropButtonAction *action, const Controller &record, const Presentation &how)
 {
-    showToolTip(action->GetWidget(), record, how);
+    MRDropButton *button = action->GetWidget();
+    if (!button)
+        return;
+    showToolTip(button, record, how);
     if (record.withaction && action->GetAction() && how.toolTip(record).isEmpty())
-        setToolTipCard(action->GetWidget(), action->GetAction()->text());
+        setToolTipCard(button, action->GetAction()->text());
 }
 
 void fitMenuButton(MRDropButtonAction *action, const Controller &record, const Presentation &how)

@@ -25,32 +25,31 @@ const Value *lookUpCommand(const QHash<QString, Value> &values, const QString &n
     return own ? own : lookUp(values, TextsByName::commandOf(name));
 }
 
-void set(QHash<QString, QString> &texts, const QString &name, const QString &text)
+/** No control is found by an empty name, though many may have none. */
+template <typename Value>
+void set(QHash<QString, Value> &values, const QString &name, const Value &value, bool isNothing)
 {
-    if (text.isEmpty())
-        texts.remove(name);
-    else
-        texts.insert(name, text);
+    if (isNothing)
+        values.remove(name);
+    else if (!name.isEmpty())
+        values.insert(name, value);
 }
 
 } // namespace
 
 void TextsByName::setText(const QString &name, const QString &text)
 {
-    set(m_texts, name, text);
+    set(m_texts, name, text, text.isEmpty());
 }
 
 void TextsByName::setToolTip(const QString &name, const QString &tip)
 {
-    set(m_toolTips, name, tip);
+    set(m_toolTips, name, tip, tip.isEmpty());
 }
 
 void TextsByName::setIcon(const QString &name, const QIcon &icon)
 {
-    if (icon.isNull())
-        m_icons.remove(name);
-    else
-        m_icons.insert(name, icon);
+    set(m_icons, name, icon, icon.isNull());
 }
 
 const QString *TextsByName::text(const Controller &record) const
