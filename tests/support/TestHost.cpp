@@ -4,6 +4,9 @@
 #include "tests/support/TestHost.h"
 
 #include "tests/support/TestDocuments.h"
+#include "toolbar/skin/ScreenDensity.h"
+
+#include <QApplication>
 
 namespace {
 
@@ -13,6 +16,22 @@ QDomDocument parsed(const QByteArray &xml)
     if (!document.setContent(xml))
         qFatal("The test's description is not well-formed");
     return document;
+}
+
+/** What the environment chooses for a whole run of the tests, unless the test chooses itself. */
+TestHost::SkinMap withChoicesOfRun(TestHost::SkinMap skin)
+{
+    const QString scale = qEnvironmentVariable("TEST_SCALE");
+    if (!scale.isEmpty() && !skin.contains("scalefactor"))
+        skin.insert("scalefactor", scale);
+    const int points = qEnvironmentVariableIntValue("TEST_FONT_POINTS");
+    if (points > 0 && !skin.contains("fontfromapplication")) {
+        QFont font = QApplication::font();
+        font.setPointSize(points);
+        QApplication::setFont(font);
+        skin.insert("fontfromapplication", "true");
+    }
+    return skin;
 }
 
 } // namespace
@@ -42,7 +61,7 @@ TestHost::TestHost(const QDomDocument &document, const SkinMap &skin, ToolBarAli
 {
     m_window->resize(1300, 600);
     QDomElement root = m_document.documentElement();
-    m_facade = std::make_unique<MRToolBar>(m_window.get(), root, skin, alignment);
+    m_facade = std::make_unique<MRToolBar>(m_window.get(), root, withChoicesOfRun(skin), alignment);
 }
 
 TestHost TestHost::shown(const QString &sections, const SkinMap &skin)
@@ -120,8 +139,7 @@ void TestHost::openEachTab(const std::function<void(const QString &)> &look)
 
 int TestHost::scaled(double designPixels) const
 {
-    const auto scale = static_cast<float>(m_window->physicalDpiX()) / 96.0F;
-    return static_cast<int>(designPixels * static_cast<double>(scale));
+    return static_cast<int>(designPixels * static_cast<double>(ScreenDensity::factor(toolBar())));
 }
 
 void TestHost::click(const QString &buttonName)
