@@ -103,6 +103,10 @@ public:
     /** Watches the zoom box and the button for what the quick access bar has no room for. */
     bool eventFilter(QObject *watched, QEvent *event) override;
 
+protected:
+    /** Shows the texts anew when the language changes. */
+    void changeEvent(QEvent *event) override;
+
 Q_SIGNALS:
     /** @name Signals without an emitter
      *  @{ */
@@ -198,6 +202,7 @@ private:
     bool ResetSkinStyle();
     void followAppearance();
     void followScale();
+    void followLanguage();
 
     QPointer<QLineEdit> m_pageNumberEdit;
     NamedList<MRDropButton> m_dropButtons;

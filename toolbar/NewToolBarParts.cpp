@@ -69,10 +69,13 @@ void NewToolBar::Receiver::takeGroupButton(QToolButton *button)
 void NewToolBar::Receiver::takeZoomBox(QComboBox *box, const Controller &record)
 {
     QStringList modes;
-    for (const Controller *item : record.children)
+    QStringList texts;
+    for (const Controller *item : record.children) {
         modes.append(item->name);
+        texts.append(item->text);
+    }
     box->installEventFilter(&m_toolBar);
-    m_toolBar.m_parts->zoom.take(box, modes);
+    m_toolBar.m_parts->zoom.take(box, modes, texts);
 }
 
 void NewToolBar::Receiver::takePageField(QLineEdit *field, TotalLabel *caption)

@@ -15,6 +15,7 @@
 #include "toolbar/widgets/RowPause.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QPushButton>
 #include <QToolBar>
 
@@ -178,6 +179,21 @@ void NewToolBar::followScale()
     const RowPause pause(this);
     m_parts->presentation.fitAgain();
     ResetSkinStyle();
+}
+
+void NewToolBar::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        followLanguage();
+}
+
+void NewToolBar::followLanguage()
+{
+    const RowPause pause(this);
+    m_parts->presentation.showAgain();
+    m_parts->zoom.retranslate();
+    m_parts->recentFiles.retranslate();
 }
 
 void NewToolBar::SetScale(double factor)

@@ -110,27 +110,36 @@ void Presentation::fileUnder(const Controller &record, qsizetype position, Shows
         fileUnder(*entry, position, shows);
 }
 
+QString Presentation::translated(const QString &source)
+{
+    if (source.isEmpty())
+        return source;
+    const QString text = QCoreApplication::translate("description", source.toUtf8().constData());
+    // What is the same shares its characters with the record.
+    return text == source ? source : text;
+}
+
 QString Presentation::text(const Controller &record) const
 {
     const QString *given = m_byName.text(record);
-    return given ? *given : record.text;
+    return given ? *given : translated(record.text);
 }
 
 QString Presentation::toolTip(const Controller &record) const
 {
     const QString *given = m_byName.toolTip(record);
-    return given ? *given : record.tooltip;
+    return given ? *given : translated(record.tooltip);
 }
 
 QString Presentation::prompt(const Controller &record) const
 {
     const QString *given = m_byName.ownToolTip(record);
-    return given ? *given : record.prompt;
+    return given ? *given : translated(record.prompt);
 }
 
 QString Presentation::disabledToolTip(const Controller &record) const
 {
-    return record.disabletip;
+    return translated(record.disabletip);
 }
 
 QString Presentation::toolTipByName(const Controller &record) const

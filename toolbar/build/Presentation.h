@@ -82,6 +82,7 @@ public:
     void setToolTip(const QString &name, const QString &tip);
     void setIcon(const QString &name, const QIcon &icon);
 
+    /** The texts, in the language of the translators that the host has installed. */
     QString text(const Controller &record) const;
     /** The tooltip as described; what is to be seen of it, SetWidgetToolTip() knows. */
     QString toolTip(const Controller &record) const;
@@ -137,6 +138,7 @@ private:
         how(static_cast<Control *>(control), self);
     }
 
+    static QString translated(const QString &source);
     void giveAgain(bool lengthsAlone);
     void giveAgain(const QString &name);
     void giveToolTipsAgain(const QString &name);

@@ -12,7 +12,7 @@
 #include "toolbar/commands/ActionData.h"
 #include "toolbar/description/Controller.h"
 #include "toolbar/description/Names.h"
-#include "toolbar/fields/ChoiceText.h"
+#include "toolbar/fields/EntryTexts.h"
 #include "toolbar/fields/TotalLabel.h"
 #include "toolbar/skin/Skin.h"
 #include "toolbar/widgets/MRDropButton.h"
@@ -85,7 +85,7 @@ private:
 
 void showLabel(TotalLabel *label, const Controller &record, const Presentation &how)
 {
-    label->showText(how.text(record));
+    label->describe(how.text(record));
     showToolTipByName(label, record, how);
 }
 
@@ -124,11 +124,12 @@ void showSpokenName(QWidget *field, const Controller &record, const Presentation
     field->setAccessibleName(tip.isEmpty() ? how.text(record) : toolTipTitle(tip));
 }
 
-/** The zoom box has choices of its own after those that are described. */
-void showChoices(QComboBox *box, const Controller &record, const Presentation &how)
+void showEntries(QComboBox *box, const Controller &record, const Presentation &how)
 {
-    for (int index = 0; index < record.children.size(); ++index)
-        setChoiceText(box, index, how.text(*record.children.at(index)));
+    QStringList texts;
+    for (const Controller *item : record.children)
+        texts.append(how.text(*item));
+    setEntryTexts(box, texts);
 }
 
 /** Makes the described entry of the menu, if there is one, the button's own. */
@@ -344,7 +345,7 @@ void RowMaker::addComboBox(const Controller &record, QToolBar *row)
         if (!item->text.contains(QLatin1Char('%')))
             box->setEditable(false);
     }
-    m_factory.presentation().show<&showChoices>(box, record, Presentation::ItsEntries);
+    m_factory.presentation().show<&showEntries>(box, record, Presentation::ItsEntries);
     addDisabledTip(box, record, m_factory.presentation());
     if (box->count() > 0) {
         box->setView(new QListView);

@@ -63,7 +63,7 @@ void showLabel(IconLabel *label, const Controller &record, const Presentation &h
 
 void showField(MRSearchBar *field, const Controller &record, const Presentation &how)
 {
-    field->setPlaceholderText(how.prompt(record));
+    field->showPrompt(how.prompt(record));
 }
 
 } // namespace

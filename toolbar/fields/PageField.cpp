@@ -5,7 +5,6 @@
 
 #include "toolbar/fields/PageText.h"
 #include "toolbar/fields/PageValidator.h"
-#include "toolbar/fields/TotalLabel.h"
 #include "toolbar/widgets/FieldKeyFilter.h"
 
 #include <QLineEdit>
@@ -50,7 +49,7 @@ void PageField::showTotal(const QString &total)
         label->clearTotal(m_totalPages);
         m_totalPages = 0;
     } else if (const auto text = PageText::totalText(total)) {
-        label->showTotal(*text, m_totalPages);
+        label->showTotal(m_totalPages, *text);
         m_totalPages = text->toInt();
     }
 }

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "toolbar/fields/TotalLabel.h"
+
 #include <QPointer>
 #include <QString>
 

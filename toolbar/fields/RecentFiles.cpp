@@ -85,13 +85,27 @@ void RecentFiles::show(const QStringList &paths)
 QList<RecentFiles::File> RecentFiles::describe(const QStringList &paths)
 {
     QList<File> files;
-    for (const QString &path : paths) {
-        const QFileInfo info(path);
-        const QString number = QString::number(files.size() + 1);
-        files.append(
-            {QObject::tr("&%1 %2").arg(number, info.fileName()), path, info.absoluteFilePath()});
-    }
+    for (const QString &path : paths)
+        files.append({textOf(files.size(), path), path, QFileInfo(path).absoluteFilePath()});
     return files;
+}
+
+QString RecentFiles::textOf(qsizetype position, const QString &path)
+{
+    return QObject::tr("&%1 %2").arg(QString::number(position + 1), QFileInfo(path).fileName());
+}
+
+void RecentFiles::retranslate()
+{
+    if (!hasOwnEntries())
+        return;
+
+    const BatchMenu::Changes changes(m_menu);
+    const QList<QAction *> entries = shownEntries();
+    for (qsizetype i = 0; i < entries.size(); ++i) {
+        if (entries.at(i)->objectName() == Name::recentFile)
+            entries.at(i)->setText(textOf(i, entries.at(i)->data().toString()));
+    }
 }
 
 bool RecentFiles::hasOwnEntries() const

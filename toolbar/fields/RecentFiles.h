@@ -41,6 +41,9 @@ public:
      */
     void show(const QStringList &paths);
 
+    /** Shows the list in the language of now. */
+    void retranslate();
+
     /** Does what a chosen entry of the menu is for. The list may be gone on return. */
     void choose(QAction *entry);
 
@@ -59,6 +62,7 @@ private:
         QString absolutePath;
     };
 
+    static QString textOf(qsizetype position, const QString &path);
     static QList<File> describe(const QStringList &paths);
     static bool isShowing(const QAction *entry, const File &file);
     bool hasOwnEntries() const;

@@ -5,22 +5,22 @@
 
 #include "toolbar/fields/PageText.h"
 
-void TotalLabel::showText(const QString &text)
+void TotalLabel::describe(const QString &text)
 {
-    if (text == m_givenText)
+    if (text == m_described)
         return;
-    m_givenText = text;
-    setText(m_total.isEmpty() ? text : PageText::withTotal(text, 0, m_total));
+    m_described = text;
+    setText(m_total ? PageText::withTotal(text, 0, *m_total) : text);
 }
 
-void TotalLabel::showTotal(const QString &total, int formerTotal)
+void TotalLabel::showTotal(int oldTotal, const QString &total)
 {
     m_total = total;
-    setText(PageText::withTotal(text(), formerTotal, total));
+    setText(PageText::withTotal(text(), oldTotal, total));
 }
 
-void TotalLabel::clearTotal(int formerTotal)
+void TotalLabel::clearTotal(int oldTotal)
 {
-    m_total.clear();
-    setText(PageText::withoutTotal(text(), formerTotal));
+    m_total.reset();
+    setText(PageText::withoutTotal(text(), oldTotal));
 }

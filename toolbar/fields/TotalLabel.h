@@ -5,22 +5,22 @@
 
 #include <QLabel>
 
-/** A label in whose text the host's number of pages is written. */
+#include <optional>
+
+/** A label whose text may hold the number of pages, in the middle of what is described. */
 class TotalLabel : public QLabel
 {
-    Q_OBJECT
-
 public:
     using QLabel::QLabel;
 
-    /** Shows another text, with the number that stands in the former one. */
-    void showText(const QString &text);
-    /** Writes a number in place of the former one. @param formerTotal as a number; 0 at first */
-    void showTotal(const QString &total, int formerTotal);
-    /** Takes the number out of the text. */
-    void clearTotal(int formerTotal);
+    /** Shows another described text, with the total in it. The same text changes nothing. */
+    void describe(const QString &text);
+
+    /** Shows a total in place of the old one, which the label holds or has room for. */
+    void showTotal(int oldTotal, const QString &total);
+    void clearTotal(int oldTotal);
 
 private:
-    QString m_givenText;
-    QString m_total; ///< Empty while none is shown.
+    QString m_described;
+    std::optional<QString> m_total; ///< As it was reported.
 };

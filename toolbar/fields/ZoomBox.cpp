@@ -53,16 +53,29 @@ const QPointer<QComboBox> &ZoomBox::box() const
     return m_box;
 }
 
-void ZoomBox::take(QComboBox *box, const QStringList &modes)
+void ZoomBox::take(QComboBox *box, const QStringList &modes, const QStringList &texts)
 {
-    setTypable(box, box->isEditable() || box->currentText().endsWith(QLatin1Char('%')));
     m_box = box;
     m_identity = box;
     m_index = box->currentIndex();
     m_modes = modes;
+    m_texts = texts;
+    setTypable(box, box->isEditable() || isPercentage(m_index, box->currentText()));
     box->setToolTip(hint());
     connect(box, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
             [this, box](int index) { choose(box->itemText(index)); });
+}
+
+bool ZoomBox::isPercentage(int index, const QString &text) const
+{
+    const bool isEntry = index >= 0 && text == m_box->itemText(index);
+    return m_texts.value(isEntry ? index : -1, text).endsWith(QLatin1Char('%'));
+}
+
+void ZoomBox::retranslate()
+{
+    if (m_box)
+        m_box->setToolTip(hint());
 }
 
 void ZoomBox::showMode(const QString &mode)
@@ -138,7 +151,7 @@ void ZoomBox::chooseEntry(int index, const QString &text)
 
     QString mode;
     if (!text.isEmpty()) {
-        setTypable(m_box, text.endsWith(QLatin1Char('%')));
+        setTypable(m_box, isPercentage(index, text));
         mode = m_box->itemData(index).toString();
     }
     m_index = index;
@@ -155,8 +168,8 @@ void ZoomBox::applyTyped(const QString &text)
 
     const QString number = ZoomText::clamped(*typed);
     const QString entry = ZoomText::entry(number);
-    const int predefined = m_box->findText(entry, Qt::MatchExactly | Qt::MatchCaseSensitive);
-    if (predefined >= 0 && predefined < m_modes.size()) {
+    const int predefined = static_cast<int>(m_texts.indexOf(entry));
+    if (predefined >= 0) {
         // The user asked for what the box already offers; nothing is reported, deliberately.
         m_index = predefined;
         dropTyped();

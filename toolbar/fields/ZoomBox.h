@@ -28,8 +28,14 @@ public:
     /** Whether the object is the list, even if that is being destroyed and no list any more. */
     bool isBox(const QObject *object) const { return object == m_identity; }
 
-    /** Makes @p box the list from now on; its entries stand for @p modes. */
-    void take(QComboBox *box, const QStringList &modes);
+    /**
+     * Makes @p box the list from now on; its entries stand for @p modes. What an entry may be used
+     * for follows from its text as described, @p texts, in every language.
+     */
+    void take(QComboBox *box, const QStringList &modes, const QStringList &texts);
+
+    /** Gives the list its hint in the language of now. */
+    void retranslate();
 
     /** Shows a zoom that the host reports. A predefined one that was not on show is reported back.
      */
@@ -48,6 +54,7 @@ Q_SIGNALS:
     void shown(QString mode);
 
 private:
+    bool isPercentage(int index, const QString &text) const;
     static void setTypable(QComboBox *box, bool isTypable);
     void showEntry(int index);
     void showCustom(const QString &text);
@@ -61,6 +68,7 @@ private:
     QPointer<QComboBox> m_box;
     const QObject *m_identity = nullptr;
     QStringList m_modes; ///< Names of the predefined entries, in the order of the list.
+    QStringList m_texts; ///< Of these, as described.
     int m_index = 0;     ///< Of the entry on show; beyond the predefined ones for any other zoom.
     QString m_customText;
 };

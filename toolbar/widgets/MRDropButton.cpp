@@ -273,11 +273,15 @@ QWidget *MRDropButtonAction::createWidget(QWidget *parent)
         setUpRowButton(button);
     button->setMouseTracking(m_switchable || m_withAction);
 
-    if (m_extendMenu) {
-        const double textWidth = QFontMetricsF(button->font()).horizontalAdvance(m_text);
-        m_extendMenu->setMinimumWidth(static_cast<int>(textWidth) + 80);
-    }
+    if (m_extendMenu)
+        fitExtendMenu(button);
     return button;
+}
+
+void MRDropButtonAction::fitExtendMenu(const MRDropButton *button)
+{
+    const double textWidth = QFontMetricsF(button->font()).horizontalAdvance(m_text);
+    m_extendMenu->setMinimumWidth(static_cast<int>(textWidth) + 80);
 }
 
 void MRDropButtonAction::adoptExtendMenu(QWidget *parent)
@@ -419,8 +423,12 @@ void MRDropButtonAction::fitMenuCopies()
         return;
     adoptExtendMenu(nullptr);
     const QList<QWidget *> buttons = createdWidgets();
-    for (QWidget *button : buttons)
-        static_cast<MRDropButton *>(button)->followScheme();
+    for (QWidget *widget : buttons) {
+        auto *button = static_cast<MRDropButton *>(widget);
+        button->followScheme();
+        if (button != m_firstWidget)
+            fitExtendMenu(button);
+    }
 }
 
 QString MRDropButtonAction::menuCopyText() const

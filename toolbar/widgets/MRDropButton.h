@@ -159,7 +159,8 @@ public:
     QAction *GetAction() const;
     /** Gives its buttons another text and icon, made ones too; those that show an entry keep it. */
     void showFace(const QString &text, const QIcon &icon);
-    /** Gives the menu of what the row has no room for, and the copy there, the lengths of now. */
+    /** Gives the menu of what the row has no room for, and the copy there, the lengths for the
+     * scale and the text of now. */
     void fitMenuCopies();
 
     /** Shows or hides every button of the action. */
@@ -179,6 +180,7 @@ Q_SIGNALS:
 
 private:
     void adoptExtendMenu(QWidget *parent);
+    void fitExtendMenu(const MRDropButton *button);
     void setUpRowButton(MRDropButton *button);
     void setUpMenuCopy(MRDropButton *copy);
     void setUpMenu(MRDropButton *button);

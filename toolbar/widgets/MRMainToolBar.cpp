@@ -18,8 +18,20 @@ MRMainToolBar::MRMainToolBar(QWidget *parent)
 {
     setProperty(Property::inToolBar, "true");
     RoundedMenu::prepareExtensionOf(this);
+    nameExtension();
+}
+
+void MRMainToolBar::nameExtension()
+{
     if (m_extension)
         m_extension->setAccessibleName(tr("更多"));
+}
+
+void MRMainToolBar::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        nameExtension();
+    QToolBar::changeEvent(event);
 }
 
 bool MRMainToolBar::event(QEvent *event)

@@ -20,8 +20,10 @@ public:
 
 protected:
     bool event(QEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
+    void nameExtension();
     void showWhatHasRoom();
 
     QToolButton *m_extension;

@@ -104,8 +104,14 @@ void MRExtendButton::SetObjectName(QString name)
     fitArrow();
     const bool isLeft = name.contains(leftSide);
     m_arrow->setObjectName(isLeft ? leftSide : rightSide);
-    m_arrow->setAccessibleName(isLeft ? tr("向左滚动") : tr("向右滚动"));
+    nameArrow();
     updateArrow();
+}
+
+void MRExtendButton::nameArrow()
+{
+    const bool isLeft = objectName().contains(leftSide);
+    m_arrow->setAccessibleName(isLeft ? tr("向左滚动") : tr("向右滚动"));
 }
 
 void MRExtendButton::fitArrow()
@@ -131,6 +137,8 @@ void MRExtendButton::changeEvent(QEvent *event)
         event->type() == QEvent::StyleChange && m_look != Appearance::lookFor(this);
     if (isOther || event->type() == QEvent::LayoutDirectionChange)
         updateArrow();
+    if (event->type() == QEvent::LanguageChange)
+        nameArrow();
     QPushButton::changeEvent(event);
 }
 

@@ -45,6 +45,7 @@ protected:
 
 private:
     void updateArrow();
+    void nameArrow();
 
     QPushButton *m_arrow;
     SchemeLook m_look; ///< That the arrow is drawn for.

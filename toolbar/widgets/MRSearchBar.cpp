@@ -131,6 +131,14 @@ void MRSearchBar::setPlaceholderText(const QString &text)
         applyWidth(restingPixelsPerCharacter);
 }
 
+void MRSearchBar::showPrompt(const QString &text)
+{
+    const int pixelsPerCharacter = m_pixelsPerCharacter;
+    setPlaceholderText(text);
+    if (pixelsPerCharacter > 0 && !text.isEmpty())
+        applyWidth(pixelsPerCharacter);
+}
+
 void MRSearchBar::SetResizable(bool resizable)
 {
     m_resizable = resizable;

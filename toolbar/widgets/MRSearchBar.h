@@ -33,6 +33,9 @@ public:
     /** Sets the text shown while the field is empty, and a width in keeping with its length. */
     void setPlaceholderText(const QString &text);
 
+    /** Sets another such text; a field that is in use stays as wide as that makes it. */
+    void showPrompt(const QString &text);
+
     /** Whether the field changes its width; one that does not, and is no main bar, always shows
      *  its buttons. */
     void SetResizable(bool resizable);

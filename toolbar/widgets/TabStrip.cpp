@@ -38,8 +38,20 @@ TabStripArrow::TabStripArrow(Qt::ArrowType direction, QWidget *parent)
     setFlat(true);
     // The keyboard goes to the tabs themselves, and the strip follows.
     setFocusPolicy(Qt::NoFocus);
-    setAccessibleName(direction == Qt::LeftArrow ? tr("向左滚动") : tr("向右滚动"));
+    showName();
     hide();
+}
+
+void TabStripArrow::showName()
+{
+    setAccessibleName(m_direction == Qt::LeftArrow ? tr("向左滚动") : tr("向右滚动"));
+}
+
+void TabStripArrow::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        showName();
+    QPushButton::changeEvent(event);
 }
 
 void TabStripArrow::paintEvent(QPaintEvent *event)

@@ -20,8 +20,11 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
+    void showName();
+
     Qt::ArrowType m_direction;
 };
 
