@@ -16,21 +16,28 @@ if(MRTOOLBAR_TRANSLATIONS)
     endif()
 endif()
 
-# embed_translations(<target> <prefix> <catalogue.ts>...): the compiled catalogues become resources
-# of the target below the prefix, and their paths the target's property COMPILED_TRANSLATIONS.
+# embed_translations(<target> <prefix> <catalogue.ts>... [DESCRIPTIONS <catalogue.ts>...]): the
+# compiled catalogues become resources of the target below the prefix, and their paths the target's
+# property COMPILED_TRANSLATIONS. The texts of descriptions are compiled into the catalogue of the
+# same language: a host installs one translator for both.
 function(embed_translations target prefix)
     if(NOT MRTOOLBAR_TRANSLATIONS)
         return()
     endif()
+    cmake_parse_arguments(PARSE_ARGV 2 arg "" "" DESCRIPTIONS)
     set(folder ${CMAKE_CURRENT_BINARY_DIR}/translations)
     set(entries "")
-    foreach(catalogue IN LISTS ARGN)
+    foreach(catalogue IN LISTS arg_UNPARSED_ARGUMENTS)
         cmake_path(ABSOLUTE_PATH catalogue)
         cmake_path(GET catalogue STEM name)
+        string(REGEX MATCH "_.*" language ${name})
+        set(described ${arg_DESCRIPTIONS})
+        list(FILTER described INCLUDE REGEX "${language}\\.ts$")
+        list(TRANSFORM described PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/)
         add_custom_command(
             OUTPUT ${folder}/${name}.qm
-            COMMAND ${qt}::lrelease -silent ${catalogue} -qm ${folder}/${name}.qm
-            DEPENDS ${catalogue}
+            COMMAND ${qt}::lrelease -silent ${catalogue} ${described} -qm ${folder}/${name}.qm
+            DEPENDS ${catalogue} ${described}
             VERBATIM)
         list(APPEND compiled ${folder}/${name}.qm)
         string(APPEND entries
@@ -65,8 +72,29 @@ function(maintain_translations name)
     add_dependencies(mrtoolbar_update_translations update_translations_of_${name})
     if(PROJECT_IS_TOP_LEVEL AND BUILD_TESTING)
         add_test(NAME ${name}_translations_are_complete
-            COMMAND ${CMAKE_COMMAND} "-DUPDATE=$<TARGET_FILE:${qt}::lupdate>;${update}"
+            COMMAND ${CMAKE_COMMAND} "-DUPDATE=$<TARGET_FILE:${qt}::lupdate>;${update};-ts"
                     "-DCATALOGUES=${catalogues}"
+                    -DFOLDER=${CMAKE_CURRENT_BINARY_DIR}/translations/check
+                    -P ${PROJECT_SOURCE_DIR}/tests/support/CheckTranslations.cmake)
+    endif()
+endfunction()
+
+# maintain_description_texts(<name> <catalogue.ts> <description.xml>...): the same for the texts of
+# descriptions.
+function(maintain_description_texts name catalogue)
+    if(NOT TARGET mrtoolbar_update_translations OR NOT MRTOOLBAR_BUILD_TOOLS)
+        return()
+    endif()
+    cmake_path(ABSOLUTE_PATH catalogue)
+    set(update --texts --no-locations ${ARGN} -o)
+    add_custom_target(update_texts_of_${name}
+        COMMAND mrtoolbar-check ${update} ${catalogue}
+        VERBATIM)
+    add_dependencies(mrtoolbar_update_translations update_texts_of_${name})
+    if(PROJECT_IS_TOP_LEVEL AND BUILD_TESTING)
+        add_test(NAME ${name}_are_translated
+            COMMAND ${CMAKE_COMMAND} "-DUPDATE=$<TARGET_FILE:mrtoolbar-check>;${update}"
+                    "-DCATALOGUES=${catalogue}"
                     -DFOLDER=${CMAKE_CURRENT_BINARY_DIR}/translations/check
                     -P ${PROJECT_SOURCE_DIR}/tests/support/CheckTranslations.cmake)
     endif()

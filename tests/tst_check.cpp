@@ -46,6 +46,19 @@ ToolResult runTool(const QStringList &arguments, const QByteArray &input = {})
     return {tool.exitCode(), tool.readAllStandardOutput(), tool.readAllStandardError()};
 }
 
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void writeFile(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(content);
+}
+
 QByteArray whole(const QByteArray &text)
 {
     return text;
@@ -279,6 +292,60 @@ private Q_SLOTS:
                                        {"column", 1},
                                        {"severity", "error"},
                                        {"id", "no-attributes"}}));
+    }
+
+    void shouldWriteTheTextsThatAreShown()
+    {
+        const QTemporaryDir folder;
+        const QString catalogue = folder.filePath("a.ts");
+        const QByteArray controls = "<button action='a' text='One &amp; two' tooltip='Tip;More' "
+                                    "disabletip='Off' group='g'/><lineedit name='b' text='One "
+                                    "&amp; two' icon='i.svg'/><oops text='c'/>";
+        QCOMPARE(runTool({"--texts", "-", "-o", catalogue}, row(controls)).exitCode, 0);
+        const QByteArray written = contentOf(catalogue);
+        for (const char *text : {"One &amp; two", "Tip;More", "Off"})
+            QCOMPARE(written.count("<source>" + QByteArray(text) + "</source>"), 1);
+        QCOMPARE(written.count("<translation type=\"unfinished\"></translation>"), 3);
+    }
+
+    void shouldKeepWhatIsTranslated()
+    {
+        const QTemporaryDir folder;
+        const QString catalogue = folder.filePath("a.ts");
+        const QStringList call{"--texts", "-", "-o", catalogue};
+        const auto buttons = [](const QByteArray &one, const QByteArray &other) {
+            return row("<button action='a' text='" + one + "'/><button action='b' text='" + other
+                       + "'/>");
+        };
+        QCOMPARE(runTool(call, buttons("kept", "gone")).exitCode, 0);
+        QByteArray content = contentOf(catalogue);
+        content.replace(" type=\"unfinished\"></", ">done</");
+        content.replace("</TS>", "<context>\n    <name>Host</name>\n</context>\n</TS>");
+        writeFile(catalogue, content);
+        QCOMPARE(runTool(call, buttons("kept", "kept")).exitCode, 0);
+        const QByteArray without = contentOf(catalogue);
+        QVERIFY(without.contains("<source>kept</source>\n        <translation>done<"));
+        QVERIFY(without.contains("gone</source>\n        <translation type=\"vanished\">done<"));
+        QVERIFY(without.contains("<name>Host</name>"));
+        QCOMPARE(runTool(call, buttons("kept", "gone")).exitCode, 0);
+        QCOMPARE(contentOf(catalogue), content);
+    }
+
+    void shouldLeaveTheCatalogueAloneOnBadInput()
+    {
+        const QByteArray inputs[][2]{{"<uiconfig>", "<TS></TS>"},
+                                     {"<a/>", "<TS></TS>"},
+                                     {document({}), "<TS><context>"},
+                                     {document({}), "<html/>"}};
+        const QTemporaryDir folder;
+        const QString path = folder.filePath("a.ts");
+        for (const auto &[description, catalogue] : inputs) {
+            writeFile(path, catalogue);
+            const ToolResult result = runTool({"--texts", "-", "-o", path}, description);
+            QCOMPARE(result.exitCode, 2);
+            QCOMPARE(int(result.error.count('\n')), 1);
+            QCOMPARE(contentOf(path), catalogue);
+        }
     }
 };
 

@@ -1,13 +1,13 @@
 # SPDX-FileCopyrightText: The MRToolBar authors
 # SPDX-License-Identifier: MIT
 
-# Updates copies of the CATALOGUES in FOLDER with lupdate, called by UPDATE. A source text that a
+# Updates copies of the CATALOGUES in FOLDER by a call of UPDATE and the path. A source text that a
 # catalogue lacks is then marked as unfinished, one that no source has any more as vanished.
 set(faults "")
 foreach(catalogue IN LISTS CATALOGUES)
     cmake_path(GET catalogue FILENAME name)
     file(COPY ${catalogue} DESTINATION ${FOLDER})
-    execute_process(COMMAND ${UPDATE} -ts ${FOLDER}/${name} COMMAND_ERROR_IS_FATAL ANY)
+    execute_process(COMMAND ${UPDATE} ${FOLDER}/${name} COMMAND_ERROR_IS_FATAL ANY)
     file(READ ${FOLDER}/${name} text)
     # Brackets and semicolons have a meaning in CMake lists.
     string(REGEX REPLACE "[][;]" "." text "${text}")

@@ -3,14 +3,17 @@
 
 // Prints the findings about descriptions, because the library ignores mistakes without a message.
 
+#include "tools/check/Catalogue.h"
+#include "tools/check/DescribedTexts.h"
 #include "tools/check/DescriptionCheck.h"
 #include "tools/check/Report.h"
 #include "tools/check/SkinIcons.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
-#include <QFile>
+#include <QFileInfo>
 #include <QResource>
+#include <QSaveFile>
 
 #include <algorithm>
 #include <cstdio>
@@ -42,7 +45,12 @@ QString explanation()
         "  note     harmless, such as an unused attribute (only with --notes)\n\n"
         "Exit status: 0 if nothing was reported, 1 if something was, 2 if a file cannot be read "
         "or the command line is wrong.\n\n"
-        "Example: mrtoolbar-check --skin lum my_toolbar.xml");
+        "With --texts it writes the texts of descriptions into a catalogue for Qt Linguist "
+        "instead; "
+        "a catalogue that there is keeps its translations.\n\n"
+        "Examples:\n"
+        "  mrtoolbar-check --skin lum my_toolbar.xml\n"
+        "  mrtoolbar-check --texts my_toolbar.xml -o my_toolbar_en.ts --target-language en");
 }
 
 void addOptions(QCommandLineParser &parser)
@@ -63,6 +71,19 @@ void addOptions(QCommandLineParser &parser)
         {QStringLiteral("notes"), QStringLiteral("Report notes, too; they count like the rest.")},
         {QStringLiteral("werror"), QStringLiteral("Report warnings as errors.")},
         {QStringLiteral("json"), QStringLiteral("Write the findings as a JSON array.")},
+        {QStringLiteral("texts"), QStringLiteral("Write the texts into the catalogue of -o.")},
+        {QStringLiteral("o"), QStringLiteral("With --texts: the catalogue."),
+         QStringLiteral("ts file")},
+        {QStringLiteral("source-language"),
+         QStringLiteral(
+             "With --texts: the language of the descriptions, zh_CN unless the catalogue "
+             "says something else."),
+         QStringLiteral("language")},
+        {QStringLiteral("target-language"),
+         QStringLiteral("With --texts: the language of the catalogue."),
+         QStringLiteral("language")},
+        {QStringLiteral("no-locations"),
+         QStringLiteral("With --texts: leave out where the texts stand.")},
     });
     parser.addPositionalArgument(QStringLiteral("file"),
                                  QStringLiteral("Descriptions to check; - is standard input."),
@@ -122,6 +143,50 @@ int checkFiles(const QCommandLineParser &parser, const CheckOptions &options)
     return code;
 }
 
+/** The catalogue as it is so far, or a new one. */
+bool readCatalogue(const QString &path, Catalogue *catalogue, QString *error)
+{
+    if (!QFileInfo::exists(path))
+        return true;
+    QByteArray content;
+    if (!read(path, &content, error))
+        return false;
+    if (!catalogue->read(content))
+        *error = QStringLiteral("'%1' is no catalogue of translations").arg(path);
+    return error->isEmpty();
+}
+
+int writeTexts(const QCommandLineParser &parser)
+{
+    const QString path = parser.value(QStringLiteral("o"));
+    if (path.isEmpty())
+        return fail(QStringLiteral("--texts needs a catalogue to write to: -o FILE.ts"));
+
+    DescribedTexts texts;
+    QString error;
+    const QStringList descriptions = parser.positionalArguments();
+    for (const QString &file : descriptions) {
+        QByteArray content;
+        if (!read(file, &content, &error))
+            return fail(error);
+        const QString place = file == QLatin1String("-") ? QString() : file;
+        if (const auto fault = texts.add(content, place))
+            return fail(file + QLatin1Char(':') + *fault);
+    }
+    Catalogue catalogue;
+    if (!readCatalogue(path, &catalogue, &error))
+        return fail(error);
+    catalogue.setLanguages(parser.value(QStringLiteral("source-language")),
+                           parser.value(QStringLiteral("target-language")));
+    const bool hasPlaces = !parser.isSet(QStringLiteral("no-locations"));
+    catalogue.update(texts.all(), hasPlaces ? QFileInfo(path).absolutePath() : QString());
+
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(catalogue.content()) < 0 || !file.commit())
+        return fail(QStringLiteral("cannot write '%1': %2").arg(path, file.errorString()));
+    return Clean;
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -150,5 +215,5 @@ int main(int argc, char *argv[])
     }
     if (parser.positionalArguments().isEmpty())
         return fail(QStringLiteral("no file to check; --help lists the options"));
-    return checkFiles(parser, options);
+    return parser.isSet(QStringLiteral("texts")) ? writeTexts(parser) : checkFiles(parser, options);
 }

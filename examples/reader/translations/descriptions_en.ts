@@ -1,0 +1,419 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="zh_CN">
+<context>
+    <name>description</name>
+    <message>
+        <source>文件</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>打开(&amp;O)</source>
+        <translation>&amp;Open</translation>
+    </message>
+    <message>
+        <source>手型工具</source>
+        <translation>Hand tool</translation>
+    </message>
+    <message>
+        <source>最近打开的文件(&amp;Z)</source>
+        <translation>&amp;Recent files</translation>
+    </message>
+    <message>
+        <source>无</source>
+        <translation>None</translation>
+    </message>
+    <message>
+        <source>清除历史记录</source>
+        <translation>Clear history</translation>
+    </message>
+    <message>
+        <source>隐藏的子菜单</source>
+        <translation>Hidden sub-menu</translation>
+    </message>
+    <message>
+        <source>不可见</source>
+        <translation>Not visible</translation>
+    </message>
+    <message>
+        <source>暂不可用</source>
+        <translation>Not available</translation>
+    </message>
+    <message>
+        <source>退出</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <source>更多命令</source>
+        <translation>More commands</translation>
+    </message>
+    <message>
+        <source>视图(&amp;V)</source>
+        <translation>&amp;View</translation>
+    </message>
+    <message>
+        <source>属性</source>
+        <translation>Properties</translation>
+    </message>
+    <message>
+        <source>打开</source>
+        <translation>Open</translation>
+    </message>
+    <message>
+        <source>打开OFD文件</source>
+        <translation>Open an OFD file</translation>
+    </message>
+    <message>
+        <source>撤销</source>
+        <translation>Undo</translation>
+    </message>
+    <message>
+        <source>撤销(Ctrl+Z)</source>
+        <translation>Undo (Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>无法撤销(Ctrl+Z)</source>
+        <translation>Nothing to undo (Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>恢复</source>
+        <translation>Redo</translation>
+    </message>
+    <message>
+        <source>恢复(Ctrl+Y)</source>
+        <translation>Redo (Ctrl+Y)</translation>
+    </message>
+    <message>
+        <source>打印</source>
+        <translation>Print</translation>
+    </message>
+    <message>
+        <source>自定义快速访问工具栏</source>
+        <translation>Customise quick access</translation>
+    </message>
+    <message>
+        <source>按钮</source>
+        <translation>Buttons</translation>
+    </message>
+    <message>
+        <source>手型</source>
+        <translation>Hand</translation>
+    </message>
+    <message>
+        <source>手型工具;拖动页面以浏览文档</source>
+        <translation>Hand tool;Drag the pages to move through the document</translation>
+    </message>
+    <message>
+        <source>选择</source>
+        <translation>Select</translation>
+    </message>
+    <message>
+        <source>选择文本;选取并复制页面文字</source>
+        <translation>Select text;Select and copy text of a page</translation>
+    </message>
+    <message>
+        <source>隐藏</source>
+        <translation>Hidden</translation>
+    </message>
+    <message>
+        <source>单击双击</source>
+        <translation>Clicks</translation>
+    </message>
+    <message>
+        <source>单击双击;双击另有含义</source>
+        <translation>Clicks;A double click means something else</translation>
+    </message>
+    <message>
+        <source>首次静默</source>
+        <translation>Quiet</translation>
+    </message>
+    <message>
+        <source>首次静默;先由菜单触发一次</source>
+        <translation>Quiet at first;Trigger it from the menu first</translation>
+    </message>
+    <message>
+        <source>不可用</source>
+        <translation>Disabled</translation>
+    </message>
+    <message>
+        <source>顺时针</source>
+        <translation>Right</translation>
+    </message>
+    <message>
+        <source>顺时针旋转</source>
+        <translation>Rotate right</translation>
+    </message>
+    <message>
+        <source>逆时针</source>
+        <translation>Left</translation>
+    </message>
+    <message>
+        <source>逆时针旋转</source>
+        <translation>Rotate left</translation>
+    </message>
+    <message>
+        <source>全屏</source>
+        <translation>Full screen</translation>
+    </message>
+    <message>
+        <source>锁定</source>
+        <translation>Locked</translation>
+    </message>
+    <message>
+        <source>布局</source>
+        <translation>Layout</translation>
+    </message>
+    <message>
+        <source>页面布局</source>
+        <translation>Page layout</translation>
+    </message>
+    <message>
+        <source>单页</source>
+        <translation>Single</translation>
+    </message>
+    <message>
+        <source>双页</source>
+        <translation>Facing</translation>
+    </message>
+    <message>
+        <source>更多</source>
+        <translation>More</translation>
+    </message>
+    <message>
+        <source>触发首次静默</source>
+        <translation>Trigger the quiet one</translation>
+    </message>
+    <message>
+        <source>放大</source>
+        <translation>Zoom in</translation>
+    </message>
+    <message>
+        <source>菜单</source>
+        <translation>Menu</translation>
+    </message>
+    <message>
+        <source>下拉菜单</source>
+        <translation>Menu</translation>
+    </message>
+    <message>
+        <source>下拉菜单;整个按钮打开菜单</source>
+        <translation>Menu;The whole button opens it</translation>
+    </message>
+    <message>
+        <source>第一项</source>
+        <translation>First</translation>
+    </message>
+    <message>
+        <source>第二项</source>
+        <translation>Second</translation>
+    </message>
+    <message>
+        <source>第三项</source>
+        <translation>Third</translation>
+    </message>
+    <message>
+        <source>可切换</source>
+        <translation>Switch</translation>
+    </message>
+    <message>
+        <source>可切换;按钮显示所选的项</source>
+        <translation>Switch;The button shows what was chosen</translation>
+    </message>
+    <message>
+        <source>有默认项</source>
+        <translation>Preset</translation>
+    </message>
+    <message>
+        <source>有默认项;单击重复第二项</source>
+        <translation>Preset;A click repeats the second entry</translation>
+    </message>
+    <message>
+        <source>缩小</source>
+        <translation>Zoom out</translation>
+    </message>
+    <message>
+        <source>自带命令</source>
+        <translation>Own</translation>
+    </message>
+    <message>
+        <source>其他命令</source>
+        <translation>Another command</translation>
+    </message>
+    <message>
+        <source>背景</source>
+        <translation>Paper</translation>
+    </message>
+    <message>
+        <source>背景;选择页面的背景颜色</source>
+        <translation>Paper;Choose the colour of the pages</translation>
+    </message>
+    <message>
+        <source>默认</source>
+        <translation>Default</translation>
+    </message>
+    <message>
+        <source>日间</source>
+        <translation>Day</translation>
+    </message>
+    <message>
+        <source>夜间</source>
+        <translation>Night</translation>
+    </message>
+    <message>
+        <source>护眼</source>
+        <translation>Restful</translation>
+    </message>
+    <message>
+        <source>羊皮纸</source>
+        <translation>Parchment</translation>
+    </message>
+    <message>
+        <source>空菜单</source>
+        <translation>Empty</translation>
+    </message>
+    <message>
+        <source>没有菜单项</source>
+        <translation>No entries</translation>
+    </message>
+    <message>
+        <source>输入</source>
+        <translation>Fields</translation>
+    </message>
+    <message>
+        <source>实际大小</source>
+        <translation>Actual size</translation>
+    </message>
+    <message>
+        <source>自定义</source>
+        <translation>Custom</translation>
+    </message>
+    <message>
+        <source>自定义比例</source>
+        <translation>Custom zoom</translation>
+    </message>
+    <message>
+        <source>缩放</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>适合宽度</source>
+        <translation>Fit width</translation>
+    </message>
+    <message>
+        <source>10%</source>
+        <translation>10%</translation>
+    </message>
+    <message>
+        <source>50%</source>
+        <translation>50%</translation>
+    </message>
+    <message>
+        <source>75%</source>
+        <translation>75%</translation>
+    </message>
+    <message>
+        <source>100%</source>
+        <translation>100%</translation>
+    </message>
+    <message>
+        <source>6400%</source>
+        <translation>6400%</translation>
+    </message>
+    <message>
+        <source>固定列表</source>
+        <translation>List</translation>
+    </message>
+    <message>
+        <source>甲</source>
+        <translation>A</translation>
+    </message>
+    <message>
+        <source>乙</source>
+        <translation>B</translation>
+    </message>
+    <message>
+        <source>页码</source>
+        <translation>Page</translation>
+    </message>
+    <message>
+        <source>输入页码后按回车键跳转</source>
+        <translation>Enter a page number and press Return</translation>
+    </message>
+    <message>
+        <source>/</source>
+        <translation>/</translation>
+    </message>
+    <message>
+        <source>页</source>
+        <translation>pages</translation>
+    </message>
+    <message>
+        <source>只接受数字</source>
+        <translation>Digits only</translation>
+    </message>
+    <message>
+        <source>地图查找</source>
+        <translation>Find on the map</translation>
+    </message>
+    <message>
+        <source>查找地名</source>
+        <translation>Find a place</translation>
+    </message>
+    <message>
+        <source>上一个</source>
+        <translation>Previous</translation>
+    </message>
+    <message>
+        <source>下一个</source>
+        <translation>Next</translation>
+    </message>
+    <message>
+        <source>空白</source>
+        <translation>Empty</translation>
+    </message>
+    <message>
+        <source>背后</source>
+        <translation>Behind</translation>
+    </message>
+    <message>
+        <source>点此查找文本</source>
+        <translation>Find text</translation>
+    </message>
+    <message>
+        <source>上一项</source>
+        <translation>Previous match</translation>
+    </message>
+    <message>
+        <source>下一项</source>
+        <translation>Next match</translation>
+    </message>
+    <message>
+        <source>查找选项</source>
+        <translation>Search options</translation>
+    </message>
+    <message>
+        <source>整词搜索</source>
+        <translation>Whole words</translation>
+    </message>
+    <message>
+        <source>区分大小写</source>
+        <translation>Match case</translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation>Options</translation>
+    </message>
+    <message>
+        <source>固定</source>
+        <translation>Fixed</translation>
+    </message>
+    <message>
+        <source>可勾选的按钮</source>
+        <translation>A checkable button</translation>
+    </message>
+    <message>
+        <source>隐藏功能区;显示功能区</source>
+        <translation>Hide the ribbon;Show the ribbon</translation>
+    </message>
+</context>
+</TS>
