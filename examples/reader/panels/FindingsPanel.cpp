@@ -3,6 +3,8 @@
 
 #include "panels/FindingsPanel.h"
 
+#include "panels/LanguageFollower.h"
+
 #include <QHeaderView>
 #include <QLabel>
 #include <QScrollBar>
@@ -86,8 +88,10 @@ FindingsPanel::FindingsPanel(const QString &emptyNotice, QWidget *parent)
 
 void FindingsPanel::buildTable()
 {
-    m_table->setAccessibleName(tr("检查结果"));
-    m_table->setHorizontalHeaderLabels({tr("行"), tr("列"), tr("级别"), tr("说明")});
+    LanguageFollower::attach(m_table, [this] {
+        m_table->setAccessibleName(tr("检查结果"));
+        m_table->setHorizontalHeaderLabels({tr("行"), tr("列"), tr("级别"), tr("说明")});
+    });
     m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);

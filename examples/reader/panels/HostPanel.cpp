@@ -3,6 +3,7 @@
 
 #include "panels/HostPanel.h"
 
+#include "panels/LanguageFollower.h"
 #include "panels/SkinMaps.h"
 
 #include <QButtonGroup>
@@ -27,26 +28,26 @@ HostPanel::HostPanel(QWidget *parent)
     : QWidget(parent)
     , m_schemes(new QComboBox)
 {
+    auto *skins = new QLabel;
     auto *row = new QHBoxLayout;
-    row->addWidget(new QLabel(tr("皮肤颜色")));
-    addSkinButton(row, tr("蓝"), "#008AD9", SkinMaps::blue());
-    addSkinButton(row, tr("绿"), "#1B7A3D", SkinMaps::green());
-    addSkinButton(row, tr("暗"), "#20262C", SkinMaps::dark());
+    row->addWidget(skins);
+    auto *blue = addSkinButton(row, "#008AD9", SkinMaps::blue());
+    auto *green = addSkinButton(row, "#1B7A3D", SkinMaps::green());
+    auto *dark = addSkinButton(row, "#20262C", SkinMaps::dark());
     row->addStretch();
 
     m_schemes->setObjectName(QStringLiteral("host_scheme"));
-    m_schemes->addItem(tr("浅色"), QStringLiteral("light"));
-    m_schemes->addItem(tr("深色"), QStringLiteral("dark"));
-    m_schemes->addItem(tr("高对比"), QStringLiteral("contrast"));
-    m_schemes->addItem(tr("跟随系统"), QStringLiteral("system"));
+    for (const char *scheme : {"light", "dark", "contrast", "system"})
+        m_schemes->addItem(QString(), QLatin1String(scheme));
     connect(m_schemes, QOverload<int>::of(&QComboBox::activated), this,
             [this] { Q_EMIT schemeChosen(m_schemes->currentData().toString()); });
+    auto *schemes = new QLabel;
     auto *schemeRow = new QHBoxLayout;
-    schemeRow->addWidget(new QLabel(tr("明暗")));
+    schemeRow->addWidget(schemes);
     schemeRow->addWidget(m_schemes);
     schemeRow->addStretch();
 
-    auto *penButton = new QPushButton(tr("手写设置…"));
+    auto *penButton = new QPushButton;
     penButton->setObjectName(QStringLiteral("host_handwriting"));
     connect(penButton, &QPushButton::clicked, this, &HostPanel::handwritingAsked);
 
@@ -55,6 +56,22 @@ HostPanel::HostPanel(QWidget *parent)
     layout->addLayout(row);
     layout->addLayout(schemeRow);
     layout->addWidget(penButton);
+    LanguageFollower::attach(this, [=] {
+        skins->setText(tr("皮肤颜色"));
+        blue->setText(tr("蓝"));
+        green->setText(tr("绿"));
+        dark->setText(tr("暗"));
+        schemes->setText(tr("明暗"));
+        penButton->setText(tr("手写设置…"));
+        nameSchemes();
+    });
+}
+
+void HostPanel::nameSchemes()
+{
+    const QStringList names{tr("浅色"), tr("深色"), tr("高对比"), tr("跟随系统")};
+    for (int i = 0; i < names.size(); ++i)
+        m_schemes->setItemText(i, names.at(i));
 }
 
 ToolBarSkinStyle HostPanel::firstSkin()
@@ -67,10 +84,11 @@ void HostPanel::showScheme(const QString &scheme)
     m_schemes->setCurrentIndex(m_schemes->findData(scheme));
 }
 
-void HostPanel::addSkinButton(QHBoxLayout *row, const QString &text, const QColor &colour,
-                              const ToolBarSkinStyle &skin)
+QPushButton *HostPanel::addSkinButton(QHBoxLayout *row, const QColor &colour,
+                                      const ToolBarSkinStyle &skin)
 {
-    auto *button = new QPushButton(swatch(colour), text);
+    auto *button = new QPushButton(swatch(colour), QString());
     row->addWidget(button);
     connect(button, &QPushButton::clicked, this, [this, skin] { Q_EMIT skinChosen(skin); });
+    return button;
 }

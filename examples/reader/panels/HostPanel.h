@@ -9,6 +9,7 @@
 
 class QComboBox;
 class QHBoxLayout;
+class QPushButton;
 
 /** Controls of the host outside of the toolbar: the looks of the skin and settings of the pens. */
 class HostPanel : public QWidget
@@ -31,8 +32,9 @@ Q_SIGNALS:
     void handwritingAsked();
 
 private:
-    void addSkinButton(QHBoxLayout *row, const QString &text, const QColor &colour,
-                       const ToolBarSkinStyle &skin);
+    QPushButton *addSkinButton(QHBoxLayout *row, const QColor &colour,
+                               const ToolBarSkinStyle &skin);
+    void nameSchemes();
 
     QComboBox *m_schemes;
 };

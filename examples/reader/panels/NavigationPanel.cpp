@@ -4,6 +4,7 @@
 #include "panels/NavigationPanel.h"
 
 #include "pages/PagePainter.h"
+#include "panels/LanguageFollower.h"
 
 #include <QListWidget>
 #include <QPainter>
@@ -32,7 +33,7 @@ constexpr QSize thumbnailSize(106, 150);
 
 QString titleOf(const QString &panel)
 {
-    static const QHash<QString, QString> titles = {
+    const QHash<QString, QString> titles = {
         {outline, NavigationPanel::tr("大纲")},     {thumbnails, NavigationPanel::tr("缩略图")},
         {words, NavigationPanel::tr("自定义标引")}, {bookmarks, NavigationPanel::tr("书签")},
         {marks, NavigationPanel::tr("批注")},       {attachments, NavigationPanel::tr("附件")},
@@ -88,7 +89,7 @@ NavigationPanel::NavigationPanel(const Document &document, QWidget *parent)
     : QDockWidget(parent)
     , m_document(document)
     , m_stack(new QStackedWidget)
-    , m_bookmarkButton(new QPushButton(tr("为当前页添加书签")))
+    , m_bookmarkButton(new QPushButton)
 {
     setObjectName(QStringLiteral("navigation"));
     auto *content = new QWidget;
@@ -106,6 +107,7 @@ NavigationPanel::NavigationPanel(const Document &document, QWidget *parent)
     connect(m_lists.value(thumbnails)->verticalScrollBar(), &QScrollBar::rangeChanged, this,
             &NavigationPanel::paintThumbnails);
     addBookmarkButton();
+    LanguageFollower::attach(this, [this] { showTexts(); });
     hide();
     connect(&document, &Document::pagesChanged, this, &NavigationPanel::documentOpened);
     connect(&document, &Document::marksChanged, this, &NavigationPanel::refill);
@@ -120,12 +122,21 @@ QStringList NavigationPanel::names()
 QListWidget *NavigationPanel::addPanel(const QString &name)
 {
     auto *list = new QListWidget;
-    list->setAccessibleName(titleOf(name));
     m_stack->addWidget(list);
     m_lists.insert(name, list);
     connect(list, &QListWidget::itemClicked, this, &NavigationPanel::itemChosen);
     connect(list, &QListWidget::itemActivated, this, &NavigationPanel::itemChosen);
     return list;
+}
+
+void NavigationPanel::showTexts()
+{
+    for (auto list = m_lists.cbegin(); list != m_lists.cend(); ++list)
+        (*list)->setAccessibleName(titleOf(list.key()));
+    m_bookmarkButton->setText(tr("为当前页添加书签"));
+    setWindowTitle(titleOf(m_panel));
+    if (!m_panel.isEmpty())
+        refill();
 }
 
 void NavigationPanel::addBookmarkButton()

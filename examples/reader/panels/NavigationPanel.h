@@ -39,6 +39,7 @@ Q_SIGNALS:
 
 private:
     QListWidget *addPanel(const QString &name);
+    void showTexts();
     void addBookmarkButton();
     void documentOpened();
     void refill();

@@ -4,6 +4,7 @@
 #include "panels/SearchPanel.h"
 
 #include "pages/PageView.h"
+#include "panels/LanguageFollower.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -26,7 +27,7 @@ QString contextOf(const Page &page, const TextRange &hit)
 } // namespace
 
 SearchPanel::SearchPanel(const Document &document, PageView &view, QWidget *parent)
-    : QDockWidget(tr("高级搜索"), parent)
+    : QDockWidget(parent)
     , m_document(document)
     , m_view(view)
     , m_field(new QLineEdit)
@@ -43,9 +44,14 @@ SearchPanel::SearchPanel(const Document &document, PageView &view, QWidget *pare
 
 void SearchPanel::buildContent()
 {
-    m_field->setPlaceholderText(tr("输入要查找的文字"));
     m_field->setClearButtonEnabled(true);
-    m_list->setAccessibleName(tr("搜索结果"));
+    LanguageFollower::attach(this, [this] {
+        setWindowTitle(tr("高级搜索"));
+        m_field->setPlaceholderText(tr("输入要查找的文字"));
+        m_list->setAccessibleName(tr("搜索结果"));
+        if (!m_search.content().isEmpty())
+            m_label->setText(resultText());
+    });
     auto *content = new QWidget;
     auto *layout = new QVBoxLayout(content);
     layout->addWidget(m_field);
@@ -91,13 +97,17 @@ void SearchPanel::goToHit(int index)
 void SearchPanel::showHits()
 {
     m_view.setHits(m_search.hits(), m_search.current());
-    const QString message = m_search.hasHits() ? tr("“%1”：第 %2 处，共 %3 处")
-                                                     .arg(m_search.content())
-                                                     .arg(m_search.currentIndex() + 1)
-                                                     .arg(m_search.hits().size())
-                                               : tr("没有找到“%1”").arg(m_search.content());
-    m_label->setText(message);
-    Q_EMIT found(message);
+    m_label->setText(resultText());
+    Q_EMIT found(m_label->text());
+}
+
+QString SearchPanel::resultText() const
+{
+    return m_search.hasHits() ? tr("“%1”：第 %2 处，共 %3 处")
+                                    .arg(m_search.content())
+                                    .arg(m_search.currentIndex() + 1)
+                                    .arg(m_search.hits().size())
+                              : tr("没有找到“%1”").arg(m_search.content());
 }
 
 void SearchPanel::fillList()

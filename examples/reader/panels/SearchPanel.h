@@ -34,6 +34,7 @@ private:
     void buildContent();
     void goToHit(int index);
     void showHits();
+    QString resultText() const;
     void fillList();
     void forget();
 

@@ -3,6 +3,8 @@
 
 #include "panels/SignalLog.h"
 
+#include "panels/LanguageFollower.h"
+
 #include <toolbar/MRToolBar.h>
 
 #include <QHBoxLayout>
@@ -31,14 +33,14 @@ SignalLog::SignalLog(QWidget *parent)
     : QWidget(parent)
     , m_list(new QListWidget)
 {
-    m_list->setAccessibleName(tr("工具栏信号"));
     m_list->setSelectionMode(QAbstractItemView::NoSelection);
     m_list->setWordWrap(true);
 
-    auto *clearButton = new QPushButton(tr("清空"));
+    auto *clearButton = new QPushButton;
     connect(clearButton, &QPushButton::clicked, m_list, &QListWidget::clear);
+    auto *title = new QLabel;
     auto *header = new QHBoxLayout;
-    header->addWidget(new QLabel(tr("收到的信号")));
+    header->addWidget(title);
     header->addStretch();
     header->addWidget(clearButton);
 
@@ -46,6 +48,11 @@ SignalLog::SignalLog(QWidget *parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addLayout(header);
     layout->addWidget(m_list);
+    LanguageFollower::attach(this, [this, title, clearButton] {
+        m_list->setAccessibleName(tr("工具栏信号"));
+        clearButton->setText(tr("清空"));
+        title->setText(tr("收到的信号"));
+    });
 }
 
 void SignalLog::listenTo(const MRToolBar &toolBar)

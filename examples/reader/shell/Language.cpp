@@ -4,11 +4,13 @@
 #include "shell/Language.h"
 
 #include <QCoreApplication>
+#include <QDomDocument>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
 
 #include <memory>
+#include <vector>
 
 namespace {
 
@@ -22,12 +24,35 @@ QString qtFolder()
 #endif
 }
 
+const QString prefix = QStringLiteral("r_language_");
+
+/** Those that are installed. */
+std::vector<std::unique_ptr<QTranslator>> &installed()
+{
+    static std::vector<std::unique_ptr<QTranslator>> translators;
+    return translators;
+}
+
 void installFrom(const QString &folder, const QString &catalogue, const QLocale &locale)
 {
-    auto translator = std::make_unique<QTranslator>(QCoreApplication::instance());
+    auto translator = std::make_unique<QTranslator>();
     // Without a catalogue the texts of the sources are shown.
-    if (translator->load(locale, catalogue, QStringLiteral("_"), folder))
-        QCoreApplication::installTranslator(translator.release());
+    if (!translator->load(locale, catalogue, QStringLiteral("_"), folder))
+        return;
+    QCoreApplication::installTranslator(translator.get());
+    installed().push_back(std::move(translator));
+}
+
+QDomElement entryOf(QDomDocument &description, const QString &command, const QString &text)
+{
+    QDomElement entry = description.createElement(QStringLiteral("menuitem"));
+    entry.setAttribute(QStringLiteral("action"), command);
+    entry.setAttribute(QStringLiteral("text"), text);
+    entry.setAttribute(QStringLiteral("group"), QStringLiteral("language"));
+    entry.setAttribute(QStringLiteral("checkable"), QStringLiteral("true"));
+    if (command == prefix + QLocale().name() || command == prefix + QLocale().name().left(2))
+        entry.setAttribute(QStringLiteral("checked"), QStringLiteral("true"));
+    return entry;
 }
 
 } // namespace
@@ -36,7 +61,35 @@ void Language::install(const QString &name)
 {
     const QLocale locale(name);
     QLocale::setDefault(locale);
+    // Their destructors take them out of the application.
+    installed().clear();
     installFrom(qtFolder(), QStringLiteral("qtbase"), locale);
     installFrom(QStringLiteral(":/mr_toolbar/translations"), QStringLiteral("mrtoolbar"), locale);
     installFrom(QStringLiteral(":/reader/translations"), QStringLiteral("reader"), locale);
+}
+
+QStringList Language::commands()
+{
+    return {prefix + QStringLiteral("zh_CN"), prefix + QStringLiteral("en")};
+}
+
+void Language::choose(const QString &command)
+{
+    install(command.mid(prefix.size()));
+}
+
+void Language::addTo(QDomDocument &description)
+{
+    QDomElement menu = description.documentElement()
+                           .firstChildElement(QStringLiteral("toolbar_appbutton"))
+                           .firstChildElement(QStringLiteral("menu"));
+    if (menu.firstChildElement().isNull())
+        return;
+    // The names of languages are in these languages.
+    QDomElement languages = description.createElement(QStringLiteral("menu"));
+    languages.setAttribute(QStringLiteral("name"), QStringLiteral("r_language"));
+    languages.setAttribute(QStringLiteral("text"), QStringLiteral("语言 / Language"));
+    languages.appendChild(entryOf(description, commands().first(), QStringLiteral("中文")));
+    languages.appendChild(entryOf(description, commands().last(), QStringLiteral("English")));
+    menu.insertBefore(languages, menu.lastChildElement());
 }

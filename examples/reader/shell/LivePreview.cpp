@@ -5,6 +5,7 @@
 
 #include "panels/FindingsPanel.h"
 #include "shell/Description.h"
+#include "shell/Language.h"
 #include "shell/ReaderWindow.h"
 
 #include <QFileInfo>
@@ -87,5 +88,6 @@ void LivePreview::showFile(const QByteArray &content, const QString &fault)
         return;
     if (m_options.clearHistory)
         Description::addClearHistory(description);
+    Language::addTo(description);
     m_window.setDescription(description);
 }

@@ -36,8 +36,7 @@ const QCommandLineOption &languageOption()
 {
     static const QCommandLineOption option(
         QStringLiteral("language"),
-        QStringLiteral("Language of the reader: zh_CN or en (zh_CN). The toolbar shows the texts "
-                       "of its description."),
+        QStringLiteral("Language of the reader: zh_CN or en (zh_CN). The menu has it, too."),
         QStringLiteral("name"), languages.first());
     return option;
 }

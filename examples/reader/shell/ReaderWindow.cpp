@@ -6,12 +6,14 @@
 #include "pages/PageView.h"
 #include "panels/HandwritingSettings.h"
 #include "panels/HostPanel.h"
+#include "panels/LanguageFollower.h"
 #include "panels/NavigationPanel.h"
 #include "panels/SearchPanel.h"
 #include "panels/SignalLog.h"
 #include "reach/ToolBarReach.h"
 #include "shell/Description.h"
 #include "shell/KeyboardReach.h"
+#include "shell/Language.h"
 #include "shell/ReaderScheme.h"
 
 #include <toolbar/MRToolBar.h>
@@ -107,7 +109,8 @@ void ReaderWindow::createDocks()
     layout->addWidget(m_hostPanel);
     layout->addWidget(m_log);
     content->setMinimumWidth(logWidth * logicalDpiX() / referenceDpi);
-    auto *dock = new QDockWidget(tr("宿主"), this);
+    auto *dock = new QDockWidget(this);
+    LanguageFollower::attach(dock, [dock] { dock->setWindowTitle(tr("宿主")); });
     dock->setObjectName(QStringLiteral("host"));
     dock->setWidget(content);
     addDockWidget(Qt::RightDockWidgetArea, dock);
@@ -161,6 +164,7 @@ void ReaderWindow::createCommands()
     m_fileCommands.addTo(m_commands);
     m_viewCommands.addTo(m_commands);
     m_editCommands.addTo(m_commands);
+    m_commands.add(Language::commands(), Needs::Nothing, &Language::choose);
 }
 
 void ReaderWindow::connectKeys()
@@ -382,5 +386,7 @@ void ReaderWindow::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::WindowStateChange)
         stateChanged();
+    if (event->type() == QEvent::LanguageChange)
+        updateTitle();
     QMainWindow::changeEvent(event);
 }

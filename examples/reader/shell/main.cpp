@@ -35,6 +35,8 @@ QDomDocument describedToolBar(const Options &options, QString *error)
     QDomDocument description = Description::read(options.description, options.skin, error);
     if (error->isEmpty() && options.clearHistory)
         Description::addClearHistory(description);
+    if (error->isEmpty())
+        Language::addTo(description);
     return description;
 }
 
