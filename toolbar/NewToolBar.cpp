@@ -111,6 +111,7 @@ NewToolBar::NewToolBar(QMainWindow *mainWindow, QDomNode &description, QMap<QStr
     // A document that can't be used leaves an empty toolbar that works.
     Init(description);
     m_parts = std::make_unique<Parts>(*this);
+    m_parts->presentation.chooseCardLines(options.value(SkinKey::toolTipWords));
     InitWidget();
     new FocusRing(this);
     InitSkinStyle(skin);

@@ -203,6 +203,7 @@ private:
     void followAppearance();
     void followScale();
     void followLanguage();
+    void showTextsAgain();
 
     QPointer<QLineEdit> m_pageNumberEdit;
     NamedList<MRDropButton> m_dropButtons;

@@ -140,6 +140,8 @@ void NewToolBar::SwitchSkinStyle(QMap<QString, QString> skin)
         m_skinMap = Skin::switchedMap(skin);
     chooseAppearance(options, skin);
     chooseScale(options);
+    if (m_parts->presentation.chooseCardLines(options.value(SkinKey::toolTipWords)))
+        showTextsAgain();
     if (!skin.isEmpty())
         ResetSkinStyle();
 }
@@ -188,10 +190,15 @@ void NewToolBar::changeEvent(QEvent *event)
         followLanguage();
 }
 
-void NewToolBar::followLanguage()
+void NewToolBar::showTextsAgain()
 {
     const RowPause pause(this);
     m_parts->presentation.showAgain();
+}
+
+void NewToolBar::followLanguage()
+{
+    showTextsAgain();
     m_parts->zoom.retranslate();
     m_parts->recentFiles.retranslate();
 }

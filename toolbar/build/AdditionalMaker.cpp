@@ -30,7 +30,7 @@ void showHalfToolTip(QPushButton *button, const Controller &record, const Presen
     if (separator < 0 || how.takesToolTips())
         return;
     const QString half = isForUnfolding ? tip.mid(separator + 1) : tip.left(separator);
-    button->setToolTip(toolTipCard(half));
+    button->setToolTip(toolTipCard(half, how.cardLines()));
     if (button->text().isEmpty())
         button->setAccessibleName(toolTipTitle(half));
 }

@@ -130,7 +130,7 @@ void showToolTip(QObject *control, const Controller &record, const Presentation 
     if (how.takesToolTips())
         control->setProperty("toolTip", QString());
     else
-        setToolTipCard(control, how.toolTip(record));
+        setToolTipCard(control, how.toolTip(record), how.cardLines());
 }
 
 void showToolTipByName(QWidget *control, const Controller &record, const Presentation &how)
@@ -138,12 +138,12 @@ void showToolTipByName(QWidget *control, const Controller &record, const Present
     if (how.takesToolTips())
         control->setToolTip(QString());
     else
-        setToolTipCard(control, how.toolTipByName(record));
+        setToolTipCard(control, how.toolTipByName(record), how.cardLines());
 }
 
 void showDisabledTip(QObject *control, const Controller &record, const Presentation &how)
 {
-    DisabledTip::give(control, how.disabledToolTip(record));
+    DisabledTip::give(control, how.disabledToolTip(record), how.cardLines());
 }
 
 void addDisabledTip(QObject *control, const Controller &record, Presentation &presentation)

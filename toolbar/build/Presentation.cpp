@@ -110,6 +110,16 @@ void Presentation::fileUnder(const Controller &record, qsizetype position, Shows
         fileUnder(*entry, position, shows);
 }
 
+bool Presentation::chooseCardLines(const QString &betweenWords)
+{
+    const CardLines former = m_cardLines;
+    if (betweenWords == QLatin1String("true"))
+        m_cardLines = CardLines::Words;
+    else if (betweenWords == QLatin1String("false"))
+        m_cardLines = CardLines::Characters;
+    return m_cardLines != former;
+}
+
 QString Presentation::translated(const QString &source)
 {
     if (source.isEmpty())

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "toolbar/build/TextsByName.h"
+#include "toolbar/widgets/ToolTipCard.h"
 
 #include <QHash>
 #include <QIcon>
@@ -82,6 +83,11 @@ public:
     void setToolTip(const QString &name, const QString &tip);
     void setIcon(const QString &name, const QIcon &icon);
 
+    /** Whether the lines of tooltip cards end between words: "true" or "false"; anything else
+     *  changes nothing. Returns whether it is different now. */
+    bool chooseCardLines(const QString &betweenWords);
+    CardLines cardLines() const { return m_cardLines; }
+
     /** The texts, in the language of the translators that the host has installed. */
     QString text(const Controller &record) const;
     /** The tooltip as described; what is to be seen of it, SetWidgetToolTip() knows. */
@@ -149,6 +155,7 @@ private:
     Appearance &m_appearance;
     const Scale &m_scale;
     mutable std::shared_ptr<CustomMenuStyle> m_menuStyle; ///< None while menus follow the screen.
+    CardLines m_cardLines = CardLines::Characters;
     std::vector<Given> m_given;
     TextsByName m_byName;
     QHash<QString, QList<qsizetype>> m_positions; ///< In m_given; not before a name is asked for.

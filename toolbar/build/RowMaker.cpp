@@ -183,7 +183,7 @@ void showMenuButton(MRDropButtonAction *action, const Controller &record, const 
         return;
     showToolTip(button, record, how);
     if (record.withaction && action->GetAction() && how.toolTip(record).isEmpty())
-        setToolTipCard(button, action->GetAction()->text());
+        setToolTipCard(button, action->GetAction()->text(), how.cardLines());
 }
 
 void fitMenuButton(MRDropButtonAction *action, const Controller &record, const Presentation &how)

@@ -114,9 +114,11 @@ inline constexpr QLatin1String scheme = latin1("scheme");     ///< Light, dark, 
 inline constexpr QLatin1String scale = latin1("scalefactor"); ///< A number, or "screen".
 inline constexpr QLatin1String touch = latin1("touchmode");   ///< "true": for fingers.
 inline constexpr QLatin1String applicationFont = latin1("fontfromapplication"); ///< "true".
+inline constexpr QLatin1String toolTipWords =
+    latin1("tooltipwords"); ///< "true": lines of tooltip cards end between words.
 
 /** Those that are taken out of the map before anything else sees it. */
-inline constexpr QLatin1String options[] = {scheme, scale, touch, applicationFont};
+inline constexpr QLatin1String options[] = {scheme, scale, touch, applicationFont, toolTipWords};
 } // namespace SkinKey
 
 /** Dynamic properties, most of which the style sheets select by. */

@@ -3,7 +3,6 @@
 
 #include "toolbar/widgets/DisabledTip.h"
 
-#include "toolbar/widgets/ToolTipCard.h"
 
 #include <QAction>
 #include <QEvent>
@@ -22,12 +21,12 @@ bool isStandIn(const QString &tip, const QObject *control, const char *property)
 
 } // namespace
 
-void DisabledTip::give(QObject *control, const QString &tip)
+void DisabledTip::give(QObject *control, const QString &tip, CardLines lines)
 {
     auto *self = control->findChild<DisabledTip *>(QString(), Qt::FindDirectChildrenOnly);
     if (!self)
         self = new DisabledTip(control);
-    self->m_toolTip.whileDisabled = toolTipCard(tip);
+    self->m_toolTip.whileDisabled = toolTipCard(tip, lines);
     self->m_statusTip.whileDisabled = tip;
     self->follow();
 }

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "toolbar/widgets/ToolTipCard.h"
+
 #include <QObject>
 
 /**
@@ -15,7 +17,7 @@ class DisabledTip : public QObject
 
 public:
     /** @param control a widget or an action, which may have got another one before */
-    static void give(QObject *control, const QString &tip);
+    static void give(QObject *control, const QString &tip, CardLines lines);
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 

@@ -7,9 +7,51 @@
 #include <QStringList>
 #include <QWidget>
 
-QString toolTipCard(const QString &tip)
+#include <algorithm>
+
+namespace {
+
+constexpr int lineLength = 10;
+
+/** Whether a line may end beside the character, as beside ideographs and their punctuation. */
+bool isIdeographic(QChar character)
 {
-    constexpr int lineLength = 10;
+    const ushort code = character.unicode();
+    const bool isWide = (code >= 0x2e80 && code <= 0xd7ff) || (code >= 0xf900 && code <= 0xfaff);
+    const bool isFullWidth = code >= 0xff00 && code <= 0xffef;
+    return isWide || isFullWidth || character.isSurrogate();
+}
+
+/** Whether a line may end before the character at @p position. */
+bool mayBreak(const QString &text, int position)
+{
+    const QChar before = text.at(position - 1);
+    const QChar after = text.at(position);
+    if (before.isHighSurrogate() && after.isLowSurrogate())
+        return false;
+    return after.isSpace() || before.isSpace() || isIdeographic(before) || isIdeographic(after);
+}
+
+QStringList linesOf(const QString &description, CardLines kind)
+{
+    QStringList lines;
+    const int length = static_cast<int>(description.size());
+    for (int start = 0; start < length;) {
+        int end = std::min(start + lineLength, length);
+        while (kind == CardLines::Words && end < length && !mayBreak(description, end))
+            ++end;
+        lines.append(description.mid(start, end - start));
+        start = end;
+        while (kind == CardLines::Words && start < length && description.at(start).isSpace())
+            ++start;
+    }
+    return lines;
+}
+
+} // namespace
+
+QString toolTipCard(const QString &tip, CardLines lines)
+{
     if (!tip.contains(QLatin1Char(';')))
         return tip;
 
@@ -20,20 +62,20 @@ QString toolTipCard(const QString &tip)
     QString card =
         QStringLiteral("<html><head/><body><p><span style=\"font-weight:600;\">%1</span></p>")
             .arg(title);
-    for (int start = 0; start < description.size(); start += lineLength) {
+    const QStringList texts = linesOf(description, lines);
+    for (const QString &text : texts) {
         // The missing blank in "<pstyle" and the order of the closing tags are part of the format.
-        card += QStringLiteral("<pstyle=\"line-height:16px\">%1</p>")
-                    .arg(description.mid(start, lineLength));
+        card += QStringLiteral("<pstyle=\"line-height:16px\">%1</p>").arg(text);
     }
     return card + QStringLiteral("</body></head></html>");
 }
 
-void setToolTipCard(QObject *target, const QString &tip)
+void setToolTipCard(QObject *target, const QString &tip, CardLines lines)
 {
     if (tip.isEmpty())
         return;
 
-    const QString card = toolTipCard(tip);
+    const QString card = toolTipCard(tip, lines);
     if (auto *widget = qobject_cast<QWidget *>(target))
         widget->setToolTip(card);
     else if (auto *action = qobject_cast<QAction *>(target))

@@ -123,6 +123,8 @@ void ReaderWindow::createToolBar(const QDomDocument &description)
     if (!buttons.isEmpty())
         skin.insert(quickAccessKey, buttons);
     skin.insert(schemeKey, m_scheme);
+    // In English the tips would break within words otherwise.
+    skin.insert(QStringLiteral("tooltipwords"), QStringLiteral("true"));
     m_description = description;
     QDomNode root = m_description.documentElement();
     m_toolBar = std::make_unique<MRToolBar>(this, root, skin, ToolBarLeft);
