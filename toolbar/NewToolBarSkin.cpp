@@ -16,6 +16,7 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QLabel>
 #include <QPushButton>
 #include <QToolBar>
 
@@ -76,6 +77,14 @@ void applySheet(QWidget *hostToolBar, const QString &sheet)
     const RowPause pause(hostToolBar);
     hostToolBar->setStyleSheet(QString());
     hostToolBar->setStyleSheet(sheet);
+}
+
+/** A label works out where the sheet's padding leaves room for its text for each sheet only. */
+void mirrorLabels(const QWidget *toolBar)
+{
+    const QList<QLabel *> labels = toolBar->findChildren<QLabel *>();
+    for (QLabel *label : labels)
+        label->setFrameStyle(label->frameStyle());
 }
 
 } // namespace
@@ -188,6 +197,8 @@ void NewToolBar::changeEvent(QEvent *event)
     QWidget::changeEvent(event);
     if (event->type() == QEvent::LanguageChange)
         followLanguage();
+    if (event->type() == QEvent::LayoutDirectionChange)
+        mirrorLabels(this);
 }
 
 void NewToolBar::showTextsAgain()

@@ -214,8 +214,11 @@ void MRScrollArea::fadeEnds()
         fade->setVisible(isCut);
     };
     const int value = horizontalScrollBar()->value();
-    showAt(m_leftFade, Qt::LeftEdge, value >= 1);
-    showAt(m_rightFade, Qt::RightEdge, value < hiddenWidth());
+    const bool isStartCut = value >= 1;
+    const bool isEndCut = value < hiddenWidth();
+    // Where everything is mirrored, the row starts on the right.
+    showAt(m_leftFade, Qt::LeftEdge, isRightToLeft() ? isEndCut : isStartCut);
+    showAt(m_rightFade, Qt::RightEdge, isRightToLeft() ? isStartCut : isEndCut);
 }
 
 void MRScrollArea::DoScrollAction()
@@ -240,7 +243,10 @@ bool MRScrollArea::event(QEvent *event)
     // QScrollArea would measure the whole row at once, and again when the row has its new layout.
     if (event->type() == QEvent::StyleChange)
         return QAbstractScrollArea::event(event);
-    return QScrollArea::event(event);
+    const bool isHandled = QScrollArea::event(event);
+    if (event->type() == QEvent::LayoutDirectionChange)
+        fadeEnds();
+    return isHandled;
 }
 
 void MRScrollArea::wheelEvent(QWheelEvent *event)

@@ -157,6 +157,14 @@ void MRSearchBar::SetButtonProperty(const char *name, QString value)
         button->setProperty(name, value);
 }
 
+void MRSearchBar::changeEvent(QEvent *event)
+{
+    QLineEdit::changeEvent(event);
+    // The buttons stand on the other side now.
+    if (event->type() == QEvent::LayoutDirectionChange)
+        applyRoomForButtons();
+}
+
 void MRSearchBar::mousePressEvent(QMouseEvent *event)
 {
     // Without a placeholder there is no length to go by.

@@ -61,6 +61,7 @@ Q_SIGNALS:
     void DoShowSearchDirection(bool show); // Never emitted; kept for hosts that connect to it.
 
 protected:
+    void changeEvent(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
