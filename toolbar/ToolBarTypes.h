@@ -67,8 +67,8 @@ typedef SearchContentOption SearchOption;
  * makes no button and no entry of a menu smaller than 9 mm; the second gives the texts the
  * application's font and size, and widths and lengths that follow.
  *
- * "tooltipwords" as "true" ends the lines of tooltip cards between words, and not, as "false", after
- * ten characters. A map without it, or with another value, keeps what there is.
+ * "tooltipwords" as "true" ends the lines of tooltip cards between words, and not, as "false",
+ * after ten characters. A map without it, or with another value, keeps what there is.
  */
 typedef QMap<QString, QString> ToolBarSkinStyle;
 

@@ -3,7 +3,6 @@
 
 #include "toolbar/widgets/DisabledTip.h"
 
-
 #include <QAction>
 #include <QEvent>
 
