@@ -12,10 +12,6 @@
         <translation>&amp;Open</translation>
     </message>
     <message>
-        <source>关闭(&amp;C)</source>
-        <translation>&amp;Close</translation>
-    </message>
-    <message>
         <source>保存(&amp;S)</source>
         <translation>&amp;Save</translation>
     </message>
@@ -32,8 +28,8 @@
         <translation>Proper&amp;ties</translation>
     </message>
     <message>
-        <source>设置</source>
-        <translation>Options</translation>
+        <source>设置(&amp;C)</source>
+        <translation>Op&amp;tions</translation>
     </message>
     <message>
         <source>帮助(&amp;H)</source>
@@ -114,6 +110,10 @@
     <message>
         <source>开始</source>
         <translation>Home</translation>
+    </message>
+    <message>
+        <source>打开;打开OFD文件</source>
+        <translation>Open;Open an OFD file</translation>
     </message>
     <message>
         <source>手型</source>
@@ -392,8 +392,16 @@
         <translation>Match case</translation>
     </message>
     <message>
+        <source>设置</source>
+        <translation>Options</translation>
+    </message>
+    <message>
         <source>隐藏功能区</source>
         <translation>Hide the ribbon</translation>
+    </message>
+    <message>
+        <source>关闭(&amp;C)</source>
+        <translation>&amp;Close</translation>
     </message>
     <message>
         <source>菜单</source>
@@ -870,14 +878,6 @@
     <message>
         <source>软件信息</source>
         <translation>About</translation>
-    </message>
-    <message>
-        <source>设置(&amp;C)</source>
-        <translation>Op&amp;tions</translation>
-    </message>
-    <message>
-        <source>打开;打开OFD文件</source>
-        <translation>Open;Open an OFD file</translation>
     </message>
 </context>
 </TS>
