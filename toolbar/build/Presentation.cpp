@@ -36,7 +36,9 @@ void Presentation::fitAgain()
 
 void Presentation::giveAgain(bool lengthsAlone)
 {
-    for (const Given &given : m_given) {
+    // By position: what hears of a change may open a row, whose controls are added at the end.
+    for (std::size_t i = 0; i < m_given.size(); ++i) {
+        const Given given = m_given[i];
         if (given.control && (given.isLength || !lengthsAlone))
             given.call(given.control, given.record, *this);
     }
@@ -82,7 +84,7 @@ void Presentation::giveAgain(const QString &name)
     // In the order in which they were given: a button that shows an entry comes after the entry.
     const QList<qsizetype> positions = m_positions.value(name);
     for (const qsizetype position : positions) {
-        const Given &given = m_given[static_cast<std::size_t>(position)];
+        const Given given = m_given[static_cast<std::size_t>(position)];
         if (given.control)
             given.call(given.control, given.record, *this);
     }

@@ -136,6 +136,10 @@
         <translation>Disabled</translation>
     </message>
     <message>
+        <source>不可用;先选定一段文字</source>
+        <translation>Disabled;Select some text first</translation>
+    </message>
+    <message>
         <source>顺时针</source>
         <translation>Right</translation>
     </message>
