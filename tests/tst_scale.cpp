@@ -202,6 +202,20 @@ private Q_SLOTS:
         QVERIFY2(pictures(*host) == before, "back again");
     }
 
+    void shouldNotGrow()
+    {
+        const auto host = TestHost::withFile(QStringLiteral(SHOWCASE));
+        use(*host);
+        const auto change = [&host](int times) {
+            for (int i = 0; i < times; ++i)
+                host->facade().DoSetScaleSlot(i % 2 ? 1 : 1.5);
+        };
+        change(10);
+        const auto objects = host->window().findChildren<QObject *>().size();
+        change(500);
+        QCOMPARE(host->window().findChildren<QObject *>().size(), objects);
+    }
+
     void shouldScaleTheSearchFieldInUse()
     {
         const auto host = TestHost::withFile(QStringLiteral(SHOWCASE), {{scaleKey, "1"}});

@@ -5,6 +5,7 @@
 
 #include "tests/monkey/RandomSource.h"
 #include "tests/monkey/Witness.h"
+#include "tests/support/MarkedLanguage.h"
 #include "toolbar/MRToolBar.h"
 
 #include <QMainWindow>
@@ -46,11 +47,12 @@ public:
         static const QList<Act> acts{&RandomHost::setPages,       &RandomHost::setZoom,
                                      &RandomHost::setRecentFiles, &RandomHost::setSkin,
                                      &RandomHost::setBackground,  &RandomHost::reset,
-                                     &RandomHost::resize,         &RandomHost::enableEverything};
-        const int kind = m_random.below(16);
+                                     &RandomHost::resize,         &RandomHost::enableEverything,
+                                     &RandomHost::setLook,        &RandomHost::setTexts};
+        const int kind = m_random.below(18);
         if (kind < acts.size())
             return (this->*acts.at(kind))();
-        return kind < 11 ? ask() : setState();
+        return kind < 13 ? ask() : setState();
     }
 
     /** Reports every control as usable, as hosts do on DoRequestAuthority(). */
@@ -166,6 +168,49 @@ private:
         return "skin";
     }
 
+    /** Another scale, font, language or direction. */
+    QString setLook()
+    {
+        static const QList<double> scales{0.5, 0.9, 1, 1.5, 2, 4, 0, -1};
+        static const QStringList keys =
+            words("scalefactor touchmode fontfromapplication tooltipwords");
+        static const QStringList values = words("screen 1.25 true false 0 x");
+        switch (m_random.below(4)) {
+        case 0:
+            m_facade->DoSetScaleSlot(m_random.oneOf(scales));
+            return "scale";
+        case 1:
+            if (m_random.oneIn(2))
+                QCoreApplication::installTranslator(&m_language);
+            else
+                QCoreApplication::removeTranslator(&m_language);
+            return "language";
+        default:
+            const QString key = m_random.oneOf<QString>(keys);
+            const QString value = m_random.oneOf<QString>(values);
+            m_facade->DoSetSkinStyleSlot({{key, value}});
+            return key + ' ' + value;
+        }
+    }
+
+    QString setTexts()
+    {
+        static const QStringList texts = words("Play a;b;c & %1 <b> ;") << "" << QString(300, 'z');
+        QString name = anyName();
+        const QString text = m_random.oneOf<QString>(texts);
+        switch (m_random.below(3)) {
+        case 0:
+            m_facade->DoSetControlTextSlot(name, text);
+            break;
+        case 1:
+            m_facade->DoSetControlToolTipSlot(name, text);
+            break;
+        default:
+            m_facade->DoSetControlIconSlot(name, m_random.oneIn(2) ? m_icon : QIcon());
+        }
+        return "texts of " + name.left(40);
+    }
+
     QString setBackground()
     {
         m_facade->DoSetBackgroundSlot(static_cast<BackgroundStyle>(m_random.between(-1, 5)));
@@ -199,6 +244,8 @@ private:
     }
 
     RandomSource &m_random;
+    MarkedLanguage m_language;
+    QIcon m_icon{":/mr_toolbar/Resources/marodi/icons/icon16/Print.svg"};
     QStringList m_names;
     Witness &m_witness;
     MRToolBar *m_facade = nullptr;

@@ -7,13 +7,19 @@
 #include "shell/ReaderWindow.h"
 #include "tests/support/ChineseTexts.h"
 
+#include <toolbar/NewToolBar.h>
 #include <toolbar/handwrite/MRHandWriteDialog.h>
 
+#include <QApplication>
+#include <QComboBox>
 #include <QDockWidget>
 #include <QDomDocument>
 #include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QStatusBar>
 #include <QTest>
+#include <QTimer>
 #include <QToolBar>
 
 /** The language of the reader, the library and the dialogs of Qt. */
@@ -40,6 +46,65 @@ private Q_SLOTS:
             status.append(label->text());
         QVERIFY2(!status.filter(QRegularExpression("^Page 1 / ")).isEmpty(),
                  qPrintable(status.join('\n')));
+    }
+
+    void shouldLookAsAtTheStartAfterAnotherScaleAndLanguage_data()
+    {
+        QTest::addColumn<int>("style");
+        QTest::newRow("marodi") << 0;
+        QTest::newRow("lum") << 1;
+    }
+
+    void shouldLookAsAtTheStartAfterAnotherScaleAndLanguage()
+    {
+        QFETCH(int, style);
+        NewToolBar::uiStyle = style;
+        Language::install("zh_CN");
+        QString error;
+        QDomDocument description = Description::read("release", QTest::currentDataTag(), &error);
+        Language::addTo(description);
+        ReaderWindow window(description, QString());
+        window.resize(1400, 800);
+        window.openSample();
+        window.show();
+        window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        auto *toolBar = window.findChild<QToolBar *>("mrtoolbar");
+        auto *field = toolBar->findChild<QLineEdit *>("st_input");
+        // The click returns when its menu has closed.
+        QTimer::singleShot(500, &window, [] {
+            if (QWidget *menu = QApplication::activePopupWidget())
+                menu->close();
+        });
+        QTest::mouseClick(toolBar->findChild<QPushButton *>("menu_file"), Qt::LeftButton);
+        field->setText("word");
+        window.centralWidget()->setFocus();
+        QTest::mouseMove(window.centralWidget());
+        QTest::qWait(50);
+        const auto picture = [toolBar] {
+            QTest::qWait(50);
+            return toolBar->grab().toImage();
+        };
+        auto *scales = window.findChild<QComboBox *>("host_scale");
+        const auto choose = [scales](const char *scale) {
+            scales->setCurrentIndex(scales->findData(scale));
+            Q_EMIT scales->activated(scales->currentIndex());
+        };
+        choose("1");
+        const QImage before = picture();
+
+        choose("2");
+        QVERIFY(picture().height() > before.height() * 3 / 2);
+        choose("1");
+        QVERIFY2(picture() == before, "after another scale");
+        Language::choose("r_language_en");
+        QVERIFY(picture() != before);
+        QCOMPARE(field->placeholderText(), QString("Find text"));
+        Language::choose("r_language_zh_CN");
+        QVERIFY2(picture() == before, "after another language");
+        QCOMPARE(field->text(), QString("word"));
+        Language::install("en");
+        NewToolBar::uiStyle = 0;
     }
 
     void shouldTranslateFaultsTheLibraryAndTheDialogsOfQt()

@@ -22,8 +22,8 @@ constexpr QLatin1String ownScreen = latin1("screen");
 constexpr double least = 0.5;
 constexpr double most = 4.0;
 
-/** The lengths of the skins have room for texts of this size, in pixels at 96 dpi. */
-constexpr float roomyTextSize = 14.0F;
+/** The size of the texts that the lengths of the skins are made for, in pixels at 96 dpi. */
+constexpr float designTextSize = 12.0F;
 
 constexpr double targetMillimetres = 9.0;
 constexpr double millimetresPerInch = 25.4;
@@ -107,7 +107,7 @@ void Scale::update()
 {
     float factor = m_chosen;
     if (m_usesApplicationFont)
-        factor = std::max(factor, QFontInfo(QApplication::font()).pixelSize() / roomyTextSize);
+        factor = std::max(factor, QFontInfo(QApplication::font()).pixelSize() / designTextSize);
     if (factor == m_factor)
         return;
     m_factor = factor;

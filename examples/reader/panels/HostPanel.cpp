@@ -27,6 +27,7 @@ QIcon swatch(const QColor &colour)
 HostPanel::HostPanel(QWidget *parent)
     : QWidget(parent)
     , m_schemes(new QComboBox)
+    , m_scales(new QComboBox)
 {
     auto *skins = new QLabel;
     auto *row = new QHBoxLayout;
@@ -47,6 +48,17 @@ HostPanel::HostPanel(QWidget *parent)
     schemeRow->addWidget(m_schemes);
     schemeRow->addStretch();
 
+    m_scales->setObjectName(QStringLiteral("host_scale"));
+    for (const char *scale : {"screen", "1", "1.25", "1.5", "2"})
+        m_scales->addItem(QLatin1String(scale), QLatin1String(scale));
+    connect(m_scales, QOverload<int>::of(&QComboBox::activated), this,
+            [this] { Q_EMIT scaleChosen(m_scales->currentData().toString()); });
+    auto *scales = new QLabel;
+    auto *scaleRow = new QHBoxLayout;
+    scaleRow->addWidget(scales);
+    scaleRow->addWidget(m_scales);
+    scaleRow->addStretch();
+
     auto *penButton = new QPushButton;
     penButton->setObjectName(QStringLiteral("host_handwriting"));
     connect(penButton, &QPushButton::clicked, this, &HostPanel::handwritingAsked);
@@ -55,6 +67,7 @@ HostPanel::HostPanel(QWidget *parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addLayout(row);
     layout->addLayout(schemeRow);
+    layout->addLayout(scaleRow);
     layout->addWidget(penButton);
     LanguageFollower::attach(this, [=] {
         skins->setText(tr("皮肤颜色"));
@@ -62,6 +75,8 @@ HostPanel::HostPanel(QWidget *parent)
         green->setText(tr("绿"));
         dark->setText(tr("暗"));
         schemes->setText(tr("明暗"));
+        scales->setText(tr("大小"));
+        m_scales->setItemText(0, tr("按屏幕"));
         penButton->setText(tr("手写设置…"));
         nameSchemes();
     });

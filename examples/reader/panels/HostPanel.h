@@ -29,6 +29,8 @@ Q_SIGNALS:
     void skinChosen(const ToolBarSkinStyle &skin);
     /** One of the skin map's words for how light the toolbar is. */
     void schemeChosen(const QString &scheme);
+    /** One of the skin map's words for how large the toolbar is. */
+    void scaleChosen(const QString &scale);
     void handwritingAsked();
 
 private:
@@ -37,4 +39,5 @@ private:
     void nameSchemes();
 
     QComboBox *m_schemes;
+    QComboBox *m_scales;
 };

@@ -244,6 +244,9 @@ void ReaderWindow::connectParts()
         m_colours = colours;
         m_toolBar->DoSetSkinStyleSlot(colours);
     });
+    connect(m_hostPanel, &HostPanel::scaleChosen, this, [this](const QString &scale) {
+        m_toolBar->DoSetSkinStyleSlot({{QStringLiteral("scalefactor"), scale}});
+    });
     connect(m_hostPanel, &HostPanel::schemeChosen, this, [this](const QString &scheme) {
         m_settings.setScheme(scheme);
         setScheme(scheme);

@@ -273,6 +273,14 @@ F11: full screen</translation>
         <translation>As the system</translation>
     </message>
     <message>
+        <source>大小</source>
+        <translation>Size</translation>
+    </message>
+    <message>
+        <source>按屏幕</source>
+        <translation>As the screen</translation>
+    </message>
+    <message>
         <source>明暗</source>
         <translation>Brightness</translation>
     </message>

@@ -273,6 +273,14 @@ F11：全屏</translation>
         <translation>跟随系统</translation>
     </message>
     <message>
+        <source>大小</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>按屏幕</source>
+        <translation>按屏幕</translation>
+    </message>
+    <message>
         <source>明暗</source>
         <translation>明暗</translation>
     </message>
