@@ -22,6 +22,63 @@
 #include <QTimer>
 #include <QToolBar>
 
+namespace {
+
+/** Opens two more tabs and goes back to the first one. */
+void openThreeTabs(const QToolBar &toolBar)
+{
+    QList<QPushButton *> tabs;
+    const auto buttons = toolBar.findChildren<QPushButton *>();
+    for (QPushButton *button : buttons) {
+        if (button->isVisible() && button->property("module") == "tabbutton")
+            tabs.append(button);
+    }
+    QVERIFY(tabs.size() > 2);
+    for (QPushButton *tab : {tabs.at(1), tabs.at(2), tabs.at(0)})
+        QTest::mouseClick(tab, Qt::LeftButton);
+}
+
+void typeZoom(const QToolBar &toolBar)
+{
+    const auto boxes = toolBar.findChildren<QComboBox *>();
+    for (QComboBox *box : boxes) {
+        if (!box->isVisible() || !box->isEditable())
+            continue;
+        box->lineEdit()->setFocus();
+        box->lineEdit()->selectAll();
+        QTest::keyClicks(box->lineEdit(), "37");
+        QTest::keyClick(box->lineEdit(), Qt::Key_Return);
+    }
+}
+
+/** What a user leaves behind: opened tabs, a menu, a search and a zoom. Returns the toolbar. */
+QToolBar *use(ReaderWindow &window)
+{
+    window.resize(1400, 800);
+    window.openSample();
+    window.show();
+    window.activateWindow();
+    if (!QTest::qWaitForWindowActive(&window))
+        qFatal("The window is not active");
+    auto *toolBar = window.findChild<QToolBar *>("mrtoolbar");
+    auto *field = toolBar->findChild<QLineEdit *>("st_input");
+    // The click returns when its menu has closed.
+    QTimer::singleShot(500, &window, [] {
+        if (QWidget *menu = QApplication::activePopupWidget())
+            menu->close();
+    });
+    QTest::mouseClick(toolBar->findChild<QPushButton *>("menu_file"), Qt::LeftButton);
+    field->setText("word");
+    openThreeTabs(*toolBar);
+    typeZoom(*toolBar);
+    window.centralWidget()->setFocus();
+    QTest::mouseMove(window.centralWidget());
+    QTest::qWait(50);
+    return toolBar;
+}
+
+} // namespace
+
 /** The language of the reader, the library and the dialogs of Qt. */
 class ReaderLanguageTest : public QObject
 {
@@ -61,26 +118,12 @@ private Q_SLOTS:
         NewToolBar::uiStyle = style;
         Language::install("zh_CN");
         QString error;
-        QDomDocument description = Description::read("release", QTest::currentDataTag(), &error);
+        QDomDocument description =
+            Description::read(OFD_SAMPLES "/../showcase.xml", QTest::currentDataTag(), &error);
         Language::addTo(description);
         ReaderWindow window(description, QString());
-        window.resize(1400, 800);
-        window.openSample();
-        window.show();
-        window.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&window));
-        auto *toolBar = window.findChild<QToolBar *>("mrtoolbar");
+        auto *toolBar = use(window);
         auto *field = toolBar->findChild<QLineEdit *>("st_input");
-        // The click returns when its menu has closed.
-        QTimer::singleShot(500, &window, [] {
-            if (QWidget *menu = QApplication::activePopupWidget())
-                menu->close();
-        });
-        QTest::mouseClick(toolBar->findChild<QPushButton *>("menu_file"), Qt::LeftButton);
-        field->setText("word");
-        window.centralWidget()->setFocus();
-        QTest::mouseMove(window.centralWidget());
-        QTest::qWait(50);
         const auto picture = [toolBar] {
             QTest::qWait(50);
             return toolBar->grab().toImage();

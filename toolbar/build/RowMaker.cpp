@@ -3,6 +3,7 @@
 
 #include "toolbar/build/RowMaker.h"
 
+#include "toolbar/build/CaptionRoom.h"
 #include "toolbar/build/ControlFactory.h"
 #include "toolbar/build/ControlReceiver.h"
 #include "toolbar/build/ControlWidth.h"
@@ -17,17 +18,16 @@
 #include "toolbar/skin/Skin.h"
 #include "toolbar/widgets/MRDropButton.h"
 #include "toolbar/widgets/MRGroupButton.h"
-#include "toolbar/widgets/Panel.h"
 #include "toolbar/widgets/ToolTipCard.h"
 
 #include <QAction>
 #include <QComboBox>
+#include <QLayout>
 #include <QLineEdit>
 #include <QListView>
 #include <QMenu>
 #include <QRegularExpressionValidator>
 #include <QToolBar>
-#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -45,43 +45,6 @@ bool endsSeparatorWait(const Controller &record)
            || std::any_of(record.children.begin(), record.children.end(),
                           [](const Controller *child) { return child && child->visible; });
 }
-
-/** A control of a row with room for a caption below it. */
-QWidget *makeCaptionedContainer(QWidget *control)
-{
-    auto *container = new Panel;
-    auto *layout = new QVBoxLayout(container);
-    layout->setSpacing(1);
-    layout->setContentsMargins(0, 2, 0, 0);
-    layout->addWidget(control);
-    container->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Maximum);
-    return container;
-}
-
-/** As much room as a caption takes: a field without one stands level with those that have one. */
-class CaptionRoom : public QSpacerItem
-{
-public:
-    explicit CaptionRoom(const QWidget *field)
-        : QSpacerItem(0, 0, QSizePolicy::Minimum, QSizePolicy::Fixed)
-        , m_field(field)
-    {
-    }
-
-    // Asked anew each time: the field has its font only when the sheet has been applied. Lines are
-    // higher in some languages, and the field's name is in that of the captions.
-    QSize sizeHint() const override
-    {
-        const QFontMetrics metrics = m_field->fontMetrics();
-        const QSize line = metrics.size(Qt::TextSingleLine, m_field->accessibleName());
-        return {0, std::max(metrics.height(), line.height())};
-    }
-    QSize minimumSize() const override { return sizeHint(); }
-    QSize maximumSize() const override { return {QLAYOUTSIZE_MAX, sizeHint().height()}; }
-
-private:
-    const QWidget *m_field;
-};
 
 void showLabel(TotalLabel *label, const Controller &record, const Presentation &how)
 {

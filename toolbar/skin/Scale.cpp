@@ -5,13 +5,13 @@
 
 #include "toolbar/Latin1.h"
 #include "toolbar/skin/ScreenDensity.h"
+#include "toolbar/skin/ScreenWatch.h"
 
 #include <QApplication>
 #include <QEvent>
 #include <QFontInfo>
 #include <QScreen>
 #include <QWidget>
-#include <QWindow>
 
 #include <algorithm>
 #include <cmath>
@@ -82,8 +82,9 @@ void Scale::choose(const QString &choice)
             set(factor);
         return;
     }
-    followScreens(true);
-    take(ofScreen(m_toolBar->screen()));
+    m_takesScreens = true;
+    watchScreens();
+    take(ofScreen(m_screens->screen()));
 }
 
 void Scale::set(double factor)
@@ -91,7 +92,8 @@ void Scale::set(double factor)
     // Written so that no number is refused, too.
     if (!(factor >= least && factor <= most))
         return;
-    followScreens(false);
+    m_takesScreens = false;
+    watchScreens();
     take(static_cast<float>(factor));
 }
 
@@ -144,6 +146,7 @@ void Scale::chooseTouch(const QString &choice)
         return;
     addToChosen(this);
     m_isForTouch = *isWanted;
+    watchScreens();
     Q_EMIT changed();
 }
 
@@ -196,55 +199,29 @@ float Scale::ofScreen(const QScreen *screen)
     return static_cast<float>(density / forScreen);
 }
 
-void Scale::followScreens(bool follow)
+void Scale::watchScreens()
 {
-    if (m_followsScreens == follow)
-        return;
-    m_followsScreens = follow;
-    if (follow) {
-        m_toolBar->installEventFilter(this);
-        followWindow();
-        return;
+    if (!m_takesScreens && !m_isForTouch) {
+        m_screens.reset();
+    } else if (!m_screens) {
+        m_screens = std::make_unique<ScreenWatch>(m_toolBar);
+        connect(m_screens.get(), &ScreenWatch::changed, this, &Scale::followScreen);
     }
-    m_toolBar->removeEventFilter(this);
-    if (m_window)
-        disconnect(m_window, nullptr, this, nullptr);
-    if (m_screen)
-        disconnect(m_screen, nullptr, this, nullptr);
-    m_window = nullptr;
-    m_screen = nullptr;
-}
-
-bool Scale::eventFilter(QObject *watched, QEvent *event)
-{
-    // Shown again, the toolbar may be in another window.
-    if (watched == m_toolBar && event->type() == QEvent::Show)
-        followWindow();
-    if (watched == qApp && event->type() == QEvent::ApplicationFontChange)
-        followFont();
-    return false;
-}
-
-void Scale::followWindow()
-{
-    QWindow *window = m_toolBar->window()->windowHandle();
-    if (window && window != m_window) {
-        if (m_window)
-            disconnect(m_window, nullptr, this, nullptr);
-        m_window = window;
-        connect(window, &QWindow::screenChanged, this, &Scale::followScreen);
-    }
-    followScreen();
 }
 
 void Scale::followScreen()
 {
-    QScreen *screen = m_window ? m_window->screen() : m_toolBar->screen();
-    if (screen && screen != m_screen) {
-        if (m_screen)
-            disconnect(m_screen, nullptr, this, nullptr);
-        m_screen = screen;
-        connect(screen, &QScreen::physicalDotsPerInchChanged, this, &Scale::followScreen);
-    }
-    take(ofScreen(screen));
+    const float before = m_factor;
+    if (m_takesScreens)
+        take(ofScreen(m_screens->screen()));
+    // Nine millimetres are another number of pixels there.
+    if (m_isForTouch && m_factor == before)
+        Q_EMIT changed();
+}
+
+bool Scale::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == qApp && event->type() == QEvent::ApplicationFontChange)
+        followFont();
+    return false;
 }

@@ -4,13 +4,13 @@
 #pragma once
 
 #include <QObject>
-#include <QPointer>
 
+#include <memory>
 #include <optional>
 
 class QScreen;
 class QWidget;
-class QWindow;
+class ScreenWatch;
 
 /**
  * What the lengths of a toolbar at 96 dpi are multiplied by. At first, and for good unless the host
@@ -62,7 +62,7 @@ public:
      */
     static float ofScreen(const QScreen *screen);
 
-    /** Follows the toolbar to the window that it is shown in, and the application's font. */
+    /** Follows the font of the application. */
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 Q_SIGNALS:
@@ -74,8 +74,7 @@ private:
     void take(float factor);
     void update();
     void followFont();
-    void followScreens(bool follow);
-    void followWindow();
+    void watchScreens();
     void followScreen();
 
     QWidget *m_toolBar;
@@ -84,7 +83,6 @@ private:
     bool m_isChosen = false;
     bool m_usesApplicationFont = false;
     bool m_isForTouch = false;
-    bool m_followsScreens = false;
-    QPointer<QWindow> m_window;
-    QPointer<QScreen> m_screen;
+    bool m_takesScreens = false;
+    std::unique_ptr<ScreenWatch> m_screens; ///< While something depends on the screen.
 };

@@ -22,6 +22,15 @@ QIcon swatch(const QColor &colour)
     return QIcon(pixmap);
 }
 
+QHBoxLayout *choiceRow(QLabel *caption, QComboBox *choices)
+{
+    auto *row = new QHBoxLayout;
+    row->addWidget(caption);
+    row->addWidget(choices);
+    row->addStretch();
+    return row;
+}
+
 } // namespace
 
 HostPanel::HostPanel(QWidget *parent)
@@ -37,27 +46,10 @@ HostPanel::HostPanel(QWidget *parent)
     auto *dark = addSkinButton(row, "#20262C", SkinMaps::dark());
     row->addStretch();
 
-    m_schemes->setObjectName(QStringLiteral("host_scheme"));
-    for (const char *scheme : {"light", "dark", "contrast", "system"})
-        m_schemes->addItem(QString(), QLatin1String(scheme));
-    connect(m_schemes, QOverload<int>::of(&QComboBox::activated), this,
-            [this] { Q_EMIT schemeChosen(m_schemes->currentData().toString()); });
+    fillChoices();
     auto *schemes = new QLabel;
-    auto *schemeRow = new QHBoxLayout;
-    schemeRow->addWidget(schemes);
-    schemeRow->addWidget(m_schemes);
-    schemeRow->addStretch();
 
-    m_scales->setObjectName(QStringLiteral("host_scale"));
-    for (const char *scale : {"screen", "1", "1.25", "1.5", "2"})
-        m_scales->addItem(QLatin1String(scale), QLatin1String(scale));
-    connect(m_scales, QOverload<int>::of(&QComboBox::activated), this,
-            [this] { Q_EMIT scaleChosen(m_scales->currentData().toString()); });
     auto *scales = new QLabel;
-    auto *scaleRow = new QHBoxLayout;
-    scaleRow->addWidget(scales);
-    scaleRow->addWidget(m_scales);
-    scaleRow->addStretch();
 
     auto *penButton = new QPushButton;
     penButton->setObjectName(QStringLiteral("host_handwriting"));
@@ -66,8 +58,8 @@ HostPanel::HostPanel(QWidget *parent)
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addLayout(row);
-    layout->addLayout(schemeRow);
-    layout->addLayout(scaleRow);
+    layout->addLayout(choiceRow(schemes, m_schemes));
+    layout->addLayout(choiceRow(scales, m_scales));
     layout->addWidget(penButton);
     LanguageFollower::attach(this, [=] {
         skins->setText(tr("皮肤颜色"));
@@ -80,6 +72,21 @@ HostPanel::HostPanel(QWidget *parent)
         penButton->setText(tr("手写设置…"));
         nameSchemes();
     });
+}
+
+void HostPanel::fillChoices()
+{
+    m_schemes->setObjectName(QStringLiteral("host_scheme"));
+    for (const char *scheme : {"light", "dark", "contrast", "system"})
+        m_schemes->addItem(QString(), QLatin1String(scheme));
+    connect(m_schemes, QOverload<int>::of(&QComboBox::activated), this,
+            [this] { Q_EMIT schemeChosen(m_schemes->currentData().toString()); });
+
+    m_scales->setObjectName(QStringLiteral("host_scale"));
+    for (const char *scale : {"screen", "1", "1.25", "1.5", "2"})
+        m_scales->addItem(QLatin1String(scale), QLatin1String(scale));
+    connect(m_scales, QOverload<int>::of(&QComboBox::activated), this,
+            [this] { Q_EMIT scaleChosen(m_scales->currentData().toString()); });
 }
 
 void HostPanel::nameSchemes()

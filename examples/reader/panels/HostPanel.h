@@ -36,6 +36,7 @@ Q_SIGNALS:
 private:
     QPushButton *addSkinButton(QHBoxLayout *row, const QColor &colour,
                                const ToolBarSkinStyle &skin);
+    void fillChoices();
     void nameSchemes();
 
     QComboBox *m_schemes;
