@@ -18,8 +18,7 @@ namespace {
 
 const QString scaleKey = "scalefactor";
 
-/** What a user leaves behind in some minutes: tabs, a menu, a zoom and a drop
- * button. */
+/** What a user leaves behind in some minutes: tabs, a menu, a zoom and a drop button. */
 void use(TestHost &host)
 {
     host.showEnabled();
