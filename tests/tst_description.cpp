@@ -50,6 +50,9 @@ private Q_SLOTS:
         QCOMPARE(field.tooltip + field.prompt, QString("pp"));
         QCOMPARE(parsed("<b index='-3'/>").index, -3);
         QCOMPARE(parsed("<b index='3rd'/>").index, 0);
+        for (const QByteArray order : {"0", "10", "-1", "2nd", "\u0663", ""})
+            QCOMPARE(parsed("<b shrink='" + order + "'/>").shrink, 0);
+        QCOMPARE(parsed("<b shrink='9'/>").shrink, 9);
         const Controller &unknown = parsed("<b min_width='5' Name='x'/>");
         QCOMPARE(unknown.type + unknown.name, QString("b"));
     }
@@ -65,12 +68,14 @@ private Q_SLOTS:
         QCOMPARE(areShown(parsed("<b visible='false' usable='false' available='false'/>")),
                  QList<bool>({false, false, false}));
         const QByteArray flags = "<b checkable='%1' checked='%1' check='%1' editable='%1' "
-                                 "switchable='%1' withaction='%1' scalable='%1' doubleclick='%1'/>";
+                                 "switchable='%1' withaction='%1' scalable='%1' doubleclick='%1' "
+                                 "peek='%1' quickadd='%1'/>";
         for (const QByteArray word : {"1", "True", "yes", "true"}) {
             const Controller &record = parsed(QByteArray(flags).replace("%1", word));
-            const QList<bool> read{record.checkable, record.checked,    record.check,
-                                   record.editable,  record.switchable, record.withaction,
-                                   record.scalable,  record.doubleclick};
+            const QList<bool> read{record.checkable, record.checked,     record.check,
+                                   record.editable,  record.switchable,  record.withaction,
+                                   record.scalable,  record.doubleclick, record.peek,
+                                   record.quickadd};
             QVERIFY2(read.count(word == "true") == read.size(), word.constData());
         }
     }

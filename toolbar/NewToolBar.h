@@ -35,6 +35,7 @@ class QStackedWidget;
 class QToolBar;
 class QToolButton;
 class QVBoxLayout;
+struct CommandPlace;
 struct Controller;
 
 /**
@@ -186,6 +187,7 @@ private:
     bool AppendSubMenu(QMenu *menu, const QList<Controller *> &items, QProxyStyle *style);
     bool AddToolBarAction(const QList<Controller *> &records, QToolBar *row, bool ignored,
                           bool addToRow);
+    bool makeCommand(const CommandPlace &place);
     QWidget *CreateExtraGroup(const QList<Controller *> &children);
     QWidget *CreateButtonGroupWidget(const QList<Controller *> &children, QToolBar *row);
     void CreateActionGroup(const QString &name, QObject *row);

@@ -5,6 +5,7 @@
 
 #include "toolbar/NewToolBarParts.h"
 #include "toolbar/build/TabMaker.h"
+#include "toolbar/description/CommandPlaces.h"
 #include "toolbar/description/Controller.h"
 #include "toolbar/description/Sections.h"
 #include "toolbar/widgets/MRMainToolBar.h"
@@ -76,6 +77,23 @@ bool NewToolBar::AddToolBarAction(const QList<Controller *> &records, QToolBar *
 bool NewToolBar::AppendSubMenu(QMenu *menu, const QList<Controller *> &items, QProxyStyle *style)
 {
     return m_parts->menus.append(menu, items, style);
+}
+
+/**
+ * Makes the row or the menus that a command stands on, if they are not yet; the host is asked for
+ * the states then. Returns false if it has deleted this toolbar in its answer.
+ */
+bool NewToolBar::makeCommand(const CommandPlace &place)
+{
+    const QPointer<NewToolBar> self(this);
+    if (place.tab) {
+        auto *row = qobject_cast<MRMainToolBar *>(m_toolBars.value(place.tab->name));
+        if (row && !row->isFilled())
+            m_parts->receiver.fillRow(row);
+    } else if (place.record->section == Section::appButton) {
+        Inner_DoDelayLoadMenuSlot();
+    }
+    return !self.isNull();
 }
 
 QWidget *NewToolBar::CreateExtraGroup(const QList<Controller *> &children)

@@ -19,10 +19,10 @@ const QStringList tags =
           "toolbar_addtional tabbutton menu menuitem button buttongroup combobox item label "
           "lineedit extra sperator unknown");
 
-const QStringList attributes =
-    words("text icon name action tooltip disabletip shortcut output layout group arrow dropicon "
-          "visible usable available doubleclick checkable editable switchable withaction scalable "
-          "check checked index");
+const QStringList attributes = words(
+    "text icon name action tooltip disabletip shortcut output layout group arrow dropicon "
+    "visible usable available doubleclick checkable editable switchable withaction scalable "
+    "check checked index shrink keywords keytip shortcutscope context contextcolour peek quickadd");
 
 const QStringList values =
     QStringList{"", " "}

@@ -41,4 +41,12 @@ struct Controller
     bool scalable = false;
     bool doubleclick = false;
     QList<Controller *> children;
+    QString keywords;      ///< Other words that the command is found by.
+    QString keytip;        ///< Letters that lead to the control while key tips are shown.
+    QString shortcutscope; ///< "window": the shortcut acts in the whole window.
+    QString context;       ///< Of a tab that the host shows while something is selected.
+    QString contextcolour; ///< What such a tab is tinted with, as "#RRGGBB".
+    qint32 shrink = 0;     ///< 1 to 9: how soon the control gives way in a narrow row; 0: never.
+    bool peek = false; ///< While the rows are folded, a click on a tab lays its row over the page.
+    bool quickadd = false; ///< Commands of rows can be added to the quick access bar.
 };

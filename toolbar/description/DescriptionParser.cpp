@@ -33,6 +33,11 @@ const QHash<QString, TextField> &textFields()
         {QStringLiteral("group"), &Controller::group},
         {QStringLiteral("arrow"), &Controller::arrow},
         {QStringLiteral("dropicon"), &Controller::dropicon},
+        {QStringLiteral("keywords"), &Controller::keywords},
+        {QStringLiteral("keytip"), &Controller::keytip},
+        {QStringLiteral("shortcutscope"), &Controller::shortcutscope},
+        {QStringLiteral("context"), &Controller::context},
+        {QStringLiteral("contextcolour"), &Controller::contextcolour},
     };
     return fields;
 }
@@ -51,6 +56,8 @@ const QHash<QString, BoolField> &boolFields()
         {QStringLiteral("scalable"), &Controller::scalable},
         {QStringLiteral("check"), &Controller::check},
         {QStringLiteral("checked"), &Controller::checked},
+        {QStringLiteral("peek"), &Controller::peek},
+        {QStringLiteral("quickadd"), &Controller::quickadd},
     };
     return fields;
 }
@@ -65,6 +72,14 @@ void leaveDefault(bool &field, bool defaultValue, const QString &value)
         field = !defaultValue;
 }
 
+/** A digit from 1 to 9; anything else is no order. */
+qint32 shrinkOrder(const QString &value)
+{
+    const bool isOrder =
+        value.size() == 1 && value.at(0) >= QLatin1Char('1') && value.at(0) <= QLatin1Char('9');
+    return isOrder ? value.toInt() : 0;
+}
+
 void storeAttribute(Controller *target, const QString &name, const QString &value)
 {
     static const Controller defaults;
@@ -77,6 +92,8 @@ void storeAttribute(Controller *target, const QString &name, const QString &valu
         leaveDefault(target->*flag, defaults.*flag, value);
     } else if (name == QLatin1String("index")) {
         target->index = value.toInt();
+    } else if (name == QLatin1String("shrink")) {
+        target->shrink = shrinkOrder(value);
     }
 }
 

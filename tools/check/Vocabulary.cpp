@@ -25,29 +25,31 @@ struct RoleTraits
 };
 
 constexpr RoleTraits allTraits[]{
-    {Role::Root, "the root", "prefix"},
-    {Role::AppButton, "an application button", "name action text icon tooltip disabletip"},
+    {Role::Root, "the root", "prefix shortcutscope"},
+    {Role::AppButton, "an application button", "name action text icon tooltip disabletip keytip"},
     {Role::QuickButton, "a quick access button",
-     "name action text icon tooltip disabletip available checkable visible"},
-    {Role::QuickSet, "the customise button", "name action text icon tooltip disabletip visible"},
-    {Role::Tab, "a tab", "name action text disabletip checkable checked visible scalable"},
+     "name action text icon tooltip disabletip available checkable visible keywords keytip"},
+    {Role::QuickSet, "the customise button",
+     "name action text icon tooltip disabletip visible quickadd keytip"},
+    {Role::Tab, "a tab",
+     "name action text disabletip checkable checked visible scalable context contextcolour keytip"},
     {Role::RowButton, "a button of a row",
      "name action text icon tooltip disabletip group checkable checked visible "
-     "usable available doubleclick"},
+     "usable available doubleclick shrink keywords shortcut shortcutscope keytip"},
     {Role::RowMenu, "a menu of a row",
      "name action text icon tooltip disabletip index checkable switchable "
-     "withaction visible usable available"},
-    {Role::ButtonGroup, "a button group", "visible"},
+     "withaction visible usable available shrink keytip"},
+    {Role::ButtonGroup, "a button group", "visible shrink"},
     {Role::GroupButton, "a button of a group",
      "name action text icon tooltip disabletip group checkable checked visible "
-     "usable available doubleclick"},
+     "usable available doubleclick keywords shortcut shortcutscope keytip"},
     {Role::GroupMenu, "a menu of a group",
      "name action text icon tooltip disabletip index checkable switchable "
-     "withaction visible usable available"},
-    {Role::ComboBox, "a combo box", "name action text disabletip index editable visible"},
+     "withaction visible usable available keytip"},
+    {Role::ComboBox, "a combo box", "name action text disabletip index editable visible keytip"},
     {Role::Item, "an entry of a combo box", "name action text"},
     {Role::RowLabel, "a label of a row", "name action text disabletip visible"},
-    {Role::RowField, "a field of a row", "name action text disabletip visible"},
+    {Role::RowField, "a field of a row", "name action text disabletip visible keytip"},
     {Role::Separator, "a separator", ""},
     {Role::Extra, "an extra group", "usable"},
     {Role::ExtraLabel, "a label of an extra group", "name action text disabletip"},
@@ -56,14 +58,14 @@ constexpr RoleTraits allTraits[]{
     {Role::SubMenu, "a sub-menu", "name action text disabletip icon visible"},
     {Role::MenuEntry, "a menu entry",
      "name action text icon tooltip disabletip group shortcut checkable checked visible "
-     "usable available doubleclick"},
+     "usable available doubleclick keywords shortcutscope keytip"},
     {Role::SearchLabel, "the label of the search bar", "name action text icon"},
     {Role::SearchField, "the search field", "name action tooltip disabletip"},
     {Role::SearchButton, "a search button", "name action text icon tooltip disabletip usable"},
     {Role::SearchSet, "the button of the search options",
      "name action text icon tooltip disabletip checkable"},
     {Role::AdditionalButton, "an additional button",
-     "name action text icon tooltip disabletip checkable checked"},
+     "name action text icon tooltip disabletip checkable checked peek keywords keytip"},
 };
 
 const RoleTraits &traits(Role role)
@@ -132,7 +134,8 @@ bool anySwitched(const Controller &record)
 {
     return !record.usable || !record.available || !record.visible || record.checkable
            || record.checked || record.check || record.editable || record.switchable
-           || record.withaction || record.scalable || record.doubleclick;
+           || record.withaction || record.scalable || record.doubleclick || record.peek
+           || record.quickadd;
 }
 
 Controller parsed(const QString &attribute, const QString &value)
@@ -149,12 +152,14 @@ Vocabulary::AttributeKind kindByParsing(const QString &name)
 {
     using Kind = Vocabulary::AttributeKind;
     const Controller numbered = parsed(name, QStringLiteral("7"));
-    if (numbered.index != 0)
+    if (numbered.index != 0 || numbered.shrink != 0)
         return Kind::Number;
-    if (anySet(numbered, {&Controller::text, &Controller::name, &Controller::icon,
-                          &Controller::arrow, &Controller::layout, &Controller::output,
-                          &Controller::tooltip, &Controller::disabletip, &Controller::group,
-                          &Controller::shortcut, &Controller::dropicon}))
+    if (anySet(numbered,
+               {&Controller::text, &Controller::name, &Controller::icon, &Controller::arrow,
+                &Controller::layout, &Controller::output, &Controller::tooltip,
+                &Controller::disabletip, &Controller::group, &Controller::shortcut,
+                &Controller::dropicon, &Controller::keywords, &Controller::keytip,
+                &Controller::shortcutscope, &Controller::context, &Controller::contextcolour}))
         return Kind::Text;
     if (anySwitched(parsed(name, QStringLiteral("true"))))
         return Kind::TrueOnly;
@@ -183,7 +188,8 @@ const QStringList &Vocabulary::attributes()
         QStringLiteral(
             "name action text icon tooltip disabletip group shortcut index checkable checked check "
             "visible usable available editable switchable withaction scalable doubleclick dropicon "
-            "arrow layout output")
+            "arrow layout output shrink keywords keytip shortcutscope context contextcolour peek "
+            "quickadd")
             .split(QLatin1Char(' '));
     return names;
 }
