@@ -205,7 +205,7 @@ private Q_SLOTS:
 
     void shouldShowAnArrowWhereContentIsHidden()
     {
-        ScrolledRow fixture(1000);
+        ScrolledRow fixture(1200);
         QVERIFY(!fixture.arrow("left")->isVisible() && !fixture.arrow("right")->isVisible());
         fixture.holder.resize(400, 64);
         QTRY_VERIFY(fixture.arrow("right")->isVisible());
@@ -238,7 +238,7 @@ private Q_SLOTS:
         const QPoint edge(2, 30);
         QVERIFY(fixture.row->isAncestorOf(fixture.area()->childAt(edge))
                 || fixture.area()->childAt(edge) == fixture.row);
-        fixture.holder.resize(1000, 64);
+        fixture.holder.resize(1200, 64);
         QTRY_VERIFY(redAt(true));
     }
 

@@ -5,6 +5,7 @@
 
 #include "toolbar/Latin1.h"
 #include "toolbar/skin/Appearance.h"
+#include "toolbar/skin/Scale.h"
 #include "toolbar/skin/ScreenDensity.h"
 #include "toolbar/skin/Skin.h"
 #include "toolbar/skin/SkinIcon.h"
@@ -17,6 +18,8 @@
 #include <QPropertyAnimation>
 #include <QScrollBar>
 #include <QWheelEvent>
+
+#include <algorithm>
 
 namespace {
 
@@ -175,6 +178,19 @@ MRScrollArea::MRScrollArea(QWidget *parent)
         if (!isScrolling())
             UpdateExtendButton();
     });
+}
+
+QSize MRScrollArea::sizeHint() const
+{
+    // Qt measures a row once, before it has its sheet, and the sheet limits what comes of it. In
+    // the font of then a row would be too low for a larger scale.
+    QSize hint = QScrollArea::sizeHint();
+    if (const auto chosen = Scale::chosenFor(this)) {
+        const auto ofFont = static_cast<float>(logicalDpiY()) / ScreenDensity::designDpi;
+        hint.setHeight(
+            qRound(static_cast<float>(hint.height()) * std::max(1.0F, *chosen / ofFont)));
+    }
+    return hint;
 }
 
 bool MRScrollArea::isScrolling() const

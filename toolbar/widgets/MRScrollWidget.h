@@ -62,6 +62,7 @@ class MRScrollArea : public QScrollArea
 public:
     explicit MRScrollArea(QWidget *parent = nullptr);
 
+    QSize sizeHint() const override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 Q_SIGNALS:
