@@ -203,6 +203,7 @@ private Q_SLOTS:
         connect(&host->facade(), &MRToolBar::DoRequestAuthority, this,
                 [&host] { host->enableEverything(); });
         host->enableEverything();
+        host->window().resize(host->scaled(1000), host->scaled(400));
         host->show();
         QSignalSpy active(&host->facade(), &MRToolBar::DoActive);
         int commands = 0;

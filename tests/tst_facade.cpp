@@ -176,11 +176,13 @@ private Q_SLOTS:
         TestHost host(everything());
         host.window().addToolBarBreak();
         addHostBar(host);
+        host.window().resize(host.scaled(1300), host.scaled(400));
         host.show();
         const QPoint inside(3, 3);
         const QList<std::pair<const char *, QPoint>> places{
-            {"mrtoolbar", {1, 1}},       {"top_widget", {800, 6}}, {"menu_file", inside},
-            {"first", inside},           {"second", inside},       {"tabwidget", {1200, 20}},
+            {"mrtoolbar", {1, 1}},       {"top_widget", {800, 6}},
+            {"menu_file", inside},       {"first", inside},
+            {"second", inside},          {"tabwidget", {host.scaled(1200), 20}},
             {"d_totalpagelabel", inside}};
         for (int state = 0; state < 2; ++state) { // With disabled rows and with enabled ones.
             for (const auto &[name, place] : places) {
