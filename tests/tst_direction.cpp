@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The MRToolBar authors
 // SPDX-License-Identifier: MIT
 
+#include "tests/support/Pictures.h"
 #include "tests/support/TestHost.h"
 #include "toolbar/widgets/EndFade.h"
 
@@ -29,6 +30,7 @@ std::unique_ptr<TestHost> usedHost(int width)
     auto host = TestHost::withFile(QStringLiteral(SHOWCASE));
     host->window().resize(width, 500);
     host->showEnabled();
+    host->window().activateWindow();
     host->openEachTab([](const QString &) {});
     host->enableEverything();
     auto *field = host->find<QLineEdit>("st_input");
@@ -36,26 +38,6 @@ std::unique_ptr<TestHost> usedHost(int width)
     field->setText("word"); // Typing it would choose a direction for the field.
     host->toolBar()->setFocus();
     return host;
-}
-
-/** The toolbar with each of its tabs open, its menus, and its search field in use. */
-QList<QImage> pictures(TestHost &host)
-{
-    QList<QImage> taken;
-    host.window().activateWindow();
-    QTest::qWait(20);
-    host.openEachTab([&taken, &host](const QString &) {
-        QTest::qWait(1);
-        taken.append(host.toolBar()->grab().toImage());
-    });
-    const QList<QMenu *> menus = host.toolBar()->findChildren<QMenu *>();
-    for (QMenu *menu : menus) {
-        if (!menu->isEmpty() && !menu->objectName().isEmpty()) {
-            menu->resize(menu->sizeHint());
-            taken.append(menu->grab().toImage());
-        }
-    }
-    return taken;
 }
 
 } // namespace
@@ -82,14 +64,14 @@ private Q_SLOTS:
         QFETCH(int, width);
         const SkinChoice choice(skin);
         const auto host = usedHost(width);
-        const QList<QImage> before = pictures(*host);
+        const QList<QImage> before = picturesOf(*host);
 
         const Direction mirrored(Qt::RightToLeft);
         const auto built = usedHost(width);
-        QVERIFY(pictures(*host) == pictures(*built));
-        QVERIFY(pictures(*host) != before);
+        QVERIFY(picturesOf(*host) == picturesOf(*built));
+        QVERIFY(picturesOf(*host) != before);
         Direction::set(Qt::LeftToRight);
-        QVERIFY(pictures(*host) == before);
+        QVERIFY(picturesOf(*host) == before);
     }
 
     void shouldFadeTheEndThatIsCutOff()

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "tests/support/Describe.h"
+#include "tests/support/EventCounter.h"
 #include "tests/support/Icons.h"
 #include "tests/support/Menus.h"
 #include "tests/support/TestHost.h"
@@ -59,28 +60,6 @@ public:
     {
         return toolBar()->findChildren<QAction *>("f_openrecentfile", Qt::FindDirectChildrenOnly);
     }
-};
-
-/** Counts the events of some types that a widget gets. */
-class EventCounter : public QObject
-{
-public:
-    EventCounter(QObject *watched, const QSet<int> &types)
-        : m_types(types)
-    {
-        watched->installEventFilter(this);
-    }
-    int count() const { return m_count; }
-
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        m_count += m_types.contains(event->type()) ? 1 : 0;
-        return false;
-    }
-
-private:
-    QSet<int> m_types;
-    int m_count = 0;
 };
 
 } // namespace

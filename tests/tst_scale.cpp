@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: The MRToolBar authors
 // SPDX-License-Identifier: MIT
 
+#include "tests/support/EventCounter.h"
+#include "tests/support/Pictures.h"
 #include "tests/support/TestHost.h"
 #include "toolbar/widgets/MRDropButton.h"
 
@@ -17,42 +19,6 @@
 namespace {
 
 const QString scaleKey = "scalefactor";
-
-/** What a user leaves behind in some minutes: tabs, a menu, a zoom and a drop button. */
-void use(TestHost &host)
-{
-    host.showEnabled();
-    host.window().resize(1400, 700);
-    host.openEachTab([](const QString &) {});
-    host.enableEverything();
-    host.facade().DoSetPageInfoSlot(3, 12);
-    host.facade().DoSetZoomModeSlot("vzmode_37p");
-    const QList<MRDropButton *> buttons = host.toolBar()->findChildren<MRDropButton *>();
-    for (MRDropButton *button : buttons) {
-        if (button->isCheckable() && button->menu())
-            button->DoSwitchSlot(button->menu()->actions().last());
-    }
-    QTest::mouseMove(&host.window(), host.window().rect().center());
-    QTest::qWait(1);
-}
-
-/** The toolbar with each of its tabs open, and its menus. */
-QList<QImage> pictures(TestHost &host)
-{
-    QList<QImage> taken;
-    host.openEachTab([&taken, &host](const QString &) {
-        QTest::qWait(1);
-        taken.append(host.toolBar()->grab().toImage());
-    });
-    const QList<MRDropButton *> buttons = host.toolBar()->findChildren<MRDropButton *>();
-    for (MRDropButton *button : buttons) {
-        if (button->menu()) {
-            button->menu()->resize(button->menu()->sizeHint());
-            taken.append(button->menu()->grab().toImage());
-        }
-    }
-    return taken;
-}
 
 } // namespace
 
@@ -74,19 +40,19 @@ private Q_SLOTS:
         const SkinChoice choice(skin);
         const auto atOne = TestHost::withFile(QStringLiteral(SHOWCASE), {{scaleKey, "1"}});
         const auto atTwo = TestHost::withFile(QStringLiteral(SHOWCASE), {{scaleKey, "2"}});
-        use(*atOne);
-        use(*atTwo);
+        useForAWhile(*atOne);
+        useForAWhile(*atTwo);
         atOne->window().move(0, 0);
-        const QList<QImage> small = pictures(*atOne);
-        const QList<QImage> large = pictures(*atTwo);
+        const QList<QImage> small = picturesOf(*atOne);
+        const QList<QImage> large = picturesOf(*atTwo);
         QVERIFY(large.first().height() > small.first().height());
 
         atOne->facade().DoSetScaleSlot(2);
-        QVERIFY2(pictures(*atOne) == large, "enlarged while running");
+        QVERIFY2(picturesOf(*atOne) == large, "enlarged while running");
         atOne->facade().DoSetScaleSlot(1);
-        QVERIFY2(pictures(*atOne) == small, "back again");
+        QVERIFY2(picturesOf(*atOne) == small, "back again");
         atTwo->facade().DoSetSkinStyleSlot({{scaleKey, "1"}});
-        QVERIFY2(pictures(*atTwo) == small, "made smaller by the skin map");
+        QVERIFY2(picturesOf(*atTwo) == small, "made smaller by the skin map");
     }
 
     void shouldIgnoreAnImpossibleScale_data()
@@ -105,6 +71,22 @@ private Q_SLOTS:
         host->facade().DoSetScaleSlot(scale.toDouble());
         host->facade().DoSetScaleSlot(std::nan(""));
         QCOMPARE(host->find<QToolBar>("mrtoolbar")->styleSheet(), sheet);
+    }
+
+    void shouldStyleControlsOnceForAWholeMap()
+    {
+        const auto host = TestHost::withFile(QStringLiteral(SHOWCASE), {{scaleKey, "1"}});
+        useForAWhile(*host);
+        EventCounter restyled(host->shownTabs().first(), {QEvent::StyleChange});
+        host->facade().DoSetSkinStyleSlot({{"[MainColor]", "#0a5"}});
+        const int forColours = restyled.sinceLastAsked();
+        QVERIFY(forColours > 0);
+        host->facade().DoSetSkinStyleSlot({{"[MainColor]", "#a50"},
+                                           {scaleKey, "2"},
+                                           {"touchmode", "true"},
+                                           {"fontfromapplication", "true"},
+                                           {"scheme", "dark"}});
+        QCOMPARE(restyled.sinceLastAsked(), forColours);
     }
 
     void shouldFollowTheScreenOfItsWindow()
@@ -132,7 +114,7 @@ private Q_SLOTS:
         QFETCH(int, skin);
         const SkinChoice choice(skin);
         const auto host = TestHost::withFile(QStringLiteral(SHOWCASE), {{"touchmode", "true"}});
-        use(*host);
+        useForAWhile(*host);
         const int least = int(std::ceil(9 / 25.4 * host->window().physicalDpiX()));
         host->openEachTab([&host, least](const QString &tab) {
             const auto buttons = host->toolBar()->findChildren<QAbstractButton *>();
@@ -162,9 +144,9 @@ private Q_SLOTS:
 
         host->facade().DoSetSkinStyleSlot({{"touchmode", "false"}});
         const auto plain = TestHost::withFile(QStringLiteral(SHOWCASE));
-        use(*plain);
+        useForAWhile(*plain);
         host->show();
-        QVERIFY2(pictures(*host) == pictures(*plain), "back again");
+        QVERIFY2(picturesOf(*host) == picturesOf(*plain), "back again");
     }
 
     void shouldHaveRoomForTheFontOfTheApplication_data() { shouldLookAsBuiltForTheScale_data(); }
@@ -177,8 +159,8 @@ private Q_SLOTS:
         const auto restore = qScopeGuard([&previous] { QApplication::setFont(previous); });
         const auto host =
             TestHost::withFile(QStringLiteral(SHOWCASE), {{"fontfromapplication", "true"}});
-        use(*host);
-        const QList<QImage> before = pictures(*host);
+        useForAWhile(*host);
+        const QList<QImage> before = picturesOf(*host);
         for (const int points : {14, 20}) {
             QFont font = previous;
             font.setPointSize(points);
@@ -198,13 +180,13 @@ private Q_SLOTS:
         }
         QApplication::setFont(previous);
         QTest::qWait(1);
-        QVERIFY2(pictures(*host) == before, "back again");
+        QVERIFY2(picturesOf(*host) == before, "back again");
     }
 
     void shouldNotGrow()
     {
         const auto host = TestHost::withFile(QStringLiteral(SHOWCASE));
-        use(*host);
+        useForAWhile(*host);
         const auto change = [&host](int times) {
             for (int i = 0; i < times; ++i)
                 host->facade().DoSetScaleSlot(i % 2 ? 1 : 1.5);

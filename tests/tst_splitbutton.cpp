@@ -1,33 +1,12 @@
 // SPDX-FileCopyrightText: The MRToolBar authors
 // SPDX-License-Identifier: MIT
 
+#include "tests/support/EventCounter.h"
 #include "tests/support/Pointer.h"
 #include "tests/support/TestHost.h"
 #include "toolbar/widgets/MRDropButton.h"
 
 #include <QMenu>
-
-namespace {
-
-/** Counts how often a button is styled. */
-class StyleCount : public QObject
-{
-public:
-    explicit StyleCount(QWidget *button) { button->installEventFilter(this); }
-
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        m_count += event->type() == QEvent::StyleChange ? 1 : 0;
-        return false;
-    }
-
-    int sinceLastAsked() { return std::exchange(m_count, 0); }
-
-private:
-    int m_count = 0;
-};
-
-} // namespace
 
 /** What drop buttons and group buttons have in common. */
 class SplitButtonTest : public QObject
@@ -47,7 +26,7 @@ private Q_SLOTS:
         }
         QVERIFY(button);
         movePointerAway();
-        StyleCount styles(button);
+        EventCounter styles(button, {QEvent::StyleChange});
         const auto wander = [button, &styles](const QPoint &place) {
             for (const int step : {0, 1, 2}) {
                 QTest::mouseMove(button, place + QPoint(0, step));

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "tests/support/MarkedLanguage.h"
+#include "tests/support/Pictures.h"
 #include "tests/support/TestHost.h"
 #include "toolbar/widgets/MRDropButton.h"
 
@@ -13,35 +14,6 @@
 #include <malloc.h>
 
 namespace {
-
-/** What a user leaves behind in some minutes: tabs, menus, a zoom and a drop button. */
-void use(TestHost &host)
-{
-    host.showEnabled();
-    host.window().resize(1500, 700);
-    host.toolBar()->Inner_DoDelayLoadMenuSlot();
-    host.openEachTab([](const QString &) {});
-    host.enableEverything();
-    host.facade().DoSetPageInfoSlot(3, 12);
-    host.facade().DoSetZoomModeSlot("vzmode_37p");
-    host.facade().DoUpdateRecentFileSlot({"/tmp/one.ofd", "/tmp/two.ofd"});
-    const QList<MRDropButton *> buttons = host.toolBar()->findChildren<MRDropButton *>();
-    for (MRDropButton *button : buttons) {
-        if (button->menu() && button->menu()->actions().size() > 1)
-            button->DoSwitchSlot(button->menu()->actions().at(1));
-    }
-    QTest::qWait(1);
-}
-
-QList<QImage> pictures(TestHost &host)
-{
-    QList<QImage> taken;
-    host.openEachTab([&taken, &host](const QString &) {
-        QTest::qWait(1);
-        taken.append(host.toolBar()->grab().toImage());
-    });
-    return taken;
-}
 
 /** Every text that is shown or spoken, each with the name of what has it. */
 QStringList texts(const TestHost &host)
@@ -106,29 +78,29 @@ private Q_SLOTS:
         MarkedLanguage marked;
         const auto host = TestHost::withFile(path);
         const auto unused = TestHost::withFile(path);
-        use(*host);
-        const QList<QImage> before = pictures(*host);
+        useForAWhile(*host);
+        const QList<QImage> before = picturesOf(*host);
         const QStringList textsBefore = texts(*host);
 
         marked.install();
         const auto built = TestHost::withFile(path);
-        use(*built);
+        useForAWhile(*built);
         QCOMPARE(texts(*host), texts(*built));
-        QTRY_VERIFY(pictures(*host) == pictures(*built));
-        QVERIFY(pictures(*host) != before);
-        use(*unused); // Its rows and menus have not been made before.
-        QTRY_VERIFY(pictures(*unused) == pictures(*built));
+        QTRY_VERIFY(picturesOf(*host) == picturesOf(*built));
+        QVERIFY(picturesOf(*host) != before);
+        useForAWhile(*unused); // Its rows and menus have not been made before.
+        QTRY_VERIFY(picturesOf(*unused) == picturesOf(*built));
 
         marked.remove();
         QCOMPARE(texts(*host), textsBefore);
-        QTRY_VERIFY(pictures(*host) == before);
+        QTRY_VERIFY(picturesOf(*host) == before);
     }
 
     void shouldNotGrow()
     {
         MarkedLanguage marked;
         const auto host = TestHost::withFile(QStringLiteral(SHOWCASE));
-        use(*host);
+        useForAWhile(*host);
         const auto change = [&marked](int times) {
             for (int i = 0; i < times; i += 2) {
                 marked.install();

@@ -170,6 +170,7 @@ public Q_SLOTS:
 private:
     class Receiver;
     struct Parts;
+    struct StyleChanges;
 
     // Construction and layout.
     bool Init(QDomNode &description);
@@ -248,6 +249,7 @@ private:
     NamedList<QToolButton> m_groupButtons;
     float m_scale = 1.0F; ///< Physical dpi of this widget's screen by 96, or what the host says.
     Scale *m_scaling;
+    StyleChanges *m_styleChanges = nullptr; ///< While several are collected.
     QString m_delayedActionName;
     bool m_menusLoaded = false;
 

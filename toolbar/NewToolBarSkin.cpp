@@ -20,11 +20,21 @@
 #include <QPushButton>
 #include <QToolBar>
 
+/** What a skin map changes beside the colours. */
+struct NewToolBar::StyleChanges
+{
+    bool sheet = false;
+    bool lengths = false;
+};
+
 namespace {
 
 /** Removes what the platform's style would draw around the library's own tool bars. */
 constexpr QLatin1String plainToolBarRule =
     latin1("QToolBar[intoolbar=\"true\"]{border:none;padding:0px 0px 0px 0px;}");
+
+/** Of both skins. */
+constexpr QLatin1String touchSheet = latin1(":/mr_toolbar/Resources/touch.qss");
 
 /**
  * Under a sheet of the application, a tool bar keeps the margins of that sheet for good unless it
@@ -147,11 +157,17 @@ void NewToolBar::SwitchSkinStyle(QMap<QString, QString> skin)
     // Who applies the sheet was settled at construction and stays so.
     if (!skin.isEmpty())
         m_skinMap = Skin::switchedMap(skin);
+    // Each of them alone would have every control styled again.
+    StyleChanges changes;
+    m_styleChanges = &changes;
     chooseAppearance(options, skin);
     chooseScale(options);
+    m_styleChanges = nullptr;
     if (m_parts->presentation.chooseCardLines(options.value(SkinKey::toolTipWords)))
         showTextsAgain();
-    if (!skin.isEmpty())
+    if (changes.lengths)
+        followScale();
+    else if (changes.sheet || !skin.isEmpty())
         ResetSkinStyle();
 }
 
@@ -162,8 +178,7 @@ bool NewToolBar::ResetSkinStyle()
     if (m_scaling->usesApplicationFont())
         sheet = StyleSheet::withoutFonts(sheet);
     if (const int target = m_scaling->leastTarget())
-        sheet += StyleSheet::forTouch(LoadQss(GetResourceDir() + QStringLiteral("touch.qss")),
-                                      target, m_scale);
+        sheet += StyleSheet::forTouch(LoadQss(touchSheet), target, m_scale);
     if (const SchemeColours *colours = m_appearance->colours())
         sheet += schemeSheet(LoadQss(GetResourceDir() + QStringLiteral("scheme.qss")), *colours);
     if (m_externalQss) {
@@ -178,7 +193,10 @@ bool NewToolBar::ResetSkinStyle()
 
 void NewToolBar::followAppearance()
 {
-    ResetSkinStyle();
+    if (m_styleChanges)
+        m_styleChanges->sheet = true;
+    else
+        ResetSkinStyle();
     // A pointer over the search field has left the button a sheet of its own.
     if (m_searchSetButton && m_searchSetButton->styleSheet().contains(QLatin1String("background")))
         Inner_DoActiveSetButtonSlot(false);
@@ -187,6 +205,10 @@ void NewToolBar::followAppearance()
 void NewToolBar::followScale()
 {
     m_scale = m_scaling->factor();
+    if (m_styleChanges) {
+        m_styleChanges->lengths = true;
+        return;
+    }
     const RowPause pause(this);
     m_parts->presentation.fitAgain();
     ResetSkinStyle();

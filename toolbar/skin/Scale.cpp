@@ -116,13 +116,21 @@ void Scale::update()
     Q_EMIT changed();
 }
 
-void Scale::chooseApplicationFont(const QString &choice)
+/** Returns whether the text is a choice, and another one than before. */
+bool Scale::decide(bool &wish, const QString &choice)
 {
     const auto isWanted = truthOf(choice);
-    if (!isWanted || *isWanted == m_usesApplicationFont)
-        return;
+    if (!isWanted || *isWanted == wish)
+        return false;
     addToChosen(this);
-    m_usesApplicationFont = *isWanted;
+    wish = *isWanted;
+    return true;
+}
+
+void Scale::chooseApplicationFont(const QString &choice)
+{
+    if (!decide(m_usesApplicationFont, choice))
+        return;
     // Only while it matters: the filter sees every event of the application.
     qApp->removeEventFilter(this);
     if (m_usesApplicationFont)
@@ -141,11 +149,8 @@ void Scale::followFont()
 
 void Scale::chooseTouch(const QString &choice)
 {
-    const auto isWanted = truthOf(choice);
-    if (!isWanted || *isWanted == m_isForTouch)
+    if (!decide(m_isForTouch, choice))
         return;
-    addToChosen(this);
-    m_isForTouch = *isWanted;
     watchScreens();
     Q_EMIT changed();
 }

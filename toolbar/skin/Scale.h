@@ -71,6 +71,7 @@ Q_SIGNALS:
 
 private:
     static const Scale *nearestTo(const QWidget *widget);
+    bool decide(bool &wish, const QString &choice);
     void take(float factor);
     void update();
     void followFont();
