@@ -42,6 +42,7 @@ const struct
     {"one and a half", "lum", "icon16/Find", 16, 1.5, "icon24/Find"},
     {"menu", "lum", "icon16/Save", 20, 1.0, "icon20/Save"},
     {"nearest", "lum", "icon24/Find", 18, 1.0, "icon16/Find"},
+    {"for menus alone", "lum", "icon24/FullScreen", 16, 1.0, "../drawings/icon16/FullScreen"},
     {"no other", "marodi", "icon24/Stamp", 36, 1.0, "icon24/Stamp"},
     {"white for dark", "marodi", "icon24/Redo", 16, 1.0, "icon24/Redo"},
     {"dark for white", "marodi", "icon16/Redo", 24, 1.0, "icon16/Redo"},

@@ -38,10 +38,16 @@ void Presentation::giveAgain(bool lengthsAlone)
 {
     // By position: what hears of a change may open a row, whose controls are added at the end.
     for (std::size_t i = 0; i < m_given.size(); ++i) {
-        const Given given = m_given[i];
-        if (given.control && (given.isLength || !lengthsAlone))
-            given.call(given.control, given.record, *this);
+        if (m_given[i].isLength || !lengthsAlone)
+            give(i);
     }
+}
+
+void Presentation::give(std::size_t position)
+{
+    const Given given = m_given[position];
+    if (given.control)
+        given.call(given.control, given.record, *this);
 }
 
 void Presentation::setText(const QString &name, const QString &text)
@@ -83,11 +89,8 @@ void Presentation::giveAgain(const QString &name)
     findNames();
     // In the order in which they were given: a button that shows an entry comes after the entry.
     const QList<qsizetype> positions = m_positions.value(name);
-    for (const qsizetype position : positions) {
-        const Given given = m_given[static_cast<std::size_t>(position)];
-        if (given.control)
-            given.call(given.control, given.record, *this);
-    }
+    for (const qsizetype position : positions)
+        give(static_cast<std::size_t>(position));
 }
 
 void Presentation::findNames()
@@ -170,7 +173,12 @@ QIcon Presentation::icon(const Controller &record) const
 {
     if (const QIcon *given = m_byName.icon(record))
         return *given;
-    return m_appearance.icon(skinIconPath(m_directory, record.icon));
+    const auto known = m_icons.constFind(record.icon);
+    if (known != m_icons.cend())
+        return *known;
+    const QIcon icon = m_appearance.icon(skinIconPath(m_directory, record.icon));
+    // One that is missing may come with resources that are loaded later.
+    return icon.isNull() ? icon : *m_icons.insert(record.icon, icon);
 }
 
 int Presentation::length(double designLength) const

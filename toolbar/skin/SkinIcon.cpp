@@ -68,6 +68,18 @@ std::pair<bool, int> misfit(int drawnSide, int side)
     return {side % drawnSide != 0, std::abs(side - drawnSide)};
 }
 
+/** The drawing of the same thing that is made for one of the sides; empty if the skin has none. */
+QString drawingOfSide(const QString &path, int ownSide, int drawnSide)
+{
+    QString other = path;
+    other.replace(folderOf(ownSide), folderOf(drawnSide));
+    if (QFile::exists(other))
+        return other;
+    // Some that no description can name.
+    other.replace(QLatin1String("/icons/"), QLatin1String("/drawings/"));
+    return QFile::exists(other) ? other : QString();
+}
+
 /** The drawing of the same thing that is made for @p side physical pixels; if in doubt @p path. */
 QString drawingFor(const QString &path, int side)
 {
@@ -78,10 +90,10 @@ QString drawingFor(const QString &path, int side)
     QString best = path;
     int bestSide = ownSide;
     for (const int drawnSide : drawnSides) {
-        QString other = path;
-        other.replace(folderOf(ownSide), folderOf(drawnSide));
-        if (misfit(drawnSide, side) < misfit(bestSide, side) && QFile::exists(other)
-            && isForColouredStrip(other) == isForColouredStrip(path)) {
+        if (misfit(drawnSide, side) >= misfit(bestSide, side))
+            continue;
+        const QString other = drawingOfSide(path, ownSide, drawnSide);
+        if (!other.isEmpty() && isForColouredStrip(other) == isForColouredStrip(path)) {
             best = other;
             bestSide = drawnSide;
         }
@@ -101,7 +113,7 @@ public:
     void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State state) override
     {
         const qreal ratio = painter->device() ? painter->device()->devicePixelRatioF() : 1.0;
-        const QIcon drawing = drawingOfSide(qRound(qMin(rect.width(), rect.height()) * ratio));
+        const QIcon drawing = drawingOf(qRound(qMin(rect.width(), rect.height()) * ratio));
         const qreal opacity = painter->opacity();
         if (mode == QIcon::Disabled)
             painter->setOpacity(opacity * disabledIconOpacity(m_look));
@@ -113,7 +125,7 @@ public:
 
 private:
     /** Looked up when first painted: the search reads files. */
-    QIcon drawingOfSide(int side)
+    QIcon drawingOf(int side)
     {
         QIcon &drawing = m_drawings[side];
         if (drawing.isNull())

@@ -32,7 +32,7 @@ COUNTS = {
     "marodi/icons": 3, "marodi/icons/icon16": 135, "marodi/icons/icon20": 15,
     "marodi/icons/icon24": 133, "marodi/icons/icon19-22": 1,
     "lum/icons/icon16": 31, "lum/icons/icon20": 11, "lum/icons/icon24": 67,
-    "lum/icons/icon34": 1, "lum/icons/icon19-22": 1,
+    "lum/icons/icon34": 1, "lum/icons/icon19-22": 1, "lum/drawings/icon16": 8,
 }
 
 #: Icons with one drawing on two backgrounds on purpose.
@@ -138,6 +138,12 @@ _MORE_24 = {
 }
 
 
+# No description names them: they are what larger icons look like in menus and on small buttons.
+_DRAWN_16 = _glyphs(small_view, """
+    DoublePage FullScreen HandTool RotateAnticlockwise RotateClockwise SingleFlow SinglePage
+    TextSelect""")
+
+
 def _family(grid, palette, *groups):
     return [Icon(f"icons/icon{grid}/{name}.svg", glyph, grid, palette)
             for group in groups for name, glyph in group.items()]
@@ -166,6 +172,8 @@ SKINS = {
     ],
     "lum": [
         *_family(16, NEUTRAL, _LINE_16, _SEARCH_16, _FIELD_16, _ZOOM_16, _STEP_16),
+        *[icon._replace(path=icon.path.replace("icons/", "drawings/", 1))
+          for icon in _family(16, NEUTRAL, _DRAWN_16)],
         *_family(20, NEUTRAL, _FILE_20),
         *_family(24, NEUTRAL, _START_24, _MARK_24),
         # In the folder for 34 pixels but shown at 24, so it is drawn on the grid of 24.

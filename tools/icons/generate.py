@@ -79,7 +79,7 @@ def catalogue_problems():
     for path, times in Counter(paths).items():
         if times > 1:
             yield f"{path} is entered {times} times"
-    counts = Counter(str(Path(path).parent) for path in paths if "/icons/" in path)
+    counts = Counter(str(Path(path).parent) for path in paths if "/icon" in path)
     for directory in sorted(COUNTS.keys() | counts.keys()):
         have, want = counts[directory], COUNTS.get(directory, 0)
         if have != want:
@@ -110,7 +110,7 @@ def file_problems(files):
     for description, path in described():
         if path not in files:
             yield f"{description} names {path}, which no glyph is drawn for"
-    for found in sorted(RESOURCES.glob("*/icons/**/*")):
+    for found in sorted([*RESOURCES.glob("*/icons/**/*"), *RESOURCES.glob("*/drawings/**/*")]):
         path = str(found.relative_to(RESOURCES))
         if found.is_file() and path not in files:
             yield f"{path} is no icon of the catalogue"
