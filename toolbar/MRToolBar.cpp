@@ -67,6 +67,7 @@ void MRToolBar::connectToolBar()
     connect(m_toolBar, &NewToolBar::DoSearchContent, this, &MRToolBar::DoSearchContent);
     connect(m_toolBar, &NewToolBar::DoSetBackground, this, &MRToolBar::DoSetBackground);
     connect(m_toolBar, &NewToolBar::DoRequestAuthority, this, &MRToolBar::DoRequestAuthority);
+    connect(m_toolBar, &NewToolBar::DoTabShown, this, &MRToolBar::DoTabShown);
 }
 
 bool MRToolBar::GetCompositeVisible(QString objName)
@@ -217,4 +218,16 @@ void MRToolBar::DoSetControlIconSlot(QString &objName, QIcon icon)
 {
     if (m_toolBar)
         m_toolBar->SetControlIcon(objName, icon);
+}
+
+void MRToolBar::DoShowContextSlot(QString name, bool shown)
+{
+    if (m_toolBar)
+        m_toolBar->ShowContext(name, shown);
+}
+
+void MRToolBar::DoShowTabSlot(QString &objName)
+{
+    if (m_toolBar)
+        m_toolBar->ShowTab(objName);
 }

@@ -123,6 +123,11 @@ Q_SIGNALS:
     void DoSetBackground(BackgroundStyle style);
     /** Controls were just made: the host reports the states of its controls again. */
     void DoRequestAuthority();
+    /**
+     * Another tab is on show now, whoever has opened it: the user, the host by DoShowTabSlot(), or
+     * the toolbar itself when a tab is left by name or with its context. Not for the first one.
+     */
+    void DoTabShown(QString objName);
 
 public Q_SLOTS:
     /** @name Spare entry points
@@ -201,6 +206,18 @@ public Q_SLOTS:
      * is disabled. A null icon gives the described one back.
      */
     void DoSetControlIconSlot(QString &objName, QIcon icon);
+    /**
+     * Shows or hides the tabs that are described with `context` as @p name, as something of that
+     * kind is selected or not. They are hidden at first, and a tab that is hidden by its own name
+     * stays hidden. None is opened by this; if one that is hidden was open, the tab before it is
+     * opened again, or else the nearest one. Folded rows stay folded.
+     */
+    void DoShowContextSlot(QString name, bool shown);
+    /**
+     * Opens the tab of that name as a click would, and never folds it. A name that no visible and
+     * enabled tab has is ignored.
+     */
+    void DoShowTabSlot(QString &objName);
 
 private:
     void connectToolBar();

@@ -11,6 +11,7 @@
 #include "toolbar/skin/Scale.h"
 #include "toolbar/skin/Skin.h"
 #include "toolbar/widgets/ContextMenuStop.h"
+#include "toolbar/widgets/ContextTab.h"
 #include "toolbar/widgets/CustomMenuStyle.h"
 #include "toolbar/widgets/FocusOrder.h"
 #include "toolbar/widgets/FocusRing.h"
@@ -31,6 +32,8 @@
 #include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 int NewToolBar::uiStyle = 0;
 
@@ -79,6 +82,15 @@ void showTabs(const QList<QAbstractButton *> &tabs, const QList<bool> &visibleTa
 {
     for (int i = 0; i < tabs.size(); ++i)
         tabs.at(i)->setVisible(visibleTabs.value(i));
+}
+
+/** The tabs of contexts stand after the others, wherever they are described. */
+QList<QAbstractButton *> inOrderOfSight(QList<QAbstractButton *> tabs)
+{
+    std::stable_partition(tabs.begin(), tabs.end(), [](const QAbstractButton *tab) {
+        return !dynamic_cast<const ContextTab *>(tab);
+    });
+    return tabs;
 }
 
 template <typename Button>
@@ -198,9 +210,10 @@ bool NewToolBar::InitWidget()
 
     const QList<QAbstractButton *> tabs =
         m_tabButtonGroup ? m_tabButtonGroup->buttons() : QList<QAbstractButton *>();
+    const QList<QAbstractButton *> shownTabs = inOrderOfSight(tabs);
     auto *outer = new TopLineLayout(
         TopLine::makeCommands(m_appButtonWidgets.objects(), m_quickAccessBar, customise),
-        new TabStrip(TopLine::makeTabs(tabs)),
+        new TabStrip(TopLine::makeTabs(shownTabs)),
         TopLine::makeSearch(m_searchBar, m_searchSetButton, additional));
     outer->setSearchField(m_searchBar);
     m_topWidget->setLayout(outer);
@@ -212,7 +225,7 @@ bool NewToolBar::InitWidget()
     // The Tab key goes along the top line, then down to the row.
     QWidgetList line = m_appButtonWidgets.objects() + buttonsOf<QToolButton>(m_quickAccessBar);
     line.append(customise);
-    line += QWidgetList(tabs.begin(), tabs.end());
+    line += QWidgetList(shownTabs.begin(), shownTabs.end());
     line.append(m_searchBar);
     line += buttonsOf<QPushButton>(m_searchBar);
     line.append(m_searchSetButton);

@@ -85,6 +85,8 @@ public:
     void SetControlText(const QString &name, const QString &text);
     void SetControlToolTip(const QString &name, const QString &tip);
     void SetControlIcon(const QString &name, const QIcon &icon);
+    void ShowContext(const QString &name, bool shown);
+    void ShowTab(const QString &name);
     /** @} */
 
     /** The skin's directory of resources, with its trailing slash. */
@@ -130,6 +132,7 @@ Q_SIGNALS:
     void DoSearchContent(SearchOption opt);
     void DoSetBackground(BackgroundStyle style);
     void DoRequestAuthority();
+    void DoTabShown(QString objName);
     /** @} */
 
 public Q_SLOTS:
@@ -189,6 +192,7 @@ private:
     bool AddToolBarAction(const QList<Controller *> &records, QToolBar *row, bool ignored,
                           bool addToRow);
     bool makeCommand(const CommandPlace &place);
+    void addPeek();
     QWidget *CreateExtraGroup(const QList<Controller *> &children);
     QWidget *CreateButtonGroupWidget(const QList<Controller *> &children, QToolBar *row);
     void CreateActionGroup(const QString &name, QObject *row);

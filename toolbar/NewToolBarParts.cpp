@@ -156,6 +156,7 @@ NewToolBar::Parts::Parts(NewToolBar &toolBar)
     connect(&recentFiles, &RecentFiles::clearing, &toolBar, &NewToolBar::DoActive);
     connect(&tabs, &ToolRows::rowNeeded, &toolBar,
             [this](MRMainToolBar *row) { receiver.fillRow(row); });
+    connect(&tabs, &ToolRows::tabShown, &toolBar, &NewToolBar::DoTabShown);
     connect(&zoom, &ZoomBox::shown, &toolBar, [&toolBar](const QString &mode) {
         checkZoomButton(toolBar.m_actionGroups.first(Group::zoom), mode);
     });

@@ -8,12 +8,16 @@
 #include "toolbar/description/CommandPlaces.h"
 #include "toolbar/description/Controller.h"
 #include "toolbar/description/Sections.h"
+#include "toolbar/state/TabDoubleClicks.h"
 #include "toolbar/widgets/MRMainToolBar.h"
+#include "toolbar/widgets/RowPeek.h"
 
 #include <QButtonGroup>
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 QButtonGroup *NewToolBar::CreateTabBar(QList<bool> &visibleTabs)
 {
@@ -23,7 +27,7 @@ QButtonGroup *NewToolBar::CreateTabBar(QList<bool> &visibleTabs)
     if (m_controllers.isEmpty())
         return nullptr;
 
-    int shownTab = 0;
+    int shownTab = -1;
     const TabMaker maker(m_parts->factory, m_alignment);
     const QList<Controller *> tabs = sectionRecords(m_controllers, Section::tabBar);
     for (int position = 0; position < tabs.size(); ++position) {
@@ -33,22 +37,26 @@ QButtonGroup *NewToolBar::CreateTabBar(QList<bool> &visibleTabs)
         group->addButton(button);
         m_tabButtons.append(button);
         visibleTabs.append(tab.visible);
-        if (tab.checked)
+        // Without a checked tab the first one that is there from the beginning.
+        if (TabMaker::isOpenAtFirst(tab) || (shownTab < 0 && tab.context.isEmpty()))
             shownTab = position;
 
         QWidget *page = TabMaker::addPage(m_toolRowStack);
         if (tab.children.isEmpty())
             continue;
         MRMainToolBar *row = maker.addRow(page, tab);
-        if (tab.checked)
+        if (TabMaker::isOpenAtFirst(tab))
             AddToolBarAction(tab.children, row, false, true);
         m_toolBars.insert(tab.name, row);
         if (tab.scalable)
             m_extraGroups.append(
                 TabMaker::addExtraGroup(page, CreateExtraGroup(tab.children), tab));
     }
-    if (!tabs.isEmpty())
-        m_parts->tabs.showFirst(shownTab, tabs.at(shownTab)->visible, tabs.at(shownTab)->checked);
+    if (!tabs.isEmpty()) {
+        shownTab = std::max(shownTab, 0);
+        const Controller &first = *tabs.at(shownTab);
+        m_parts->tabs.showFirst(shownTab, first.visible, TabMaker::isOpenAtFirst(first));
+    }
     return group;
 }
 
@@ -56,6 +64,35 @@ void NewToolBar::Inner_DoUpdateMainToolBarSlot()
 {
     if (const auto *tab = qobject_cast<QPushButton *>(sender()))
         m_parts->tabs.click(tab);
+}
+
+void NewToolBar::ShowContext(const QString &name, bool shown)
+{
+    m_parts->tabs.showContext(name, shown);
+}
+
+void NewToolBar::ShowTab(const QString &name)
+{
+    m_parts->tabs.show(name);
+}
+
+void NewToolBar::addPeek()
+{
+    auto *peek = new RowPeek(this, m_mainLayout, m_toolRowStack);
+    m_parts->tabs.usePeek(peek);
+    if (m_tabButtonGroup)
+        new TabDoubleClicks(m_parts->tabs, m_tabButtonGroup->buttons(), peek);
+    // Whatever the user does is over before the host does it.
+    connect(this, &NewToolBar::DoActive, peek, &RowPeek::end);
+    connect(this, &NewToolBar::DoDoubleActive, peek, &RowPeek::end);
+    connect(this, &NewToolBar::DoGotoPage, peek, &RowPeek::end);
+    connect(this, &NewToolBar::DoOpenFile, peek, &RowPeek::end);
+    connect(this, &NewToolBar::DoSetZoomMode, peek, [this, peek] {
+        if (!m_parts->zoom.isReportingBack())
+            peek->end();
+    });
+    connect(this, &NewToolBar::DoSearchContent, peek, &RowPeek::end);
+    connect(this, &NewToolBar::DoSetBackground, peek, &RowPeek::end);
 }
 
 bool NewToolBar::InitMainToolBar(QString index)

@@ -166,6 +166,7 @@ QString NewToolBar::GetQuickAccessButtonList()
 QList<QWidget *> NewToolBar::CreateAddtionalControl()
 {
     QList<QWidget *> controls;
+    bool hasPeek = false;
     const AdditionalMaker maker(m_parts->factory);
     const auto take = [this, &controls](QPushButton *button) {
         connect(button, &QPushButton::clicked, this,
@@ -181,8 +182,11 @@ QList<QWidget *> NewToolBar::CreateAddtionalControl()
         if (record->name == Name::fold) {
             m_foldButton = button;
             m_unfoldButton = take(maker.makeUnfoldButton(button, *record));
+            hasPeek = hasPeek || record->peek;
         }
     }
+    if (hasPeek)
+        addPeek();
     return controls;
 }
 

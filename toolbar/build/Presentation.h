@@ -98,6 +98,8 @@ public:
     /** Empty if the skin has no such icon. */
     QIcon icon(const Controller &record) const;
 
+    const Appearance &appearance() const { return m_appearance; }
+
     /** What is set by name, for controls that do not show what is described; else nothing. */
     QString toolTipByName(const Controller &record) const;
     QIcon iconByName(const Controller &record) const;

@@ -7,6 +7,7 @@
 #include "toolbar/build/Presentation.h"
 #include "toolbar/description/Controller.h"
 #include "toolbar/description/Names.h"
+#include "toolbar/widgets/ContextTab.h"
 #include "toolbar/widgets/MRMainToolBar.h"
 #include "toolbar/widgets/MRScrollWidget.h"
 
@@ -28,6 +29,15 @@ Qt::Alignment rowAlignment(ToolBarAlignment alignment)
         break;
     }
     return Qt::AlignCenter;
+}
+
+QPushButton *makeBareButton(const Controller &tab, const Appearance &appearance)
+{
+    if (tab.context.isEmpty())
+        return new QPushButton;
+    // As it is described; a colour by another notation is none.
+    const bool isColour = tab.contextcolour.size() == 7 && tab.contextcolour.startsWith('#');
+    return new ContextTab(tab.context, isColour ? QColor(tab.contextcolour) : QColor(), appearance);
 }
 
 void showTab(QPushButton *button, const Controller &tab, const Presentation &how)
@@ -55,16 +65,21 @@ TabMaker::TabMaker(const ControlFactory &factory, ToolBarAlignment alignment)
 {
 }
 
+bool TabMaker::isOpenAtFirst(const Controller &tab)
+{
+    return tab.checked && tab.context.isEmpty();
+}
+
 QPushButton *TabMaker::makeButton(const Controller &tab, int position) const
 {
-    auto *button = new QPushButton;
+    QPushButton *button = makeBareButton(tab, m_factory.presentation().appearance());
     button->setProperty(Property::inToolBar, "true");
     m_factory.presentation().show<&showTab>(button, tab);
     addDisabledTip(button, tab, m_factory.presentation());
     button->setObjectName(tab.name);
     button->setProperty(Property::tabIndex, QByteArray::number(position).constData());
     button->setCheckable(tab.checkable);
-    button->setChecked(tab.checked);
+    button->setChecked(isOpenAtFirst(tab));
     button->hide();
     button->setFlat(true);
     button->setProperty(Property::module, Module::tabButton);
@@ -84,7 +99,7 @@ MRMainToolBar *TabMaker::makeRow(const Controller &tab) const
     m_factory.presentation().fit<&fitRow>(row);
     row->setAcceptDrops(false);
     row->setProperty(Property::module, Module::toolRow);
-    row->setFilled(tab.checked);
+    row->setFilled(isOpenAtFirst(tab));
     return row;
 }
 

@@ -103,8 +103,13 @@ void ZoomBox::showEntry(int index)
         m_box->setCurrentIndex(index);
     }
     m_box->clearFocus();
-    if (hasMoved)
-        choose(m_box->currentText());
+    if (!hasMoved)
+        return;
+    const QPointer<ZoomBox> self(this);
+    m_isReportingBack = true;
+    choose(m_box->currentText());
+    if (self)
+        m_isReportingBack = false;
 }
 
 void ZoomBox::setTypable(QComboBox *box, bool isTypable)

@@ -41,6 +41,9 @@ public:
      */
     void showMode(const QString &mode);
 
+    /** Whether a zoom is being reported back that the host has reported itself. */
+    bool isReportingBack() const { return m_isReportingBack; }
+
     /** The user has chosen or typed @p text. */
     void choose(const QString &text);
 
@@ -71,4 +74,5 @@ private:
     QStringList m_texts; ///< Of these, as described.
     int m_index = 0;     ///< Of the entry on show; beyond the predefined ones for any other zoom.
     QString m_customText;
+    bool m_isReportingBack = false;
 };

@@ -90,6 +90,11 @@ void Appearance::update()
     Q_EMIT SchemeNotifier::instance()->changed();
 }
 
+QColor Appearance::accent() const
+{
+    return m_colours ? m_colours->accent : QColor(sheetColour(m_mainColour));
+}
+
 QIcon Appearance::icon(const QString &path)
 {
     const auto known = m_icons.constFind(path);

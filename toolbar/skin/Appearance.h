@@ -35,6 +35,9 @@ public:
     /** The colours of the scheme; null while it is light. */
     const SchemeColours *colours() const { return m_colours ? &*m_colours : nullptr; }
 
+    /** The colour of the accents: that of the scheme, or the main colour while it is light. */
+    QColor accent() const;
+
     /** The icon of a file or resource, which follows the scheme; see followingIcon(). */
     QIcon icon(const QString &path);
 

@@ -56,6 +56,17 @@ QColor Contrast::lightened(const QColor &colour, const QColor &ground, double ra
     return QColor(lighter.rgb());
 }
 
+QColor Contrast::standingOut(const QColor &colour, const QColor &ground, double ratio)
+{
+    constexpr double step = 0.02;
+    const QColor end = textOn(ground);
+    QColor result(colour.rgb());
+    for (double share = step; Contrast::ratio(result, ground) < ratio && share <= 1.0;
+         share += step)
+        result = mixed(colour, end, share);
+    return result;
+}
+
 QColor Contrast::textOn(const QColor &ground)
 {
     return isDark(ground) ? Qt::white : Qt::black;

@@ -23,6 +23,9 @@ QColor mixed(const QColor &first, const QColor &second, double share);
  */
 QColor lightened(const QColor &colour, const QColor &ground, double ratio);
 
+/** The colour itself, or the nearest lighter or darker one that reaches @p ratio on @p ground. */
+QColor standingOut(const QColor &colour, const QColor &ground, double ratio);
+
 /** Black or white, whichever is read better on the ground. */
 QColor textOn(const QColor &ground);
 

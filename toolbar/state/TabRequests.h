@@ -39,6 +39,7 @@ public:
         return isNew;
     }
     void endLeaving(int tab) { m_left.remove(tab); }
+    bool isLeaving() const { return !m_left.isEmpty(); }
 
 private:
     int m_tab = 0;

@@ -4,13 +4,18 @@
 #include "toolbar/state/ToolRows.h"
 
 #include "toolbar/description/Names.h"
+#include "toolbar/widgets/ContextTab.h"
 #include "toolbar/widgets/MRMainToolBar.h"
 #include "toolbar/widgets/MRScrollWidget.h"
+#include "toolbar/widgets/RowPeek.h"
 
 #include <QButtonGroup>
 #include <QPointer>
 #include <QPushButton>
 #include <QStackedWidget>
+
+#include <cstdlib>
+#include <utility>
 
 namespace {
 
@@ -43,11 +48,33 @@ ToolRows::ToolRows(const Members &members)
 {
 }
 
+void ToolRows::usePeek(RowPeek *peek)
+{
+    m_peek = peek;
+}
+
 void ToolRows::click(const QAbstractButton *tab)
+{
+    // A tab that is left by name is no reason to lay rows over the pages.
+    request(tab, m_peek && m_requests.isLeaving() ? By::Return : By::Click);
+}
+
+void ToolRows::show(const QString &name)
+{
+    for (const QPushButton *tab : m_members.tabs) {
+        if (tab && tab->objectName() == name && !tab->isHidden() && tab->isEnabled()) {
+            request(tab, By::Call);
+            return;
+        }
+    }
+}
+
+void ToolRows::request(const QAbstractButton *tab, By by)
 {
     const int position = tab->property(Property::tabIndex).toInt();
     // A click on the tab on show while a tab is being opened returns to it.
-    const bool folds = position == m_members.stack->currentIndex() && !m_requests.isPending();
+    const bool folds =
+        by == By::Click && position == m_members.stack->currentIndex() && !m_requests.isPending();
     const int request = m_requests.ask(position);
     auto *row = qobject_cast<MRMainToolBar *>(m_members.rows.value(tab->objectName()));
     const bool isNew = row && !row->isFilled();
@@ -57,13 +84,17 @@ void ToolRows::click(const QAbstractButton *tab)
         // In its answer the host may have deleted the toolbar or let another tab be opened.
         if (!self || !m_requests.isLast(request))
             return;
+        if (isContextHidden(position)) {
+            m_requests.settle(m_members.stack->currentIndex());
+            return;
+        }
     }
     if (!folds || isNew) {
-        open(position);
+        open(position, by);
         return;
     }
     m_requests.settle(position);
-    setFolded(m_members.stack->isVisible());
+    toggleFolded();
 }
 
 void ToolRows::toggle(int tab)
@@ -71,7 +102,17 @@ void ToolRows::toggle(int tab)
     if (tab == m_members.stack->currentIndex())
         setFolded(m_members.stack->isVisible());
     else
-        open(tab);
+        open(tab, By::Click);
+}
+
+void ToolRows::toggleFolded()
+{
+    if (!m_peek || !m_isFolded || !m_isRowWanted)
+        setFolded(m_members.stack->isVisible());
+    else if (m_peek->isActive())
+        m_peek->end();
+    else
+        bringIntoView(By::Click);
 }
 
 void ToolRows::showFirst(int tab, bool isVisible, bool isChecked)
@@ -79,22 +120,102 @@ void ToolRows::showFirst(int tab, bool isVisible, bool isChecked)
     showPage(tab);
     // A stack shows one page; that of a hidden tab is hidden with it.
     m_members.stack->currentWidget()->setVisible(isVisible);
-    if (isChecked)
-        checkOnly(m_members.tabs.at(tab));
+    m_opened = {tab};
+    if (!isChecked)
+        return;
+    m_announced = tab;
+    checkOnly(m_members.tabs.at(tab));
 }
 
-void ToolRows::open(int tab)
+void ToolRows::open(int tab, By by)
 {
+    const QPointer<ToolRows> self(this);
     showPage(tab);
     // Leaving a tab by name has hidden its row; opening the tab brings it back.
     if (m_members.currentRow && m_isRowWanted)
         m_members.currentRow->show();
     showExtraGroups(currentTab());
+    bringIntoView(by);
+    // Last, as the host may listen to the tabs.
+    QPushButton *shown = self ? m_members.tabs.at(m_members.stack->currentIndex()) : nullptr;
+    if (shown)
+        checkOnly(shown);
+    if (self)
+        announce();
+}
+
+void ToolRows::bringIntoView(By by)
+{
+    if (by == By::Return && m_isFolded)
+        return;
+    if (m_peek && m_isFolded && m_isRowWanted && m_peek->begin())
+        return;
     if (!m_members.stack->isVisible())
         setFolded(false);
-    // Last, as the host may listen to the tabs.
-    if (QPushButton *shown = m_members.tabs.at(m_members.stack->currentIndex()))
-        checkOnly(shown);
+}
+
+void ToolRows::announce()
+{
+    const int tab = m_members.stack->currentIndex();
+    if (tab == m_announced)
+        return;
+    m_announced = tab;
+    m_opened.removeOne(tab);
+    m_opened.append(tab);
+    Q_EMIT tabShown(currentTab());
+}
+
+bool ToolRows::isContextHidden(int tab) const
+{
+    const auto *contextTab = dynamic_cast<const ContextTab *>(m_members.tabs.at(tab));
+    return contextTab && !contextTab->isContextShown();
+}
+
+void ToolRows::showContext(const QString &context, bool isShown)
+{
+    const QPointer<ToolRows> self(this);
+    const QList<QPushButton *> tabs = m_members.tabs.objects();
+    for (QPushButton *tab : tabs) {
+        auto *contextTab = dynamic_cast<ContextTab *>(tab);
+        if (contextTab && contextTab->context() == context)
+            contextTab->setContextShown(isShown);
+        if (!self)
+            return;
+    }
+    leaveHiddenContext();
+}
+
+void ToolRows::leaveHiddenContext()
+{
+    // A tab that is being opened is the next one already.
+    const bool isMovingOn = m_requests.isPending() && !isContextHidden(m_requests.tab());
+    if (isMovingOn || !m_members.stack || !isContextHidden(m_members.stack->currentIndex()))
+        return;
+    if (m_peek)
+        m_peek->end();
+    if (const QAbstractButton *tab = tabToReturnTo())
+        request(tab, By::Return);
+}
+
+const QAbstractButton *ToolRows::tabToReturnTo() const
+{
+    for (auto tab = m_opened.crbegin(); tab != m_opened.crend(); ++tab) {
+        const QPushButton *button = m_members.tabs.at(*tab);
+        if (button && !button->isHidden() && button->isEnabled())
+            return button;
+    }
+    const int current = m_members.stack->currentIndex();
+    const QPushButton *nearest = nullptr;
+    int least = 0;
+    for (int i = 0; i < m_members.stack->count(); ++i) {
+        const QPushButton *button = m_members.tabs.at(i);
+        const int distance = std::abs(i - current);
+        if (button && !button->isHidden() && (!nearest || distance < least)) {
+            nearest = button;
+            least = distance;
+        }
+    }
+    return nearest;
 }
 
 void ToolRows::showPage(int tab)
@@ -119,8 +240,12 @@ bool ToolRows::leaveTab(const QAbstractButton *tab)
     // A tab that is being opened is the next one already.
     if (m_requests.tab() == position) {
         const QList<QAbstractButton *> buttons = tab->group()->buttons();
-        const auto left = buttons.indexOf(const_cast<QAbstractButton *>(tab));
-        buttons.at((left + 1) % buttons.size())->click();
+        auto next = buttons.indexOf(const_cast<QAbstractButton *>(tab));
+        // The tab of a hidden context cannot be opened.
+        do
+            next = (next + 1) % buttons.size();
+        while (buttons.at(next) != tab && isContextHidden(static_cast<int>(next)));
+        buttons.at(next)->click();
     }
     if (self)
         m_requests.endLeaving(position);
@@ -129,13 +254,19 @@ bool ToolRows::leaveTab(const QAbstractButton *tab)
 
 void ToolRows::setFolded(bool isFolded)
 {
+    if (m_peek)
+        m_peek->end();
     showFoldButtons(isFolded);
     setVisible(m_members.stack, !isFolded);
+    if (std::exchange(m_isFolded, isFolded) != isFolded)
+        Q_EMIT foldedChanged(isFolded);
 }
 
 void ToolRows::setShown(bool isShown)
 {
     m_isRowWanted = isShown;
+    if (m_peek && !isShown)
+        m_peek->end();
     if (!m_members.currentRow)
         return;
 
@@ -148,6 +279,8 @@ ToolRows::State ToolRows::state() const
 {
     if (!m_members.currentRow)
         return State::None;
+    if (m_peek && m_peek->isActive())
+        return State::Hidden;
     const QWidget *toolBar = m_members.stack->parentWidget();
     return m_members.currentRow->isVisibleTo(toolBar) ? State::Shown : State::Hidden;
 }
