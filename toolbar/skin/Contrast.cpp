@@ -56,14 +56,12 @@ QColor Contrast::lightened(const QColor &colour, const QColor &ground, double ra
     return QColor(lighter.rgb());
 }
 
-QColor Contrast::standingOut(const QColor &colour, const QColor &ground, double ratio)
+QColor Contrast::towards(const QColor &colour, const QColor &end, const QColor &other, double ratio)
 {
-    constexpr double step = 0.02;
-    const QColor end = textOn(ground);
+    constexpr int steps = 50;
     QColor result(colour.rgb());
-    for (double share = step; Contrast::ratio(result, ground) < ratio && share <= 1.0;
-         share += step)
-        result = mixed(colour, end, share);
+    for (int step = 1; Contrast::ratio(result, other) < ratio && step <= steps; ++step)
+        result = mixed(colour, end, static_cast<double>(step) / steps);
     return result;
 }
 

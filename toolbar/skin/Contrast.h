@@ -23,8 +23,8 @@ QColor mixed(const QColor &first, const QColor &second, double share);
  */
 QColor lightened(const QColor &colour, const QColor &ground, double ratio);
 
-/** The colour itself, or the nearest lighter or darker one that reaches @p ratio on @p ground. */
-QColor standingOut(const QColor &colour, const QColor &ground, double ratio);
+/** The colour with as much of @p end in it as it takes to reach @p ratio with @p other. */
+QColor towards(const QColor &colour, const QColor &end, const QColor &other, double ratio);
 
 /** Black or white, whichever is read better on the ground. */
 QColor textOn(const QColor &ground);

@@ -13,12 +13,11 @@
 #include <QStyleOptionButton>
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace {
 
-constexpr double textContrast = 4.5;
 constexpr double lineContrast = 3.0;
-constexpr double tintContrast = 1.5; ///< Less is not seen as another colour.
 
 // At 96 dpi, in pixels.
 constexpr double lineWidth = 2.0;
@@ -35,6 +34,16 @@ double shareOfTint(const QStyleOptionButton &option)
     if (option.state.testFlag(QStyle::State_On))
         return isHovered ? 0.85 : 1.0;
     return isHovered ? 0.3 : 0.16;
+}
+
+/** A tint that can hardly be told from the ground shows by its lightness. */
+QColor tellable(const QColor &tint, const QColor &ground, const QColor &end)
+{
+    constexpr int leastDistance = 90;
+    const int distance = std::abs(tint.red() - ground.red())
+                         + std::abs(tint.green() - ground.green())
+                         + std::abs(tint.blue() - ground.blue());
+    return distance < leastDistance ? Contrast::towards(tint, end, ground, 1.5) : tint;
 }
 
 } // namespace
@@ -67,41 +76,47 @@ QColor ContextTab::ground() const
     return line ? line->palette().color(line->backgroundRole()) : palette().color(QPalette::Window);
 }
 
-QRect ContextTab::bevel() const
+ContextTab::Colours ContextTab::colours(const QStyleOptionButton &option) const
 {
-    QStyleOptionButton option;
-    initStyleOption(&option);
-    return style()->subElementRect(QStyle::SE_PushButtonBevel, &option, this);
+    const SchemeLook &look = m_appearance.look();
+    const double textContrast = look.scheme == Scheme::Contrast ? 7.0 : 4.5;
+    const QColor around = ground();
+    const QColor read = palette().color(QPalette::Active, QPalette::ButtonText);
+    const QColor given = m_colour.isValid() ? m_colour : m_appearance.accent();
+    const QColor tint = tellable(given, around, Contrast::textOn(read));
+
+    // On the checked tabs of the skins texts are white, and in dark schemes what is read best.
+    Colours result;
+    result.ground = Contrast::mixed(around, tint, shareOfTint(option));
+    result.text = read;
+    if (option.state.testFlag(QStyle::State_On))
+        result.text = look.isLight() ? QColor(Qt::white) : Contrast::textOn(result.ground);
+    result.ground =
+        Contrast::towards(result.ground, Contrast::textOn(result.text), result.text, textContrast);
+    result.line = Contrast::towards(tint, result.text, result.ground, lineContrast);
+    if (!option.state.testFlag(QStyle::State_Enabled)) {
+        result.text = Contrast::mixed(result.ground, result.text, 0.45);
+        result.line = Contrast::mixed(result.ground, result.line, 0.45);
+    }
+    return result;
 }
 
 void ContextTab::paintEvent(QPaintEvent *)
 {
     QStyleOptionButton option;
     initStyleOption(&option);
-    const QColor around = ground();
-    const QColor given = m_colour.isValid() ? m_colour : m_appearance.accent();
-    const QColor tint = Contrast::standingOut(given, around, tintContrast);
-    const QColor own = Contrast::mixed(around, tint, shareOfTint(option));
-    QColor text = palette().color(QPalette::Active, QPalette::ButtonText);
-    if (Contrast::ratio(text, own) < textContrast)
-        text = Contrast::textOn(own);
-    QColor line = Contrast::standingOut(tint, own, lineContrast);
-    if (!isEnabled()) {
-        text = Contrast::mixed(own, text, 0.45);
-        line = Contrast::mixed(own, line, 0.45);
-    }
-
-    const QRectF place(bevel());
+    const Colours used = colours(option);
+    const QRectF place(style()->subElementRect(QStyle::SE_PushButtonBevel, &option, this));
     const double radius = Skin::isLum() ? place.height() / 2 : 0;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(own);
+    painter.setBrush(used.ground);
     painter.drawRoundedRect(place, radius, radius);
-    drawLine(painter, place, line);
-    QPalette colours = palette();
-    colours.setColor(QPalette::ButtonText, text);
-    drawLabel(painter, place.toRect(), colours);
+    drawLine(painter, place, used.line);
+    QPalette textPalette = palette();
+    textPalette.setColor(QPalette::ButtonText, used.text);
+    drawLabel(painter, place.toRect(), textPalette);
 }
 
 void ContextTab::drawLine(QPainter &painter, const QRectF &bevel, const QColor &colour) const

@@ -7,6 +7,7 @@
 #include <QPushButton>
 
 class Appearance;
+class QStyleOptionButton;
 
 /**
  * The tab of a context: the host shows it while something is selected. It is visible while its
@@ -33,7 +34,14 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    QRect bevel() const;
+    struct Colours
+    {
+        QColor ground;
+        QColor line;
+        QColor text;
+    };
+
+    Colours colours(const QStyleOptionButton &option) const;
     /** The ground of the line of the tabs. */
     QColor ground() const;
     void drawLine(QPainter &painter, const QRectF &bevel, const QColor &colour) const;
