@@ -100,6 +100,18 @@ constexpr Fault faults[]{
     {document, "warning checked-tabs 3",
      "<toolbar_tabbar><tabbutton name='a' checkable='true' checked='true'/>\n"
      "<tabbutton name='b' checkable='true' checked='true'/></toolbar_tabbar>"},
+    {document, "warning context-checked 3",
+     "<toolbar_tabbar><tabbutton name='a' checkable='true' checked='true'/>\n"
+     "<tabbutton name='b' checkable='true' context='c' checked='true'/></toolbar_tabbar>"},
+    {tools, "",
+     "<button action='a'/></tabbutton><tabbutton name='b' checkable='true' context='c' "
+     "contextcolour='#00aaFF'>"},
+    {tools, "warning contextcolour-text 4",
+     "<button action='a'/></tabbutton>\n<tabbutton name='b' context='c' contextcolour='red'>"},
+    {tools, "warning contextcolour-without-context 4",
+     "<button action='a'/></tabbutton>\n<tabbutton name='b' contextcolour='#00aaff'>"},
+    {document, "warning peek-without-fold 2",
+     "<toolbar_addtional><button action='a' peek='true'/></toolbar_addtional>"},
     {document, "error search-button-name 2",
      "<toolbar_searchbar><button action='find'/></toolbar_searchbar>"},
     {document, "error search-without-buttons 2",

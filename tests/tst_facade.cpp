@@ -120,6 +120,7 @@ private Q_SLOTS:
             "Inner_DoSetSkinStyle(ToolBarSkinStyle) DoGotoPage(int) DoActive(QString) "
             "DoDoubleActive(QString) DoOpenFile(QString) DoSetZoomMode(QString) "
             "DoSearchContent(SearchOption) DoSetBackground(BackgroundStyle) DoRequestAuthority() "
+            "DoTabShown(QString) "
             "Inner_DoGotoPageSlot(int) Inner_DoActiveSlot(QString) "
             "Inner_DoDoubleActionSlot(QString) "
             "Inner_DoOpenFileSlot(QString) Inner_DoSetZoomModeSlot(QString) "
@@ -131,7 +132,8 @@ private Q_SLOTS:
             "DoSetControlVisibleStateSlot(QString&,bool) DoSetBackgroundSlot(BackgroundStyle) "
             "DoSetSkinStyleSlot(ToolBarSkinStyle) DoResetToolbarSlot() DoSetFocusSlot(QString) "
             "DoSetScaleSlot(double) DoSetControlTextSlot(QString&,QString) "
-            "DoSetControlToolTipSlot(QString&,QString) DoSetControlIconSlot(QString&,QIcon)";
+            "DoSetControlToolTipSlot(QString&,QString) DoSetControlIconSlot(QString&,QIcon) "
+            "DoShowContextSlot(QString,bool) DoShowTabSlot(QString&)";
         const QMetaObject &metaObject = MRToolBar::staticMetaObject;
         QStringList declared;
         for (int i = metaObject.methodOffset(); i < metaObject.methodCount(); ++i)

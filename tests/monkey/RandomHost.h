@@ -44,15 +44,15 @@ public:
     QString step()
     {
         using Act = QString (RandomHost::*)();
-        static const QList<Act> acts{&RandomHost::setPages,       &RandomHost::setZoom,
-                                     &RandomHost::setRecentFiles, &RandomHost::setSkin,
-                                     &RandomHost::setBackground,  &RandomHost::reset,
-                                     &RandomHost::resize,         &RandomHost::enableEverything,
-                                     &RandomHost::setLook,        &RandomHost::setTexts};
-        const int kind = m_random.below(18);
+        static const QList<Act> acts{
+            &RandomHost::setPages, &RandomHost::setZoom,          &RandomHost::setRecentFiles,
+            &RandomHost::setSkin,  &RandomHost::setBackground,    &RandomHost::reset,
+            &RandomHost::resize,   &RandomHost::enableEverything, &RandomHost::setLook,
+            &RandomHost::setTexts, &RandomHost::selectSomething};
+        const int kind = m_random.below(19);
         if (kind < acts.size())
             return (this->*acts.at(kind))();
-        return kind < 13 ? ask() : setState();
+        return kind < 14 ? ask() : setState();
     }
 
     /** Reports every control as usable, as hosts do on DoRequestAuthority(). */
@@ -209,6 +209,17 @@ private:
             m_facade->DoSetControlIconSlot(name, m_random.oneIn(2) ? m_icon : QIcon());
         }
         return "texts of " + name.left(40);
+    }
+
+    QString selectSomething()
+    {
+        static const QStringList contexts{"", "text", "unknown"};
+        const QString context = m_random.oneOf<QString>(contexts);
+        m_facade->DoShowContextSlot(context, m_random.oneIn(2));
+        QString name = anyName();
+        if (m_random.oneIn(3))
+            m_facade->DoShowTabSlot(name);
+        return "context " + context;
     }
 
     QString setBackground()

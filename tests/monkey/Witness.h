@@ -101,6 +101,7 @@ public:
         connect(&facade, &MRToolBar::DoSetBackground, this, [this] { hear("DoSetBackground"); });
         connect(&facade, &MRToolBar::DoRequestAuthority, this,
                 [this] { hear("DoRequestAuthority"); });
+        connect(&facade, &MRToolBar::DoTabShown, this, [this] { hear("DoTabShown"); });
     }
 
     void checkTree(const QMainWindow &window)

@@ -4,6 +4,8 @@
 #include "tools/check/Rules.h"
 #include "tools/check/Vocabulary.h"
 
+#include <QRegularExpression>
+
 #include <functional>
 
 namespace {
@@ -78,7 +80,7 @@ void checkTabs(const SourceDocument &document, Findings &findings)
     const Elements tabs =
         chosen(document, [](const SourceElement &one) { return one.role == Role::Tab; });
     const Elements checked = chosen(document, [](const SourceElement &one) {
-        return one.role == Role::Tab && one.record.checked;
+        return one.role == Role::Tab && one.record.checked && one.record.context.isEmpty();
     });
     if (!tabs.isEmpty() && checked.isEmpty())
         findings.warn("no-checked-tab", tabs.first()->position,
@@ -92,6 +94,37 @@ void checkTabs(const SourceDocument &document, Findings &findings)
                               .arg(checked.first()->record.name)
                               .arg(checked.first()->position.line));
     }
+}
+
+bool isColour(const QString &text)
+{
+    static const QRegularExpression form(QStringLiteral("^#[0-9A-Fa-f]{6}$"));
+    return form.match(text).hasMatch();
+}
+
+void checkContext(const SourceElement &tab, Findings &findings)
+{
+    const QString &colour = tab.record.contextcolour;
+    if (tab.record.checked && !tab.record.context.isEmpty())
+        findings.warn("context-checked", tab.positionOf("checked"),
+                      QStringLiteral("'checked' does nothing on the tab of a context, which is "
+                                     "hidden at first; check another tab"));
+    if (!colour.isEmpty() && tab.record.context.isEmpty())
+        findings.warn("contextcolour-without-context", tab.positionOf("contextcolour"),
+                      QStringLiteral("without 'context' a tab is not tinted"));
+    else if (!colour.isEmpty() && !isColour(colour))
+        findings.warn(
+            "contextcolour-text", tab.positionOf("contextcolour"),
+            QStringLiteral("\"%1\" is no colour such as \"#C0392B\", so the tab is tinted "
+                           "with the accent")
+                .arg(colour));
+}
+
+void checkPeek(const SourceElement &button, Findings &findings)
+{
+    if (button.record.peek && button.record.name != QLatin1String("t_fold"))
+        findings.warn("peek-without-fold", button.positionOf("peek"),
+                      QStringLiteral("'peek' does something on 't_fold' only"));
 }
 
 void checkSearchBar(const SourceDocument &document, Findings &findings)
@@ -137,5 +170,9 @@ void Rules::checkSpecialControls(const SourceDocument &document, Findings &findi
             checkRecentFiles(document, element, findings);
         else if (element.role == Role::ExtraField && !element.children.isEmpty())
             checkExtraField(document, element, findings);
+        else if (element.role == Role::Tab)
+            checkContext(element, findings);
+        else if (element.role == Role::AdditionalButton)
+            checkPeek(element, findings);
     }
 }

@@ -74,6 +74,9 @@ void SignalLog::listenTo(const MRToolBar &toolBar)
     connect(&toolBar, &MRToolBar::DoSetBackground, this, &SignalLog::addBackground);
     connect(&toolBar, &MRToolBar::DoRequestAuthority, this,
             [this] { add(QStringLiteral("DoRequestAuthority()")); });
+    connect(&toolBar, &MRToolBar::DoTabShown, this, [this](const QString &name) {
+        add(QStringLiteral("DoTabShown(%1)").arg(quoted(name)));
+    });
 }
 
 void SignalLog::add(const QString &line)

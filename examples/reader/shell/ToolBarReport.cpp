@@ -9,6 +9,9 @@
 
 namespace {
 
+/** The context of descriptions with tabs for the text that is selected. */
+const QString textContext = QStringLiteral("text");
+
 const QString originalMode = QStringLiteral("vzmode_original");
 
 QStringList panelNames()
@@ -42,6 +45,7 @@ void ToolBarReport::tellAll(const ReaderState &state)
 {
     m_told = state;
     tellUsable(state);
+    m_toolBar.DoShowContextSlot(textContext, state.hasSelection);
     tellTexts();
     tellPage();
     tellZoom();
@@ -58,6 +62,8 @@ void ToolBarReport::tellChanges(const ReaderState &state)
     if (before.undoText != state.undoText || before.redoText != state.redoText
         || before.isFullScreen != state.isFullScreen)
         tellTexts();
+    if (before.hasSelection != state.hasSelection)
+        m_toolBar.DoShowContextSlot(textContext, state.hasSelection);
     // A report replaces text that the user is typing, so it is sent only after a change.
     if (before.page != state.page || before.pageCount != state.pageCount)
         tellPage();

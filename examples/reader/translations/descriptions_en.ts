@@ -380,6 +380,30 @@
         <translation>Behind</translation>
     </message>
     <message>
+        <source>选中文本</source>
+        <translation>Selected text</translation>
+    </message>
+    <message>
+        <source>高亮</source>
+        <translation>Highlight</translation>
+    </message>
+    <message>
+        <source>高亮;高亮显示选中的文字</source>
+        <translation>Highlight;Highlight the selected text</translation>
+    </message>
+    <message>
+        <source>下划线</source>
+        <translation>Underline</translation>
+    </message>
+    <message>
+        <source>下划线;为选中文字加下划线</source>
+        <translation>Underline;Underline the selected text</translation>
+    </message>
+    <message>
+        <source>取消选择</source>
+        <translation>Select none</translation>
+    </message>
+    <message>
         <source>点此查找文本</source>
         <translation>Find text</translation>
     </message>
