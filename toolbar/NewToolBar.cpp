@@ -80,13 +80,14 @@ QWidget *makeTopLine()
 
 void showTabs(const QList<QAbstractButton *> &tabs, const QList<bool> &visibleTabs)
 {
-    for (int i = 0; i < tabs.size(); ++i)
-        tabs.at(i)->setVisible(visibleTabs.value(i));
+    for (QAbstractButton *tab : tabs)
+        tab->setVisible(visibleTabs.value(tab->property(Property::tabIndex).toInt()));
 }
 
 /** The tabs of contexts stand after the others, wherever they are described. */
-QList<QAbstractButton *> inOrderOfSight(QList<QAbstractButton *> tabs)
+QList<QAbstractButton *> inOrderOfSight(const QButtonGroup *group)
 {
+    QList<QAbstractButton *> tabs = group ? group->buttons() : QList<QAbstractButton *>();
     std::stable_partition(tabs.begin(), tabs.end(), [](const QAbstractButton *tab) {
         return !dynamic_cast<const ContextTab *>(tab);
     });
@@ -208,12 +209,10 @@ bool NewToolBar::InitWidget()
     for (QWidget *control : additional)
         m_additionalWidgets.append(control);
 
-    const QList<QAbstractButton *> tabs =
-        m_tabButtonGroup ? m_tabButtonGroup->buttons() : QList<QAbstractButton *>();
-    const QList<QAbstractButton *> shownTabs = inOrderOfSight(tabs);
+    const QList<QAbstractButton *> tabs = inOrderOfSight(m_tabButtonGroup);
     auto *outer = new TopLineLayout(
         TopLine::makeCommands(m_appButtonWidgets.objects(), m_quickAccessBar, customise),
-        new TabStrip(TopLine::makeTabs(shownTabs)),
+        new TabStrip(TopLine::makeTabs(tabs)),
         TopLine::makeSearch(m_searchBar, m_searchSetButton, additional));
     outer->setSearchField(m_searchBar);
     m_topWidget->setLayout(outer);
@@ -225,7 +224,7 @@ bool NewToolBar::InitWidget()
     // The Tab key goes along the top line, then down to the row.
     QWidgetList line = m_appButtonWidgets.objects() + buttonsOf<QToolButton>(m_quickAccessBar);
     line.append(customise);
-    line += QWidgetList(shownTabs.begin(), shownTabs.end());
+    line += QWidgetList(tabs.begin(), tabs.end());
     line.append(m_searchBar);
     line += buttonsOf<QPushButton>(m_searchBar);
     line.append(m_searchSetButton);
