@@ -93,7 +93,11 @@ void RowPeek::end()
     // The toolbar is being deleted.
     if (!m_layout || !m_rows || !m_top)
         return;
+    const QPointer<RowPeek> self(this);
     returnFocus();
+    // The host may hear of the focus and delete the toolbar.
+    if (!self || !m_rows || !m_top)
+        return;
     m_rows->hide();
     m_item->setPeeking(false);
     m_top->resize(m_top->width(), m_height);
@@ -120,7 +124,8 @@ int RowPeek::wantedHeight() const
 void RowPeek::place()
 {
     m_top->resize(m_top->width(), wantedHeight());
-    m_shadow->follow(m_top->geometry());
+    if (m_shadow)
+        m_shadow->follow(m_top->geometry());
 }
 
 bool RowPeek::eventFilter(QObject *watched, QEvent *event)
