@@ -32,7 +32,7 @@ QButtonGroup *NewToolBar::CreateTabBar(QList<bool> &visibleTabs)
     const QList<Controller *> tabs = sectionRecords(m_controllers, Section::tabBar);
     for (int position = 0; position < tabs.size(); ++position) {
         const Controller &tab = *tabs.at(position);
-        QPushButton *button = maker.makeButton(tab, position);
+        QPushButton *button = maker.makeButton(tab, m_toolRowStack, position);
         connect(button, &QPushButton::clicked, this, &NewToolBar::Inner_DoUpdateMainToolBarSlot);
         group->addButton(button);
         m_tabButtons.append(button);

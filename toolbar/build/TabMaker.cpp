@@ -10,6 +10,7 @@
 #include "toolbar/widgets/ContextTab.h"
 #include "toolbar/widgets/MRMainToolBar.h"
 #include "toolbar/widgets/MRScrollWidget.h"
+#include "toolbar/widgets/TabButton.h"
 
 #include <QHBoxLayout>
 #include <QMenu>
@@ -31,13 +32,15 @@ Qt::Alignment rowAlignment(ToolBarAlignment alignment)
     return Qt::AlignCenter;
 }
 
-QPushButton *makeBareButton(const Controller &tab, const Appearance &appearance)
+TabButton *makeBareButton(const Controller &tab, const TabButton::Page &page,
+                          const Appearance &appearance)
 {
     if (tab.context.isEmpty())
-        return new QPushButton;
+        return new TabButton(page);
     // As it is described; a colour by another notation is none.
     const bool isColour = tab.contextcolour.size() == 7 && tab.contextcolour.startsWith('#');
-    return new ContextTab(tab.context, isColour ? QColor(tab.contextcolour) : QColor(), appearance);
+    const QColor colour = isColour ? QColor(tab.contextcolour) : QColor();
+    return new ContextTab(page, tab.context, colour, appearance);
 }
 
 void showTab(QPushButton *button, const Controller &tab, const Presentation &how)
@@ -70,9 +73,11 @@ bool TabMaker::isOpenAtFirst(const Controller &tab)
     return tab.checked && tab.context.isEmpty();
 }
 
-QPushButton *TabMaker::makeButton(const Controller &tab, int position) const
+QPushButton *TabMaker::makeButton(const Controller &tab, const QStackedWidget *pages,
+                                  int position) const
 {
-    QPushButton *button = makeBareButton(tab, m_factory.presentation().appearance());
+    TabButton *button =
+        makeBareButton(tab, {pages, position}, m_factory.presentation().appearance());
     button->setProperty(Property::inToolBar, "true");
     m_factory.presentation().show<&showTab>(button, tab);
     addDisabledTip(button, tab, m_factory.presentation());

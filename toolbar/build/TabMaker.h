@@ -21,8 +21,8 @@ public:
     /** Whether the toolbar begins with this tab; the tab of a context is hidden at first. */
     static bool isOpenAtFirst(const Controller &tab);
 
-    /** A hidden button. @param position of the tab among all tabs, from 0 */
-    QPushButton *makeButton(const Controller &tab, int position) const;
+    /** A hidden button. @param position of the tab, and of its page, among all tabs, from 0 */
+    QPushButton *makeButton(const Controller &tab, const QStackedWidget *pages, int position) const;
     /** The stack of the pages, disabled until the host has reported a usable state. */
     static QStackedWidget *makeStack(QWidget *parent);
     /**

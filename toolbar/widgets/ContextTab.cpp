@@ -48,8 +48,10 @@ QColor tellable(const QColor &tint, const QColor &ground, const QColor &end)
 
 } // namespace
 
-ContextTab::ContextTab(const QString &context, const QColor &colour, const Appearance &appearance)
-    : m_context(context)
+ContextTab::ContextTab(const Page &page, const QString &context, const QColor &colour,
+                       const Appearance &appearance)
+    : TabButton(page)
+    , m_context(context)
     , m_colour(colour)
     , m_appearance(appearance)
 {

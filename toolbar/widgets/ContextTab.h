@@ -3,8 +3,9 @@
 
 #pragma once
 
+#include "toolbar/widgets/TabButton.h"
+
 #include <QColor>
-#include <QPushButton>
 
 class Appearance;
 class QStyleOptionButton;
@@ -13,15 +14,17 @@ class QStyleOptionButton;
  * The tab of a context: the host shows it while something is selected. It is visible while its
  * context is shown, unless it is hidden itself, and it is tinted.
  */
-class ContextTab : public QPushButton
+class ContextTab : public TabButton
 {
 public:
     /**
+     * @param page       see TabButton
      * @param context    the name that the host shows it by
      * @param colour     what it is tinted with; an invalid one stands for the accent
      * @param appearance of the toolbar, which has the accent
      */
-    ContextTab(const QString &context, const QColor &colour, const Appearance &appearance);
+    ContextTab(const Page &page, const QString &context, const QColor &colour,
+               const Appearance &appearance);
 
     const QString &context() const { return m_context; }
     bool isContextShown() const { return m_isContextShown; }

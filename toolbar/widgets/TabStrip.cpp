@@ -7,6 +7,7 @@
 #include "toolbar/skin/Scale.h"
 #include "toolbar/skin/ScreenDensity.h"
 #include "toolbar/skin/Skin.h"
+#include "toolbar/widgets/TabButton.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -77,7 +78,7 @@ void TabStripArrow::paintEvent(QPaintEvent *event)
 TabStrip::TabStrip(QHBoxLayout *tabs, QWidget *parent)
     : Panel(parent)
     , m_view(new Panel(this))
-    , m_tabs(new Panel(m_view))
+    , m_tabs(new TabList(m_view))
     , m_left(new TabStripArrow(Qt::LeftArrow, this))
     , m_right(new TabStripArrow(Qt::RightArrow, this))
 {
