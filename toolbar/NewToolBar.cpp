@@ -5,6 +5,7 @@
 
 #include "toolbar/NewToolBarParts.h"
 #include "toolbar/build/TopLine.h"
+#include "toolbar/description/Controller.h"
 #include "toolbar/description/DescriptionParser.h"
 #include "toolbar/description/Names.h"
 #include "toolbar/skin/Appearance.h"
@@ -71,6 +72,14 @@ void giveStylesToMenus(const QList<CustomMenuStyle *> &styles, const NamedList<Q
     }
 }
 
+void giveWindowScope(const QList<Controller *> &records)
+{
+    for (Controller *record : records) {
+        record->shortcutscope = Word::windowScope;
+        giveWindowScope(record->children);
+    }
+}
+
 QWidget *makeTopLine()
 {
     auto *line = new QWidget(nullptr, Qt::FramelessWindowHint);
@@ -126,6 +135,7 @@ NewToolBar::NewToolBar(QMainWindow *mainWindow, QDomNode &description, QMap<QStr
     m_parts = std::make_unique<Parts>(*this);
     m_parts->presentation.chooseCardLines(options.value(SkinKey::toolTipWords));
     InitWidget();
+    makeWindowShortcuts();
     new FocusRing(this);
     InitSkinStyle(skin);
     setLayout(m_mainLayout);
@@ -168,15 +178,17 @@ bool NewToolBar::Init(QDomNode &description)
     m_resourceDir = GetResourceDir();
 
     const QDomElement root = description.toElement();
-    if (root.tagName() != Tag::root || !root.hasAttribute(QStringLiteral("prefix")))
+    if (root.tagName() != Tag::root || !root.hasAttribute(RootAttribute::prefix))
         return false;
 
     // An empty prefix stays empty, deliberately; the fallback is never reached.
-    m_iconPrefix = root.attribute(QStringLiteral("prefix"),
+    m_iconPrefix = root.attribute(RootAttribute::prefix,
                                   QStringLiteral(":/mr_toolbar/Resources/res/icons/actions/"));
     for (QDomElement section = root.firstChildElement(); !section.isNull();
          section = section.nextSiblingElement())
         ParseXMLElement(&section, &m_controllers);
+    if (root.attribute(RootAttribute::shortcutScope) == Word::windowScope)
+        giveWindowScope(m_controllers);
     return true;
 }
 

@@ -193,6 +193,9 @@ private:
                           bool addToRow);
     bool makeCommand(const CommandPlace &place);
     void addPeek();
+    void makeWindowShortcuts();
+    bool isUsable(const CommandPlace &place) const;
+    void useByKeys(const CommandPlace &place);
     QWidget *CreateExtraGroup(const QList<Controller *> &children);
     QWidget *CreateButtonGroupWidget(const QList<Controller *> &children, QToolBar *row);
     void CreateActionGroup(const QString &name, QObject *row);

@@ -21,6 +21,8 @@
 void NewToolBar::Receiver::takeCommand(QAction *command)
 {
     m_toolBar.m_parts->commands.connectCommand(command);
+    if (WindowShortcuts *shortcuts = m_toolBar.m_parts->windowShortcuts.get())
+        shortcuts->restore(command);
 }
 
 void NewToolBar::Receiver::takeSearchOption(QAction *option)

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "toolbar/NewToolBar.h"
+#include "toolbar/assist/WindowShortcuts.h"
 #include "toolbar/build/ControlFactory.h"
 #include "toolbar/build/ControlReceiver.h"
 #include "toolbar/build/GroupPanelMaker.h"
@@ -72,4 +73,5 @@ struct NewToolBar::Parts
     RecentFiles recentFiles;
     ControlStates states;
     CheckedStates checkedStates;
+    std::unique_ptr<WindowShortcuts> windowShortcuts; ///< Where the description asks for them.
 };

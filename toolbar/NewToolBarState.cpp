@@ -20,6 +20,8 @@ void NewToolBar::DoSetControlUsableStateSlot(QString &objName, bool usable)
     // Once the whole toolbar is disabled, this slot enables nothing any more, deliberately.
     if (m_hostToolBar && !m_hostToolBar->isEnabled())
         return;
+    if (m_parts->windowShortcuts)
+        m_parts->windowShortcuts->noteEnabled(objName, usable);
     if (m_currentScrollWidget && !m_currentScrollWidget->isEnabled())
         m_parts->states.setFirstActionEnabled(objName, usable);
     else
@@ -28,6 +30,8 @@ void NewToolBar::DoSetControlUsableStateSlot(QString &objName, bool usable)
 
 void NewToolBar::DoSetControlVisibleStateSlot(QString &objName, bool visible)
 {
+    if (m_parts->windowShortcuts)
+        m_parts->windowShortcuts->noteVisible(objName, visible);
     m_parts->states.setVisible(objName, visible);
 }
 
@@ -36,6 +40,8 @@ void NewToolBar::DoSetControlCheckedStateSlot(QString &objName, bool checked)
     const auto colon = objName.indexOf(QLatin1Char(':'));
     if (colon >= 0)
         objName.truncate(colon);
+    if (m_parts->windowShortcuts)
+        m_parts->windowShortcuts->noteChecked(objName, checked);
     m_parts->checkedStates.setChecked(objName, checked);
 }
 

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QEvent>
+#include <QKeySequence>
 #include <QPoint>
 #include <QTextStream>
 #include <QtGlobal>
@@ -41,5 +42,41 @@ QPoint globalPosition(const MouseEvent *event)
     return event->globalPos();
 #endif
 }
+
+/** One of the keys of a sequence, with the modifiers that it is pressed with. */
+class KeyPart
+{
+public:
+    KeyPart(const QKeySequence &sequence, int position)
+        : m_part(sequence[static_cast<uint>(position)])
+    {
+    }
+
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    int key() const
+    {
+        return m_part.key();
+    }
+    Qt::KeyboardModifiers modifiers() const
+    {
+        return m_part.keyboardModifiers();
+    }
+
+private:
+    QKeyCombination m_part;
+#else
+    int key() const
+    {
+        return m_part & ~Qt::KeyboardModifierMask;
+    }
+    Qt::KeyboardModifiers modifiers() const
+    {
+        return Qt::KeyboardModifiers(m_part & Qt::KeyboardModifierMask);
+    }
+
+private:
+    int m_part;
+#endif
+};
 
 } // namespace QtCompat

@@ -27,6 +27,8 @@ PUBLIC = "public headers"
 MAY_INCLUDE = {
     COMMON: [],
     "toolbar": ["toolbar"],
+    "toolbar/assist": [COMMON, "toolbar/state", "toolbar/commands", "toolbar/widgets",
+                       "toolbar/skin", "toolbar/description"],
     "toolbar/build": [COMMON, "toolbar/state", "toolbar/commands", "toolbar/fields",
                       "toolbar/widgets", "toolbar/skin", "toolbar/description"],
     "toolbar/state": [COMMON, "toolbar/commands", "toolbar/widgets", "toolbar/description"],

@@ -118,9 +118,12 @@ void MenuMaker::appendEntry(QMenu *menu, const Controller &record)
 
 void MenuMaker::setShortcut(QAction *entry, const Controller &record)
 {
-    // The application menus belong to no window: what they show does not act.
+    // The application menus belong to no window: what they show does not act. What acts in the
+    // whole window does so without the entry.
     const QKeySequence sequence(record.shortcut);
-    if (record.section == Section::appButton)
+    const bool actsInWindow =
+        record.section == Section::tabBar && record.shortcutscope == Word::windowScope;
+    if (record.section == Section::appButton || actsInWindow)
         m_shortcuts.show(entry, sequence);
     else
         m_shortcuts.activate(entry, sequence);

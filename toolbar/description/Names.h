@@ -84,10 +84,17 @@ inline constexpr QLatin1String next = latin1("next");
 inline constexpr QLatin1String previous = latin1("prev");
 inline constexpr QLatin1String wholeWord = latin1("wholeword");
 inline constexpr QLatin1String noCase = latin1("nocase");
-inline constexpr QLatin1String searchSet = latin1("st_set"); ///< Opens the options of the search.
-inline constexpr QLatin1String fold = latin1("fold");        ///< Hides the rows.
-inline constexpr QLatin1String unfold = latin1("extend");    ///< Shows the rows.
+inline constexpr QLatin1String searchSet = latin1("st_set");   ///< Opens the options of the search.
+inline constexpr QLatin1String fold = latin1("fold");          ///< Hides the rows.
+inline constexpr QLatin1String unfold = latin1("extend");      ///< Shows the rows.
+inline constexpr QLatin1String windowScope = latin1("window"); ///< A shortcut acts in all of it.
 } // namespace Word
+
+/** Attributes of the root. */
+namespace RootAttribute {
+inline constexpr QLatin1String prefix = latin1("prefix"); ///< Without it there is no description.
+inline constexpr QLatin1String shortcutScope = latin1("shortcutscope"); ///< Of all its commands.
+} // namespace RootAttribute
 
 /** What names begin with. */
 namespace Prefix {
