@@ -169,6 +169,12 @@ constexpr Fault faults[]{
     {menu, "warning shortcut-unreadable 3", "<menuitem action='a' shortcut='Ctrl+Foo'/>"},
     {menu, "warning shortcut-collision 4",
      "<menuitem action='a' shortcut='Ctrl+O'/>\n<menuitem action='b' shortcut='ctrl+o'/>"},
+    {menu, "warning shortcut-taken 4",
+     "<menuitem action='a' shortcut='Ctrl+O' shortcutscope='window'/>\n"
+     "<menuitem action='b' shortcut='Ctrl+O' shortcutscope='window'/>"},
+    {menu, "warning shortcut-scope 3", "<menuitem action='a' shortcutscope='application'/>"},
+    {tools, "warning shortcut-without-scope 3", "<button action='a' shortcut='Ctrl+O'/>"},
+    {tools, "", "<button action='a' shortcut='Ctrl+O' shortcutscope='window'/>"},
     {menu, "warning recent-files-placeholder 3",
      "<menu name='f_openrecent'><menuitem action='f_clearhistory'/></menu>"},
     {menu, "note recent-files-clear-history 3",

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The MRToolBar authors
 // SPDX-License-Identifier: MIT
 
+#include "toolbar/description/Names.h"
 #include "tools/check/Rules.h"
 #include "tools/check/Vocabulary.h"
 
@@ -24,34 +25,85 @@ QString spelledOut(const QString &shortcut)
     return keys.toString(QKeySequence::PortableText);
 }
 
+bool isInOptionsOfSearch(const SourceDocument &document, const SourceElement &element)
+{
+    const SourceElement *parent = &element;
+    while (parent->parent >= 0 && parent->role != Role::SearchSet)
+        parent = &document.parentOf(*parent);
+    return parent->role == Role::SearchSet;
+}
+
+/** Whether the shortcut of the element acts in the whole window. */
+bool actsInWindow(const SourceDocument &document, const SourceElement &element)
+{
+    const SourceAttribute *ofRoot = document.at(0).find("shortcutscope");
+    const bool isAsked = element.record.shortcutscope == Word::windowScope
+                         || (ofRoot && ofRoot->value == Word::windowScope);
+    return isAsked && !isInOptionsOfSearch(document, element);
+}
+
+void checkScope(const SourceElement &element, Findings &findings)
+{
+    const SourceAttribute *scope = element.find("shortcutscope");
+    if (scope && scope->value != Word::windowScope)
+        findings.warn("shortcut-scope", scope->position,
+                      QStringLiteral("the only scope of a shortcut is 'window'; '%1' is ignored")
+                          .arg(scope->value));
+}
+
+void checkCollision(const SourceDocument &document, const SourceElement &owner,
+                    const SourceElement &element, const QString &keys, Findings &findings)
+{
+    if (owner.record.name == element.record.name)
+        return;
+    const bool isInWindow = actsInWindow(document, owner) && actsInWindow(document, element);
+    const SourcePosition first = owner.positionOf("shortcut");
+    findings.warn(
+        isInWindow ? "shortcut-taken" : "shortcut-collision", element.positionOf("shortcut"),
+        isInWindow ? QStringLiteral("'%1' already belongs to '%2' in line %3, column %4, and "
+                                    "triggers that one alone in the whole window")
+                         .arg(keys, owner.record.name)
+                         .arg(first.line)
+                         .arg(first.column)
+                   : QStringLiteral("'%1' already belongs to '%2' in line %3; while both are "
+                                    "usable the keys trigger neither")
+                         .arg(keys, owner.record.name)
+                         .arg(owner.position.line));
+}
+
+void checkReach(const SourceDocument &document, const SourceElement &element, Findings &findings)
+{
+    const bool isButton = element.role == Role::RowButton || element.role == Role::GroupButton;
+    if (isButton && !actsInWindow(document, element))
+        findings.warn("shortcut-without-scope", element.positionOf("shortcut"),
+                      QStringLiteral("on %1 a shortcut acts only with shortcutscope=\"window\"")
+                          .arg(Vocabulary::noun(element.role)));
+}
+
 } // namespace
 
 void Rules::checkShortcuts(const SourceDocument &document, Findings &findings)
 {
     QHash<QString, const SourceElement *> owners;
     for (const SourceElement &element : document.elements) {
+        checkScope(element, findings);
         const QString shortcut = element.record.shortcut;
         if (shortcut.isEmpty()
             || !Vocabulary::usesAttribute(element.role, QStringLiteral("shortcut")))
             continue;
 
-        const SourcePosition position = element.positionOf("shortcut");
         const QString keys = spelledOut(shortcut);
         if (keys.isEmpty()) {
-            findings.warn("shortcut-unreadable", position,
+            findings.warn("shortcut-unreadable", element.positionOf("shortcut"),
                           QStringLiteral("'%1' names no keys, so the entry gets no shortcut; write "
                                          "it like 'Ctrl+Shift+S'")
                               .arg(shortcut));
             continue;
         }
-        const SourceElement *owner = owners.value(keys);
-        if (!owner)
+        checkReach(document, element, findings);
+        if (const SourceElement *owner = owners.value(keys))
+            checkCollision(document, *owner, element, keys, findings);
+        else
             owners.insert(keys, &element);
-        else if (owner->record.name != element.record.name)
-            findings.warn("shortcut-collision", position,
-                          QStringLiteral("'%1' already belongs to '%2' in line %3; while both are "
-                                         "usable the keys trigger neither")
-                              .arg(keys, owner->record.name)
-                              .arg(owner->position.line));
     }
 }
