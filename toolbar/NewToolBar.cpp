@@ -136,6 +136,7 @@ NewToolBar::NewToolBar(QMainWindow *mainWindow, QDomNode &description, QMap<QStr
     m_parts->presentation.chooseCardLines(options.value(SkinKey::toolTipWords));
     InitWidget();
     makeWindowShortcuts();
+    chooseKeyTips(options.value(SkinKey::keyTips));
     new FocusRing(this);
     InitSkinStyle(skin);
     setLayout(m_mainLayout);

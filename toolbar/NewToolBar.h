@@ -196,6 +196,7 @@ private:
     void makeWindowShortcuts();
     bool isUsable(const CommandPlace &place) const;
     void useByKeys(const CommandPlace &place);
+    void chooseKeyTips(const QString &choice);
     QWidget *CreateExtraGroup(const QList<Controller *> &children);
     QWidget *CreateButtonGroupWidget(const QList<Controller *> &children, QToolBar *row);
     void CreateActionGroup(const QString &name, QObject *row);

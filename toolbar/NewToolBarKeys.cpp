@@ -50,3 +50,15 @@ void NewToolBar::useByKeys(const CommandPlace &place)
     if (QAction *command = m_actions.first(place.record->name))
         command->trigger();
 }
+
+/** "true" or "false"; any other text changes nothing. */
+void NewToolBar::chooseKeyTips(const QString &choice)
+{
+    if (choice == QLatin1String("false"))
+        m_parts->keyTips.reset();
+    if (choice != QLatin1String("true") || m_parts->keyTips)
+        return;
+    QWidget *window = m_mainWindow ? static_cast<QWidget *>(m_mainWindow) : this;
+    m_parts->keyTips = std::make_unique<KeyTips>(this, window, m_controllers,
+                                                 Parts::controlLists(*this, m_parts->zoom));
+}

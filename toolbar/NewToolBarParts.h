@@ -4,6 +4,7 @@
 #pragma once
 
 #include "toolbar/NewToolBar.h"
+#include "toolbar/assist/KeyTips.h"
 #include "toolbar/assist/WindowShortcuts.h"
 #include "toolbar/build/ControlFactory.h"
 #include "toolbar/build/ControlReceiver.h"
@@ -74,4 +75,5 @@ struct NewToolBar::Parts
     ControlStates states;
     CheckedStates checkedStates;
     std::unique_ptr<WindowShortcuts> windowShortcuts; ///< Where the description asks for them.
+    std::unique_ptr<KeyTips> keyTips;                 ///< Where the skin map asks for them.
 };

@@ -165,6 +165,7 @@ void NewToolBar::SwitchSkinStyle(QMap<QString, QString> skin)
     m_styleChanges = nullptr;
     if (m_parts->presentation.chooseCardLines(options.value(SkinKey::toolTipWords)))
         showTextsAgain();
+    chooseKeyTips(options.value(SkinKey::keyTips));
     if (changes.lengths)
         followScale();
     else if (changes.sheet || !skin.isEmpty())

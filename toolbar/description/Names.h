@@ -123,9 +123,11 @@ inline constexpr QLatin1String touch = latin1("touchmode");   ///< "true": for f
 inline constexpr QLatin1String applicationFont = latin1("fontfromapplication"); ///< "true".
 inline constexpr QLatin1String toolTipWords =
     latin1("tooltipwords"); ///< "true": lines of tooltip cards end between words.
+inline constexpr QLatin1String keyTips = latin1("keytips"); ///< "true": Alt shows letters.
 
 /** Those that are taken out of the map before anything else sees it. */
-inline constexpr QLatin1String options[] = {scheme, scale, touch, applicationFont, toolTipWords};
+inline constexpr QLatin1String options[] = {scheme,          scale,        touch,
+                                            applicationFont, toolTipWords, keyTips};
 } // namespace SkinKey
 
 /** Dynamic properties, most of which the style sheets select by. */

@@ -1,0 +1,182 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
+#include "toolbar/assist/KeyTipTargets.h"
+
+#include "toolbar/description/Controller.h"
+#include "toolbar/description/KeyTipLetters.h"
+#include "toolbar/description/Sections.h"
+#include "toolbar/widgets/MRScrollWidget.h"
+#include "toolbar/widgets/TabButton.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QToolBar>
+#include <QToolButton>
+
+namespace {
+
+/** Further records of the section are not made. */
+constexpr int usedAppRecords = 2;
+
+/** Those used most come first, as they get the letter that comes to mind. */
+constexpr QLatin1String topLineSections[]{Section::tabBar, Section::appButton,
+                                          Section::quickAccessBar, Section::additional};
+
+bool hasKeyTip(const Controller &record)
+{
+    return !record.name.isEmpty()
+           && (record.type == Tag::button || record.type == Tag::menu
+               || record.type == Tag::comboBox || record.type == Tag::lineEdit);
+}
+
+/** The one of that name that is shown. */
+template <typename Widget>
+QWidget *shownOf(const NamedList<Widget> &list, const QString &name, const QWidget *area = nullptr)
+{
+    const QList<qsizetype> positions = list.positions(name);
+    for (const qsizetype position : positions) {
+        QWidget *widget = list.at(position);
+        if (widget && widget->isVisible() && (!area || area->isAncestorOf(widget)))
+            return widget;
+    }
+    return nullptr;
+}
+
+/** The button that a bar shows for the action of that name. */
+QWidget *barButton(const QToolBar *bar, const QString &name)
+{
+    const QList<QAction *> actions = bar ? bar->actions() : QList<QAction *>();
+    for (QAction *action : actions) {
+        if (action->objectName() == name)
+            return bar->widgetForAction(action);
+    }
+    return nullptr;
+}
+
+QWidget *shownField(const QWidget *page, const QString &name)
+{
+    const QWidgetList widgets = page->findChildren<QWidget *>(name);
+    for (QWidget *widget : widgets) {
+        const bool isField = qobject_cast<QComboBox *>(widget) || qobject_cast<QLineEdit *>(widget);
+        if (isField && widget->isVisible())
+            return widget;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+KeyTipTargets::KeyTipTargets(const QList<Controller *> &records, const ControlLists &lists)
+    : m_records(records)
+    , m_lists(lists)
+{
+}
+
+QList<KeyTip> KeyTipTargets::ofTopLine() const
+{
+    QList<const Controller *> records;
+    QList<QWidget *> controls;
+    for (const QLatin1String section : topLineSections) {
+        QList<Controller *> described = sectionRecords(m_records, section);
+        if (section == Section::appButton)
+            described = described.mid(0, usedAppRecords);
+        for (int i = 0; i < described.size(); ++i) {
+            records.append(described.at(i));
+            controls.append(topLineControl(*described.at(i), i));
+        }
+    }
+
+    // Also those that are hidden have letters, so that nobody else gets these.
+    const QStringList letters = KeyTipLetters::assigned(records);
+    QList<KeyTip> tips;
+    for (int i = 0; i < records.size(); ++i) {
+        if (controls.at(i) && controls.at(i)->isVisible() && !letters.at(i).isEmpty())
+            tips.append({letters.at(i), controls.at(i)});
+    }
+    return tips;
+}
+
+QWidget *KeyTipTargets::topLineControl(const Controller &record, int position) const
+{
+    if (record.section == Section::appButton)
+        return m_lists.appButtons.at(position);
+    if (record.section == Section::tabBar)
+        return m_lists.tabButtons.at(position);
+    if (record.section == Section::quickAccessBar)
+        return record.name == Name::customise ? m_lists.quickAccessSetButton.data()
+                                              : barButton(m_lists.quickAccessBar, record.name);
+    QWidget *control = shownOf(m_lists.additionalWidgets, record.name);
+    // The two buttons of folding take turns.
+    return control || record.name != Name::fold ? control
+                                                : shownOf(m_lists.additionalWidgets, Name::unfold);
+}
+
+QList<KeyTip> KeyTipTargets::ofRow() const
+{
+    const TabButton *tab = tabOnShow();
+    if (!tab || !page())
+        return {};
+
+    const QList<RowRecord> described = rowRecords(tab->objectName());
+    QList<const Controller *> records;
+    for (const RowRecord &record : described)
+        records.append(record.record);
+    const QStringList letters = KeyTipLetters::assigned(records);
+    QList<KeyTip> tips;
+    for (int i = 0; i < described.size(); ++i) {
+        QWidget *control = rowControl(described.at(i), tab->objectName());
+        if (control && control->isVisible() && !letters.at(i).isEmpty())
+            tips.append({letters.at(i), control});
+    }
+    return tips;
+}
+
+QList<KeyTipTargets::RowRecord> KeyTipTargets::rowRecords(const QString &tab) const
+{
+    QList<RowRecord> records;
+    // Tabs of the same name share the row.
+    const QList<Controller *> tabs = sectionRecords(m_records, Section::tabBar);
+    for (const Controller *described : tabs) {
+        if (described->name != tab)
+            continue;
+        for (const Controller *record : described->children) {
+            const bool isPanel = record->type == Tag::buttonGroup || record->type == Tag::extra;
+            const QList<const Controller *> within =
+                isPanel
+                    ? QList<const Controller *>(record->children.begin(), record->children.end())
+                    : QList<const Controller *>{record};
+            for (const Controller *control : within) {
+                if (hasKeyTip(*control))
+                    records.append({control, isPanel});
+            }
+        }
+    }
+    return records;
+}
+
+QWidget *KeyTipTargets::rowControl(const RowRecord &record, const QString &tab) const
+{
+    const QString &name = record.record->name;
+    if (record.record->type == Tag::comboBox || record.record->type == Tag::lineEdit)
+        return shownField(page(), name);
+    if (record.isInGroup)
+        return shownOf(m_lists.groupButtons, name, page());
+    return barButton(m_lists.rows.value(tab), name);
+}
+
+QWidget *KeyTipTargets::page() const
+{
+    return m_lists.currentRowArea ? m_lists.currentRowArea->parentWidget() : nullptr;
+}
+
+const TabButton *KeyTipTargets::tabOnShow() const
+{
+    for (const QPushButton *button : m_lists.tabButtons) {
+        const auto *tab = dynamic_cast<const TabButton *>(button);
+        if (tab && tab->isOnShow())
+            return tab;
+    }
+    return nullptr;
+}
