@@ -469,7 +469,7 @@ private Q_SLOTS:
         QVERIFY(layer);
         int tabs = 0;
         for (QPushButton *tab : host->shownTabs()) {
-            const QRect badge = layer->badge({"M", tab});
+            const QRect badge = layer->badge({"M", tab, tab});
             QVERIFY(layer->rect().contains(badge));
             const QRect place(tab->mapTo(&host->window(), QPoint()), tab->size());
             QVERIFY(badge.intersects(place) && badge.center().y() > place.center().y());

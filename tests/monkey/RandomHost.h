@@ -173,7 +173,7 @@ private:
     {
         static const QList<double> scales{0.5, 0.9, 1, 1.5, 2, 4, 0, -1};
         static const QStringList keys =
-            words("scalefactor touchmode fontfromapplication tooltipwords");
+            words("scalefactor touchmode fontfromapplication tooltipwords keytips");
         static const QStringList values = words("screen 1.25 true false 0 x");
         switch (m_random.below(4)) {
         case 0:

@@ -22,7 +22,7 @@ constexpr double besideText = 4.0;
 constexpr double aboveText = 1.0;
 constexpr double cornerRadius = 3.0;
 /** How much of a badge is over its control; the rest stands below it. */
-constexpr double overlap = 0.4;
+constexpr double overlap = 0.3;
 
 struct BadgeColours
 {
@@ -120,7 +120,7 @@ void KeyTipLayer::speak()
 
 QRect KeyTipLayer::badge(const KeyTip &tip) const
 {
-    const QRect seen = tip.control ? tip.control->visibleRegion().boundingRect() : QRect();
+    const QRect seen = tip.place ? tip.place->visibleRegion().boundingRect() : QRect();
     if (seen.isEmpty())
         return {};
 
@@ -130,7 +130,7 @@ QRect KeyTipLayer::badge(const KeyTip &tip) const
     const int width =
         std::max(height, metrics.horizontalAdvance(tip.letters) + 2 * qRound(besideText * scale));
     const QPoint foot =
-        mapFromGlobal(tip.control->mapToGlobal(QPoint(seen.center().x(), seen.bottom())));
+        mapFromGlobal(tip.place->mapToGlobal(QPoint(seen.center().x(), seen.bottom())));
     const int left = foot.x() - width / 2;
     const int top = foot.y() - static_cast<int>(std::lround(height * overlap));
     return {std::clamp(left, 0, std::max(0, this->width() - width)),
@@ -146,7 +146,7 @@ void KeyTipLayer::paintEvent(QPaintEvent *)
     painter.setRenderHint(QPainter::Antialiasing);
     for (const KeyTip &tip : std::as_const(m_tips)) {
         const QRect place = badge(tip);
-        if (place.isEmpty() || !tip.letters.startsWith(m_typed))
+        if (place.isEmpty() || !tip.control || !tip.letters.startsWith(m_typed))
             continue;
         const QRectF edge = QRectF(place).adjusted(line / 2, line / 2, -line / 2, -line / 2);
         painter.setPen(QPen(colours.frame, line));

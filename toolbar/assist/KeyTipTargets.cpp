@@ -55,6 +55,13 @@ QWidget *barButton(const QToolBar *bar, const QString &name)
     return nullptr;
 }
 
+/** All that belongs to a control of a row. */
+QWidget *placeOf(QWidget *control, bool isInPanel)
+{
+    const bool isButton = qobject_cast<QAbstractButton *>(control);
+    return isButton || isInPanel ? control : control->parentWidget();
+}
+
 QWidget *shownField(const QWidget *page, const QString &name)
 {
     const QWidgetList widgets = page->findChildren<QWidget *>(name);
@@ -93,7 +100,7 @@ QList<KeyTip> KeyTipTargets::ofTopLine() const
     QList<KeyTip> tips;
     for (int i = 0; i < records.size(); ++i) {
         if (controls.at(i) && controls.at(i)->isVisible() && !letters.at(i).isEmpty())
-            tips.append({letters.at(i), controls.at(i)});
+            tips.append({letters.at(i), controls.at(i), controls.at(i)});
     }
     return tips;
 }
@@ -128,7 +135,7 @@ QList<KeyTip> KeyTipTargets::ofRow() const
     for (int i = 0; i < described.size(); ++i) {
         QWidget *control = rowControl(described.at(i), tab->objectName());
         if (control && control->isVisible() && !letters.at(i).isEmpty())
-            tips.append({letters.at(i), control});
+            tips.append({letters.at(i), control, placeOf(control, described.at(i).isInGroup)});
     }
     return tips;
 }

@@ -18,6 +18,7 @@ struct KeyTip
 {
     QString letters;
     QPointer<QWidget> control;
+    QPointer<QWidget> place; ///< Where the letters are shown: a field has its caption below it.
 };
 
 /** Finds the controls of the records that have key tips. */

@@ -125,6 +125,13 @@
     </message>
 </context>
 <context>
+    <name>KeyTipLayer</name>
+    <message>
+        <source>按键提示：%1</source>
+        <translation>按键提示：%1</translation>
+    </message>
+</context>
+<context>
     <name>MRExtendButton</name>
     <message>
         <source>向左滚动</source>

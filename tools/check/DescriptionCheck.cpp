@@ -56,6 +56,7 @@ void checkContent(const SourceDocument &document, const CheckOptions &options, F
     Rules::checkGroups(document, findings);
     Rules::checkIcons(document, options, findings);
     Rules::checkShortcuts(document, findings);
+    Rules::checkKeyTips(document, findings);
     Rules::checkSpecialControls(document, findings);
 }
 

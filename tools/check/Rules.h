@@ -48,6 +48,8 @@ void checkNames(const SourceDocument &document, Findings &findings);
 void checkGroups(const SourceDocument &document, Findings &findings);
 void checkIcons(const SourceDocument &document, const CheckOptions &options, Findings &findings);
 void checkShortcuts(const SourceDocument &document, Findings &findings);
+/** Letters that cannot be typed, or that lead to two of the controls that are shown together. */
+void checkKeyTips(const SourceDocument &document, Findings &findings);
 /** Controls that may exist only once, or need certain children. */
 void checkSpecialControls(const SourceDocument &document, Findings &findings);
 

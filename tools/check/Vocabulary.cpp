@@ -58,7 +58,7 @@ constexpr RoleTraits allTraits[]{
     {Role::SubMenu, "a sub-menu", "name action text disabletip icon visible"},
     {Role::MenuEntry, "a menu entry",
      "name action text icon tooltip disabletip group shortcut checkable checked visible "
-     "usable available doubleclick keywords shortcutscope keytip"},
+     "usable available doubleclick keywords shortcutscope"},
     {Role::SearchLabel, "the label of the search bar", "name action text icon"},
     {Role::SearchField, "the search field", "name action tooltip disabletip"},
     {Role::SearchButton, "a search button", "name action text icon tooltip disabletip usable"},

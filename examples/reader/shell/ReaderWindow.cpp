@@ -125,6 +125,7 @@ void ReaderWindow::createToolBar(const QDomDocument &description)
     skin.insert(schemeKey, m_scheme);
     // In English the tips would break within words otherwise.
     skin.insert(QStringLiteral("tooltipwords"), QStringLiteral("true"));
+    skin.insert(QStringLiteral("keytips"), QStringLiteral("true"));
     m_description = description;
     QDomNode root = m_description.documentElement();
     m_toolBar = std::make_unique<MRToolBar>(this, root, skin, ToolBarLeft);
