@@ -17,6 +17,7 @@
 #include <QShortcut>
 #include <QTemporaryFile>
 #include <QToolBar>
+#include <QWindow>
 
 using namespace Describe;
 
@@ -464,7 +465,7 @@ private Q_SLOTS:
         host->window().setLayoutDirection(isRightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
         host->showEnabled();
         host->enableEverything();
-        QTest::keyClick(&host->window(), Qt::Key_Alt);
+        QTest::keyClick(host->window().windowHandle(), Qt::Key_Alt);
         const auto *layer = host->window().findChild<KeyTipLayer *>();
         QVERIFY(layer);
         int tabs = 0;

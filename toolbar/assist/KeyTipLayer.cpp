@@ -56,6 +56,17 @@ bool isTyped(int key)
     return (key >= Qt::Key_A && key <= Qt::Key_Z) || (key >= Qt::Key_0 && key <= Qt::Key_9);
 }
 
+/** The badge on one line with those that are only a little lower: controls differ in height. */
+QRect onLine(QRect badge, const QList<QRect> &badges)
+{
+    const int highest = badge.top();
+    for (const QRect &other : badges) {
+        if (!other.isEmpty() && std::abs(other.top() - highest) <= badge.height() / 2)
+            badge.moveTop(std::max(badge.top(), other.top()));
+    }
+    return badge;
+}
+
 QString spokenName(QWidget *control)
 {
     const QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(control);
@@ -70,7 +81,7 @@ KeyTipLayer::KeyTipLayer(QWidget *window, const QWidget *toolBar)
     , m_focusBefore(window->focusWidget())
 {
     setAttribute(Qt::WA_TransparentForMouseEvents);
-    setFocusPolicy(Qt::NoFocus); // The Tab key must not come here.
+    setFocusPolicy(Qt::ClickFocus); // No click comes here, nor may the Tab key.
     setGeometry(window->rect());
     QFont small = toolBar->font();
     small.setPixelSize(std::max(1, qRound(textSize * ScreenDensity::scale(toolBar))));
@@ -144,8 +155,12 @@ void KeyTipLayer::paintEvent(QPaintEvent *)
     const double line = std::max(1.0, std::floor(scale));
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    for (const KeyTip &tip : std::as_const(m_tips)) {
-        const QRect place = badge(tip);
+    QList<QRect> badges;
+    for (const KeyTip &tip : std::as_const(m_tips))
+        badges.append(badge(tip));
+    for (int i = 0; i < badges.size(); ++i) {
+        const KeyTip &tip = m_tips.at(i);
+        const QRect place = onLine(badges.at(i), badges);
         if (place.isEmpty() || !tip.control || !tip.letters.startsWith(m_typed))
             continue;
         const QRectF edge = QRectF(place).adjusted(line / 2, line / 2, -line / 2, -line / 2);
