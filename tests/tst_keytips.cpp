@@ -10,6 +10,7 @@
 
 #include <QMenu>
 #include <QMenuBar>
+#include <QToolBar>
 #include <QWindow>
 
 using namespace Describe;
@@ -202,6 +203,19 @@ private Q_SLOTS:
         QCOMPARE(host.field->text(), QStringLiteral("ro"));
         host.open();
         QVERIFY(!host.layer());
+    }
+
+    void shouldSurviveAHostThatDeletesItWhenATabIsOpened()
+    {
+        TipHost host(withTips(), tipsOn);
+        connect(&host.facade(), &MRToolBar::DoRequestAuthority, this,
+                [&host] { delete host.find<QToolBar>("mrtoolbar"); });
+        host.open();
+        host.type("o");
+        runDeferredDeletes();
+        QCOMPARE(host.asked.count(), 1);
+        QVERIFY(host.window().findChildren<KeyTipLayer *>().isEmpty());
+        QCOMPARE(QApplication::focusWidget(), host.field);
     }
 
     void shouldGoBackAStepByEscape()
