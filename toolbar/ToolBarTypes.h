@@ -70,8 +70,8 @@ typedef SearchContentOption SearchOption;
  * "tooltipwords" as "true" ends the lines of tooltip cards between words, and not, as "false",
  * after ten characters. A map without it, or with another value, keeps what there is.
  *
- * "keytips" as "true" has Alt and F10 show the letters that lead to the controls, and as "false" not
- * any more. A map without it, or with another value, keeps what there is.
+ * "keytips" as "true" has Alt and F10 show the letters that lead to the controls, and as "false"
+ * not any more. A map without it, or with another value, keeps what there is.
  */
 typedef QMap<QString, QString> ToolBarSkinStyle;
 
