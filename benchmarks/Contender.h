@@ -27,6 +27,8 @@ public:
     virtual void setChecked(QString &name, bool checked) = 0;
     /** Sets another main colour; returns false if there are no colours to change. */
     virtual bool changeColours() { return false; }
+    /** Opens a field to find commands in; returns false if there is none. */
+    virtual bool openFinder() { return false; }
     /** Lays everything out for another scale; returns false if there is no scale to change. */
     virtual bool changeScale() { return false; }
 };

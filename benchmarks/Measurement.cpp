@@ -11,10 +11,14 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QFile>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QToolBar>
 #include <QToolButton>
+
+#include <algorithm>
 
 namespace {
 
@@ -70,6 +74,7 @@ QJsonObject Measurement::run()
     storeMemory(QStringLiteral("memory with all rows MiB"));
     setStates();
     moveMouse();
+    findCommands();
     switchColours();
     switchScale();
     return m_figures;
@@ -168,6 +173,34 @@ void Measurement::moveMouse()
     m_figures.insert(QStringLiteral("allocations of 100 moves"), allocations);
     m_figures.insert(QStringLiteral("layouts of 100 moves"), layouts.count());
     m_figures.insert(QStringLiteral("sheets set by 100 moves"), sheets.count());
+}
+
+void Measurement::findCommands()
+{
+    const EventCount opened(QEvent::Paint);
+    const Stopwatch opening;
+    if (!m_contender->openFinder())
+        return;
+    waitForPaint(opened);
+    settle();
+    opening.store(m_figures, QStringLiteral("finder opened ms"));
+
+    // Both by what many commands have in their texts, and by what none has.
+    double slowest = 0;
+    for (const char16_t key : {u'命', u'令', u'1', u'7', u' ', u'c', u'1', u'z'}) {
+        const EventCount paints(QEvent::Paint);
+        QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, QString(QChar(key)));
+        QElapsedTimer timer;
+        timer.start();
+        QCoreApplication::sendEvent(QApplication::focusWidget(), &press);
+        waitForPaint(paints);
+        settle();
+        slowest = std::max(slowest, static_cast<double>(timer.nsecsElapsed()) * 1e-6);
+    }
+    m_figures.insert(QStringLiteral("slowest key of the finder ms"), slowest);
+    QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+    QCoreApplication::sendEvent(QApplication::focusWidget(), &escape);
+    settle();
 }
 
 void Measurement::switchColours()

@@ -31,6 +31,7 @@ private:
     void switchColours();
     void switchScale();
     void moveMouse();
+    void findCommands();
 
     void clickTab(int tab);
     void settle();

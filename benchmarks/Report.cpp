@@ -21,6 +21,8 @@ const QStringList &lines()
         QStringLiteral("second tab ms"),
         QStringLiteral("usable state us"),
         QStringLiteral("checked state us"),
+        QStringLiteral("finder opened ms"),
+        QStringLiteral("slowest key of the finder ms"),
         QStringLiteral("change of colours ms"),
         QStringLiteral("change of scale ms"),
         QStringLiteral("mouse move us"),

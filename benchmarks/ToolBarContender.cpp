@@ -50,6 +50,12 @@ bool ToolBarContender::changeScale()
     return true;
 }
 
+bool ToolBarContender::openFinder()
+{
+    m_toolBar->DoFindCommandSlot();
+    return true;
+}
+
 bool ToolBarContender::changeColours()
 {
     m_toolBar->DoSetSkinStyleSlot({{QStringLiteral("[MainColor]"), QStringLiteral("#336699")}});

@@ -26,6 +26,7 @@ public:
     void setChecked(QString &name, bool checked) override;
     bool changeColours() override;
     bool changeScale() override;
+    bool openFinder() override;
 
 private:
     Workload m_workload;

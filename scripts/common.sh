@@ -43,10 +43,10 @@ require_one_of()
 
 # need_qt VERSION: adds the headers of Qt, the plug-in for SVG icons, the library that the example
 # reader opens files with, the tools for translations and the translations of Qt; also what tells
-# whether an X server composes its windows.
+# whether an X server composes its windows, and what spells Chinese texts.
 need_qt()
 {
-    needed+=(pkg-config libxcb1-dev)
+    needed+=(pkg-config libxcb1-dev libicu-dev)
     case $1 in
         5)
             needed+=(qtbase5-dev libqt5svg5 libquazip1-qt5-dev

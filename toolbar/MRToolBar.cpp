@@ -231,3 +231,9 @@ void MRToolBar::DoShowTabSlot(QString &objName)
     if (m_toolBar)
         m_toolBar->ShowTab(objName);
 }
+
+void MRToolBar::DoFindCommandSlot()
+{
+    if (m_toolBar)
+        m_toolBar->FindCommand();
+}

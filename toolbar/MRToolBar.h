@@ -218,6 +218,13 @@ public Q_SLOTS:
      * enabled tab has is ignored.
      */
     void DoShowTabSlot(QString &objName);
+    /**
+     * Opens a field below the top line that finds every command of the description, of rows and
+     * menus that were never opened too, by its text, tooltip, name and `keywords`. Return triggers
+     * the command, Ctrl+Return shows where it is. An additional button `t_findcommand` does the
+     * same. Called again, the field is ready to be typed into anew.
+     */
+    void DoFindCommandSlot();
 
 private:
     void connectToolBar();

@@ -17,6 +17,7 @@
 #include <memory>
 
 class Appearance;
+class CommandFinder;
 class Scale;
 class CustomMenuStyle;
 class MRDropButton;
@@ -81,6 +82,7 @@ public:
     QString GetToolBarStyleSheet();
     void ResetToolbarState();
     bool SetControlFocus(const QString &name);
+    void FindCommand();
     void SetScale(double factor);
     void SetControlText(const QString &name, const QString &text);
     void SetControlToolTip(const QString &name, const QString &tip);
@@ -171,6 +173,7 @@ public Q_SLOTS:
     /** @} */
 
 private:
+    class Commands;
     class Receiver;
     struct Parts;
     struct StyleChanges;
@@ -197,6 +200,8 @@ private:
     bool isUsable(const CommandPlace &place) const;
     void useByKeys(const CommandPlace &place);
     void chooseKeyTips(const QString &choice);
+    CommandFinder *commandFinder();
+    void toggleFinder(QWidget *opener);
     QWidget *CreateExtraGroup(const QList<Controller *> &children);
     QWidget *CreateButtonGroupWidget(const QList<Controller *> &children, QToolBar *row);
     void CreateActionGroup(const QString &name, QObject *row);

@@ -18,6 +18,8 @@
 #include "toolbar/fields/PageField.h"
 #include "toolbar/fields/RecentFiles.h"
 #include "toolbar/fields/ZoomBox.h"
+#include "toolbar/find/CommandAccess.h"
+#include "toolbar/find/CommandFinder.h"
 #include "toolbar/state/CheckedStates.h"
 #include "toolbar/state/ControlStates.h"
 #include "toolbar/state/ToolRows.h"
@@ -76,4 +78,6 @@ struct NewToolBar::Parts
     CheckedStates checkedStates;
     std::unique_ptr<WindowShortcuts> windowShortcuts; ///< Where the description asks for them.
     std::unique_ptr<KeyTips> keyTips;                 ///< Where the skin map asks for them.
+    std::unique_ptr<CommandAccess> commandAccess; ///< From the first search for a command on.
+    CommandFinder *finder = nullptr;              ///< Likewise; a child of the toolbar.
 };

@@ -201,6 +201,8 @@ void NewToolBar::followAppearance()
     // A pointer over the search field has left the button a sheet of its own.
     if (m_searchSetButton && m_searchSetButton->styleSheet().contains(QLatin1String("background")))
         Inner_DoActiveSetButtonSlot(false);
+    if (m_parts->finder)
+        m_parts->finder->followLook();
 }
 
 void NewToolBar::followScale()
@@ -213,6 +215,8 @@ void NewToolBar::followScale()
     const RowPause pause(this);
     m_parts->presentation.fitAgain();
     ResetSkinStyle();
+    if (m_parts->finder)
+        m_parts->finder->followLook();
 }
 
 void NewToolBar::changeEvent(QEvent *event)
@@ -235,6 +239,8 @@ void NewToolBar::followLanguage()
     showTextsAgain();
     m_parts->zoom.retranslate();
     m_parts->recentFiles.retranslate();
+    if (m_parts->finder)
+        m_parts->finder->followTexts();
 }
 
 void NewToolBar::SetScale(double factor)

@@ -17,6 +17,7 @@ void NewToolBar::DoSetControlUsableStateSlot(QString &objName, bool usable)
         m_toolRowStack->setEnabled(true);
     m_isFirstUsableCall = false;
 
+    const QPointer<NewToolBar> self(this);
     // Once the whole toolbar is disabled, this slot enables nothing any more, deliberately.
     if (m_hostToolBar && !m_hostToolBar->isEnabled())
         return;
@@ -26,13 +27,18 @@ void NewToolBar::DoSetControlUsableStateSlot(QString &objName, bool usable)
         m_parts->states.setFirstActionEnabled(objName, usable);
     else
         m_parts->states.setEnabled(objName, usable);
+    if (self && m_parts->finder)
+        m_parts->finder->followStates();
 }
 
 void NewToolBar::DoSetControlVisibleStateSlot(QString &objName, bool visible)
 {
     if (m_parts->windowShortcuts)
         m_parts->windowShortcuts->noteVisible(objName, visible);
+    const QPointer<NewToolBar> self(this);
     m_parts->states.setVisible(objName, visible);
+    if (self && m_parts->finder)
+        m_parts->finder->followStates();
 }
 
 void NewToolBar::DoSetControlCheckedStateSlot(QString &objName, bool checked)
@@ -73,16 +79,22 @@ QRect NewToolBar::GetControlGeometry(QString name)
 void NewToolBar::SetControlText(const QString &name, const QString &text)
 {
     m_parts->presentation.setText(name, text);
+    if (m_parts->finder)
+        m_parts->finder->followTexts();
 }
 
 void NewToolBar::SetControlToolTip(const QString &name, const QString &tip)
 {
     m_parts->presentation.setToolTip(name, tip);
+    if (m_parts->finder)
+        m_parts->finder->followTexts();
 }
 
 void NewToolBar::SetControlIcon(const QString &name, const QIcon &icon)
 {
     m_parts->presentation.setIcon(name, icon);
+    if (m_parts->finder)
+        m_parts->finder->followStates();
 }
 
 bool NewToolBar::SetControlFocus(const QString &name)

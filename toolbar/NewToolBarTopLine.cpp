@@ -197,7 +197,9 @@ void NewToolBar::Inner_DoAddtionalControlActionSlot()
         return;
 
     const QString name = button->objectName();
-    if (name.contains(Word::fold, Qt::CaseInsensitive))
+    if (name == Name::findCommand)
+        toggleFinder(const_cast<QPushButton *>(button));
+    else if (name.contains(Word::fold, Qt::CaseInsensitive))
         m_parts->tabs.setFolded(true);
     else if (name.contains(Word::unfold, Qt::CaseInsensitive))
         m_parts->tabs.setFolded(false);

@@ -31,6 +31,7 @@ MAY_INCLUDE = {
                        "toolbar/skin", "toolbar/description"],
     "toolbar/build": [COMMON, "toolbar/state", "toolbar/commands", "toolbar/fields",
                       "toolbar/widgets", "toolbar/skin", "toolbar/description"],
+    "toolbar/find": [COMMON, "toolbar/widgets", "toolbar/skin", "toolbar/description"],
     "toolbar/state": [COMMON, "toolbar/commands", "toolbar/widgets", "toolbar/description"],
     "toolbar/commands": [COMMON, "toolbar/widgets", "toolbar/description"],
     "toolbar/fields": [COMMON, "toolbar/widgets", "toolbar/description"],

@@ -2,6 +2,39 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="zh_CN">
 <context>
+    <name>CommandFinder</name>
+    <message>
+        <source>快速访问工具栏</source>
+        <translation>Quick access toolbar</translation>
+    </message>
+</context>
+<context>
+    <name>FindPopup</name>
+    <message>
+        <source>查找命令</source>
+        <translation>Find a command</translation>
+    </message>
+    <message>
+        <source>找到的命令</source>
+        <translation>Commands found</translation>
+    </message>
+    <message>
+        <source>没有找到命令</source>
+        <translation>No command found</translation>
+    </message>
+    <message>
+        <source>回车执行，Ctrl+回车显示位置</source>
+        <translation>Enter runs it, Ctrl+Enter shows where it is</translation>
+    </message>
+</context>
+<context>
+    <name>FoundModel</name>
+    <message>
+        <source>不可用</source>
+        <translation>Not available</translation>
+    </message>
+</context>
+<context>
     <name>HandWriteDialog</name>
     <message>
         <source>手写设置</source>

@@ -2,6 +2,39 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="zh_CN">
 <context>
+    <name>CommandFinder</name>
+    <message>
+        <source>快速访问工具栏</source>
+        <translation>快速访问工具栏</translation>
+    </message>
+</context>
+<context>
+    <name>FindPopup</name>
+    <message>
+        <source>查找命令</source>
+        <translation>查找命令</translation>
+    </message>
+    <message>
+        <source>找到的命令</source>
+        <translation>找到的命令</translation>
+    </message>
+    <message>
+        <source>没有找到命令</source>
+        <translation>没有找到命令</translation>
+    </message>
+    <message>
+        <source>回车执行，Ctrl+回车显示位置</source>
+        <translation>回车执行，Ctrl+回车显示位置</translation>
+    </message>
+</context>
+<context>
+    <name>FoundModel</name>
+    <message>
+        <source>不可用</source>
+        <translation>不可用</translation>
+    </message>
+</context>
+<context>
     <name>HandWriteDialog</name>
     <message>
         <source>手写设置</source>

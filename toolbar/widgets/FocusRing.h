@@ -9,15 +9,17 @@
 class QWidget;
 
 /**
- * Draws a ring around the button that has the keyboard focus. It lies above the button, so that
- * neither the skin's sheet nor a sheet of the button's own can hide it, and nothing is laid out
- * anew when the focus moves.
+ * Draws a ring around the button that has the keyboard focus. Nothing is laid out anew when the
+ * focus moves.
  */
 class FocusRing : public QObject
 {
 public:
     /** Serves all buttons below @p scope, which owns the ring. */
     explicit FocusRing(QWidget *scope);
+
+    /** A row that has scrolled the button away scrolls it back. */
+    static void bringIntoView(QWidget *button);
 
 private:
     void follow(QWidget *focused);

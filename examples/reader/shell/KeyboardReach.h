@@ -30,6 +30,8 @@ public:
 
 Q_SIGNALS:
     void commandAsked(const QString &name);
+    /** The toolbar is to open the field that finds its commands. */
+    void finderAsked();
     void escapePressed();
 
 private:

@@ -178,6 +178,7 @@ void ReaderWindow::connectKeys()
         if (m_commands.isUsable(name, state()))
             runCommand(name);
     });
+    connect(keys, &KeyboardReach::finderAsked, this, [this] { m_toolBar->DoFindCommandSlot(); });
     connect(keys, &KeyboardReach::escapePressed, this, &ReaderWindow::returnToPages);
 }
 

@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
+#include "toolbar/NewToolBarCommands.h"
+#include "toolbar/NewToolBarParts.h"
+
+CommandFinder *NewToolBar::commandFinder()
+{
+    if (!m_parts->finder) {
+        m_parts->commandAccess = std::make_unique<Commands>(*this);
+        m_parts->finder = new CommandFinder(*m_parts->commandAccess, this);
+    }
+    return m_parts->finder;
+}
+
+void NewToolBar::FindCommand()
+{
+    commandFinder()->open(nullptr);
+}
+
+void NewToolBar::toggleFinder(QWidget *opener)
+{
+    CommandFinder *finder = commandFinder();
+    if (finder->isOpen())
+        finder->close();
+    else
+        finder->open(opener);
+}
