@@ -192,14 +192,14 @@ void Measurement::findCommands()
         QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, QString(QChar(key)));
         QElapsedTimer timer;
         timer.start();
-        QCoreApplication::sendEvent(QApplication::focusWidget(), &press);
+        QCoreApplication::sendEvent(m_window.focusWidget(), &press);
         waitForPaint(paints);
         settle();
         slowest = std::max(slowest, static_cast<double>(timer.nsecsElapsed()) * 1e-6);
     }
     m_figures.insert(QStringLiteral("slowest key of the finder ms"), slowest);
     QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
-    QCoreApplication::sendEvent(QApplication::focusWidget(), &escape);
+    QCoreApplication::sendEvent(m_window.focusWidget(), &escape);
     settle();
 }
 

@@ -75,6 +75,11 @@ NewToolBar::Commands::Commands(NewToolBar &toolBar)
     : m_toolBar(toolBar)
     , m_places(toolBar.m_controllers)
 {
+    for (const QLatin1String section : {Section::appButton, Section::tabBar}) {
+        int position = 0;
+        for (const Controller *record : sectionRecords(toolBar.m_controllers, section))
+            m_positions.insert(record, position++);
+    }
 }
 
 QPushButton *NewToolBar::Commands::additionalButton(const CommandPlace &place) const
@@ -100,15 +105,12 @@ QWidget *NewToolBar::Commands::opener(const CommandPlace &place) const
 {
     if (isIn(place, Section::quickAccessBar))
         return m_toolBar.m_quickAccessBar;
-    if (isOnRow(place)) {
-        const auto tab = sectionRecords(m_toolBar.m_controllers, Section::tabBar)
-                             .indexOf(const_cast<Controller *>(place.tab));
-        return m_toolBar.m_tabButtons.at(tab);
-    }
-    const auto records = sectionRecords(m_toolBar.m_controllers, Section::appButton);
+    if (isOnRow(place))
+        return m_toolBar.m_tabButtons.at(m_positions.value(place.tab));
     const QList<const Controller *> way = m_places.way(place);
-    const auto button = way.isEmpty() ? -1 : records.indexOf(const_cast<Controller *>(way.first()));
-    return m_toolBar.m_appButtonWidgets.at(button);
+    const int none = -1;
+    return m_toolBar.m_appButtonWidgets.at(way.isEmpty() ? none
+                                                         : m_positions.value(way.first(), none));
 }
 
 CommandAccess::State NewToolBar::Commands::state(const CommandPlace &place) const
@@ -134,6 +136,8 @@ CommandAccess::State NewToolBar::Commands::state(const CommandPlace &place) cons
 CommandAccess::State NewToolBar::Commands::stateOfMenus(const CommandPlace &place) const
 {
     State state{true, true, true};
+    if (place.holder == place.tab)
+        return state;
     const QMenu *menu = nullptr;
     QList<const Controller *> way = m_places.way(place);
     if (!way.isEmpty()) {

@@ -8,6 +8,7 @@
 #include "toolbar/find/CommandAccess.h"
 
 #include <QCoreApplication>
+#include <QHash>
 
 class QAction;
 
@@ -50,4 +51,5 @@ private:
 
     NewToolBar &m_toolBar;
     const CommandPlaces m_places;
+    QHash<const Controller *, int> m_positions; ///< Of the tabs and the application buttons.
 };

@@ -160,16 +160,22 @@ QString CommandFinder::keyOf(std::size_t command) const
 
 void CommandFinder::listVisible()
 {
-    const std::vector<CommandIndex::Command> &commands = index().commands();
-    m_isVisible.resize(commands.size());
-    for (std::size_t i = 0; i < commands.size(); ++i)
-        m_isVisible[i] = placeOf(i) != nullptr;
+    m_visible.clear();
+    for (std::size_t i = 0; i < index().commands().size(); ++i) {
+        if (placeOf(i))
+            m_visible.push_back(i);
+    }
+    m_found = m_visible;
+    m_typed.clear();
 }
 
 void CommandFinder::search()
 {
-    m_popup->setFound(index().find(m_popup->typed(), m_lastFound,
-                                   [this](std::size_t command) { return m_isVisible[command]; }));
+    const QString typed = m_popup->typed();
+    const bool isMoreTyped = typed.startsWith(m_typed);
+    m_found = index().find(typed, m_lastFound, isMoreTyped ? m_found : m_visible);
+    m_typed = typed;
+    m_popup->setFound(m_found);
 }
 
 void CommandFinder::startSpelling()
@@ -195,8 +201,10 @@ void CommandFinder::takeSpelling(const QHash<QChar, QString> &syllables,
     if (!m_index)
         return;
     m_index->addSpelling(syllables);
-    if (isOpen() && !m_popup->typed().isEmpty())
+    if (isOpen() && !m_typed.isEmpty()) {
+        m_found = m_visible;
         search();
+    }
     // The texts may have changed meanwhile.
     m_isSpelt = m_index->ideographs() == ideographs;
     if (isOpen())

@@ -64,8 +64,10 @@ private:
     CommandAccess &m_access;
     QWidget *m_toolBar;
     std::optional<CommandIndex> m_index; ///< From the first opening until the texts change.
-    std::vector<bool> m_isVisible;       ///< By command, as of the last opening.
-    QPointer<FindPopup> m_popup;         ///< From the first opening on; hidden while closed.
+    std::vector<std::size_t> m_visible;  ///< The commands that were not hidden on opening.
+    std::vector<std::size_t> m_found;
+    QString m_typed;             ///< What these were found by.
+    QPointer<FindPopup> m_popup; ///< From the first opening on; hidden while closed.
     QStringList m_lastFound;
     QThread *m_spelling = nullptr; ///< Looks up how the texts are spelt.
     bool m_isSpelt = false;        ///< Whether it has done so for the texts of the index.

@@ -105,24 +105,26 @@ bool CommandIndex::Rank::operator<(const Rank &other) const
 }
 
 std::vector<std::size_t> CommandIndex::find(const QString &typed, const QStringList &lastFound,
-                                            const IsListed &isListed) const
+                                            const std::vector<std::size_t> &candidates) const
 {
     std::vector<SearchText> words;
     const QStringList typedWords = typed.split(QLatin1Char(' '), Qt::SkipEmptyParts);
     for (const QString &word : typedWords)
         words.emplace_back(word);
+    QHash<QString, int> ages;
+    for (int age = static_cast<int>(lastFound.size()) - 1; age >= 0; --age)
+        ages.insert(lastFound.at(age), age);
 
     std::vector<Rank> ranks;
-    for (std::size_t i = 0; i < m_commands.size(); ++i) {
-        if (!isListed(i))
-            continue;
-        const auto age = lastFound.indexOf(m_commands[i].name);
-        Rank rank{Fit::Word, age < 0 ? std::numeric_limits<int>::max() : static_cast<int>(age), 0,
-                  i};
+    for (const std::size_t candidate : candidates) {
+        Rank rank;
+        rank.command = candidate;
         for (const SearchText &word : words)
-            addWord(rank, word, m_searched[i]);
-        if (rank.fit != Fit::None)
-            ranks.push_back(rank);
+            addWord(rank, word, m_searched[candidate]);
+        if (rank.fit == Fit::None)
+            continue;
+        rank.lastFound = ages.value(m_commands[candidate].name, std::numeric_limits<int>::max());
+        ranks.push_back(rank);
     }
     std::sort(ranks.begin(), ranks.end());
 
@@ -135,11 +137,13 @@ std::vector<std::size_t> CommandIndex::find(const QString &typed, const QStringL
 
 void CommandIndex::addWord(Rank &rank, const SearchText &word, const SearchTexts &texts)
 {
+    if (rank.fit == Fit::None)
+        return;
     constexpr int farthest = 99;
     Fit best = Fit::None;
     int detail = 0;
     for (int field = 0; field < Fields; ++field) {
-        const Match match = matchOf(word, texts.at(static_cast<std::size_t>(field)));
+        const Match match = matchOf(word, texts.at(static_cast<std::size_t>(field)), best);
         if (match.fit >= best)
             continue;
         best = match.fit;

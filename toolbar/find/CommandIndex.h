@@ -36,8 +36,6 @@ public:
     };
 
     using TextsOf = std::function<CommandTexts(const CommandPlace &)>;
-    /** Whether a command is listed, by its position. */
-    using IsListed = std::function<bool(std::size_t command)>;
 
     CommandIndex(const CommandPlaces &places, const TextsOf &textsOf);
 
@@ -45,11 +43,12 @@ public:
     const std::vector<Command> &commands() const { return m_commands; }
 
     /**
-     * The commands that fit all words of @p typed, the best first; of those that fit equally well,
-     * the ones of @p lastFound first. Nothing typed fits all.
+     * Those of the candidates that fit all words of @p typed, the best first; of those that fit
+     * equally well, the ones of @p lastFound first. Nothing typed fits all. What does not fit does
+     * not fit more letters either.
      */
     std::vector<std::size_t> find(const QString &typed, const QStringList &lastFound,
-                                  const IsListed &isListed) const;
+                                  const std::vector<std::size_t> &candidates) const;
 
     /** The ideographs in the texts of the commands. */
     QSet<QChar> ideographs() const;

@@ -6,7 +6,6 @@
 #include <QStringView>
 
 #include <algorithm>
-#include <vector>
 
 namespace {
 
@@ -61,18 +60,19 @@ Match looseMatch(const QString &typed, QStringView line)
     return {};
 }
 
-std::vector<QStringView> linesOf(const QString &text)
+Match bestLooseMatch(const QString &typed, const QString &text)
 {
-    std::vector<QStringView> lines;
+    Match best;
     qsizetype start = 0;
-    while (start <= text.size()) {
-        auto end = text.indexOf(QLatin1Char('\n'), static_cast<int>(start));
-        if (end < 0)
-            end = text.size();
-        lines.push_back(QStringView(text).mid(start, end - start));
+    while (start < text.size() && best.fit != Fit::Subsequence) {
+        const qsizetype found = text.indexOf(QLatin1Char('\n'), static_cast<int>(start));
+        const qsizetype end = found < 0 ? text.size() : found;
+        const Match match = looseMatch(typed, QStringView(text).mid(start, end - start));
+        if (match.fit < best.fit)
+            best = match;
         start = end + 1;
     }
-    return lines;
+    return best;
 }
 
 } // namespace
@@ -89,19 +89,13 @@ SearchText::SearchText(const QString &text)
     }
 }
 
-Match matchOf(const SearchText &typed, const SearchText &text)
+Match matchOf(const SearchText &typed, const SearchText &text, Fit limit)
 {
     if (!text.mayHold(typed) || typed.isEmpty())
         return {};
 
     const Match adjacent = adjacentMatch(typed.letters(), text.letters());
-    if (adjacent.fit != Fit::None)
+    if (adjacent.fit != Fit::None || limit <= Fit::Subsequence)
         return adjacent;
-    Match best;
-    for (const QStringView line : linesOf(text.letters())) {
-        const Match match = looseMatch(typed.letters(), line);
-        if (match.fit < best.fit)
-            best = match;
-    }
-    return best;
+    return bestLooseMatch(typed.letters(), text.letters());
 }

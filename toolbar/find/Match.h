@@ -40,5 +40,8 @@ struct Match
     qsizetype position = 0;
 };
 
-/** @param text each of its lines is a text of its own */
-Match matchOf(const SearchText &typed, const SearchText &text);
+/**
+ * @param text  each of its lines is a text of its own
+ * @param limit what fits no better than this is not looked for
+ */
+Match matchOf(const SearchText &typed, const SearchText &text, Fit limit = Fit::None);
