@@ -115,6 +115,8 @@ void FindPopup::setLook(const FindLook &look)
     setFont(look.font);
     for (QWidget *widget : {static_cast<QWidget *>(m_field), static_cast<QWidget *>(m_hint)})
         widget->setFont(look.font);
+    m_hint->setAlignment(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft)
+                         | Qt::AlignAbsolute | Qt::AlignVCenter);
     const int around = shadow() + look.length(padding);
     m_layout->setContentsMargins(around, around, around, around);
     m_layout->setSpacing(look.length(padding));

@@ -54,6 +54,7 @@ void FoundLineDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opt
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setFont(m_look.font);
+    painter->setLayoutDirection(direction);
     paintGround(painter, option);
 
     const int margin = m_look.length(sideMargin);
@@ -130,7 +131,8 @@ void FoundLineDelegate::paintTexts(QPainter *painter, const QRect &place,
 {
     const QFontMetrics metrics(m_look.font);
     const auto start = QStyle::visualAlignment(direction, Qt::AlignLeft | Qt::AlignVCenter);
-    const int flags = static_cast<int>(start) | Qt::TextSingleLine;
+    // Absolute: what is mirrored already would be so again for a text from right to left.
+    const int flags = static_cast<int>(start | Qt::AlignAbsolute) | Qt::TextSingleLine;
     const auto draw = [&](const QRect &where, const QString &text, const QColor &colour) {
         painter->setPen(colour);
         painter->drawText(where, flags, metrics.elidedText(text, Qt::ElideRight, where.width()));
