@@ -428,6 +428,10 @@
         <translation>Match case</translation>
     </message>
     <message>
+        <source>查找命令;按名称或拼音查找所有命令</source>
+        <translation>Find a command;Finds every command by its name</translation>
+    </message>
+    <message>
         <source>设置</source>
         <translation>Options</translation>
     </message>
