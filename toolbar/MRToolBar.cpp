@@ -68,6 +68,7 @@ void MRToolBar::connectToolBar()
     connect(m_toolBar, &NewToolBar::DoSetBackground, this, &MRToolBar::DoSetBackground);
     connect(m_toolBar, &NewToolBar::DoRequestAuthority, this, &MRToolBar::DoRequestAuthority);
     connect(m_toolBar, &NewToolBar::DoTabShown, this, &MRToolBar::DoTabShown);
+    connect(m_toolBar, &NewToolBar::DoStateChanged, this, &MRToolBar::DoStateChanged);
 }
 
 bool MRToolBar::GetCompositeVisible(QString objName)
@@ -103,6 +104,11 @@ QString MRToolBar::GetToolBarStyleSheet()
 bool MRToolBar::GetCompositeEnable(QString objName)
 {
     return m_toolBar && m_toolBar->GetCompositeEnable(objName);
+}
+
+QString MRToolBar::GetToolBarState() const
+{
+    return m_toolBar ? m_toolBar->GetToolBarState() : QString();
 }
 
 void MRToolBar::Inner_DoGotoPageSlot(int pageNum)

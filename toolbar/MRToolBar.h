@@ -91,6 +91,16 @@ public:
      */
     bool GetCompositeEnable(QString objName);
 
+    /**
+     * What the user has made of the toolbar, for the host to store and to hand back under the skin
+     * key "toolbarstate"; see ToolBarSkinStyle. It is a text of one line without a meaning for
+     * others: the open tab, whether the rows are folded, the buttons of quick access, the commands
+     * that were found last, the entries that drop buttons show; and the scale and the scheme that
+     * the host has set since the construction. Empty without a toolbar. DoStateChanged() tells when
+     * there is another one.
+     */
+    QString GetToolBarState() const;
+
 protected:
     /** @name The way to the toolbar
      *  @{ */
@@ -128,6 +138,11 @@ Q_SIGNALS:
      * the toolbar itself when a tab is left by name or with its context. Not for the first one.
      */
     void DoTabShown(QString objName);
+    /**
+     * GetToolBarState() has changed, once for each change that it holds; not while the toolbar is
+     * made, nor while a state is restored.
+     */
+    void DoStateChanged();
 
 public Q_SLOTS:
     /** @name Spare entry points

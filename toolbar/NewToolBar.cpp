@@ -126,7 +126,8 @@ NewToolBar::NewToolBar(QMainWindow *mainWindow, QDomNode &description, QMap<QStr
     Skin::followSelector(&uiStyle);
     connect(&m_delayTimer, &QTimer::timeout, this, &NewToolBar::Inner_DoDelayActionSlot);
     m_quickAccessButtons = skin.value(SkinKey::quickAccess);
-    const QMap<QString, QString> options = takeOptions(skin);
+    QMap<QString, QString> options = takeOptions(skin);
+    const std::optional<KeptState> kept = takeState(options);
     chooseAppearance(options, skin);
     chooseScale(options);
 
@@ -134,9 +135,11 @@ NewToolBar::NewToolBar(QMainWindow *mainWindow, QDomNode &description, QMap<QStr
     Init(description);
     m_parts = std::make_unique<Parts>(*this);
     m_parts->presentation.chooseCardLines(options.value(SkinKey::toolTipWords));
+    expectState(kept);
     InitWidget();
     makeWindowShortcuts();
     chooseKeyTips(options.value(SkinKey::keyTips));
+    m_parts->keeper.restoreFirst();
     new FocusRing(this);
     InitSkinStyle(skin);
     setLayout(m_mainLayout);

@@ -15,6 +15,7 @@
 #include <QWidget>
 
 #include <memory>
+#include <optional>
 
 class Appearance;
 class CommandFinder;
@@ -38,6 +39,7 @@ class QToolButton;
 class QVBoxLayout;
 struct CommandPlace;
 struct Controller;
+struct KeptState;
 
 /**
  * The toolbar widget. MRToolBar makes it and speaks for it; of this class a host uses uiStyle only.
@@ -89,6 +91,7 @@ public:
     void SetControlIcon(const QString &name, const QIcon &icon);
     void ShowContext(const QString &name, bool shown);
     void ShowTab(const QString &name);
+    QString GetToolBarState() const;
     /** @} */
 
     /** The skin's directory of resources, with its trailing slash. */
@@ -135,6 +138,7 @@ Q_SIGNALS:
     void DoSetBackground(BackgroundStyle style);
     void DoRequestAuthority();
     void DoTabShown(QString objName);
+    void DoStateChanged();
     /** @} */
 
 public Q_SLOTS:
@@ -207,6 +211,12 @@ private:
     void CreateActionGroup(const QString &name, QObject *row);
     void SetExtraGroupVisible(QString tabName);
     void SetExtraGroupEnable(bool enable);
+
+    // What is kept between two runs.
+    static std::optional<KeptState> takeState(QMap<QString, QString> &options);
+    void expectState(const std::optional<KeptState> &kept);
+    void keepLooks(const QMap<QString, QString> &options);
+    int keptTab(const QList<Controller *> &tabs) const;
 
     // Skin.
     static QMap<QString, QString> takeOptions(QMap<QString, QString> &skin);

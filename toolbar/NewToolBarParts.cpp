@@ -57,15 +57,19 @@ void NewToolBar::Receiver::takeClearEntry(QAction *entry)
     disconnect(entry, &QAction::triggered, &m_toolBar.m_parts->commands, nullptr);
 }
 
-void NewToolBar::Receiver::takeDropButton(MRDropButton *button)
+void NewToolBar::Receiver::takeDropButton(MRDropButton *button, const Controller &record)
 {
     m_toolBar.m_dropButtons.append(button);
     m_toolBar.m_parts->dropMenus.add(button);
+    if (record.switchable)
+        m_toolBar.m_parts->keeper.takeSwitchable(button);
 }
 
-void NewToolBar::Receiver::takeGroupButton(QToolButton *button)
+void NewToolBar::Receiver::takeGroupButton(QToolButton *button, const Controller &record)
 {
     m_toolBar.m_groupButtons.append(button);
+    if (record.switchable && record.checkable)
+        m_toolBar.m_parts->keeper.takeSwitchable(button);
 }
 
 void NewToolBar::Receiver::takeZoomBox(QComboBox *box, const Controller &record)
@@ -143,7 +147,9 @@ NewToolBar::Parts::Parts(NewToolBar &toolBar)
     , recentFiles(&toolBar)
     , states(controlLists(toolBar, zoom), dropMenus, tabs)
     , checkedStates(controlLists(toolBar, zoom), dropMenus)
+    , keeper(controlLists(toolBar, zoom), tabs)
 {
+    connect(&keeper, &StateKeeper::changed, &toolBar, &NewToolBar::DoStateChanged);
     connect(&commands, &CommandDispatcher::activated, &toolBar, &NewToolBar::DoActive);
     connect(&commands, &CommandDispatcher::doubleActivated, &toolBar, &NewToolBar::DoDoubleActive);
     connect(&commands, &CommandDispatcher::backgroundChosen, &toolBar,

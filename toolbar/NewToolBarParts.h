@@ -22,6 +22,7 @@
 #include "toolbar/find/CommandFinder.h"
 #include "toolbar/state/CheckedStates.h"
 #include "toolbar/state/ControlStates.h"
+#include "toolbar/state/StateKeeper.h"
 #include "toolbar/state/ToolRows.h"
 #include "toolbar/widgets/DropMenuIndex.h"
 
@@ -40,8 +41,8 @@ public:
     void takeExtraSearchField(MRSearchBar *field) override;
     QMenu *makeRecentFilesMenu(QMenu *parent) override;
     void takeClearEntry(QAction *entry) override;
-    void takeDropButton(MRDropButton *button) override;
-    void takeGroupButton(QToolButton *button) override;
+    void takeDropButton(MRDropButton *button, const Controller &record) override;
+    void takeGroupButton(QToolButton *button, const Controller &record) override;
     void takeZoomBox(QComboBox *box, const Controller &record) override;
     void takePageField(QLineEdit *field, TotalLabel *caption) override;
     void takeTotalPageLabel(TotalLabel *label) override;
@@ -80,4 +81,5 @@ struct NewToolBar::Parts
     std::unique_ptr<KeyTips> keyTips;                 ///< Where the skin map asks for them.
     std::unique_ptr<CommandAccess> commandAccess; ///< From the first search for a command on.
     CommandFinder *finder = nullptr;              ///< Likewise; a child of the toolbar.
+    StateKeeper keeper;
 };

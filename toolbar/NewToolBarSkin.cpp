@@ -153,7 +153,9 @@ void NewToolBar::InitSkinStyle(QMap<QString, QString> skin)
 
 void NewToolBar::SwitchSkinStyle(QMap<QString, QString> skin)
 {
-    const QMap<QString, QString> options = takeOptions(skin);
+    const QPointer<NewToolBar> self(this);
+    QMap<QString, QString> options = takeOptions(skin);
+    const std::optional<KeptState> kept = takeState(options);
     // Who applies the sheet was settled at construction and stays so.
     if (!skin.isEmpty())
         m_skinMap = Skin::switchedMap(skin);
@@ -170,6 +172,11 @@ void NewToolBar::SwitchSkinStyle(QMap<QString, QString> skin)
         followScale();
     else if (changes.sheet || !skin.isEmpty())
         ResetSkinStyle();
+    // Last, as the host may hear of it.
+    if (kept)
+        m_parts->keeper.restore(*kept);
+    if (self)
+        keepLooks(options);
 }
 
 bool NewToolBar::ResetSkinStyle()
@@ -246,6 +253,7 @@ void NewToolBar::followLanguage()
 void NewToolBar::SetScale(double factor)
 {
     m_scaling->set(factor);
+    keepLooks({{SkinKey::scale, QString::number(factor)}});
 }
 
 void NewToolBar::DoSetSkinStyleSlot(ToolBarSkinStyle skin)

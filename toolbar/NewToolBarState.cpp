@@ -39,6 +39,8 @@ void NewToolBar::DoSetControlVisibleStateSlot(QString &objName, bool visible)
     m_parts->states.setVisible(objName, visible);
     if (self && m_parts->finder)
         m_parts->finder->followStates();
+    if (self)
+        m_parts->keeper.noteQuickAccess();
 }
 
 void NewToolBar::DoSetControlCheckedStateSlot(QString &objName, bool checked)

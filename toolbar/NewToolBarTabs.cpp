@@ -27,25 +27,27 @@ QButtonGroup *NewToolBar::CreateTabBar(QList<bool> &visibleTabs)
     if (m_controllers.isEmpty())
         return nullptr;
 
-    int shownTab = -1;
     const TabMaker maker(m_parts->factory, m_alignment);
     const QList<Controller *> tabs = sectionRecords(m_controllers, Section::tabBar);
+    const int keptTab = this->keptTab(tabs);
+    int shownTab = -1;
     for (int position = 0; position < tabs.size(); ++position) {
         const Controller &tab = *tabs.at(position);
-        QPushButton *button = maker.makeButton(tab, m_toolRowStack, position);
+        const bool isOpen = keptTab < 0 ? TabMaker::isOpenAtFirst(tab) : position == keptTab;
+        QPushButton *button = maker.makeButton(tab, {m_toolRowStack, position}, isOpen);
         connect(button, &QPushButton::clicked, this, &NewToolBar::Inner_DoUpdateMainToolBarSlot);
         group->addButton(button);
         m_tabButtons.append(button);
         visibleTabs.append(tab.visible);
         // Without a checked tab the first one that is there from the beginning.
-        if (TabMaker::isOpenAtFirst(tab) || (shownTab < 0 && tab.context.isEmpty()))
+        if (isOpen || (shownTab < 0 && tab.context.isEmpty()))
             shownTab = position;
 
         QWidget *page = TabMaker::addPage(m_toolRowStack);
         if (tab.children.isEmpty())
             continue;
-        MRMainToolBar *row = maker.addRow(page, tab);
-        if (TabMaker::isOpenAtFirst(tab))
+        MRMainToolBar *row = maker.addRow(page, tab, isOpen);
+        if (isOpen)
             AddToolBarAction(tab.children, row, false, true);
         m_toolBars.insert(tab.name, row);
         if (tab.scalable)
@@ -55,9 +57,21 @@ QButtonGroup *NewToolBar::CreateTabBar(QList<bool> &visibleTabs)
     if (!tabs.isEmpty()) {
         shownTab = std::max(shownTab, 0);
         const Controller &first = *tabs.at(shownTab);
-        m_parts->tabs.showFirst(shownTab, first.visible, TabMaker::isOpenAtFirst(first));
+        m_parts->tabs.showFirst(shownTab, first.visible,
+                                keptTab >= 0 || TabMaker::isOpenAtFirst(first));
     }
     return group;
+}
+
+/** The position of the tab that a kept state opens; -1 if there is none to be seen. */
+int NewToolBar::keptTab(const QList<Controller *> &tabs) const
+{
+    const QString name = m_parts->keeper.expectedTab();
+    const auto kept = std::find_if(tabs.begin(), tabs.end(), [&name](const Controller *tab) {
+        // One that belongs to a selection waits for that.
+        return tab->name == name && tab->visible && tab->context.isEmpty();
+    });
+    return name.isEmpty() || kept == tabs.end() ? -1 : static_cast<int>(kept - tabs.begin());
 }
 
 void NewToolBar::Inner_DoUpdateMainToolBarSlot()

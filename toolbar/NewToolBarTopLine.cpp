@@ -147,6 +147,7 @@ void NewToolBar::Inner_DoUpdateQuickAccessBarSlot()
     }
     m_quickAccessBar->setVisible(std::any_of(actions.begin(), actions.end(),
                                              [](QAction *action) { return action->isVisible(); }));
+    m_parts->keeper.noteQuickAccess();
 }
 
 QString NewToolBar::GetQuickAccessButtonList()

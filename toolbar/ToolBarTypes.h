@@ -72,6 +72,11 @@ typedef SearchContentOption SearchOption;
  *
  * "keytips" as "true" has Alt and F10 show the letters that lead to the controls, and as "false"
  * not any more. A map without it, or with another value, keeps what there is.
+ * "toolbarstate" is what MRToolBar::GetToolBarState() returned, no colour either. At construction
+ * the toolbar begins with it, later it is restored. "scalefactor" and "scheme" beside it in the map
+ * count more than those in it, and so do "quickaccessbarbuttons" at construction. A state of
+ * another version or for another description is taken as far as it fits, and any other text
+ * ignored.
  */
 typedef QMap<QString, QString> ToolBarSkinStyle;
 

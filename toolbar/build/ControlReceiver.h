@@ -35,8 +35,9 @@ public:
     virtual QMenu *makeRecentFilesMenu(QMenu *parent) = 0;
     /** The entry that clears that list, which its menu reports. */
     virtual void takeClearEntry(QAction *entry) = 0;
-    virtual void takeDropButton(MRDropButton *button) = 0;
-    virtual void takeGroupButton(QToolButton *button) = 0;
+    /** A drop button with its menu and its first face. */
+    virtual void takeDropButton(MRDropButton *button, const Controller &record) = 0;
+    virtual void takeGroupButton(QToolButton *button, const Controller &record) = 0;
     /** A filled list that is described by @p record, with its current entry set. */
     virtual void takeZoomBox(QComboBox *box, const Controller &record) = 0;
     /** @param caption the label below the field */

@@ -188,7 +188,7 @@ QWidget *GroupPanelMaker::makeButtonGroup(const QList<Controller *> &children, Q
         m_factory.makeGroup(record->group, row);
         if (QToolButton *button = makeGroupButton(*record)) {
             grid->addWidget(button, line++, index / buttonsPerColumn);
-            m_receiver.takeGroupButton(button);
+            m_receiver.takeGroupButton(button, *record);
         }
     }
     return panel;

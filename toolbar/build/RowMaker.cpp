@@ -273,7 +273,7 @@ void RowMaker::addMenu(const Controller &record, QToolBar *row, bool addToRow)
         presentation.fit<&fitMenuButton>(action, record, Presentation::ItsEntries);
         addDisabledTip(button, record, presentation);
         button->SetName(record.name);
-        m_receiver.takeDropButton(button);
+        m_receiver.takeDropButton(button, record);
     }
 }
 

@@ -73,18 +73,17 @@ bool TabMaker::isOpenAtFirst(const Controller &tab)
     return tab.checked && tab.context.isEmpty();
 }
 
-QPushButton *TabMaker::makeButton(const Controller &tab, const QStackedWidget *pages,
-                                  int position) const
+QPushButton *TabMaker::makeButton(const Controller &tab, const TabButton::Page &page,
+                                  bool isOpen) const
 {
-    TabButton *button =
-        makeBareButton(tab, {pages, position}, m_factory.presentation().appearance());
+    TabButton *button = makeBareButton(tab, page, m_factory.presentation().appearance());
     button->setProperty(Property::inToolBar, "true");
     m_factory.presentation().show<&showTab>(button, tab);
     addDisabledTip(button, tab, m_factory.presentation());
     button->setObjectName(tab.name);
-    button->setProperty(Property::tabIndex, QByteArray::number(position).constData());
+    button->setProperty(Property::tabIndex, QByteArray::number(page.position).constData());
     button->setCheckable(tab.checkable);
-    button->setChecked(isOpenAtFirst(tab));
+    button->setChecked(isOpen);
     button->hide();
     button->setFlat(true);
     button->setProperty(Property::module, Module::tabButton);
@@ -94,7 +93,7 @@ QPushButton *TabMaker::makeButton(const Controller &tab, const QStackedWidget *p
     return button;
 }
 
-MRMainToolBar *TabMaker::makeRow(const Controller &tab) const
+MRMainToolBar *TabMaker::makeRow(const Controller &tab, bool isOpen) const
 {
     auto *row = new MRMainToolBar;
     row->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
@@ -104,7 +103,7 @@ MRMainToolBar *TabMaker::makeRow(const Controller &tab) const
     m_factory.presentation().fit<&fitRow>(row);
     row->setAcceptDrops(false);
     row->setProperty(Property::module, Module::toolRow);
-    row->setFilled(isOpenAtFirst(tab));
+    row->setFilled(isOpen);
     return row;
 }
 
@@ -124,12 +123,12 @@ QWidget *TabMaker::addPage(QStackedWidget *stack)
     return page;
 }
 
-MRMainToolBar *TabMaker::addRow(QWidget *page, const Controller &tab) const
+MRMainToolBar *TabMaker::addRow(QWidget *page, const Controller &tab, bool isOpen) const
 {
     auto *layout = new QHBoxLayout(page);
     layout->setSpacing(0);
     layout->setContentsMargins(0, 0, 0, 0);
-    MRMainToolBar *row = makeRow(tab);
+    MRMainToolBar *row = makeRow(tab, isOpen);
     auto *holder = new MRScrollWidget;
     holder->SetWidget(row, rowAlignment(m_alignment));
     layout->addWidget(holder);

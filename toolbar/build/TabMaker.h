@@ -4,6 +4,7 @@
 #pragma once
 
 #include "toolbar/ToolBarTypes.h"
+#include "toolbar/widgets/TabButton.h"
 
 class ControlFactory;
 class MRMainToolBar;
@@ -21,8 +22,8 @@ public:
     /** Whether the toolbar begins with this tab; the tab of a context is hidden at first. */
     static bool isOpenAtFirst(const Controller &tab);
 
-    /** A hidden button. @param position of the tab, and of its page, among all tabs, from 0 */
-    QPushButton *makeButton(const Controller &tab, const QStackedWidget *pages, int position) const;
+    /** A hidden button. @param isOpen whether the tab is on show at first */
+    QPushButton *makeButton(const Controller &tab, const TabButton::Page &page, bool isOpen) const;
     /** The stack of the pages, disabled until the host has reported a usable state. */
     static QStackedWidget *makeStack(QWidget *parent);
     /**
@@ -32,12 +33,12 @@ public:
      */
     static QWidget *addPage(QStackedWidget *stack);
     /** Adds the row of a tab, without controls, between arrows to scroll it. */
-    MRMainToolBar *addRow(QWidget *page, const Controller &tab) const;
+    MRMainToolBar *addRow(QWidget *page, const Controller &tab, bool isOpen) const;
     /** Puts the extra group of the tab at the end of the page; returns the group. */
     static QWidget *addExtraGroup(QWidget *page, QWidget *group, const Controller &tab);
 
 private:
-    MRMainToolBar *makeRow(const Controller &tab) const;
+    MRMainToolBar *makeRow(const Controller &tab, bool isOpen) const;
 
     const ControlFactory &m_factory;
     ToolBarAlignment m_alignment;

@@ -125,10 +125,12 @@ inline constexpr QLatin1String applicationFont = latin1("fontfromapplication"); 
 inline constexpr QLatin1String toolTipWords =
     latin1("tooltipwords"); ///< "true": lines of tooltip cards end between words.
 inline constexpr QLatin1String keyTips = latin1("keytips"); ///< "true": Alt shows letters.
+inline constexpr QLatin1String toolBarState =
+    latin1("toolbarstate"); ///< What GetToolBarState() has returned.
 
 /** Those that are taken out of the map before anything else sees it. */
-inline constexpr QLatin1String options[] = {scheme,          scale,        touch,
-                                            applicationFont, toolTipWords, keyTips};
+inline constexpr QLatin1String options[] = {
+    scheme, scale, touch, applicationFont, toolTipWords, keyTips, toolBarState};
 } // namespace SkinKey
 
 /** Dynamic properties, most of which the style sheets select by. */
@@ -140,6 +142,7 @@ inline constexpr char rowMenu[] = "toolbar";     ///< "true": entries begin as t
 inline constexpr char tabIndex[] = "tabindex";   ///< Position of a tab, as a decimal text.
 inline constexpr char usable[] = "usable";       ///< "true": a group button follows the host.
 inline constexpr char loaded[] = "loaded";       ///< "false" on the application button.
+inline constexpr char added[] = "quickadded"; ///< The command that the user added to quick access.
 } // namespace Property
 
 /** Values of the property "module". */

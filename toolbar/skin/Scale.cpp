@@ -28,6 +28,12 @@ constexpr float designTextSize = 12.0F;
 constexpr double targetMillimetres = 9.0;
 constexpr double millimetresPerInch = 25.4;
 
+bool isFactor(double factor)
+{
+    // False for what is no number, too.
+    return factor >= least && factor <= most;
+}
+
 /** Those whose host has chosen something. */
 QList<const Scale *> &chosenScales()
 {
@@ -87,10 +93,16 @@ void Scale::choose(const QString &choice)
     take(ofScreen(m_screens->screen()));
 }
 
+bool Scale::isChoice(const QString &choice)
+{
+    bool isNumber = false;
+    const double factor = choice.toDouble(&isNumber);
+    return choice == ownScreen || (isNumber && isFactor(factor));
+}
+
 void Scale::set(double factor)
 {
-    // Written so that no number is refused, too.
-    if (!(factor >= least && factor <= most))
+    if (!isFactor(factor))
         return;
     m_takesScreens = false;
     watchScreens();

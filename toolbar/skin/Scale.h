@@ -33,6 +33,8 @@ public:
 
     /** "screen", or a number as set() takes it; any other text changes nothing. */
     void choose(const QString &choice);
+    /** Whether choose() does something with the text. */
+    static bool isChoice(const QString &choice);
     /** A fixed factor from 0.5 to 4; any other changes nothing. */
     void set(double factor);
 
