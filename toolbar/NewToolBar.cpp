@@ -139,6 +139,7 @@ NewToolBar::NewToolBar(QMainWindow *mainWindow, QDomNode &description, QMap<QStr
     InitWidget();
     makeWindowShortcuts();
     chooseKeyTips(options.value(SkinKey::keyTips));
+    createAddedCommands();
     m_parts->keeper.restoreFirst();
     new FocusRing(this);
     InitSkinStyle(skin);

@@ -216,6 +216,7 @@ private:
     static std::optional<KeptState> takeState(QMap<QString, QString> &options);
     void expectState(const std::optional<KeptState> &kept);
     void keepLooks(const QMap<QString, QString> &options);
+    void createAddedCommands();
     int keptTab(const QList<Controller *> &tabs) const;
 
     // Skin.

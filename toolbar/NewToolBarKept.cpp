@@ -4,9 +4,17 @@
 #include "toolbar/NewToolBar.h"
 
 #include "toolbar/NewToolBarParts.h"
+#include "toolbar/description/Controller.h"
 #include "toolbar/description/Names.h"
+#include "toolbar/description/Sections.h"
 #include "toolbar/skin/Scale.h"
 #include "toolbar/skin/Scheme.h"
+
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QToolBar>
+
+#include <algorithm>
 
 namespace {
 
@@ -59,4 +67,24 @@ void NewToolBar::keepLooks(const QMap<QString, QString> &options)
     const QString scheme = options.value(SkinKey::scheme);
     m_parts->keeper.noteLooks(Scale::isChoice(scale) ? scale : QString(),
                               schemeNamed(scheme) ? scheme : QString());
+}
+
+void NewToolBar::createAddedCommands()
+{
+    const QList<Controller *> records = sectionRecords(m_controllers, Section::quickAccessBar);
+    const bool isWanted = std::any_of(records.begin(), records.end(), [](const Controller *record) {
+        return record->name == Name::customise && record->quickadd;
+    });
+    if (!isWanted || !m_quickAccessBar || !m_quickAccessSetButton)
+        return;
+
+    m_parts->added = std::make_unique<AddedCommands>(m_parts->factory, m_controllers,
+                                                     m_quickAccessBar, m_quickAccessSetButton);
+    AddedCommands *added = m_parts->added.get();
+    m_parts->offer = new QuickAccessOffer(added, m_parts->factory);
+    m_parts->offer->watch(m_toolRowStack);
+    connect(added, &AddedCommands::commandNeeded, this, &NewToolBar::makeCommand);
+    m_parts->keeper.setAdded({});
+    connect(added, &AddedCommands::changed, &m_parts->keeper, &StateKeeper::setAdded);
+    connect(&m_parts->keeper, &StateKeeper::addedRestored, added, &AddedCommands::set);
 }

@@ -23,6 +23,8 @@ void NewToolBar::Receiver::takeCommand(QAction *command)
     m_toolBar.m_parts->commands.connectCommand(command);
     if (WindowShortcuts *shortcuts = m_toolBar.m_parts->windowShortcuts.get())
         shortcuts->restore(command);
+    if (m_toolBar.m_parts->added)
+        m_toolBar.m_parts->added->takeCommand(command);
 }
 
 void NewToolBar::Receiver::takeSearchOption(QAction *option)
@@ -105,6 +107,8 @@ void NewToolBar::Receiver::fillRow(MRMainToolBar *row)
     }
     row->setFilled(true);
     FocusOrder::takeByKeysOnly(row);
+    if (m_toolBar.m_parts->offer)
+        m_toolBar.m_parts->offer->watch(row);
     Q_EMIT m_toolBar.DoRequestAuthority();
 }
 

@@ -6,11 +6,13 @@
 #include "toolbar/NewToolBar.h"
 #include "toolbar/assist/KeyTips.h"
 #include "toolbar/assist/WindowShortcuts.h"
+#include "toolbar/build/AddedCommands.h"
 #include "toolbar/build/ControlFactory.h"
 #include "toolbar/build/ControlReceiver.h"
 #include "toolbar/build/GroupPanelMaker.h"
 #include "toolbar/build/MenuMaker.h"
 #include "toolbar/build/Presentation.h"
+#include "toolbar/build/QuickAccessOffer.h"
 #include "toolbar/build/RowMaker.h"
 #include "toolbar/commands/CommandDispatcher.h"
 #include "toolbar/commands/SearchDispatcher.h"
@@ -82,4 +84,6 @@ struct NewToolBar::Parts
     std::unique_ptr<CommandAccess> commandAccess; ///< From the first search for a command on.
     CommandFinder *finder = nullptr;              ///< Likewise; a child of the toolbar.
     StateKeeper keeper;
+    std::unique_ptr<AddedCommands> added; ///< Where the description lets the user add commands.
+    QuickAccessOffer *offer = nullptr;    ///< Likewise.
 };

@@ -8,6 +8,7 @@
 #include "toolbar/widgets/FocusEntry.h"
 #include "toolbar/widgets/MRScrollWidget.h"
 
+#include <QAction>
 #include <QStackedWidget>
 #include <QToolBar>
 
@@ -23,6 +24,8 @@ void NewToolBar::DoSetControlUsableStateSlot(QString &objName, bool usable)
         return;
     if (m_parts->windowShortcuts)
         m_parts->windowShortcuts->noteEnabled(objName, usable);
+    if (m_parts->added)
+        m_parts->added->setWaiting(objName, &QAction::setEnabled, usable);
     if (m_currentScrollWidget && !m_currentScrollWidget->isEnabled())
         m_parts->states.setFirstActionEnabled(objName, usable);
     else
@@ -39,6 +42,8 @@ void NewToolBar::DoSetControlVisibleStateSlot(QString &objName, bool visible)
     m_parts->states.setVisible(objName, visible);
     if (self && m_parts->finder)
         m_parts->finder->followStates();
+    if (self && m_parts->added)
+        m_parts->added->setWaiting(objName, &QAction::setVisible, visible);
     if (self)
         m_parts->keeper.noteQuickAccess();
 }
@@ -50,6 +55,8 @@ void NewToolBar::DoSetControlCheckedStateSlot(QString &objName, bool checked)
         objName.truncate(colon);
     if (m_parts->windowShortcuts)
         m_parts->windowShortcuts->noteChecked(objName, checked);
+    if (m_parts->added)
+        m_parts->added->setWaiting(objName, &QAction::setChecked, checked);
     m_parts->checkedStates.setChecked(objName, checked);
 }
 

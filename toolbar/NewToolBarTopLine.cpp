@@ -158,7 +158,7 @@ QString NewToolBar::GetQuickAccessButtonList()
     QStringList shown;
     const QList<QAction *> actions = m_quickAccessBar->actions();
     for (const QAction *action : actions) {
-        if (action->isVisible())
+        if (action->isVisible() && !action->property(Property::added).isValid())
             shown.append(action->objectName());
     }
     return QuickAccessSetting::join(shown);

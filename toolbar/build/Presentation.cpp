@@ -9,6 +9,7 @@
 #include "toolbar/skin/Scale.h"
 #include "toolbar/skin/ScreenDensity.h"
 #include "toolbar/skin/SkinIcon.h"
+#include "toolbar/skin/TopLineIcon.h"
 #include "toolbar/widgets/CustomMenuStyle.h"
 
 #include <QApplication>
@@ -97,7 +98,8 @@ void Presentation::findNames()
 {
     for (; m_filed < m_given.size(); ++m_filed) {
         const Given &given = m_given[m_filed];
-        if (given.record)
+        // A record that does not outlive its control has gone with it.
+        if (given.record && given.control)
             fileUnder(*given.record, static_cast<qsizetype>(m_filed), given.shows);
     }
 }
@@ -157,6 +159,12 @@ QString Presentation::disabledToolTip(const Controller &record) const
     return translated(record.disabletip);
 }
 
+QString Presentation::textByName(const Controller &record) const
+{
+    const QString *given = m_byName.text(record);
+    return given ? *given : QString();
+}
+
 QString Presentation::toolTipByName(const Controller &record) const
 {
     const QString *given = m_byName.ownToolTip(record);
@@ -179,6 +187,13 @@ QIcon Presentation::icon(const Controller &record) const
     const QIcon icon = m_appearance.icon(skinIconPath(m_directory, record.icon));
     // One that is missing may come with resources that are loaded later.
     return icon.isNull() ? icon : *m_icons.insert(record.icon, icon);
+}
+
+QIcon Presentation::topLineIcon(const Controller &record, const QString &letter) const
+{
+    if (const QIcon *given = m_byName.icon(record))
+        return *given;
+    return topLineIconOf(skinIconPath(m_directory, record.icon), letter, m_appearance);
 }
 
 int Presentation::length(double designLength) const

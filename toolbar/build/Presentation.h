@@ -97,10 +97,13 @@ public:
     QString disabledToolTip(const Controller &record) const;
     /** Empty if the skin has no such icon. */
     QIcon icon(const Controller &record) const;
+    /** The same for the top line, which may be coloured; a letter where there is no icon. */
+    QIcon topLineIcon(const Controller &record, const QString &letter) const;
 
     const Appearance &appearance() const { return m_appearance; }
 
     /** What is set by name, for controls that do not show what is described; else nothing. */
+    QString textByName(const Controller &record) const;
     QString toolTipByName(const Controller &record) const;
     QIcon iconByName(const Controller &record) const;
     /** Whether controls are to give up the tooltips that they have, before they are given others:

@@ -169,5 +169,6 @@ inline constexpr QLatin1String caption = latin1("prompt");     ///< Below a fiel
 inline constexpr QLatin1String finder = latin1("findcommand"); ///< The field with its list.
 inline constexpr QLatin1String finderField = latin1("findcommand_input");
 inline constexpr QLatin1String finderList = latin1("findcommand_list");
+inline constexpr QLatin1String quickAccessOffer = latin1("quickaccess_offer"); ///< Adds or removes.
 inline constexpr QLatin1String overflowButton = latin1("qt_toolbar_ext_button"); ///< Qt's own.
 } // namespace Part

@@ -95,6 +95,11 @@ QColor Appearance::accent() const
     return m_colours ? m_colours->accent : QColor(sheetColour(m_mainColour));
 }
 
+QColor Appearance::mainColour() const
+{
+    return sheetColour(m_mainColour);
+}
+
 QIcon Appearance::icon(const QString &path)
 {
     const auto known = m_icons.constFind(path);

@@ -37,6 +37,8 @@ public:
 
     /** The colour of the accents: that of the scheme, or the main colour while it is light. */
     QColor accent() const;
+    /** What the accents follow, and what the strip of a skin with a coloured one is made of. */
+    QColor mainColour() const;
 
     /** The icon of a file or resource, which follows the scheme; see followingIcon(). */
     QIcon icon(const QString &path);

@@ -86,9 +86,12 @@ QImage recolouredPixels(QImage image, const SchemeColours &colours)
 class RecolouredEngine : public QIconEngine
 {
 public:
-    RecolouredEngine(const QString &path, const SchemeLook &look)
+    using Colours = SchemeColours (*)(const SchemeLook &look);
+
+    RecolouredEngine(const QString &path, const SchemeLook &look, Colours colours)
         : m_path(path)
         , m_look(look)
+        , m_colours(colours)
     {
     }
 
@@ -104,12 +107,13 @@ public:
 
     QPixmap pixmap(const QSize &size, QIcon::Mode, QIcon::State) override
     {
-        const QString key = QStringLiteral("mrtoolbar %1 %2 %3 %4x%5")
+        const QString key = QStringLiteral("mrtoolbar %1 %2 %3 %4x%5 %6")
                                 .arg(m_path)
                                 .arg(int(m_look.scheme))
                                 .arg(m_look.mainColour)
                                 .arg(size.width())
-                                .arg(size.height());
+                                .arg(size.height())
+                                .arg(m_colours == &stripColours);
         QPixmap picture;
         if (!QPixmapCache::find(key, &picture)) {
             picture = QPixmap::fromImage(drawn(size));
@@ -118,7 +122,7 @@ public:
         return picture;
     }
 
-    QIconEngine *clone() const override { return new RecolouredEngine(m_path, m_look); }
+    QIconEngine *clone() const override { return new RecolouredEngine(m_path, m_look, m_colours); }
 
 private:
     QImage drawn(const QSize &room)
@@ -132,7 +136,7 @@ private:
         if (m_isSvg || own.width() > room.width() || own.height() > room.height())
             reader.setScaledSize(own.scaled(room, Qt::KeepAspectRatio));
         const QImage image = reader.read();
-        return m_isSvg || image.isNull() ? image : recolouredPixels(image, schemeColours(m_look));
+        return m_isSvg || image.isNull() ? image : recolouredPixels(image, m_colours(m_look));
     }
 
     void read()
@@ -143,11 +147,12 @@ private:
         m_content = file.readAll();
         m_isSvg = m_path.endsWith(QLatin1String(".svg"));
         if (m_isSvg)
-            m_content = IconColours::recoloured(m_content, schemeColours(m_look));
+            m_content = IconColours::recoloured(m_content, m_colours(m_look));
     }
 
     QString m_path;
     SchemeLook m_look;
+    Colours m_colours;
     QByteArray m_content;
     bool m_isSvg = false;
 };
@@ -180,5 +185,11 @@ QByteArray IconColours::recoloured(const QByteArray &svg, const SchemeColours &c
 
 QIcon IconColours::drawing(const QString &path, const SchemeLook &look)
 {
-    return look.isLight() ? QIcon(path) : QIcon(new RecolouredEngine(path, look));
+    return look.isLight() ? QIcon(path) : QIcon(new RecolouredEngine(path, look, &schemeColours));
+}
+
+QIcon IconColours::stripDrawing(const QString &path, const QColor &strip)
+{
+    const SchemeLook look{Scheme::Light, strip.rgb()};
+    return QIcon(new RecolouredEngine(path, look, &stripColours));
 }

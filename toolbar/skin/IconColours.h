@@ -26,4 +26,7 @@ QByteArray recoloured(const QByteArray &svg, const SchemeColours &colours);
 /** The icon of a file; recoloured, unless @p look is light. */
 QIcon drawing(const QString &path, const SchemeLook &look);
 
+/** The icon of a file in light lines, for a strip of that colour. */
+QIcon stripDrawing(const QString &path, const QColor &strip);
+
 } // namespace IconColours

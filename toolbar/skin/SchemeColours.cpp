@@ -102,6 +102,17 @@ SchemeColours schemeColours(const SchemeLook &look)
     return colours;
 }
 
+SchemeColours stripColours(const SchemeLook &look)
+{
+    SchemeColours colours;
+    colours.text = Qt::white;
+    colours.accent = colours.text;
+    colours.surface = QColor(look.mainColour);
+    colours.pressed = colours.surface;
+    colours.iconContrast = darkGreys.iconContrast;
+    return colours;
+}
+
 QPalette schemePalette(const SchemeColours &colours)
 {
     QPalette palette(colours.text, colours.raised, colours.hover, colours.strip, colours.divider,

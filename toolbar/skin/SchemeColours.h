@@ -34,6 +34,9 @@ struct SchemeColours
 /** The colours of a look that is not light; its own main colour gives the accent. */
 SchemeColours schemeColours(const SchemeLook &look);
 
+/** What drawings are given on a strip of the look's main colour: light lines on that ground. */
+SchemeColours stripColours(const SchemeLook &look);
+
 /** The same for widgets that are dressed by a palette. */
 QPalette schemePalette(const SchemeColours &colours);
 

@@ -49,16 +49,6 @@ bool isWhiteAllOver(const QString &path)
     return colours > 0 && colours == drawing.count("#ffffff");
 }
 
-/** Whether a drawing is one for the coloured strip: white all over, and unseen elsewhere. */
-bool isForColouredStrip(const QString &path)
-{
-    // Asked for each size of each icon, but files are read only once. Never destroyed, as the
-    // icons.
-    static auto &answers = *new QHash<QString, bool>;
-    const auto known = answers.constFind(path);
-    return known == answers.cend() ? *answers.insert(path, isWhiteAllOver(path)) : *known;
-}
-
 /**
  * How badly a drawing of @p drawnSide fits @p side physical pixels. Lines stay on their pixels when
  * they are multiplied, best by the least number; otherwise the nearest drawing is smeared least.
@@ -148,6 +138,27 @@ QHash<IconKey, QIcon> &iconCache()
 }
 
 } // namespace
+
+bool isForColouredStrip(const QString &path)
+{
+    // Asked for each size of each icon, but files are read only once. Never destroyed, as the
+    // icons.
+    static auto &answers = *new QHash<QString, bool>;
+    const auto known = answers.constFind(path);
+    return known == answers.cend() ? *answers.insert(path, isWhiteAllOver(path)) : *known;
+}
+
+QString drawingForStrip(const QString &path, int side)
+{
+    const int ownSide = drawnSideOf(path);
+    for (const int drawnSide : drawnSides) {
+        QString other = path;
+        other.replace(folderOf(ownSide), folderOf(drawnSide));
+        if (ownSide != 0 && QFile::exists(other) && isForColouredStrip(other))
+            return other;
+    }
+    return drawingFor(path, side);
+}
 
 qreal disabledIconOpacity(const SchemeLook &look)
 {

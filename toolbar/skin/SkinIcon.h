@@ -20,5 +20,14 @@ QString skinIconPath(const QString &directory, const QString &name);
  */
 QIcon skinIcon(const QString &path, const SchemeLook &look = {});
 
+/**
+ * The drawing of the same thing for @p side physical pixels and for a coloured ground, where there
+ * is one; or else for that side, or @p path.
+ */
+QString drawingForStrip(const QString &path, int side);
+
+/** Whether a drawing is one for the coloured strip: white all over, and unseen elsewhere. */
+bool isForColouredStrip(const QString &path);
+
 /** How much of an icon is left while its control is disabled. */
 qreal disabledIconOpacity(const SchemeLook &look);

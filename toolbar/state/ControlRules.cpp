@@ -149,7 +149,8 @@ Controls ControlFinders::quickEntries(const ControlLists &lists, const QString &
     const QToolBar *bar = lists.quickAccessBar;
     const QList<QAction *> entries = bar ? bar->actions() : QList<QAction *>();
     for (QAction *entry : entries) {
-        if (entry->objectName().contains(name))
+        // What the user has added is as the command that has the name.
+        if (entry->objectName().contains(name) && !entry->property(Property::added).isValid())
             found.emplace_back(entry);
     }
     return found;

@@ -74,8 +74,6 @@ public:
     /** Shows or hides the row on show, as the area of the rows is by name. */
     void setShown(bool isShown);
     State state() const;
-    /** Whether all rows are hidden, as the user or a restored state has them. */
-    bool isFolded() const { return m_isFolded; }
     /** The name of the tab on show; empty if there is none. */
     QString currentTab() const;
     /** Shows the extra groups of that name and hides the others. */

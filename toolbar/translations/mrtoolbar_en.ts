@@ -245,6 +245,17 @@
     </message>
 </context>
 <context>
+    <name>QuickAccessOffer</name>
+    <message>
+        <source>从快速访问工具栏移除</source>
+        <translation>Remove from the quick access toolbar</translation>
+    </message>
+    <message>
+        <source>添加到快速访问工具栏</source>
+        <translation>Add to the quick access toolbar</translation>
+    </message>
+</context>
+<context>
     <name>TabStripArrow</name>
     <message>
         <source>向左滚动</source>

@@ -245,6 +245,17 @@
     </message>
 </context>
 <context>
+    <name>QuickAccessOffer</name>
+    <message>
+        <source>从快速访问工具栏移除</source>
+        <translation>从快速访问工具栏移除</translation>
+    </message>
+    <message>
+        <source>添加到快速访问工具栏</source>
+        <translation>添加到快速访问工具栏</translation>
+    </message>
+</context>
+<context>
     <name>TabStripArrow</name>
     <message>
         <source>向左滚动</source>

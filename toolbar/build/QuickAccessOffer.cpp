@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
+#include "toolbar/build/QuickAccessOffer.h"
+
+#include "toolbar/build/AddedCommands.h"
+#include "toolbar/build/ControlFactory.h"
+#include "toolbar/description/Names.h"
+#include "toolbar/widgets/HostAnswer.h"
+#include "toolbar/widgets/MRDropButton.h"
+
+#include <QAction>
+#include <QContextMenuEvent>
+#include <QMenu>
+
+namespace {
+
+/** What a click on a button of a row triggers; empty for those that only open a menu. */
+QString commandOf(const QToolButton *button)
+{
+    const auto *dropButton = qobject_cast<const MRDropButton *>(button);
+    const QAction *action = dropButton ? dropButton->GetCurrentAction() : button->defaultAction();
+    return action ? action->objectName() : QString();
+}
+
+} // namespace
+
+QuickAccessOffer::QuickAccessOffer(AddedCommands *commands, const ControlFactory &factory)
+    : QObject(commands)
+    , m_commands(commands)
+    , m_factory(factory)
+{
+}
+
+void QuickAccessOffer::watch(const QWidget *rows)
+{
+    // Each by itself: a disabled button does not leave the event to the row that it is on.
+    const QList<QToolButton *> buttons = rows->findChildren<QToolButton *>();
+    for (QToolButton *button : buttons)
+        button->installEventFilter(this);
+}
+
+bool QuickAccessOffer::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() != QEvent::ContextMenu)
+        return false;
+    const QString command = commandOf(qobject_cast<QToolButton *>(watched));
+    if (!m_commands->isOffered(command))
+        return false;
+    offer(command, *static_cast<const QContextMenuEvent *>(event));
+    event->accept();
+    return true;
+}
+
+void QuickAccessOffer::offer(const QString &command, const QContextMenuEvent &event)
+{
+    QMenu *menu = m_factory.makeMenu(m_factory.owner(), true);
+    menu->setProperty(Property::module, Module::menu);
+    menu->setObjectName(Part::quickAccessOffer);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    QAction *entry = menu->addAction(m_commands->isOnBar(command) ? tr("从快速访问工具栏移除")
+                                                                  : tr("添加到快速访问工具栏"));
+    connect(entry, &QAction::triggered, m_commands, [commands = m_commands, command] {
+        // The host hears of it while Qt still uses the menu.
+        const HostAnswer answer;
+        commands->toggle(command);
+    });
+    if (event.reason() == QContextMenuEvent::Keyboard)
+        menu->setActiveAction(entry);
+    menu->popup(event.globalPos());
+}
