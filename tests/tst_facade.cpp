@@ -121,6 +121,7 @@ private Q_SLOTS:
             "DoDoubleActive(QString) DoOpenFile(QString) DoSetZoomMode(QString) "
             "DoSearchContent(SearchOption) DoSetBackground(BackgroundStyle) DoRequestAuthority() "
             "DoTabShown(QString) "
+            "DoStateChanged() "
             "Inner_DoGotoPageSlot(int) Inner_DoActiveSlot(QString) "
             "Inner_DoDoubleActionSlot(QString) "
             "Inner_DoOpenFileSlot(QString) Inner_DoSetZoomModeSlot(QString) "

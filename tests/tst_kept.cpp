@@ -11,6 +11,7 @@
 #include "toolbar/widgets/MRMainToolBar.h"
 
 #include <QMenu>
+#include <QRandomGenerator>
 #include <QStackedWidget>
 #include <QToolBar>
 
@@ -100,6 +101,7 @@ private Q_SLOTS:
     void shouldNotReadOtherTexts_data();
     void shouldNotReadOtherTexts();
     void shouldWriteNoMoreThanItReads();
+    void shouldTakeDamagedTexts();
 
     // From one run to the next.
     void shouldOpenTheKeptTabOnly();
@@ -195,6 +197,25 @@ void tst_kept::shouldWriteNoMoreThanItReads()
     QVERIFY(read);
     QCOMPARE(read->shown, QStringList(state.shown.mid(0, 100)));
     QCOMPARE(read->faces.size(), 100);
+}
+
+void tst_kept::shouldTakeDamagedTexts()
+{
+    const QString whole = "mrtoolbar/1;tab=second;folded=1;shown=qbar_f_open,b;hidden=c;added=one;"
+                          "found=two;faces=d_drop:d_b,g_drop:d_a;scale=1.5;scheme=dark";
+    const QString damage = QString("%;:,=/1x\n") + QChar(0) + QChar(0xd800) + QChar(0x89c6);
+    TestHost host = TestHost::enabled(described());
+    QRandomGenerator random(1);
+    for (int i = 0; i < 300; ++i) {
+        QString text = whole;
+        for (int j = random.bounded(4); j >= 0; --j)
+            text.replace(random.bounded(int(text.size())), random.bounded(5),
+                         damage.at(random.bounded(int(damage.size()))));
+        host.facade().DoSetSkinStyleSlot({{stateKey, text}});
+        const QString state = host.facade().GetToolBarState();
+        const auto read = KeptState::fromText(state);
+        QVERIFY2(read && read->toText() == state, qPrintable(text));
+    }
 }
 
 void tst_kept::shouldOpenTheKeptTabOnly()
@@ -390,6 +411,16 @@ void tst_kept::shouldLetTheHostDeleteTheWindowInItsAnswer()
         TestHost host = TestHost::enabled(described());
         QObject::connect(&host.facade(), signal, &host.facade(), [&] { host.deleteWindow(); });
         host.click("second");
+    }
+    for (const Act act : {Act([](TestHost &host) { host.click("t_fold"); }),
+                          Act([](TestHost &host) { choose(host, "d_drop", "d_b"); }),
+                          Act([](TestHost &host) { tick(host, "qbar_f_open"); })}) {
+        TestHost host = TestHost::enabled(described());
+        host.click("second");
+        QObject::connect(&host.facade(), &MRToolBar::DoStateChanged, &host.facade(),
+                         [&] { host.deleteWindow(); });
+        act(host);
+        QVERIFY(host.facade().GetToolBarState().isEmpty());
     }
     TestHost host = TestHost::enabled(described());
     QObject::connect(&host.facade(), &MRToolBar::DoRequestAuthority, &host.facade(),

@@ -101,6 +101,16 @@ QStringList addedNames(TestHost &host)
     return state && state->added ? *state->added : QStringList();
 }
 
+/** The button on its ground, without the pointer. */
+QImage pictureOf(TestHost &host, const QString &name)
+{
+    QTest::mouseMove(&host.window(), QPoint(600, 500));
+    QCoreApplication::processEvents();
+    const QToolButton *button = buttonOf(host, name);
+    const QPoint place = button->mapTo(&host.window(), QPoint());
+    return host.window().grab(QRect(place, button->size())).toImage();
+}
+
 TestHost nextRun(TestHost &host)
 {
     return TestHost::enabled(described(), {{"toolbarstate", host.facade().GetToolBarState()}});
@@ -138,6 +148,8 @@ private Q_SLOTS:
     void shouldTakeTextsAndIconsByName();
     void shouldBeReadOnTheTopLine_data();
     void shouldBeReadOnTheTopLine();
+    void shouldShowThatItIsChecked_data() { addSkins(); }
+    void shouldShowThatItIsChecked();
     void shouldLetTheHostDeleteTheWindowInItsAnswer_data();
     void shouldLetTheHostDeleteTheWindowInItsAnswer();
 };
@@ -270,8 +282,10 @@ void tst_quickadd::shouldBeAsTheHostSaysBeforeTheRowIsMade()
     host.setUsable("later", false);
     host.setChecked("later", true);
     QVERIFY(!added->isEnabled() && added->isChecked());
+    host.facade().DoResetToolbarSlot();
+    QVERIFY(!added->isEnabled() && !added->isChecked());
     host.click("second");
-    QVERIFY(added->isEnabled() && !added->isChecked()); // As the row's button begins.
+    QVERIFY(added->isEnabled()); // As the row's button begins.
 }
 
 void tst_quickadd::shouldMakeTheRowBeforeItActs_data()
@@ -368,11 +382,7 @@ void tst_quickadd::shouldBeReadOnTheTopLine()
     QFETCH(QString, name);
     TestHost host = TestHost::enabled(described(), {{"scheme", scheme}});
     takeOffer(host, name);
-    QTest::mouseMove(&host.window(), QPoint(600, 500));
-    const QToolButton *button = buttonOf(host, "qbar_" + name);
-    QCoreApplication::processEvents();
-    const QPoint place = button->mapTo(&host.window(), QPoint());
-    const QImage picture = host.window().grab(QRect(place, button->size())).toImage();
+    const QImage picture = pictureOf(host, "qbar_" + name);
     const QColor ground = picture.pixelColor(1, 1);
     double best = 1.0;
     for (int y = 0; y < picture.height(); ++y) {
@@ -380,6 +390,16 @@ void tst_quickadd::shouldBeReadOnTheTopLine()
             best = std::max(best, Contrast::ratio(picture.pixelColor(x, y), ground));
     }
     QVERIFY2(best >= 3.0, qPrintable(QString::number(best)));
+}
+
+void tst_quickadd::shouldShowThatItIsChecked()
+{
+    const SkinChoice skin;
+    TestHost host = TestHost::enabled(described());
+    takeOffer(host, "check");
+    const QColor before = pictureOf(host, "qbar_check").pixelColor(2, 2);
+    host.setChecked("check", true);
+    QVERIFY(pictureOf(host, "qbar_check").pixelColor(2, 2) != before);
 }
 
 void tst_quickadd::shouldLetTheHostDeleteTheWindowInItsAnswer_data()

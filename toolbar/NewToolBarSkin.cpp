@@ -35,6 +35,10 @@ constexpr QLatin1String plainToolBarRule =
 
 /** Of both skins. */
 constexpr QLatin1String touchSheet = latin1(":/mr_toolbar/Resources/touch.qss");
+/** Described quick access buttons are never checked on the coloured line; added ones may be. */
+constexpr QLatin1String checkedQuickButtonRule =
+    latin1("QToolBar#toolbar_quickaccessbar QToolButton:checked"
+           "{background-color:[MainColor.checked];}");
 
 /**
  * Under a sheet of the application, a tool bar keeps the margins of that sheet for good unless it
@@ -181,8 +185,10 @@ void NewToolBar::SwitchSkinStyle(QMap<QString, QString> skin)
 
 bool NewToolBar::ResetSkinStyle()
 {
-    QString sheet = StyleSheet::filled(LoadQss(GetResourceDir() + QStringLiteral("qssfile.qss")),
-                                       m_skinMap, Skin::isLum());
+    QString sheet = LoadQss(GetResourceDir() + QStringLiteral("qssfile.qss"));
+    if (m_parts->added && !Skin::isLum())
+        sheet += checkedQuickButtonRule;
+    sheet = StyleSheet::filled(sheet, m_skinMap, Skin::isLum());
     if (m_scaling->usesApplicationFont())
         sheet = StyleSheet::withoutFonts(sheet);
     if (const int target = m_scaling->leastTarget())

@@ -120,4 +120,7 @@ void NewToolBar::ResetToolbarState()
     DoSetTotalPageSlot(QStringLiteral(" "));
     DoSetPageNumSlot(QStringLiteral(" "));
     m_parts->checkedStates.uncheckAll();
+    const QStringList added = self && m_parts->added ? m_parts->added->names() : QStringList();
+    for (const QString &name : added)
+        m_parts->added->setWaiting(name, &QAction::setChecked, false);
 }

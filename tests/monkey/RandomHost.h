@@ -243,6 +243,7 @@ private:
         m_facade->GetControlGeometry(name);
         m_facade->IsSupportByToolBar(name);
         m_facade->GetQuickAccessButtonList();
+        m_facade->GetToolBarState();
         m_facade->GetToolBarStyleSheet();
         return "ask " + name.left(40);
     }

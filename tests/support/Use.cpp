@@ -119,6 +119,7 @@ void useEverything(MRToolBar &facade, QMainWindow &window, const QStringList &na
         facade.DoSetZoomModeSlot(mode);
     facade.DoSetBackgroundSlot(Background_Eyeguard);
     facade.GetQuickAccessButtonList();
+    facade.DoSetSkinStyleSlot({{"toolbarstate", facade.GetToolBarState()}});
     QCoreApplication::processEvents();
     facade.DoResetToolbarSlot();
 }

@@ -44,15 +44,25 @@ bool QuickAccessOffer::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() != QEvent::ContextMenu)
         return false;
-    const QString command = commandOf(qobject_cast<QToolButton *>(watched));
+    const auto *button = qobject_cast<QToolButton *>(watched);
+    const QString command = commandOf(button);
     if (!m_commands->isOffered(command))
         return false;
-    offer(command, *static_cast<const QContextMenuEvent *>(event));
     event->accept();
+    const auto *asked = static_cast<const QContextMenuEvent *>(event);
+    QMenu *menu = makeMenu(command);
+    if (asked->reason() != QContextMenuEvent::Keyboard) {
+        menu->popup(asked->globalPos());
+        return true;
+    }
+    const QRect place = button->rect();
+    menu->setActiveAction(menu->actions().constFirst());
+    menu->popup(
+        button->mapToGlobal(button->isRightToLeft() ? place.bottomRight() : place.bottomLeft()));
     return true;
 }
 
-void QuickAccessOffer::offer(const QString &command, const QContextMenuEvent &event)
+QMenu *QuickAccessOffer::makeMenu(const QString &command)
 {
     QMenu *menu = m_factory.makeMenu(m_factory.owner(), true);
     menu->setProperty(Property::module, Module::menu);
@@ -65,7 +75,5 @@ void QuickAccessOffer::offer(const QString &command, const QContextMenuEvent &ev
         const HostAnswer answer;
         commands->toggle(command);
     });
-    if (event.reason() == QContextMenuEvent::Keyboard)
-        menu->setActiveAction(entry);
-    menu->popup(event.globalPos());
+    return menu;
 }

@@ -7,7 +7,7 @@
 
 class AddedCommands;
 class ControlFactory;
-class QContextMenuEvent;
+class QMenu;
 class QWidget;
 
 /**
@@ -28,7 +28,7 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void offer(const QString &command, const QContextMenuEvent &event);
+    QMenu *makeMenu(const QString &command);
 
     AddedCommands *m_commands;
     const ControlFactory &m_factory;

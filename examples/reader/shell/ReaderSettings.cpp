@@ -11,7 +11,7 @@ constexpr int defaultRecentLimit = 8;
 const QString recentFilesKey = QStringLiteral("recentFiles");
 const QString recentLimitKey = QStringLiteral("recentLimit");
 const QString schemeKey = QStringLiteral("scheme");
-const QString quickAccessKey = QStringLiteral("quickAccessButtons/");
+const QString toolBarStateKey = QStringLiteral("toolBarState/");
 
 } // namespace
 
@@ -50,15 +50,14 @@ void ReaderSettings::setRecentLimit(int limit)
     m_settings.setValue(recentLimitKey, limit);
 }
 
-QString ReaderSettings::quickAccessButtons(const QString &skin) const
+QString ReaderSettings::toolBarState(const QString &skin) const
 {
-    return m_settings.value(quickAccessKey + skin).toString();
+    return m_settings.value(toolBarStateKey + skin).toString();
 }
 
-void ReaderSettings::setQuickAccessButtons(const QString &skin, const QString &buttons)
+void ReaderSettings::setToolBarState(const QString &skin, const QString &state)
 {
-    // An empty setting means the default of the description; a separator alone means no button.
-    m_settings.setValue(quickAccessKey + skin, buttons.isEmpty() ? QStringLiteral(";") : buttons);
+    m_settings.setValue(toolBarStateKey + skin, state);
 }
 
 QString ReaderSettings::scheme() const

@@ -21,9 +21,9 @@ public:
     int recentLimit() const override;
     void setRecentLimit(int limit) override;
 
-    /** The stored quick access setting for that skin; empty on the first run. */
-    QString quickAccessButtons(const QString &skin) const;
-    void setQuickAccessButtons(const QString &skin, const QString &buttons);
+    /** What the toolbar was like with that skin; empty on the first run. */
+    QString toolBarState(const QString &skin) const;
+    void setToolBarState(const QString &skin, const QString &state);
 
     /** How light the reader is; see ReaderScheme. Light on the first run. */
     QString scheme() const;

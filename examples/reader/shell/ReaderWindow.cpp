@@ -30,7 +30,7 @@
 
 namespace {
 
-const QString quickAccessKey = QStringLiteral("quickaccessbarbuttons");
+const QString toolBarStateKey = QStringLiteral("toolbarstate");
 const QString schemeKey = QStringLiteral("scheme");
 const QString sampleName = QStringLiteral("示例文档.ofd");
 constexpr int logWidth = 300;
@@ -119,9 +119,8 @@ void ReaderWindow::createDocks()
 void ReaderWindow::createToolBar(const QDomDocument &description)
 {
     ToolBarSkinStyle skin = m_colours;
-    const QString buttons = m_skin.isEmpty() ? QString() : m_settings.quickAccessButtons(m_skin);
-    if (!buttons.isEmpty())
-        skin.insert(quickAccessKey, buttons);
+    if (!m_skin.isEmpty())
+        skin.insert(toolBarStateKey, m_settings.toolBarState(m_skin));
     skin.insert(schemeKey, m_scheme);
     // In English the tips would break within words otherwise.
     skin.insert(QStringLiteral("tooltipwords"), QStringLiteral("true"));
@@ -197,6 +196,10 @@ void ReaderWindow::connectToolBar()
 {
     const MRToolBar *toolBar = m_toolBar.get();
     connect(toolBar, &MRToolBar::DoActive, this, &ReaderWindow::runCommand);
+    connect(toolBar, &MRToolBar::DoStateChanged, this, [this] {
+        if (!m_skin.isEmpty())
+            m_settings.setToolBarState(m_skin, m_toolBar->GetToolBarState());
+    });
     connect(toolBar, &MRToolBar::DoGotoPage, this, [this](int page) {
         m_view->setCurrentPage(page - 1);
         m_view->setFocus();
@@ -369,8 +372,6 @@ void ReaderWindow::closeEvent(QCloseEvent *event)
         event->ignore();
         return;
     }
-    if (!m_skin.isEmpty())
-        m_settings.setQuickAccessButtons(m_skin, m_toolBar->GetQuickAccessButtonList());
     QMainWindow::closeEvent(event);
 }
 

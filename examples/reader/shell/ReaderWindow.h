@@ -34,8 +34,8 @@ class ReaderWindow : public QMainWindow
 
 public:
     /**
-     * @param skin The name under which the quick access setting is stored; empty to always use
-     *             that of the description.
+     * @param skin The name under which the state of the toolbar is stored; empty to always begin
+     *             as the description says.
      */
     ReaderWindow(const QDomDocument &description, const QString &skin);
     ~ReaderWindow() override;
