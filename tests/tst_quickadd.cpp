@@ -1,114 +1,17 @@
 // SPDX-FileCopyrightText: The MRToolBar authors
 // SPDX-License-Identifier: MIT
 
-#include "tests/support/Describe.h"
-#include "tests/support/Menus.h"
-#include "tests/support/TestHost.h"
-#include "toolbar/skin/Contrast.h"
+#include "tests/support/QuickAdd.h"
 #include "toolbar/state/KeptState.h"
-#include "toolbar/widgets/MRDropButton.h"
-#include "toolbar/widgets/MRMainToolBar.h"
 
-#include <QApplication>
-#include <QContextMenuEvent>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMenu>
-#include <QToolBar>
-
-using namespace Describe;
+using namespace QuickAdd;
 
 namespace {
-
-const QString addText = QStringLiteral("添加到快速访问工具栏");
-const QString removeText = QStringLiteral("从快速访问工具栏移除");
-
-/** Two rows of every kind of control, and quick access to which commands can be added. */
-QString described(const QString &quickAdd = "quickadd='true'")
-{
-    const QString icon = "icon='icon24/HandTool.svg' ";
-    const QString controls =
-        button("plain", icon) + button("check", icon + "checkable='true'") + button("f_open", icon)
-        + button("part", "tooltip='Part;of a name'") + group("g", button("grouped", icon))
-        + menu("split", item("s_a") + item("s_b"), "checkable='true' switchable='true' index='2'")
-        + menu("drop", item("d_a")) + label("label", "Label") + field("field");
-    return section("quickaccessbar", button("qbar_f_open", "checkable='true'")
-                                         + button("qbar_f_part_of", "checkable='true'")
-                                         + button("qt_set", quickAdd))
-           + section("tabbar", tab("first", controls, "checked='true'")
-                                   + tab("second", button("later", "checkable='true'")));
-}
-
-QToolBar *bar(const TestHost &host)
-{
-    return host.find<QToolBar>("toolbar_quickaccessbar");
-}
-
-QMenu *customiseMenu(const TestHost &host)
-{
-    return host.find<QPushButton>("qt_set")->menu();
-}
-
-/** The action of the button on the bar; null if there is none. */
-QAction *onBar(const TestHost &host, const QString &name)
-{
-    const QList<QAction *> buttons = bar(host)->actions();
-    for (QAction *action : buttons) {
-        if (action->objectName() == name)
-            return action;
-    }
-    return nullptr;
-}
-
-QToolButton *buttonOf(const TestHost &host, const QString &name)
-{
-    return qobject_cast<QToolButton *>(bar(host)->widgetForAction(onBar(host, name)));
-}
-
-QWidget *control(const TestHost &host, const QString &name)
-{
-    QAction *action = host.action(name);
-    const QList<MRMainToolBar *> rows = host.toolBar()->findChildren<MRMainToolBar *>();
-    for (const MRMainToolBar *row : rows) {
-        if (QWidget *button = action ? row->widgetForAction(action) : nullptr)
-            return button;
-    }
-    return host.find<QWidget>(name);
-}
-
-void askForMenu(QWidget *widget, QContextMenuEvent::Reason reason = QContextMenuEvent::Mouse)
-{
-    const QPoint middle = widget->rect().center();
-    QContextMenuEvent event(reason, middle, widget->mapToGlobal(middle));
-    QApplication::sendEvent(widget, &event);
-}
-
-/** The text of what the context menu of the control offers, which is done; empty without a menu. */
-QString takeOffer(const TestHost &host, const QString &name)
-{
-    askForMenu(control(host, name));
-    auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
-    if (!menu || menu->actions().size() != 1)
-        return QString();
-    const QString text = menu->actions().constFirst()->text();
-    clickEntry(menu, menu->actions().constFirst());
-    return text;
-}
 
 QStringList addedNames(TestHost &host)
 {
     const auto state = KeptState::fromText(host.facade().GetToolBarState());
     return state && state->added ? *state->added : QStringList();
-}
-
-/** The button on its ground, without the pointer. */
-QImage pictureOf(TestHost &host, const QString &name)
-{
-    QTest::mouseMove(&host.window(), QPoint(600, 500));
-    QCoreApplication::processEvents();
-    const QToolButton *button = buttonOf(host, name);
-    const QPoint place = button->mapTo(&host.window(), QPoint());
-    return host.window().grab(QRect(place, button->size())).toImage();
 }
 
 TestHost nextRun(TestHost &host)
@@ -145,11 +48,6 @@ private Q_SLOTS:
     void shouldComeBackInTheNextRun();
     void shouldKeepToItsWholeName();
 
-    void shouldTakeTextsAndIconsByName();
-    void shouldBeReadOnTheTopLine_data();
-    void shouldBeReadOnTheTopLine();
-    void shouldShowThatItIsChecked_data() { addSkins(); }
-    void shouldShowThatItIsChecked();
     void shouldLetTheHostDeleteTheWindowInItsAnswer_data();
     void shouldLetTheHostDeleteTheWindowInItsAnswer();
 };
@@ -336,70 +234,6 @@ void tst_quickadd::shouldKeepToItsWholeName()
     host.setVisible("toolbar_quickaccessbar/par", false);
     QVERIFY(!onBar(host, "qbar_f_part_of")->isVisible());
     QVERIFY(onBar(host, "qbar_part")->isVisible());
-}
-
-void tst_quickadd::shouldTakeTextsAndIconsByName()
-{
-    TestHost host = TestHost::enabled(described());
-    takeOffer(host, "part");
-    const QAction *added = onBar(host, "qbar_part");
-    const auto set = [&host](void (MRToolBar::*slot)(QString &, QString), QString name,
-                             const QString &text) { (host.facade().*slot)(name, text); };
-    set(&MRToolBar::DoSetControlTextSlot, "part", "Command");
-    QCOMPARE(added->toolTip(), QString("Command"));
-    set(&MRToolBar::DoSetControlTextSlot, "qbar_part", "Own && good");
-    QCOMPARE(added->toolTip(), QString("Own & good"));
-    set(&MRToolBar::DoSetControlToolTipSlot, "qbar_part", "Tip");
-    QCOMPARE(added->toolTip(), QString("Tip"));
-    set(&MRToolBar::DoSetControlToolTipSlot, "qbar_part", "");
-    set(&MRToolBar::DoSetControlTextSlot, "qbar_part", "");
-    QCOMPARE(added->toolTip(), QString("Command"));
-
-    QPixmap red(16, 16);
-    red.fill(Qt::red);
-    QString name = "qbar_part";
-    host.facade().DoSetControlIconSlot(name, QIcon(red));
-    QCOMPARE(added->icon().pixmap(16).toImage().pixelColor(8, 8), QColor(Qt::red));
-}
-
-void tst_quickadd::shouldBeReadOnTheTopLine_data()
-{
-    QTest::addColumn<int>("skin");
-    QTest::addColumn<QString>("scheme");
-    QTest::addColumn<QString>("name");
-    for (const char *scheme : {"light", "dark", "contrast"}) {
-        for (const char *name : {"plain", "part"}) {
-            QTest::addRow("marodi %s %s", scheme, name) << marodi << scheme << name;
-            QTest::addRow("lum %s %s", scheme, name) << lum << scheme << name;
-        }
-    }
-}
-
-void tst_quickadd::shouldBeReadOnTheTopLine()
-{
-    const SkinChoice skin;
-    QFETCH(QString, scheme);
-    QFETCH(QString, name);
-    TestHost host = TestHost::enabled(described(), {{"scheme", scheme}});
-    takeOffer(host, name);
-    const QImage picture = pictureOf(host, "qbar_" + name);
-    const QColor ground = picture.pixelColor(1, 1);
-    double best = 1.0;
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x)
-            best = std::max(best, Contrast::ratio(picture.pixelColor(x, y), ground));
-    }
-    QVERIFY2(best >= 3.0, qPrintable(QString::number(best)));
-}
-
-void tst_quickadd::shouldShowThatItIsChecked()
-{
-    const SkinChoice skin;
-    TestHost host = TestHost::enabled(described());
-    takeOffer(host, "check");
-    const QColor before = pictureOf(host, "qbar_check").pixelColor(2, 2);
-    host.setChecked("check", true);
-    QVERIFY(pictureOf(host, "qbar_check").pixelColor(2, 2) != before);
 }
 
 void tst_quickadd::shouldLetTheHostDeleteTheWindowInItsAnswer_data()

@@ -135,12 +135,9 @@ NewToolBar::NewToolBar(QMainWindow *mainWindow, QDomNode &description, QMap<QStr
     Init(description);
     m_parts = std::make_unique<Parts>(*this);
     m_parts->presentation.chooseCardLines(options.value(SkinKey::toolTipWords));
-    expectState(kept);
-    InitWidget();
+    initWidgetsWith(kept);
     makeWindowShortcuts();
     chooseKeyTips(options.value(SkinKey::keyTips));
-    createAddedCommands();
-    m_parts->keeper.restoreFirst();
     new FocusRing(this);
     InitSkinStyle(skin);
     setLayout(m_mainLayout);

@@ -214,6 +214,7 @@ private:
 
     // What is kept between two runs.
     static std::optional<KeptState> takeState(QMap<QString, QString> &options);
+    void initWidgetsWith(const std::optional<KeptState> &kept);
     void expectState(const std::optional<KeptState> &kept);
     void keepLooks(const QMap<QString, QString> &options);
     void createAddedCommands();

@@ -48,6 +48,14 @@ std::optional<KeptState> NewToolBar::takeState(QMap<QString, QString> &options)
     return kept;
 }
 
+void NewToolBar::initWidgetsWith(const std::optional<KeptState> &kept)
+{
+    expectState(kept);
+    InitWidget();
+    createAddedCommands();
+    m_parts->keeper.restoreFirst();
+}
+
 void NewToolBar::expectState(const std::optional<KeptState> &kept)
 {
     if (!kept)
