@@ -9,6 +9,7 @@
 #include "toolbar/build/Presentation.h"
 #include "toolbar/description/Controller.h"
 #include "toolbar/description/Names.h"
+#include "toolbar/widgets/ButtonForm.h"
 #include "toolbar/widgets/MRDropButton.h"
 #include "toolbar/widgets/MRGroupButton.h"
 #include "toolbar/widgets/MRSearchBar.h"
@@ -77,8 +78,8 @@ void fitMenuButton(MRGroupButton *button, const Controller &record, const Presen
     for (const QAction *entry : entries)
         texts.append(entry->text());
     constexpr double icon = 16.0;
-    button->setFixedWidth(
-        how.buttonWidth(ControlWidth::ofGroupMenu(texts), texts, icon + ControlWidth::arrow));
+    ButtonForm::setFullWidth(button, how.buttonWidth(ControlWidth::ofGroupMenu(texts), texts,
+                                                     icon + ControlWidth::arrow));
 }
 
 } // namespace

@@ -215,6 +215,11 @@ int Presentation::buttonWidth(double byRule, const QStringList &texts, double be
     return std::max(width, m_scale.leastTarget());
 }
 
+int Presentation::bareWidth(double designWidth) const
+{
+    return std::max(length(designWidth), m_scale.leastTarget());
+}
+
 void Presentation::fitIcons(CustomMenuStyle *style) const
 {
     if (m_scale.isChosen())

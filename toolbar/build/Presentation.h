@@ -118,6 +118,8 @@ public:
      * @param beside room for what stands beside the text, at 96 dpi
      */
     int buttonWidth(double byRule, const QStringList &texts, double beside) const;
+    /** The width of a button without a text, in pixels. */
+    int bareWidth(double designWidth) const;
     /** Has the icons of a menu follow the scale; they follow the screen by themselves. */
     void fitIcons(QMenu *menu) const;
     /** The same for the menus of a style. */

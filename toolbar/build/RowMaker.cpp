@@ -16,6 +16,7 @@
 #include "toolbar/fields/EntryTexts.h"
 #include "toolbar/fields/TotalLabel.h"
 #include "toolbar/skin/Skin.h"
+#include "toolbar/widgets/ButtonForm.h"
 #include "toolbar/widgets/MRDropButton.h"
 #include "toolbar/widgets/MRGroupButton.h"
 #include "toolbar/widgets/ToolTipCard.h"
@@ -70,8 +71,8 @@ void showRowButton(QWidget *button, const Controller &record, const Presentation
 void fitRowButton(QWidget *button, const Controller &record, const Presentation &how)
 {
     if (!Skin::isLum())
-        button->setFixedWidth(
-            how.buttonWidth(ControlWidth::ofButton(how.text(record)), {how.text(record)}, 0.0));
+        ButtonForm::setFullWidth(button, how.buttonWidth(ControlWidth::ofButton(how.text(record)),
+                                                         {how.text(record)}, 0.0));
 }
 
 /** The button of a command that a panel shows: the row has it, but no room for it. */
@@ -152,7 +153,7 @@ void showMenuButton(MRDropButtonAction *action, const Controller &record, const 
 void fitMenuButton(MRDropButtonAction *action, const Controller &record, const Presentation &how)
 {
     if (MRDropButton *button = action->GetWidget())
-        button->setFixedWidth(menuWidth(action->GetMenu(), record, how));
+        ButtonForm::setFullWidth(button, menuWidth(action->GetMenu(), record, how));
     action->fitMenuCopies();
 }
 
@@ -164,6 +165,7 @@ RowMaker::RowMaker(ControlFactory &factory, ControlReceiver &receiver, MenuMaker
     , m_receiver(receiver)
     , m_menus(menus)
     , m_panels(panels)
+    , m_seats(factory)
 {
 }
 
@@ -172,6 +174,14 @@ bool RowMaker::fill(QToolBar *row, const QList<Controller *> &records, bool addT
     if (records.isEmpty() || !row)
         return false;
 
+    addControls(row, records, addToRow);
+    if (addToRow)
+        RowSeats::close(row);
+    return true;
+}
+
+void RowMaker::addControls(QToolBar *row, const QList<Controller *> &records, bool addToRow)
+{
     bool isSeparatorPending = false;
     for (const Controller *record : records) {
         if (!record)
@@ -187,7 +197,6 @@ bool RowMaker::fill(QToolBar *row, const QList<Controller *> &records, bool addT
         }
         addControl(*record, row, addToRow);
     }
-    return true;
 }
 
 void RowMaker::addControl(const Controller &record, QToolBar *row, bool addToRow)
@@ -219,11 +228,11 @@ void RowMaker::addButton(const Controller &record, QToolBar *row, bool addToRow)
     action->setCheckable(record.checkable);
     action->setChecked(record.checked);
     action->setVisible(record.visible);
-    if (addToRow)
-        row->addAction(action);
+    QWidget *button =
+        addToRow ? m_seats.addButton(row, action, record) : row->widgetForAction(action);
     if (record.doubleclick)
         ActionData::addDoubleClick(action);
-    if (QWidget *button = row->widgetForAction(action)) {
+    if (button) {
         Presentation &presentation = m_factory.presentation();
         presentation.show<&showRowButton>(button, record);
         addDisabledTip(button, record, presentation);
@@ -265,7 +274,7 @@ void RowMaker::addMenu(const Controller &record, QToolBar *row, bool addToRow)
     presentation.show<&showMenu>(action, record, Presentation::ItsEntries);
 
     if (addToRow)
-        row->addAction(action);
+        m_seats.addMenu(row, action, record);
     action->setObjectName(record.name);
     m_factory.addAction(action);
     if (MRDropButton *button = action->GetWidget()) {
@@ -293,7 +302,7 @@ void RowMaker::addButtonGroup(const Controller &record, QToolBar *row)
     fill(row, record.children, false);
     auto *action = new MRButtonGroup(m_factory.owner());
     action->setDefaultWidget(m_panels.makeButtonGroup(record.children, row));
-    row->addAction(action);
+    m_seats.addGroup(row, action, record);
 }
 
 void RowMaker::addComboBox(const Controller &record, QToolBar *row)

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "toolbar/build/RowSeats.h"
+
 #include <QList>
 
 class ControlFactory;
@@ -29,6 +31,7 @@ public:
     bool fill(QToolBar *row, const QList<Controller *> &records, bool addToRow);
 
 private:
+    void addControls(QToolBar *row, const QList<Controller *> &records, bool addToRow);
     void addControl(const Controller &record, QToolBar *row, bool addToRow);
     void addButton(const Controller &record, QToolBar *row, bool addToRow);
     QAction *makeButtonAction(const Controller &record);
@@ -44,4 +47,5 @@ private:
     ControlReceiver &m_receiver;
     MenuMaker &m_menus;
     GroupPanelMaker &m_panels;
+    RowSeats m_seats;
 };

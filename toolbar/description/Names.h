@@ -54,7 +54,8 @@ inline constexpr QLatin1String clearHistory = latin1("f_clearhistory"); ///< Cle
 inline constexpr QLatin1String fold = latin1("t_fold");                 ///< Hides the rows.
 inline constexpr QLatin1String unfold = latin1("t_extend"); ///< Shows them again; never described.
 inline constexpr QLatin1String findCommand = latin1("t_findcommand"); ///< Opens the finder.
-inline constexpr QLatin1String zoomBox = latin1("v_zoom"); ///< The zoom box, however described.
+inline constexpr QLatin1String rowMore = latin1("row_more"); ///< Opens what a row has moved.
+inline constexpr QLatin1String zoomBox = latin1("v_zoom");   ///< The zoom box, however described.
 inline constexpr QLatin1String zoomList = latin1("v_zoomlist");       ///< Shown and hidden with it.
 inline constexpr QLatin1String pageField = latin1("d_gotopage");      ///< The page field, likewise.
 inline constexpr QLatin1String pageInput = latin1("d_gotopageinput"); ///< Goes with it.
@@ -129,8 +130,8 @@ inline constexpr QLatin1String toolBarState =
     latin1("toolbarstate"); ///< What GetToolBarState() has returned.
 
 /** Those that are taken out of the map before anything else sees it. */
-inline constexpr QLatin1String options[] = {
-    scheme, scale, touch, applicationFont, toolTipWords, keyTips, toolBarState};
+inline constexpr QLatin1String options[] = {scheme,       scale,   touch,       applicationFont,
+                                            toolTipWords, keyTips, toolBarState};
 } // namespace SkinKey
 
 /** Dynamic properties, most of which the style sheets select by. */

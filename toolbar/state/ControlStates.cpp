@@ -9,6 +9,7 @@
 #include "toolbar/state/ToolRows.h"
 #include "toolbar/widgets/DropMenuIndex.h"
 #include "toolbar/widgets/MRDropButton.h"
+#include "toolbar/widgets/RowFit.h"
 
 #include <QAction>
 #include <QMenu>
@@ -351,6 +352,9 @@ QRect ControlStates::geometry(const QString &name) const
             if (!row)
                 continue;
             geometry = row->actionGeometry(std::get<QAction *>(control));
+            const RowFit *fit = geometry.isValid() ? nullptr : RowFit::of(row);
+            if (fit)
+                geometry = fit->geometry(std::get<QAction *>(control));
             if (geometry.isValid()) {
                 geometry.moveTopLeft(row->mapToGlobal(geometry.topLeft()));
                 return geometry;

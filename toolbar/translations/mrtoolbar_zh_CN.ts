@@ -230,6 +230,13 @@
     </message>
 </context>
 <context>
+    <name>MoreButton</name>
+    <message>
+        <source>更多</source>
+        <translation>更多</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Invalid Char</source>

@@ -182,6 +182,18 @@ void MRDropButton::SetUpdateToolbar(bool update)
     m_updateToolBar = update;
 }
 
+void MRDropButton::setPlace(const QAction *place)
+{
+    m_place = place;
+}
+
+void MRDropButton::setVisible(bool visible)
+{
+    // The row would hide the button while it is being shown, which leaves it half shown.
+    if (!visible || !m_place || m_place->isVisible())
+        SplitButton::setVisible(visible);
+}
+
 void MRDropButton::SetInHideFlag(bool inHide)
 {
     m_inHide = inHide;

@@ -52,6 +52,10 @@ public:
     /** Whether a switch or a click has the owning toolbar lay itself out again. */
     void SetUpdateToolbar(bool update);
 
+    /** Has the button shown only while @p place is visible, which stands for it on a row. */
+    void setPlace(const QAction *place);
+    void setVisible(bool visible) override;
+
     /** Marks the button as the copy that lives in the menu of what a tool row has no room for. */
     void SetInHideFlag(bool inHide);
 
@@ -117,6 +121,7 @@ private:
     bool m_textSwitchable = true;
     bool m_updateToolBar = false;
     QPointer<QWidget> m_owner; ///< The parent at construction.
+    QPointer<const QAction> m_place;
     QString m_savedStyleSheet;
     bool m_inHide = false;
 };
