@@ -25,8 +25,8 @@ Without a display it opens on one of its own, and a picture of the window is sav
   --qt 5|6            version of Qt to build with (5)
   --skin marodi|lum   skin to show (marodi)
   --language NAME     texts of the reader itself: zh_CN or en (zh_CN)
-  --description FILE  toolbar description to show: a file, or release or debug for the
-                      skin's own (release)
+  --description FILE  toolbar description to show: a file, reader for the reader's own, or
+                      release or debug for the skin's own (reader)
   --dpi N             density of a display of its own, 48 to 384 (96); no window on yours
   --screenshot FILE   save a picture of the window to this .png file and end
   --help              show this text

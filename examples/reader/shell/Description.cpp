@@ -12,19 +12,22 @@
 namespace {
 
 const QStringList shippedNames = {QStringLiteral("release"), QStringLiteral("debug")};
+const QString ownName = QStringLiteral("reader");
 
 QString pathOf(const QString &name, const QString &skin)
 {
-    if (!Description::isShipped(name))
+    if (name == ownName)
+        return QStringLiteral(":/reader/reader.xml");
+    if (!Description::isBuiltIn(name))
         return name;
     return QStringLiteral(":/mr_toolbar/Resources/%1/mr_toolbar.%2.xml").arg(skin, name);
 }
 
 } // namespace
 
-bool Description::isShipped(const QString &name)
+bool Description::isBuiltIn(const QString &name)
 {
-    return shippedNames.contains(name);
+    return name == ownName || shippedNames.contains(name);
 }
 
 QDomDocument Description::read(const QString &name, const QString &skin, QString *error)

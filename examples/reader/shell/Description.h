@@ -19,15 +19,16 @@ struct DescriptionFault
 namespace Description {
 
 /**
- * Reads a description from a file, or one that is part of the library.
+ * Reads a description from a file, or one that is part of the reader or the library.
  *
- * @param name  a path, or "release" or "debug" for the shipped ones of the skin.
+ * @param name  a path, "reader" for the reader's own, or "release" or "debug" for the shipped ones
+ *              of the skin.
  * @param error is set to one line about the failure; empty on success.
  */
 QDomDocument read(const QString &name, const QString &skin, QString *error);
 
-/** Whether the name means a description that is part of the library. */
-bool isShipped(const QString &name);
+/** Whether the name means a description that is part of the reader or the library. */
+bool isBuiltIn(const QString &name);
 
 /** Reads a description from the content of a file; sets @p fault if that is not a description. */
 QDomDocument parse(const QByteArray &content, std::optional<DescriptionFault> *fault);

@@ -26,9 +26,10 @@ const QCommandLineOption &descriptionOption()
 {
     static const QCommandLineOption option(
         QStringLiteral("description"),
-        QStringLiteral("Toolbar description: a file, or release or debug for one of the skin's own "
-                       "(release)."),
-        QStringLiteral("file"), QStringLiteral("release"));
+        QStringLiteral(
+            "Toolbar description: a file, reader for that of this program, or release or "
+            "debug for one of the skin's own (reader)."),
+        QStringLiteral("file"), QStringLiteral("reader"));
     return option;
 }
 
@@ -78,10 +79,10 @@ const QCommandLineOption &watchOption()
     return option;
 }
 
-/** Why a description cannot be watched, such as the shipped ones, which are resources. */
+/** Why a description cannot be watched, such as those that are resources. */
 QString watchFaultOf(const QString &description)
 {
-    if (Description::isShipped(description))
+    if (Description::isBuiltIn(description))
         return QStringLiteral("--watch needs a file of your own, as --description FILE");
     if (!QFileInfo(description).isFile())
         return QStringLiteral("--watch: there is no file '%1'").arg(description);

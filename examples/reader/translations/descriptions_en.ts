@@ -447,5 +447,197 @@
         <source>隐藏功能区;显示功能区</source>
         <translation>Hide the ribbon;Show the ribbon</translation>
     </message>
+    <message>
+        <source>关闭(&amp;C)</source>
+        <translation>&amp;Close</translation>
+    </message>
+    <message>
+        <source>保存(&amp;S)</source>
+        <translation>&amp;Save</translation>
+    </message>
+    <message>
+        <source>另存为(&amp;A)</source>
+        <translation>Save &amp;as</translation>
+    </message>
+    <message>
+        <source>打印(&amp;P)</source>
+        <translation>&amp;Print</translation>
+    </message>
+    <message>
+        <source>属性(&amp;T)</source>
+        <translation>Proper&amp;ties</translation>
+    </message>
+    <message>
+        <source>帮助(&amp;H)</source>
+        <translation>&amp;Help</translation>
+    </message>
+    <message>
+        <source>关于OFD阅读器</source>
+        <translation>About OFD Reader</translation>
+    </message>
+    <message>
+        <source>检查更新</source>
+        <translation>Check for updates</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>保存(Ctrl+S)</source>
+        <translation>Save (Ctrl+S)</translation>
+    </message>
+    <message>
+        <source>打印(Ctrl+P)</source>
+        <translation>Print (Ctrl+P)</translation>
+    </message>
+    <message>
+        <source>无法恢复(Ctrl+Y)</source>
+        <translation>Nothing to redo (Ctrl+Y)</translation>
+    </message>
+    <message>
+        <source>开始</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>实际大小;按100%比例显示</source>
+        <translation>Actual size;Show the pages at 100%</translation>
+    </message>
+    <message>
+        <source>适合宽度;页宽与窗口同宽</source>
+        <translation>Fit width;Make pages as wide as the window</translation>
+    </message>
+    <message>
+        <source>适合高度</source>
+        <translation>Fit height</translation>
+    </message>
+    <message>
+        <source>适合高度;页高与窗口同高</source>
+        <translation>Fit height;Make pages as high as the window</translation>
+    </message>
+    <message>
+        <source>适合页面</source>
+        <translation>Fit page</translation>
+    </message>
+    <message>
+        <source>适合页面;在窗口中显示整页</source>
+        <translation>Fit page;Show whole pages in the window</translation>
+    </message>
+    <message>
+        <source>放大;放大页面显示比例</source>
+        <translation>Zoom in;Show the pages larger</translation>
+    </message>
+    <message>
+        <source>选择或输入显示比例</source>
+        <translation>Choose or enter a zoom</translation>
+    </message>
+    <message>
+        <source>25%</source>
+        <translation>25%</translation>
+    </message>
+    <message>
+        <source>125%</source>
+        <translation>125%</translation>
+    </message>
+    <message>
+        <source>150%</source>
+        <translation>150%</translation>
+    </message>
+    <message>
+        <source>200%</source>
+        <translation>200%</translation>
+    </message>
+    <message>
+        <source>400%</source>
+        <translation>400%</translation>
+    </message>
+    <message>
+        <source>800%</source>
+        <translation>800%</translation>
+    </message>
+    <message>
+        <source>1600%</source>
+        <translation>1600%</translation>
+    </message>
+    <message>
+        <source>2400%</source>
+        <translation>2400%</translation>
+    </message>
+    <message>
+        <source>3200%</source>
+        <translation>3200%</translation>
+    </message>
+    <message>
+        <source>缩小;缩小页面显示比例</source>
+        <translation>Zoom out;Show the pages smaller</translation>
+    </message>
+    <message>
+        <source>首页</source>
+        <translation>First</translation>
+    </message>
+    <message>
+        <source>首页;跳转到第一页</source>
+        <translation>First page;Go to the first page</translation>
+    </message>
+    <message>
+        <source>上一页</source>
+        <translation>Previous</translation>
+    </message>
+    <message>
+        <source>上一页;跳转到前一页</source>
+        <translation>Previous page;Go to the page before</translation>
+    </message>
+    <message>
+        <source>下一页</source>
+        <translation>Next</translation>
+    </message>
+    <message>
+        <source>下一页;跳转到后一页</source>
+        <translation>Next page;Go to the page after</translation>
+    </message>
+    <message>
+        <source>末页</source>
+        <translation>Last</translation>
+    </message>
+    <message>
+        <source>末页;跳转到最后一页</source>
+        <translation>Last page;Go to the last page</translation>
+    </message>
+    <message>
+        <source>视图</source>
+        <translation>View</translation>
+    </message>
+    <message>
+        <source>单页;一次显示一页</source>
+        <translation>Single page;Show one page at a time</translation>
+    </message>
+    <message>
+        <source>双页;左右并排显示两页</source>
+        <translation>Facing pages;Show two pages side by side</translation>
+    </message>
+    <message>
+        <source>单页连续</source>
+        <translation>Scrolling</translation>
+    </message>
+    <message>
+        <source>单页连续;上下连续滚动显示</source>
+        <translation>Single pages, scrolling;Scroll through all pages</translation>
+    </message>
+    <message>
+        <source>顺时针旋转;视图向右旋转90度</source>
+        <translation>Rotate right;Turn the view clockwise by 90 degrees</translation>
+    </message>
+    <message>
+        <source>逆时针旋转;视图向左旋转90度</source>
+        <translation>Rotate left;Turn the view anticlockwise by 90 degrees</translation>
+    </message>
+    <message>
+        <source>全屏;隐藏窗口边框全屏阅读</source>
+        <translation>Full screen;Read without the frame of the window</translation>
+    </message>
+    <message>
+        <source>隐藏功能区</source>
+        <translation>Hide the ribbon</translation>
+    </message>
 </context>
 </TS>

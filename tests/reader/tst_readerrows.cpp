@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
+#include "shell/Description.h"
+#include "shell/Language.h"
+#include "shell/ReaderWindow.h"
+
+#include <toolbar/NewToolBar.h>
+
+#include <QAbstractButton>
+#include <QMenu>
+#include <QStackedWidget>
+#include <QTest>
+#include <QToolBar>
+#include <QToolButton>
+
+/** The reader's own toolbar at usual widths of its window. */
+class ReaderRowsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void shouldHaveEveryCommandAtMostTwoClicksAway_data();
+    void shouldHaveEveryCommandAtMostTwoClicksAway();
+};
+
+void ReaderRowsTest::shouldHaveEveryCommandAtMostTwoClicksAway_data()
+{
+    QTest::addColumn<int>("style");
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<int>("width");
+    for (const int style : {0, 1}) {
+        for (const char *language : {"zh_CN", "en"}) {
+            for (const int width : {800, 1280})
+                QTest::addRow("%s, %s, %d", style ? "lum" : "marodi", language, width)
+                    << style << language << width;
+        }
+    }
+}
+
+void ReaderRowsTest::shouldHaveEveryCommandAtMostTwoClicksAway()
+{
+    QFETCH(int, style);
+    QFETCH(QString, language);
+    QFETCH(int, width);
+    NewToolBar::uiStyle = style;
+    Language::install(language);
+    QString error;
+    QDomDocument description = Description::read("reader", style ? "lum" : "marodi", &error);
+    QCOMPARE(error, QString());
+    ReaderWindow window(description, QString());
+    window.openSample();
+    window.resize(width, 600);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QCOMPARE(window.width(), width);
+
+    auto *toolBar = window.findChild<QToolBar *>("mrtoolbar");
+    const auto *stack = toolBar->findChild<QStackedWidget *>("tabwidget");
+    int clicksToRow = 0;
+    for (const char *tab : {"tb_start", "tb_view"}) {
+        if (clicksToRow > 0)
+            QTest::mouseClick(toolBar->findChild<QAbstractButton *>(tab), Qt::LeftButton);
+        QTest::qWait(50);
+        for (const char *side : {"left", "right"}) {
+            const auto arrows = stack->currentWidget()->findChildren<QAbstractButton *>(side);
+            QCOMPARE(arrows.size(), 1);
+            QVERIFY2(!arrows.first()->isVisible(), tab);
+        }
+        // A menu costs a click, too; its sub-menus open under the pointer.
+        const auto buttons = stack->currentWidget()->findChildren<QToolButton *>();
+        QVERIFY(buttons.size() > 5);
+        for (const QToolButton *button : buttons) {
+            if (button->isVisible())
+                QVERIFY2(clicksToRow + (button->menu() ? 2 : 1) <= 2, tab);
+        }
+        clicksToRow = 1;
+    }
+}
+
+QTEST_MAIN(ReaderRowsTest)
+#include "tst_readerrows.moc"
