@@ -142,6 +142,7 @@ constexpr Fault faults[]{
      "<menu name='m' index='one'><menuitem action='a'/></menu>"},
     {tools, "warning index-out-of-range 3",
      "<menu name='m' index='2'><menuitem action='a'/></menu>"},
+    {tools, "warning shrink-out-of-range 3", "<button action='a' shrink='10'/>"},
     {tools, "warning index-of-separator 3", "<menu name='m' index='1'><sperator/></menu>"},
     {tools, "note shared-action 4", "<button action='a' text='A'/>\n<button action='a' text='A'/>"},
     {tools, "warning shared-action-differs 4",

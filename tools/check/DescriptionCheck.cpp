@@ -52,6 +52,7 @@ void checkContent(const SourceDocument &document, const CheckOptions &options, F
     Rules::checkStructure(document, findings);
     Rules::checkAttributes(document, findings);
     Rules::checkIndexes(document, findings);
+    Rules::checkShrinking(document, findings);
     Rules::checkNames(document, findings);
     Rules::checkGroups(document, findings);
     Rules::checkIcons(document, options, findings);

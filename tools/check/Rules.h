@@ -42,6 +42,8 @@ void checkStructure(const SourceDocument &document, Findings &findings);
 void checkAttributes(const SourceDocument &document, Findings &findings);
 /** The attribute index of menus and combo boxes. */
 void checkIndexes(const SourceDocument &document, Findings &findings);
+/** Orders in which controls of a row give way. */
+void checkShrinking(const SourceDocument &document, Findings &findings);
 /** Names that occur more than once. */
 void checkNames(const SourceDocument &document, Findings &findings);
 /** Exclusive groups and their checked members. */
