@@ -9,6 +9,12 @@ CommandFinder *NewToolBar::commandFinder()
     if (!m_parts->finder) {
         m_parts->commandAccess = std::make_unique<Commands>(*this);
         m_parts->finder = new CommandFinder(*m_parts->commandAccess, this);
+        CommandFinder *finder = m_parts->finder;
+        StateKeeper &keeper = m_parts->keeper;
+        finder->setLastFound(keeper.found());
+        connect(finder, &CommandFinder::lastFoundChanged, &keeper,
+                [finder, &keeper] { keeper.setFound(finder->lastFound()); });
+        connect(&keeper, &StateKeeper::foundRestored, finder, &CommandFinder::setLastFound);
     }
     return m_parts->finder;
 }
