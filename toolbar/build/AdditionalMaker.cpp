@@ -21,6 +21,12 @@ void showTurned(QPushButton *button, const Controller &record, const Presentatio
     button->setIcon(turnedIcon(how.icon(record)));
 }
 
+/** The skins have no drawing of it for a coloured line. */
+void showFinder(QPushButton *button, const Controller &record, const Presentation &how)
+{
+    button->setIcon(how.topLineIcon(record, how.text(record).left(1)));
+}
+
 /** The described tooltip of both fold buttons may hold one for each. */
 template <bool isForUnfolding>
 void showHalfToolTip(QPushButton *button, const Controller &record, const Presentation &how)
@@ -48,6 +54,8 @@ QPushButton *AdditionalMaker::makeButton(const Controller &record) const
     button->setProperty(Property::module, Module::button);
     button->setCheckable(record.checkable);
     button->setChecked(record.checked);
+    if (record.name == Name::findCommand)
+        m_factory.presentation().show<&showFinder>(button, record);
     return button;
 }
 
