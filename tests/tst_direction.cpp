@@ -76,8 +76,9 @@ private Q_SLOTS:
 
     void shouldFadeTheEndThatIsCutOff()
     {
-        const auto host = usedHost(520);
-        host->click("tb_buttons");
+        const auto host = TestHost::withRelease();
+        host->window().resize(520, 500);
+        host->showEnabled();
         const auto placesOfFades = [&host] {
             QList<int> places;
             const QList<QWidget *> parts = host->toolBar()->findChildren<QWidget *>();

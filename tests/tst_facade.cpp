@@ -120,8 +120,7 @@ private Q_SLOTS:
             "Inner_DoSetSkinStyle(ToolBarSkinStyle) DoGotoPage(int) DoActive(QString) "
             "DoDoubleActive(QString) DoOpenFile(QString) DoSetZoomMode(QString) "
             "DoSearchContent(SearchOption) DoSetBackground(BackgroundStyle) DoRequestAuthority() "
-            "DoTabShown(QString) "
-            "DoStateChanged() "
+            "DoTabShown(QString) DoStateChanged() "
             "Inner_DoGotoPageSlot(int) Inner_DoActiveSlot(QString) "
             "Inner_DoDoubleActionSlot(QString) "
             "Inner_DoOpenFileSlot(QString) Inner_DoSetZoomModeSlot(QString) "
@@ -134,7 +133,7 @@ private Q_SLOTS:
             "DoSetSkinStyleSlot(ToolBarSkinStyle) DoResetToolbarSlot() DoSetFocusSlot(QString) "
             "DoSetScaleSlot(double) DoSetControlTextSlot(QString&,QString) "
             "DoSetControlToolTipSlot(QString&,QString) DoSetControlIconSlot(QString&,QIcon) "
-            "DoShowContextSlot(QString,bool) DoShowTabSlot(QString&)";
+            "DoShowContextSlot(QString,bool) DoShowTabSlot(QString&) DoFindCommandSlot()";
         const QMetaObject &metaObject = MRToolBar::staticMetaObject;
         QStringList declared;
         for (int i = metaObject.methodOffset(); i < metaObject.methodCount(); ++i)

@@ -195,6 +195,8 @@ bool NewToolBar::ResetSkinStyle()
         sheet += StyleSheet::forTouch(LoadQss(touchSheet), target, m_scale);
     if (const SchemeColours *colours = m_appearance->colours())
         sheet += schemeSheet(LoadQss(GetResourceDir() + QStringLiteral("scheme.qss")), *colours);
+    if (m_additionalWidgets.first(Name::findCommand))
+        sheet = StyleSheet::withLookOf(sheet, Name::preferences, Name::findCommand);
     if (m_externalQss) {
         // The host scales and applies it.
         m_toolBarStyleSheet = sheet + plainToolBarRule;

@@ -53,6 +53,7 @@ inline constexpr QLatin1String noFile = latin1("no_file");              ///< Sho
 inline constexpr QLatin1String clearHistory = latin1("f_clearhistory"); ///< Clears the sub-menu.
 inline constexpr QLatin1String fold = latin1("t_fold");                 ///< Hides the rows.
 inline constexpr QLatin1String unfold = latin1("t_extend"); ///< Shows them again; never described.
+inline constexpr QLatin1String preferences = latin1("e_preference");  ///< The sheets know it.
 inline constexpr QLatin1String findCommand = latin1("t_findcommand"); ///< Opens the finder.
 inline constexpr QLatin1String rowMore = latin1("row_more"); ///< Opens what a row has moved.
 inline constexpr QLatin1String zoomBox = latin1("v_zoom");   ///< The zoom box, however described.

@@ -57,6 +57,12 @@ QString StyleSheet::scaled(const QString &sheet, float factor)
     return result + sheet.mid(copied);
 }
 
+QString StyleSheet::withLookOf(QString sheet, QLatin1String button, QLatin1String other)
+{
+    const QRegularExpression selector(QStringLiteral("QPushButton#%1([:\\w]*)").arg(button));
+    return sheet.replace(selector, QStringLiteral("QPushButton#%1\\1,\\0").arg(other));
+}
+
 QString StyleSheet::withoutFonts(QString sheet)
 {
     static const QRegularExpression font(QStringLiteral("font-(family|size)\\s*:[^;}]*;?"));

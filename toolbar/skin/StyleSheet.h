@@ -21,6 +21,9 @@ QString filled(QString sheet, const QMap<QString, QString> &skin, bool isCompact
 /** The sheet with every length in pixels multiplied by @p factor and rounded half up. */
 QString scaled(const QString &sheet, float factor);
 
+/** The sheet with a push button of another name looking like the named one. */
+QString withLookOf(QString sheet, QLatin1String button, QLatin1String other);
+
 /** The sheet without what it says of the family and the size of fonts. */
 QString withoutFonts(QString sheet);
 

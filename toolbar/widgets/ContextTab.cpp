@@ -22,6 +22,7 @@ constexpr double lineContrast = 3.0;
 // At 96 dpi, in pixels.
 constexpr double lineWidth = 2.0;
 constexpr double iconGap = 4.0;
+constexpr double endWidth = 10.0; ///< Beside the text, in lum.
 
 /** How much of the tint there is in the ground of a tab. */
 double shareOfTint(const QStyleOptionButton &option)
@@ -119,6 +120,19 @@ void ContextTab::paintEvent(QPaintEvent *)
     QPalette textPalette = palette();
     textPalette.setColor(QPalette::ButtonText, used.text);
     drawLabel(painter, place.toRect(), textPalette);
+}
+
+QSize ContextTab::sizeHint() const
+{
+    // The ground of a tab in lum is not seen unless it is the one on show, and its round ends begin
+    // where the text does.
+    QSize hint = TabButton::sizeHint();
+    if (Skin::isLum()) {
+        const int text = fontMetrics().size(Qt::TextShowMnemonic, this->text()).width();
+        const int ends = ScreenDensity::scaled(2 * endWidth, ScreenDensity::factor(this));
+        hint.setWidth(std::max(hint.width(), text + ends));
+    }
+    return hint;
 }
 
 void ContextTab::drawLine(QPainter &painter, const QRectF &bevel, const QColor &colour) const

@@ -30,6 +30,8 @@ public:
     bool isContextShown() const { return m_isContextShown; }
     void setContextShown(bool isShown);
 
+    QSize sizeHint() const override;
+
     /** Shows or hides the tab itself; it stays hidden while its context is. */
     void setVisible(bool isVisible) override;
 
