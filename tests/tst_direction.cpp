@@ -55,7 +55,7 @@ private Q_SLOTS:
         QTest::newRow("marodi") << marodi << 1500;
         QTest::newRow("marodi, narrow") << marodi << 520;
         QTest::newRow("lum") << lum << 1500;
-        QTest::newRow("lum, narrow") << lum << 520;
+        QTest::newRow("lum, narrow") << lum << 560;
     }
 
     void shouldLookAsBuiltInTheDirection()

@@ -71,14 +71,15 @@ public:
     bool GetControlCheckedState(QString objName);
 
     /**
-     * The quick access buttons shown, as short names each followed by ";", for the host to store
-     * and to hand back under the skin key "quickaccessbarbuttons".
+     * The described quick access buttons shown, as short names each followed by ";", for the host
+     * to store and to hand back under the skin key "quickaccessbarbuttons".
      */
     QString GetQuickAccessButtonList();
 
     /**
      * Where the control stands, in global coordinates and device-independent pixels; a null
-     * rectangle for a control that no tool row shows.
+     * rectangle for a control that no tool row shows. What a narrow row has moved is where the
+     * button `row_more` is.
      */
     QRect GetControlGeometry(QString objName);
 

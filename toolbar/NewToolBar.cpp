@@ -163,6 +163,8 @@ NewToolBar::NewToolBar(QMainWindow *mainWindow, QDomNode &description, QMap<QStr
 NewToolBar::~NewToolBar()
 {
     m_delayTimer.stop();
+    // They give the focus back, which the host may hear.
+    m_parts->keyTips.reset();
     DeleteUnitControl(&m_controllers);
     m_controllers.clear();
     releaseWidgetsInUse(this);

@@ -18,6 +18,7 @@
 #include <optional>
 
 class Appearance;
+class CommandAccess;
 class CommandFinder;
 class Scale;
 class CustomMenuStyle;
@@ -201,9 +202,10 @@ private:
     bool makeCommand(const CommandPlace &place);
     void addPeek();
     void makeWindowShortcuts();
-    bool isUsable(const CommandPlace &place) const;
+    bool isUsable(const CommandPlace &place);
     void useByKeys(const CommandPlace &place);
     void chooseKeyTips(const QString &choice);
+    CommandAccess &commandAccess();
     CommandFinder *commandFinder();
     void toggleFinder(QWidget *opener);
     QWidget *CreateExtraGroup(const QList<Controller *> &children);

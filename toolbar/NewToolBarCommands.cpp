@@ -15,12 +15,12 @@
 #include "toolbar/widgets/MRDropButton.h"
 #include "toolbar/widgets/MRMainToolBar.h"
 #include "toolbar/widgets/MRMenuButton.h"
+#include "toolbar/widgets/Mnemonic.h"
 #include "toolbar/widgets/ToolTipCard.h"
 
 #include <QAction>
 #include <QMenu>
 #include <QPushButton>
-#include <QRegularExpression>
 #include <QStackedWidget>
 #include <QTimer>
 #include <QToolBar>
@@ -29,15 +29,6 @@
 #include <chrono>
 
 namespace {
-
-/** The text of a control without the sign of its mnemonic, and "Open" for "Open(&O)". */
-QString withoutMnemonic(QString text)
-{
-    static const QRegularExpression inBrackets(QStringLiteral("\\s*\\(&.\\)"));
-    static const QRegularExpression sign(QStringLiteral("&(.)"));
-    text.remove(inBrackets);
-    return text.replace(sign, QStringLiteral("\\1")).trimmed();
-}
 
 bool isOnRow(const CommandPlace &place)
 {
@@ -92,13 +83,7 @@ QAction *NewToolBar::Commands::action(const CommandPlace &place) const
     if (!isIn(place, Section::quickAccessBar))
         return m_toolBar.m_actions.first(place.record->name);
     // The buttons of quick access have actions of their own.
-    const QList<QAction *> actions =
-        m_toolBar.m_quickAccessBar ? m_toolBar.m_quickAccessBar->actions() : QList<QAction *>();
-    for (QAction *action : actions) {
-        if (action->objectName() == place.record->name)
-            return action;
-    }
-    return nullptr;
+    return actionOn(m_toolBar.m_quickAccessBar, place.record->name);
 }
 
 QWidget *NewToolBar::Commands::opener(const CommandPlace &place) const
@@ -232,14 +217,7 @@ void NewToolBar::Commands::trigger(const CommandPlace &place)
 
 void NewToolBar::Commands::openTab(const CommandPlace &place)
 {
-    auto *tab = qobject_cast<QPushButton *>(opener(place));
-    QStackedWidget *stack = m_toolBar.m_toolRowStack;
-    if (!tab || !stack)
-        return;
-    if (tab->property(Property::tabIndex).toInt() != stack->currentIndex())
-        tab->click();
-    else if (!stack->isVisible())
-        m_toolBar.m_parts->tabs.setFolded(false);
+    m_toolBar.m_parts->tabs.show(place.tab->name);
 }
 
 void NewToolBar::Commands::reveal(const CommandPlace &place)
@@ -266,7 +244,7 @@ QWidget *NewToolBar::Commands::shownControl(const CommandPlace &place) const
     QToolBar *bar = m_toolBar.m_quickAccessBar;
     if (!isIn(place, Section::quickAccessBar) || !bar)
         return opener(place);
-    QWidget *button = bar->widgetForAction(action(place));
+    QWidget *button = buttonOn(bar, place.record->name);
     return button && button->isVisible() ? button : bar->findChild<QWidget *>(Part::overflowButton);
 }
 
@@ -285,10 +263,8 @@ QWidget *NewToolBar::Commands::rowControl(const CommandPlace &place) const
     QWidgetList controls;
     for (const qsizetype position : m_toolBar.m_groupButtons.positions(name))
         controls.append(m_toolBar.m_groupButtons.at(position));
-    for (const qsizetype position : m_toolBar.m_actions.positions(name)) {
-        if (QAction *command = m_toolBar.m_actions.at(position))
-            controls.append(row->widgetForAction(command));
-    }
+    controls.append(buttonOn(row, name));
+    controls.append(buttonOn(row, Name::rowMore));
     for (QWidget *control : std::as_const(controls)) {
         if (control && row->isAncestorOf(control) && control->isVisible())
             return control;

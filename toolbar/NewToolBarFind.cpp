@@ -4,11 +4,17 @@
 #include "toolbar/NewToolBarCommands.h"
 #include "toolbar/NewToolBarParts.h"
 
+CommandAccess &NewToolBar::commandAccess()
+{
+    if (!m_parts->commandAccess)
+        m_parts->commandAccess = std::make_unique<Commands>(*this);
+    return *m_parts->commandAccess;
+}
+
 CommandFinder *NewToolBar::commandFinder()
 {
     if (!m_parts->finder) {
-        m_parts->commandAccess = std::make_unique<Commands>(*this);
-        m_parts->finder = new CommandFinder(*m_parts->commandAccess, this);
+        m_parts->finder = new CommandFinder(commandAccess(), this);
         CommandFinder *finder = m_parts->finder;
         StateKeeper &keeper = m_parts->keeper;
         finder->setLastFound(keeper.found());

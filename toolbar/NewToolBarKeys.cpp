@@ -31,15 +31,14 @@ void NewToolBar::makeWindowShortcuts()
  * Whether the user may trigger a command of a row or an application menu. One that has not been
  * made is asked about when it is, and so only what it stands in counts.
  */
-bool NewToolBar::isUsable(const CommandPlace &place) const
+bool NewToolBar::isUsable(const CommandPlace &place)
 {
-    const QWidget *holder =
-        place.tab ? m_toolBars.value(place.tab->name).data() : m_appButtonWidgets.at(0);
-    const bool isHolderUsable = !holder || holder->isEnabled();
+    const QToolBar *row = place.tab ? m_toolBars.value(place.tab->name).data() : nullptr;
+    const bool isHolderUsable =
+        (!row || row->isEnabled()) && commandAccess().state(place).isEnabled;
     const bool isToolBarUsable = !m_hostToolBar || m_hostToolBar->isEnabled();
     const QAction *command = m_actions.first(place.record->name);
-    return isHolderUsable && isToolBarUsable
-           && (!command || (command->isEnabled() && command->isVisible()));
+    return isHolderUsable && isToolBarUsable && (!command || command->isVisible());
 }
 
 void NewToolBar::useByKeys(const CommandPlace &place)

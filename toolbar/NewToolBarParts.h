@@ -81,8 +81,8 @@ struct NewToolBar::Parts
     CheckedStates checkedStates;
     std::unique_ptr<WindowShortcuts> windowShortcuts; ///< Where the description asks for them.
     std::unique_ptr<KeyTips> keyTips;                 ///< Where the skin map asks for them.
-    std::unique_ptr<CommandAccess> commandAccess; ///< From the first search for a command on.
-    CommandFinder *finder = nullptr;              ///< Likewise; a child of the toolbar.
+    std::unique_ptr<CommandAccess> commandAccess;     ///< From the first search for a command on.
+    CommandFinder *finder = nullptr;                  ///< Likewise; a child of the toolbar.
     StateKeeper keeper;
     std::unique_ptr<AddedCommands> added; ///< Where the description lets the user add commands.
     QuickAccessOffer *offer = nullptr;    ///< Likewise.

@@ -185,6 +185,8 @@ void NewToolBar::SwitchSkinStyle(QMap<QString, QString> skin)
 
 bool NewToolBar::ResetSkinStyle()
 {
+    if (m_parts->finder)
+        m_parts->finder->followLook();
     QString sheet = LoadQss(GetResourceDir() + QStringLiteral("qssfile.qss"));
     if (m_parts->added && !Skin::isLum())
         sheet += checkedQuickButtonRule;
@@ -216,8 +218,6 @@ void NewToolBar::followAppearance()
     // A pointer over the search field has left the button a sheet of its own.
     if (m_searchSetButton && m_searchSetButton->styleSheet().contains(QLatin1String("background")))
         Inner_DoActiveSetButtonSlot(false);
-    if (m_parts->finder)
-        m_parts->finder->followLook();
 }
 
 void NewToolBar::followScale()
@@ -230,8 +230,6 @@ void NewToolBar::followScale()
     const RowPause pause(this);
     m_parts->presentation.fitAgain();
     ResetSkinStyle();
-    if (m_parts->finder)
-        m_parts->finder->followLook();
 }
 
 void NewToolBar::changeEvent(QEvent *event)
@@ -239,8 +237,11 @@ void NewToolBar::changeEvent(QEvent *event)
     QWidget::changeEvent(event);
     if (event->type() == QEvent::LanguageChange)
         followLanguage();
-    if (event->type() == QEvent::LayoutDirectionChange)
-        mirrorLabels(this);
+    if (event->type() != QEvent::LayoutDirectionChange)
+        return;
+    mirrorLabels(this);
+    if (m_parts && m_parts->finder)
+        m_parts->finder->followLook();
 }
 
 void NewToolBar::showTextsAgain()

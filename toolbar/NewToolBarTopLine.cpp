@@ -10,6 +10,7 @@
 #include "toolbar/build/SearchMaker.h"
 #include "toolbar/description/Controller.h"
 #include "toolbar/description/Sections.h"
+#include "toolbar/state/QuickAccessSetting.h"
 #include "toolbar/widgets/CustomMenuStyle.h"
 #include "toolbar/widgets/HostAnswer.h"
 #include "toolbar/widgets/MRMenuButton.h"
@@ -145,8 +146,7 @@ void NewToolBar::Inner_DoUpdateQuickAccessBarSlot()
         if (action->objectName() == entry->objectName())
             action->setVisible(entry->isChecked());
     }
-    m_quickAccessBar->setVisible(std::any_of(actions.begin(), actions.end(),
-                                             [](QAction *action) { return action->isVisible(); }));
+    showWhileUsed(m_quickAccessBar);
     m_parts->keeper.noteQuickAccess();
 }
 

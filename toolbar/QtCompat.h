@@ -79,4 +79,15 @@ private:
 #endif
 };
 
+/** Whether a shortcut has these keys. */
+template <typename Shortcut>
+bool hasKeys(const Shortcut *shortcut, const QKeySequence &keys)
+{
+#if QT_VERSION_MAJOR >= 6
+    return shortcut->keys().contains(keys);
+#else
+    return shortcut->key() == keys;
+#endif
+}
+
 } // namespace QtCompat

@@ -48,8 +48,9 @@ public:
             &RandomHost::setPages, &RandomHost::setZoom,          &RandomHost::setRecentFiles,
             &RandomHost::setSkin,  &RandomHost::setBackground,    &RandomHost::reset,
             &RandomHost::resize,   &RandomHost::enableEverything, &RandomHost::setLook,
-            &RandomHost::setTexts, &RandomHost::selectSomething};
-        const int kind = m_random.below(19);
+            &RandomHost::setTexts, &RandomHost::selectSomething,  &RandomHost::findCommand,
+            &RandomHost::restore,  &RandomHost::openTab};
+        const int kind = m_random.below(22);
         if (kind < acts.size())
             return (this->*acts.at(kind))();
         return kind < 14 ? ask() : setState();
@@ -211,6 +212,39 @@ private:
         return "texts of " + name.left(40);
     }
 
+    QString findCommand()
+    {
+        m_facade->DoFindCommandSlot();
+        return "find a command";
+    }
+
+    QString restore()
+    {
+        static const QStringList damaged{"x", "mrtoolbar/2;new=1;folded=1",
+                                         "mrtoolbar/1;tab=tb_none;folded=x;faces=a:b,:,c",
+                                         "mrtoolbar/1;shown=%zz;added=,,;found="};
+        if (m_kept.isEmpty() || m_random.oneIn(3))
+            m_kept = m_facade->GetToolBarState();
+        const QString state = m_random.oneIn(4) ? m_random.oneOf(damaged) : m_kept;
+        m_facade->DoSetSkinStyleSlot({{"toolbarstate", state}});
+        return "restore " + state.left(80);
+    }
+
+    QString openTab()
+    {
+        QStringList names;
+        const QList<QPushButton *> buttons = m_window->findChildren<QPushButton *>();
+        for (const QPushButton *button : buttons) {
+            if (button->property("module") == "tabbutton")
+                names.append(button->objectName());
+        }
+        if (names.isEmpty())
+            return "no tab to open";
+        QString name = m_random.oneOf(names);
+        m_facade->DoShowTabSlot(name);
+        return "open tab " + name;
+    }
+
     QString selectSomething()
     {
         static const QStringList contexts{"", "text", "unknown"};
@@ -257,6 +291,7 @@ private:
 
     RandomSource &m_random;
     MarkedLanguage m_language;
+    QString m_kept; ///< A state that the toolbar had.
     QIcon m_icon{":/mr_toolbar/Resources/marodi/icons/icon16/Print.svg"};
     QStringList m_names;
     Witness &m_witness;

@@ -47,8 +47,10 @@ public:
         static const QList<std::pair<QString, Gesture>> rareGestures{
             {"drag", &RandomUser::drag},
             {"wheel", &RandomUser::turnWheel},
-            {"hover", &RandomUser::hover}};
-        const int kind = m_random.below(10);
+            {"hover", &RandomUser::hover},
+            {"ask for a menu", &RandomUser::askForMenu},
+            {"double click", &RandomUser::clickTwice}};
+        const int kind = m_random.below(12);
         if (kind == 0)
             return pressKey(window);
         if (kind == 1)
@@ -149,12 +151,29 @@ private:
         QTest::mouseMove(widget.data(), place);
     }
 
+    void askForMenu(QPointer<QWidget> widget)
+    {
+        const QPoint place = anyPlace(*widget);
+        const auto reason =
+            m_random.oneIn(2) ? QContextMenuEvent::Mouse : QContextMenuEvent::Keyboard;
+        QContextMenuEvent event(reason, place, widget->mapToGlobal(place));
+        QApplication::sendEvent(widget, &event);
+    }
+
+    void clickTwice(QPointer<QWidget> widget)
+    {
+        const QPoint place = anyPlace(*widget);
+        click(widget);
+        if (widget)
+            QTest::mouseDClick(widget.data(), Qt::LeftButton, {}, place);
+    }
+
     QString pressKey(QWidget &window)
     {
         static const QList<Qt::Key> keys{Qt::Key_Tab,   Qt::Key_Backtab, Qt::Key_Return,
                                          Qt::Key_Space, Qt::Key_Escape,  Qt::Key_Down,
                                          Qt::Key_Up,    Qt::Key_Left,    Qt::Key_Right,
-                                         Qt::Key_O,     Qt::Key_F10};
+                                         Qt::Key_O,     Qt::Key_F10,     Qt::Key_Alt};
         static const QList<std::pair<Qt::KeyboardModifier, Qt::Key>> modifiers{
             {Qt::NoModifier, Qt::Key_unknown},
             {Qt::NoModifier, Qt::Key_unknown},
@@ -163,7 +182,8 @@ private:
         QPointer<QWidget> focused = QApplication::focusWidget();
         if (!focused || !window.isAncestorOf(focused))
             focused = &window;
-        const Qt::Key key = m_random.oneOf(keys);
+        const Qt::Key letter = static_cast<Qt::Key>(Qt::Key_A + m_random.below(26));
+        const Qt::Key key = m_random.oneIn(3) ? letter : m_random.oneOf(keys);
         const auto [modifier, modifierKey] = m_random.oneOf(modifiers);
         QTest::keyPress(focused.data(), key, modifier);
         // QTest would release the modifier on a widget that the key press has deleted.
@@ -177,8 +197,8 @@ private:
 
     QString type(QWidget &window)
     {
-        static const QStringList texts{"7",     "0",   "12/9", "37.5", "5",
-                                       "9000%", "abc", "..",   "文字", ""};
+        static const QStringList texts{"7",  "0",    "12/9", "37.5",   "5",    "9000%", "abc",
+                                       "..", "文字", "",     "fangda", "放大", "v"};
         const QList<QWidget *> fields = shown<QLineEdit>(window);
         if (fields.isEmpty())
             return "nowhere to type";

@@ -71,7 +71,10 @@ private:
         m_window->resize(m_random.between(300, 1500), 400);
         QDomElement root = m_document.documentElement();
         const auto alignment = static_cast<ToolBarAlignment>(m_random.below(3));
-        m_facade = new MRToolBar(m_window, root, {}, alignment);
+        ToolBarSkinStyle skin{{"keytips", "true"}};
+        if (m_random.oneIn(2))
+            skin.insert("toolbarstate", m_kept);
+        m_facade = new MRToolBar(m_window, root, skin, alignment);
         m_toolBar = m_window->findChild<NewToolBar *>();
         m_witness.watch(*m_facade, *m_window);
         m_host.setWindow(m_facade, m_window);
@@ -84,6 +87,8 @@ private:
 
     void deleteToolBar()
     {
+        if (exists())
+            m_kept = m_facade->GetToolBarState();
         if (m_random.oneIn(3))
             delete m_toolBar;
         if (m_random.oneIn(2))
@@ -194,6 +199,7 @@ private:
     QDomDocument m_document;
     DescribedNames m_names;
     Witness m_witness;
+    QString m_kept; ///< From one toolbar to the next.
     RandomHost m_host;
     RandomUser m_user;
     QPointer<QMainWindow> m_window;

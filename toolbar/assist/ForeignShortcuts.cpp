@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "toolbar/assist/ForeignShortcuts.h"
+#include "toolbar/QtCompat.h"
 
 #include <QAction>
 #include <QApplication>
@@ -57,8 +58,8 @@ bool ForeignShortcuts::reach(QWidget *window, const QKeySequence &sequence,
     const QList<QShortcut *> shortcuts = window->findChildren<QShortcut *>();
     for (const QShortcut *shortcut : shortcuts) {
         const auto *parent = qobject_cast<const QWidget *>(shortcut->parent());
-        if (shortcut->isEnabled() && shortcut->key() == sequence && !isLeftOut(shortcut) && parent
-            && reachesFrom(parent, shortcut->context(), window))
+        if (shortcut->isEnabled() && QtCompat::hasKeys(shortcut, sequence) && !isLeftOut(shortcut)
+            && parent && reachesFrom(parent, shortcut->context(), window))
             return true;
     }
     const QWidgetList widgets = QWidgetList{window} + window->findChildren<QWidget *>();

@@ -3,6 +3,7 @@
 
 #include "toolbar/assist/KeyTipLayer.h"
 
+#include "toolbar/description/Names.h"
 #include "toolbar/skin/Appearance.h"
 #include "toolbar/skin/ScreenDensity.h"
 #include "toolbar/skin/Skin.h"
@@ -80,6 +81,7 @@ KeyTipLayer::KeyTipLayer(QWidget *window, const QWidget *toolBar)
     , m_toolBar(toolBar)
     , m_focusBefore(window->focusWidget())
 {
+    setObjectName(Part::keyTips);
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setFocusPolicy(Qt::ClickFocus); // No click comes here, nor may the Tab key.
     setGeometry(window->rect());

@@ -6,6 +6,7 @@
 #include "toolbar/description/Controller.h"
 #include "toolbar/description/KeyTipLetters.h"
 #include "toolbar/description/Sections.h"
+#include "toolbar/widgets/MRMainToolBar.h"
 #include "toolbar/widgets/MRScrollWidget.h"
 #include "toolbar/widgets/TabButton.h"
 
@@ -44,15 +45,16 @@ QWidget *shownOf(const NamedList<Widget> &list, const QString &name, const QWidg
     return nullptr;
 }
 
-/** The button that a bar shows for the action of that name. */
-QWidget *barButton(const QToolBar *bar, const QString &name)
+/** What holds the controls that a narrow row has no room for. */
+const Controller &moreRecord()
 {
-    const QList<QAction *> actions = bar ? bar->actions() : QList<QAction *>();
-    for (QAction *action : actions) {
-        if (action->objectName() == name)
-            return bar->widgetForAction(action);
-    }
-    return nullptr;
+    static const Controller record = [] {
+        Controller more;
+        more.type = Tag::button;
+        more.name = Name::rowMore;
+        return more;
+    }();
+    return record;
 }
 
 /** All that belongs to a control of a row. */
@@ -113,7 +115,7 @@ QWidget *KeyTipTargets::topLineControl(const Controller &record, int position) c
         return m_lists.tabButtons.at(position);
     if (record.section == Section::quickAccessBar)
         return record.name == Name::customise ? m_lists.quickAccessSetButton.data()
-                                              : barButton(m_lists.quickAccessBar, record.name);
+                                              : buttonOn(m_lists.quickAccessBar, record.name);
     QWidget *control = shownOf(m_lists.additionalWidgets, record.name);
     // The two buttons of folding take turns.
     return control || record.name != Name::fold ? control
@@ -126,7 +128,9 @@ QList<KeyTip> KeyTipTargets::ofRow() const
     if (!tab || !page())
         return {};
 
-    const QList<RowRecord> described = rowRecords(tab->objectName());
+    QList<RowRecord> described = rowRecords(tab->objectName());
+    // Last, and always, so that the letters do not depend on the width of the row.
+    described.append({&moreRecord(), false});
     QList<const Controller *> records;
     for (const RowRecord &record : described)
         records.append(record.record);
@@ -170,7 +174,7 @@ QWidget *KeyTipTargets::rowControl(const RowRecord &record, const QString &tab) 
         return shownField(page(), name);
     if (record.isInGroup)
         return shownOf(m_lists.groupButtons, name, page());
-    return barButton(m_lists.rows.value(tab), name);
+    return buttonOn(m_lists.rows.value(tab), name);
 }
 
 QWidget *KeyTipTargets::page() const

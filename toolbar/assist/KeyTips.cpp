@@ -147,7 +147,7 @@ void KeyTips::end()
 void KeyTips::use(const KeyTip &tip)
 {
     const QPointer<QWidget> control = tip.control;
-    if (!control || !control->isEnabled()) {
+    if (!control || !control->isEnabled() || !control->isVisible()) {
         m_typed.clear();
         m_layer->narrow({});
         return;
@@ -171,9 +171,8 @@ void KeyTips::use(const KeyTip &tip)
 void KeyTips::open(TabButton *tab)
 {
     const QPointer<KeyTips> self(this);
-    const QWidget *page = m_targets.page();
     // A click on the tab on show would fold the rows.
-    if (!tab->isOnShow() || !page || !page->isVisible())
+    if (!tab->areRowsShown() || !tab->isOnShow())
         tab->click();
     // The host may have deleted the toolbar, or done something that ends the tips.
     if (self && m_layer)

@@ -9,6 +9,7 @@
 #include "toolbar/description/Names.h"
 #include "toolbar/skin/Skin.h"
 #include "toolbar/widgets/FocusOrder.h"
+#include "toolbar/widgets/Mnemonic.h"
 #include "toolbar/widgets/ToolTipCard.h"
 
 #include <QAction>
@@ -30,18 +31,6 @@ Controller recordOf(const Controller &command)
     record.icon = command.icon;
     record.tooltip = command.tooltip;
     return record;
-}
-
-/** A text without the marks of mnemonics, which a tooltip would show. */
-QString withoutMnemonic(const QString &text)
-{
-    QString plain;
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        if (text.at(i) == QLatin1Char('&') && ++i == text.size())
-            break;
-        plain += text.at(i);
-    }
-    return plain;
 }
 
 } // namespace
@@ -98,6 +87,9 @@ QString AddedCommand::ownText(const Presentation &how) const
 
 void AddedCommand::present(const Presentation &how)
 {
+    // The host may have deleted the bar or the menu.
+    if (!m_button || !m_entry)
+        return;
     const QString text = ownText(how);
     const QString tip = how.toolTipByName(m_record);
     m_button->setText(text);

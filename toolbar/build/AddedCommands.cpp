@@ -7,6 +7,7 @@
 #include "toolbar/build/ControlFactory.h"
 #include "toolbar/commands/ActionData.h"
 #include "toolbar/description/Names.h"
+#include "toolbar/state/QuickAccessSetting.h"
 #include "toolbar/widgets/HostAnswer.h"
 
 #include <QAction>
@@ -150,9 +151,8 @@ void AddedCommands::orderFocus(const QAction *button)
 
 void AddedCommands::showBar()
 {
-    const QList<QAction *> buttons = m_bar->actions();
-    m_bar->setVisible(std::any_of(buttons.begin(), buttons.end(),
-                                  [](const QAction *button) { return button->isVisible(); }));
+    if (m_bar)
+        showWhileUsed(m_bar);
 }
 
 void AddedCommands::takeCommand(QAction *command)
@@ -164,7 +164,7 @@ void AddedCommands::takeCommand(QAction *command)
 void AddedCommands::setWaiting(const QString &name, void (QAction::*state)(bool), bool isOn)
 {
     const AddedCommand *present = added(name);
-    if (!present || present->isFollowing())
+    if (!present || !present->button() || present->isFollowing())
         return;
     const bool isAboutEnabled = state == &QAction::setEnabled;
     if (!isAboutEnabled || ActionData::isAvailable(present->button()))

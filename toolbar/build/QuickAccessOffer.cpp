@@ -18,8 +18,7 @@ namespace {
 /** What a click on a button of a row triggers; empty for those that only open a menu. */
 QString commandOf(const QToolButton *button)
 {
-    const auto *dropButton = qobject_cast<const MRDropButton *>(button);
-    const QAction *action = dropButton ? dropButton->GetCurrentAction() : button->defaultAction();
+    const QAction *action = shownCommand(button);
     return action ? action->objectName() : QString();
 }
 

@@ -44,12 +44,6 @@ CommandPlaces::CommandPlaces(const QList<Controller *> &records)
         add(tab->children, tab, tab);
 }
 
-const CommandPlace *CommandPlaces::first(const QString &name) const
-{
-    const auto found = m_firstOfName.constFind(name);
-    return found == m_firstOfName.cend() ? nullptr : &m_places.at(*found);
-}
-
 QList<const Controller *> CommandPlaces::way(const CommandPlace &place) const
 {
     QList<const Controller *> way;
@@ -67,8 +61,6 @@ void CommandPlaces::add(const QList<Controller *> &records, const Controller *ho
             m_holders.insert(record, holder);
             add(record->children, record, tab);
         } else if (record->children.isEmpty() && isCommand(*record, place)) {
-            if (!m_firstOfName.contains(record->name))
-                m_firstOfName.insert(record->name, m_places.size());
             m_places.append(place);
         }
     }

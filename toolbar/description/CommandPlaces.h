@@ -29,8 +29,6 @@ public:
 
     /** The menus first, then the top line, then the rows; a command once for each place. */
     const QList<CommandPlace> &all() const { return m_places; }
-    /** The first place of the command of exactly that name, or null. */
-    const CommandPlace *first(const QString &name) const;
     /** From the tab or the application button down to what the command stands in. */
     QList<const Controller *> way(const CommandPlace &place) const;
 
@@ -38,6 +36,5 @@ private:
     void add(const QList<Controller *> &records, const Controller *holder, const Controller *tab);
 
     QList<CommandPlace> m_places;
-    QHash<QString, qsizetype> m_firstOfName;
     QHash<const Controller *, const Controller *> m_holders; ///< Of what holds commands.
 };

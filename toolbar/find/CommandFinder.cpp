@@ -32,6 +32,7 @@ CommandFinder::~CommandFinder()
     // It belongs to the window, which may outlive the toolbar.
     if (m_popup) {
         close();
+        m_popup->setFound({}, false);
         m_popup->disconnect(this);
         m_popup->deleteLater();
     }
@@ -50,6 +51,12 @@ const CommandIndex &CommandFinder::index()
 
 void CommandFinder::open(QWidget *opener)
 {
+    // The host may have put the toolbar into another window.
+    if (m_popup && m_popup->parentWidget() != m_toolBar->window()) {
+        close();
+        m_popup->deleteLater();
+        m_popup = nullptr;
+    }
     if (!m_popup)
         makePopup();
     m_popup->setLayoutDirection(m_toolBar->layoutDirection());
@@ -96,17 +103,23 @@ void CommandFinder::followTexts()
     m_index.reset();
     if (m_popup)
         m_popup->retranslate();
-    if (!isOpen())
+    if (!isOpen()) {
+        // Assistive technology may still ask for the lines.
+        if (m_popup)
+            m_popup->setFound({}, false);
         return;
+    }
     listVisible();
-    search();
+    list(m_popup->typed(), true);
     startSpelling();
 }
 
 void CommandFinder::followLook()
 {
-    if (isOpen())
-        m_popup->setLook(m_access.look());
+    if (!isOpen())
+        return;
+    m_popup->setLayoutDirection(m_toolBar->layoutDirection());
+    m_popup->setLook(m_access.look());
 }
 
 void CommandFinder::followStates()
@@ -171,11 +184,16 @@ void CommandFinder::listVisible()
 
 void CommandFinder::search()
 {
-    const QString typed = m_popup->typed();
+    list(m_popup->typed(), false);
+}
+
+/** Lists what is found by the text. @param keepsLine whether the line chosen stays chosen */
+void CommandFinder::list(const QString &typed, bool keepsLine)
+{
     const bool isMoreTyped = typed.startsWith(m_typed);
     m_found = index().find(typed, m_lastFound, isMoreTyped ? m_found : m_visible);
     m_typed = typed;
-    m_popup->setFound(m_found);
+    m_popup->setFound(m_found, keepsLine);
 }
 
 void CommandFinder::startSpelling()
@@ -203,7 +221,7 @@ void CommandFinder::takeSpelling(const QHash<QChar, QString> &syllables,
     m_index->addSpelling(syllables);
     if (isOpen() && !m_typed.isEmpty()) {
         m_found = m_visible;
-        search();
+        list(m_typed, true);
     }
     // The texts may have changed meanwhile.
     m_isSpelt = m_index->ideographs() == ideographs;
@@ -230,7 +248,8 @@ void CommandFinder::perform(std::size_t command, FindPopup::Wish wish)
         return;
     }
     close();
-    remember(name);
+    if (self)
+        remember(name);
     if (!self)
         return;
     if (wish == FindPopup::Wish::Run)

@@ -56,6 +56,7 @@ private:
     void makePopup();
     void listVisible();
     void search();
+    void list(const QString &typed, bool keepsLine);
     void startSpelling();
     void takeSpelling(const QHash<QChar, QString> &syllables, const QSet<QChar> &ideographs);
     void perform(std::size_t command, FindPopup::Wish wish);

@@ -108,7 +108,8 @@ std::vector<std::size_t> CommandIndex::find(const QString &typed, const QStringL
                                             const std::vector<std::size_t> &candidates) const
 {
     std::vector<SearchText> words;
-    const QStringList typedWords = typed.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    // Input methods may type wide blanks.
+    const QStringList typedWords = typed.simplified().split(QLatin1Char(' '), Qt::SkipEmptyParts);
     for (const QString &word : typedWords)
         words.emplace_back(word);
     QHash<QString, int> ages;

@@ -133,12 +133,20 @@ void FindPopup::setAnchor(QWidget *topLine, QWidget *opener)
     place();
 }
 
-void FindPopup::setFound(std::vector<std::size_t> commands)
+void FindPopup::setFound(std::vector<std::size_t> commands, bool keepsLine)
 {
     m_pointer = QCursor::pos();
+    const QModelIndex former = m_list->currentIndex();
+    int line = 0;
+    if (keepsLine && former.isValid()) {
+        const auto same =
+            std::find(commands.begin(), commands.end(), m_model->command(former.row()));
+        line = same == commands.end() ? 0 : static_cast<int>(same - commands.begin());
+    }
     m_model->setCommands(std::move(commands));
-    m_list->setCurrentIndex(m_model->index(0));
-    m_list->scrollToTop();
+    m_list->setCurrentIndex(m_model->index(line));
+    if (line == 0)
+        m_list->scrollToTop();
     refresh();
     place();
 }
@@ -184,10 +192,14 @@ void FindPopup::leave()
     // Before it is hidden: Qt would pass the focus on to whatever comes next.
     const QWidget *focused = window()->focusWidget();
     if (focused && isAncestorOf(focused)) {
+        const QPointer<FindPopup> self(this);
         if (m_formerFocus)
             m_formerFocus->setFocus(Qt::PopupFocusReason);
         else
             m_field->clearFocus();
+        // The host may hear of the focus and delete the window.
+        if (!self)
+            return;
     }
     hide();
 }
@@ -302,7 +314,7 @@ void FindPopup::place()
 {
     const QWidget *anchor = m_opener ? m_opener.data() : m_topLine.data();
     const QRect room = window()->rect();
-    const bool isAnchored = anchor && anchor->isVisible();
+    const bool isAnchored = anchor && anchor->isVisible() && window()->isAncestorOf(anchor);
     const QRect below = isAnchored ? QRect(anchor->mapTo(window(), QPoint()), anchor->size())
                                    : QRect(room.left(), room.top() - 1, room.width(), 1);
     const int wide = std::min(m_look.length(mostWidth) + 2 * shadow(), room.width());

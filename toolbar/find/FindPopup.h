@@ -40,7 +40,7 @@ public:
     /** Texts of its own, in the language of the moment. */
     void retranslate();
 
-    void setFound(std::vector<std::size_t> commands);
+    void setFound(std::vector<std::size_t> commands, bool keepsLine);
     /** The same commands as before, of which some may have other states. */
     void refresh();
     QString typed() const;

@@ -5,6 +5,11 @@
 
 #include "toolbar/description/Names.h"
 
+#include <QAction>
+#include <QToolBar>
+
+#include <algorithm>
+
 namespace {
 
 constexpr QLatin1Char separator(';');
@@ -44,4 +49,11 @@ bool QuickAccessSetting::isShown(const QString &objectName, bool describedVisibl
 {
     const QString name = shortName(objectName);
     return m_isSet && !name.isNull() ? m_shortNames.contains(name) : describedVisible;
+}
+
+void showWhileUsed(QToolBar *bar)
+{
+    const QList<QAction *> buttons = bar->actions();
+    bar->setVisible(std::any_of(buttons.begin(), buttons.end(),
+                                [](const QAction *button) { return button->isVisible(); }));
 }

@@ -5,6 +5,8 @@
 
 #include <QStringList>
 
+class QToolBar;
+
 /**
  * Which quick access buttons the user wants to see, in the form in which the host stores it: short
  * names, each followed by ";". Empty means that the description decides.
@@ -27,3 +29,6 @@ private:
     bool m_isSet;
     QStringList m_shortNames;
 };
+
+/** Shows the quick access bar while it has a button to show. */
+void showWhileUsed(QToolBar *bar);

@@ -4,7 +4,9 @@
 #include "toolbar/state/StateKeeper.h"
 
 #include "toolbar/description/Names.h"
+#include "toolbar/state/QuickAccessSetting.h"
 #include "toolbar/state/ToolRows.h"
+#include "toolbar/widgets/HostAnswer.h"
 #include "toolbar/widgets/MRDropButton.h"
 #include "toolbar/widgets/MRGroupButton.h"
 
@@ -37,12 +39,6 @@ QStringList namesOf(const QList<QAction *> &buttons, bool areShown)
             names.append(button->objectName());
     }
     return names;
-}
-
-QAction *faceOf(const QToolButton *button)
-{
-    const auto *dropButton = qobject_cast<const MRDropButton *>(button);
-    return dropButton ? dropButton->GetCurrentAction() : button->defaultAction();
 }
 
 /** The command of that name in a menu or below; null if it is not to be seen there. */
@@ -93,8 +89,15 @@ KeptState StateKeeper::state() const
 
 void StateKeeper::note()
 {
-    if (!m_isRestoring)
-        Q_EMIT changed();
+    if (m_isRestoring)
+        return;
+    // One act of the user may be several changes: another tab unfolds the rows.
+    const QString now = state().toText();
+    if (std::exchange(m_told, now) == now)
+        return;
+    // Most changes are chosen from menus, which Qt still uses.
+    const HostAnswer answer;
+    Q_EMIT changed();
 }
 
 void StateKeeper::expect(const KeptState &state)
@@ -108,7 +111,6 @@ void StateKeeper::restoreFirst()
     // A tab that could not be opened first is not opened after another one either.
     m_expected.tab.clear();
     restore(std::exchange(m_expected, {}));
-    m_shown = namesOf(describedButtons(m_lists.quickAccessBar), true);
 }
 
 void StateKeeper::restore(const KeptState &state)
@@ -119,8 +121,23 @@ void StateKeeper::restore(const KeptState &state)
     restoreQuickAccess(state);
     restoreFaces(state);
     restoreRows(state);
-    if (self)
-        m_isRestoring = false;
+    if (!self)
+        return;
+    m_isRestoring = false;
+    m_told = this->state().toText();
+    m_shown = shownButtons();
+}
+
+/** Which buttons of the quick access bar are shown, in their order. */
+std::vector<bool> StateKeeper::shownButtons() const
+{
+    std::vector<bool> shown;
+    if (const QToolBar *bar = m_lists.quickAccessBar) {
+        const QList<QAction *> buttons = bar->actions();
+        for (const QAction *button : buttons)
+            shown.push_back(button->isVisible());
+    }
+    return shown;
 }
 
 void StateKeeper::restoreLists(const KeptState &state)
@@ -148,10 +165,7 @@ void StateKeeper::restoreQuickAccess(const KeptState &state)
     const QList<QAction *> buttons = describedButtons(bar);
     for (QAction *button : buttons)
         button->setVisible(isShown(button));
-    const QList<QAction *> all = bar->actions();
-    bar->setVisible(std::any_of(all.begin(), all.end(),
-                                [](const QAction *button) { return button->isVisible(); }));
-    m_shown = namesOf(buttons, true);
+    showWhileUsed(bar);
 
     const QPushButton *setButton = m_lists.quickAccessSetButton;
     const QList<QAction *> entries =
@@ -176,9 +190,8 @@ void StateKeeper::restoreRows(const KeptState &state)
 {
     const QPointer<StateKeeper> self(this);
     const QPushButton *tab = state.tab.isEmpty() ? nullptr : m_lists.tabButtons.first(state.tab);
-    // A click on the tab on show would fold the rows.
-    if (tab && !tab->isHidden() && state.tab != m_rows.currentTab())
-        m_rows.click(tab);
+    if (tab && state.tab != m_rows.currentTab())
+        m_rows.restore(state.tab);
     if (self && state.isFolded && *state.isFolded != m_rows.isFolded())
         m_rows.setFolded(*state.isFolded);
 }
@@ -187,7 +200,7 @@ void StateKeeper::takeSwitchable(QToolButton *button)
 {
     const QString name = button->objectName();
     m_switchable.insert(name, button);
-    m_describedFaces.insert(name, nameOf(faceOf(button)));
+    m_describedFaces.insert(name, nameOf(shownCommand(button)));
     restoreFace(button);
     // By then the button, which was connected first, has the new face.
     if (button->menu())
@@ -196,8 +209,10 @@ void StateKeeper::takeSwitchable(QToolButton *button)
 
 void StateKeeper::restoreFace(QToolButton *button) const
 {
-    QAction *entry = shownEntry(button->menu(), m_faces.value(button->objectName()));
-    if (!entry || entry == faceOf(button))
+    const QString kept = m_faces.value(button->objectName());
+    // Separators have no name either.
+    QAction *entry = kept.isEmpty() ? nullptr : shownEntry(button->menu(), kept);
+    if (!entry || entry == shownCommand(button))
         return;
     if (auto *dropButton = qobject_cast<MRDropButton *>(button))
         dropButton->SetAction(entry);
@@ -208,7 +223,7 @@ void StateKeeper::restoreFace(QToolButton *button) const
 void StateKeeper::noteFace(const QToolButton *button)
 {
     const QString name = button->objectName();
-    const QString entry = nameOf(faceOf(button));
+    const QString entry = nameOf(shownCommand(button));
     // While it is as described it is not kept: another description may begin with another entry.
     if (entry.isEmpty() || entry == m_faces.value(name, m_describedFaces.value(name)))
         return;
@@ -218,9 +233,12 @@ void StateKeeper::noteFace(const QToolButton *button)
 
 void StateKeeper::noteQuickAccess()
 {
-    const QStringList shown = namesOf(describedButtons(m_lists.quickAccessBar), true);
-    if (std::exchange(m_shown, shown) != shown)
-        note();
+    // Asked at every change of visibility, of whatever control.
+    std::vector<bool> shown = shownButtons();
+    if (shown == m_shown)
+        return;
+    m_shown = std::move(shown);
+    note();
 }
 
 void StateKeeper::noteLooks(const QString &scale, const QString &scheme)

@@ -58,6 +58,7 @@ Q_SIGNALS:
 
 private:
     void note();
+    std::vector<bool> shownButtons() const;
     void restoreLists(const KeptState &state);
     void restoreQuickAccess(const KeptState &state);
     void restoreFaces(const KeptState &state);
@@ -68,7 +69,8 @@ private:
     const ControlLists m_lists;
     ToolRows &m_rows;
     KeptState m_expected;
-    QStringList m_shown;            ///< Of the described quick access buttons, when last noted.
+    QString m_told;                 ///< The state when it was last told.
+    std::vector<bool> m_shown;      ///< Which quick access buttons were shown then.
     QMap<QString, QString> m_faces; ///< Also of buttons that are made later.
     QHash<QString, QPointer<QToolButton>> m_switchable; ///< Those that have been made.
     QHash<QString, QString> m_describedFaces;           ///< Of these.

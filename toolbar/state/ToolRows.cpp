@@ -35,6 +35,11 @@ void checkOnly(QAbstractButton *tab)
         group->setExclusive(true);
 }
 
+int positionOf(const QAbstractButton *tab)
+{
+    return tab->property(Property::tabIndex).toInt();
+}
+
 void setVisible(QWidget *widget, bool isVisible)
 {
     if (widget)
@@ -61,9 +66,19 @@ void ToolRows::click(const QAbstractButton *tab)
 
 void ToolRows::show(const QString &name)
 {
+    request(name, By::Call);
+}
+
+void ToolRows::restore(const QString &name)
+{
+    request(name, By::Return);
+}
+
+void ToolRows::request(const QString &name, By by)
+{
     for (const QPushButton *tab : m_members.tabs) {
         if (tab && tab->objectName() == name && !tab->isHidden() && tab->isEnabled()) {
-            request(tab, By::Call);
+            request(tab, by);
             return;
         }
     }
@@ -71,7 +86,7 @@ void ToolRows::show(const QString &name)
 
 void ToolRows::request(const QAbstractButton *tab, By by)
 {
-    const int position = tab->property(Property::tabIndex).toInt();
+    const int position = positionOf(tab);
     // A click on the tab on show while a tab is being opened returns to it.
     const bool folds =
         by == By::Click && position == m_members.stack->currentIndex() && !m_requests.isPending();
@@ -103,6 +118,15 @@ void ToolRows::toggle(int tab)
         setFolded(m_members.stack->isVisible());
     else
         open(tab, By::Click);
+}
+
+/** Returns false if the host has deleted this: it may hear of the focus. */
+bool ToolRows::endPeek()
+{
+    const QPointer<ToolRows> self(this);
+    if (m_peek)
+        m_peek->end();
+    return !self.isNull();
 }
 
 void ToolRows::toggleFolded()
@@ -148,7 +172,9 @@ void ToolRows::bringIntoView(By by)
 {
     if (by == By::Return && m_isFolded)
         return;
-    if (m_peek && m_isFolded && m_isRowWanted && m_peek->begin())
+    // A toolbar that is not to be seen yet stays as it is.
+    const bool canPeek = m_peek && m_isFolded && m_isRowWanted;
+    if (canPeek && (m_peek->begin() || !m_members.stack->parentWidget()->isVisible()))
         return;
     if (!m_members.stack->isVisible())
         setFolded(false);
@@ -191,8 +217,8 @@ void ToolRows::leaveHiddenContext()
     const bool isMovingOn = m_requests.isPending() && !isContextHidden(m_requests.tab());
     if (isMovingOn || !m_members.stack || !isContextHidden(m_members.stack->currentIndex()))
         return;
-    if (m_peek)
-        m_peek->end();
+    if (!endPeek())
+        return;
     if (const QAbstractButton *tab = tabToReturnTo())
         request(tab, By::Return);
 }
@@ -244,7 +270,7 @@ bool ToolRows::leaveTab(const QAbstractButton *tab)
         // The tab of a hidden context cannot be opened.
         do
             next = (next + 1) % buttons.size();
-        while (buttons.at(next) != tab && isContextHidden(static_cast<int>(next)));
+        while (buttons.at(next) != tab && isContextHidden(positionOf(buttons.at(next))));
         buttons.at(next)->click();
     }
     if (self)
@@ -254,8 +280,8 @@ bool ToolRows::leaveTab(const QAbstractButton *tab)
 
 void ToolRows::setFolded(bool isFolded)
 {
-    if (m_peek)
-        m_peek->end();
+    if (!endPeek())
+        return;
     showFoldButtons(isFolded);
     setVisible(m_members.stack, !isFolded);
     if (std::exchange(m_isFolded, isFolded) != isFolded)
@@ -265,8 +291,8 @@ void ToolRows::setFolded(bool isFolded)
 void ToolRows::setShown(bool isShown)
 {
     m_isRowWanted = isShown;
-    if (m_peek && !isShown)
-        m_peek->end();
+    if (!isShown && !endPeek())
+        return;
     if (!m_members.currentRow)
         return;
 

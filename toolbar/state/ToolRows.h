@@ -56,6 +56,8 @@ public:
     void click(const QAbstractButton *tab);
     /** Opens the tab of that name, unless it is hidden or disabled; never folds. */
     void show(const QString &name);
+    /** The same for a tab that is restored: folded rows stay folded, and nothing is laid over. */
+    void restore(const QString &name);
     /** Shows or hides the tabs of that context; if one was on show, an earlier tab is again. */
     void showContext(const QString &context, bool isShown);
     /** Does the same, but for the filling of a row, by the tab's position. */
@@ -97,9 +99,11 @@ private:
         Return ///< Folded rows stay folded.
     };
 
+    void request(const QString &name, By by);
     void request(const QAbstractButton *tab, By by);
     void open(int tab, By by);
     void bringIntoView(By by);
+    bool endPeek();
     void toggleFolded();
     void announce();
     bool isContextHidden(int tab) const;

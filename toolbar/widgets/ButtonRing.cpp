@@ -44,6 +44,7 @@ ButtonRing::ButtonRing(QWidget *button, double lineWidth)
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setGeometry(button->geometry());
     button->installEventFilter(this);
+    connect(button, &QObject::destroyed, this, &QObject::deleteLater);
     setVisible(button->isVisible());
     raise();
 }
@@ -53,7 +54,8 @@ bool ButtonRing::eventFilter(QObject *watched, QEvent *event)
     switch (event->type()) {
     case QEvent::Move:
     case QEvent::Resize:
-        setGeometry(m_button->geometry());
+        if (m_button)
+            setGeometry(m_button->geometry());
         break;
     case QEvent::Show:
     case QEvent::Hide:
@@ -67,6 +69,8 @@ bool ButtonRing::eventFilter(QObject *watched, QEvent *event)
 
 void ButtonRing::paintEvent(QPaintEvent *)
 {
+    if (!m_button)
+        return;
     const double line = m_lineWidth * ScreenDensity::scale(this);
     const double inset = line / 2;
     const QRectF outline = QRectF(hoverRect(m_button)).adjusted(inset, inset, -inset, -inset);

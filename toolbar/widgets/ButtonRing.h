@@ -5,6 +5,8 @@
 
 #include "toolbar/widgets/Panel.h"
 
+#include <QPointer>
+
 /**
  * A ring around a control. It lies above the control, so that neither the skin's sheet nor a sheet
  * of the control's own can hide it, and is its sibling: it scrolls, and is cut off, with it.
@@ -23,6 +25,6 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    QWidget *m_button;
+    QPointer<QWidget> m_button;
     double m_lineWidth;
 };

@@ -246,3 +246,9 @@ void MRDropButton::leaveEvent(QEvent *)
     setStyleSheet(m_inHide ? m_savedStyleSheet : QString());
     m_savedStyleSheet.clear();
 }
+
+QAction *shownCommand(const QToolButton *button)
+{
+    const auto *dropButton = qobject_cast<const MRDropButton *>(button);
+    return dropButton ? dropButton->GetCurrentAction() : button->defaultAction();
+}

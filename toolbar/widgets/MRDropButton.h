@@ -205,3 +205,6 @@ private:
     QPointer<QMenu> m_extendMenu;
     QPointer<QWidget> m_toolBarWidget;
 };
+
+/** The command of a row's or a panel's button: what a drop button shows, or the button's own. */
+QAction *shownCommand(const QToolButton *button);

@@ -11,6 +11,8 @@
 #include <QStyle>
 #include <QToolButton>
 
+#include <algorithm>
+
 MRMainToolBar::MRMainToolBar(QWidget *parent)
     : QToolBar(parent)
     , m_extension(findChild<QToolButton *>(QString(), Qt::FindDirectChildrenOnly))
@@ -66,4 +68,19 @@ void MRMainToolBar::setFilled(bool filled)
         m_extension->style()->unpolish(m_extension);
         m_extension->style()->polish(m_extension);
     }
+}
+
+QAction *actionOn(const QToolBar *bar, const QString &name)
+{
+    const QList<QAction *> actions = bar ? bar->actions() : QList<QAction *>();
+    const auto found = std::find_if(actions.begin(), actions.end(), [&name](const QAction *action) {
+        return action->objectName() == name;
+    });
+    return found == actions.end() ? nullptr : *found;
+}
+
+QWidget *buttonOn(const QToolBar *bar, const QString &name)
+{
+    QAction *action = actionOn(bar, name);
+    return action ? bar->widgetForAction(action) : nullptr;
 }

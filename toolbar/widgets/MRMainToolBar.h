@@ -30,3 +30,8 @@ private:
     QString m_extensionName;
     bool m_filled = false;
 };
+
+/** The first action of that name on a bar; null without one. */
+QAction *actionOn(const QToolBar *bar, const QString &name);
+/** What the bar shows for it. On a row that fits, that is no action of the command's own. */
+QWidget *buttonOn(const QToolBar *bar, const QString &name);

@@ -7,21 +7,10 @@
 
 #include <QMenu>
 
-namespace {
-
-/** What a click on a button with a menu repeats; null where it opens the menu. */
-QAction *repeatedCommand(const QToolButton *button)
-{
-    const auto *dropButton = qobject_cast<const MRDropButton *>(button);
-    return dropButton ? dropButton->GetCurrentAction() : button->defaultAction();
-}
-
-} // namespace
-
 QList<QAction *> MovedEntries::of(const QToolButton *button)
 {
     QMenu *menu = button->menu();
-    QAction *command = repeatedCommand(button);
+    QAction *command = shownCommand(button);
     QList<QAction *> entries;
     if (command && (!menu || !menu->actions().contains(command)))
         entries.append(command);

@@ -5,6 +5,8 @@
 
 #include "toolbar/widgets/Panel.h"
 
+#include <QPointer>
+
 /** The shadow that rows throw while they lie over the pages. The mouse goes through. */
 class PeekShadow : public Panel
 {
@@ -19,5 +21,5 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    const QWidget *m_toolBar;
+    QPointer<const QWidget> m_toolBar;
 };

@@ -55,6 +55,9 @@ void setShown(QWidgetAction *place, bool isShown)
     if (place->isVisible() == isShown)
         return;
     QWidget *widget = place->defaultWidget();
+    // The host may have deleted it.
+    if (!widget)
+        return;
     const bool isEnabled = widget->isEnabledTo(widget->parentWidget());
     place->setVisible(isShown);
     widget->setEnabled(isEnabled);
@@ -112,8 +115,12 @@ void RowFit::add(const Seat &seat)
     for (QToolButton *button : seat.buttons)
         held.buttons.append(button);
     m_seats.push_back(held);
-    if (!seat.command)
+    if (!seat.command) {
+        // A panel that is hidden itself does not tell the row.
+        for (QToolButton *button : seat.buttons)
+            button->installEventFilter(this);
         return;
+    }
     connect(seat.command, &QAction::changed, this, [this] {
         // Equal events that wait are one, however many states the host reports.
         QCoreApplication::postEvent(m_row, new QEvent(QEvent::LayoutRequest));
@@ -128,6 +135,13 @@ void RowFit::close()
 
 bool RowFit::eventFilter(QObject *watched, QEvent *event)
 {
+    if (watched != m_area && watched != m_row) {
+        const bool isShownOrHidden =
+            event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent;
+        if (isShownOrHidden && !m_isArranging)
+            QCoreApplication::postEvent(m_row, new QEvent(QEvent::LayoutRequest));
+        return false;
+    }
     const bool isOther = watched == m_area
                              ? event->type() == QEvent::Resize || event->type() == QEvent::Show
                              : event->type() == QEvent::LayoutRequest;
@@ -144,8 +158,11 @@ void RowFit::arrange()
     RowPlan plan = this->plan();
     plan.fit(m_area->width());
     QWidget *focus = newFocus(plan);
+    const QPointer<RowFit> self(this);
     apply(plan);
     layOut();
+    if (!self)
+        return;
     m_isArranging = false;
     // Last, as whoever hears of it may delete the row.
     if (focus)
@@ -189,7 +206,8 @@ RowPlan::Item RowFit::itemOf(QAction *action)
     item.isSeparator = action->isSeparator();
     item.fullWidth = widthOfWidget(action);
     // What moves is counted apart from the items.
-    item.form = action->isVisible() && action != m_morePlace ? Form::Full : Form::Absent;
+    const bool isThere = item.isSeparator || m_row->widgetForAction(action);
+    item.form = isThere && action->isVisible() && action != m_morePlace ? Form::Full : Form::Absent;
     return item;
 }
 
@@ -197,6 +215,8 @@ int RowFit::widthOfWidget(QAction *action) const
 {
     // Its layout item says nothing while the widget is hidden.
     const QWidget *widget = m_row->widgetForAction(action);
+    if (!widget)
+        return 0;
     return widget->sizeHint()
         .expandedTo(widget->minimumSizeHint())
         .boundedTo(widget->maximumSize())
@@ -254,8 +274,9 @@ void RowFit::applyTo(Held &seat, Form form)
             MovedEntries::release(button);
     }
     // A panel would tell the row of its new width only when it is laid out itself.
-    if (QLayout *layout = seat.place->defaultWidget()->layout())
-        layout->activate();
+    const QWidget *widget = seat.place->defaultWidget();
+    if (widget && widget->layout())
+        widget->layout()->activate();
     const bool isOnRow = form == Form::Full || form == Form::Bare;
     setShown(seat.place, isOnRow);
 }

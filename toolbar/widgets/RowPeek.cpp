@@ -162,7 +162,8 @@ bool RowPeek::eventFilter(QObject *watched, QEvent *event)
 bool RowPeek::handleKey(QWidget *target, QEvent *event)
 {
     const auto &key = *static_cast<QKeyEvent *>(event);
-    if (QApplication::activePopupWidget())
+    // With key tips Esc goes a step back.
+    if (QApplication::activePopupWidget() || target->objectName() == Part::keyTips)
         return false;
     if (key.key() == Qt::Key_Escape) {
         event->accept();

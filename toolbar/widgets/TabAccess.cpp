@@ -3,23 +3,12 @@
 
 #include "toolbar/widgets/TabAccess.h"
 
+#include "toolbar/widgets/Mnemonic.h"
 #include "toolbar/widgets/TabButton.h"
 
 #include <QAccessibleWidget>
 
 namespace {
-
-/** The text without the marks of mnemonics; a doubled mark stands for the character. */
-QString withoutMnemonic(const QString &text)
-{
-    QString plain;
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        if (text.at(i) == QLatin1Char('&') && ++i == text.size())
-            break;
-        plain.append(text.at(i));
-    }
-    return plain;
-}
 
 /** A tab. Its name, its focus and its actions are those of the button that it is. */
 class AccessibleTab : public QAccessibleWidget

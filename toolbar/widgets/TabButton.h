@@ -27,6 +27,8 @@ public:
 
     /** Whether the page of the tab is the one on show, be it folded or not. */
     bool isOnShow() const { return m_pages && m_pages->currentIndex() == m_position; }
+    /** Whether the page on show is to be seen. */
+    bool areRowsShown() const { return m_pages && m_pages->isVisible(); }
 
 private:
     QPointer<const QStackedWidget> m_pages;

@@ -84,7 +84,7 @@ void checkReach(const SourceDocument &document, const SourceElement &element, Fi
 
 void Rules::checkShortcuts(const SourceDocument &document, Findings &findings)
 {
-    QHash<QString, const SourceElement *> owners;
+    QHash<QString, const SourceElement *> ownersByScope[2]; ///< Those of the window are the second.
     for (const SourceElement &element : document.elements) {
         checkScope(element, findings);
         const QString shortcut = element.record.shortcut;
@@ -101,6 +101,7 @@ void Rules::checkShortcuts(const SourceDocument &document, Findings &findings)
             continue;
         }
         checkReach(document, element, findings);
+        auto &owners = ownersByScope[actsInWindow(document, element) ? 1 : 0];
         if (const SourceElement *owner = owners.value(keys))
             checkCollision(document, *owner, element, keys, findings);
         else
