@@ -29,7 +29,7 @@ foreach(line IN LISTS lines)
         "^(typeinfo name for|typeinfo for|vtable for|(non-)?virtual thunk to|guard variable for) "
         "" name "${name}")
     # Templates of the standard library and of Qt's meta-type system set their own visibility.
-    if(name MATCHES "^([a-z ]+ )?(std::|QMetaType|QMetaAssociation)")
+    if(name MATCHES "^([a-z *]+ )?(std::|QMetaType|QMetaAssociation)")
         continue()
     endif()
     string(REGEX REPLACE "\\(.*$" "" member "${name}")
