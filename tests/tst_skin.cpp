@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The MRToolBar authors
 // SPDX-License-Identifier: MIT
 
+#include "tests/support/Describe.h"
 #include "tests/support/Rows.h"
 #include "tests/support/TestHost.h"
 #include "tests/support/WarningTrap.h"
@@ -200,6 +201,23 @@ private Q_SLOTS:
             const SkinChoice choice(skin);
             QCOMPARE(TestHost("").toolBar()->GetIconPath(name),
                      path.isEmpty() ? path : ":/mr_toolbar/Resources/" + path);
+        }
+    }
+
+    void shouldShowTheButtonOfTheFinderLikeThePreferences()
+    {
+        for (const int skin : {marodi, lum}) {
+            const SkinChoice choice(skin);
+            const TestHost plain(section("addtional", "<button name='e_preference'/>"));
+            const TestHost host(section("addtional", "<button name='e_preference'/>"
+                                                     "<button name='t_findcommand'/>"));
+            const auto sheetOf = [](const TestHost &of) {
+                return of.find<QToolBar>("mrtoolbar")->styleSheet();
+            };
+            QString sheet = sheetOf(host);
+            QVERIFY(sheet.contains("#t_findcommand:hover,QPushButton#e_preference:hover"));
+            static const QRegularExpression added("QPushButton#t_findcommand[:\\w-]*,");
+            QCOMPARE(sheet.remove(added), sheetOf(plain));
         }
     }
 

@@ -59,8 +59,8 @@ QString StyleSheet::scaled(const QString &sheet, float factor)
 
 QString StyleSheet::withLookOf(QString sheet, QLatin1String button, QLatin1String other)
 {
-    const QRegularExpression selector(QStringLiteral("QPushButton#%1([:\\w-]*)").arg(button));
-    return sheet.replace(selector, QStringLiteral("QPushButton#%1\\1,\\0").arg(other));
+    const QRegularExpression selector(QStringLiteral("(QPushButton#%1([:\\w-]*))").arg(button));
+    return sheet.replace(selector, QStringLiteral("QPushButton#%1\\2,\\1").arg(other));
 }
 
 QString StyleSheet::withoutFonts(QString sheet)
