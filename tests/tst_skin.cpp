@@ -208,14 +208,14 @@ private Q_SLOTS:
     {
         for (const int skin : {marodi, lum}) {
             const SkinChoice choice(skin);
-            const TestHost plain(section("addtional", "<button name='e_preference'/>"));
-            const TestHost host(section("addtional", "<button name='e_preference'/>"
-                                                     "<button name='t_findcommand'/>"));
+            const TestHost plain(Describe::section("addtional", "<button name='e_preference'/>"));
+            const TestHost host(Describe::section("addtional", "<button name='e_preference'/>"
+                                                               "<button name='t_findcommand'/>"));
             const auto sheetOf = [](const TestHost &of) {
                 return of.find<QToolBar>("mrtoolbar")->styleSheet();
             };
             QString sheet = sheetOf(host);
-            QVERIFY(sheet.contains("#t_findcommand:hover,QPushButton#e_preference:hover"));
+            QVERIFY(sheet.contains("QPushButton#t_findcommand,QPushButton#e_preference,"));
             static const QRegularExpression added("QPushButton#t_findcommand[:\\w-]*,");
             QCOMPARE(sheet.remove(added), sheetOf(plain));
         }
