@@ -102,6 +102,7 @@ RowFit::RowFit(QToolBar *row, QMenu *menu)
     , m_morePlace(new QWidgetAction(row))
 {
     m_morePlace->setDefaultWidget(m_more);
+    m_morePlace->setObjectName(m_more->objectName());
     m_morePlace->setVisible(false);
     row->installEventFilter(this);
     m_area->installEventFilter(this);
