@@ -110,6 +110,17 @@ private Q_SLOTS:
             QCOMPARE(host.toolBar()->height(), pages.top());
     }
 
+    void shouldSurviveTheEndOfTheToolbarWhilePeeking()
+    {
+        PageHost host(withPeek());
+        host.act("click t_fold,click edit");
+        QVERIFY(host.areRowsSeen());
+        // As a host does that goes on in an event loop of its own, where nothing is deleted later.
+        delete host.toolBar();
+        host.window().grab();
+        QVERIFY(!host.toolBar());
+    }
+
     void shouldEndAPeekBeforeItsCommandIsUsed()
     {
         PageHost host(withPeek());

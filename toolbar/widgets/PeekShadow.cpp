@@ -41,6 +41,9 @@ void PeekShadow::follow(const QRect &rows)
 
 void PeekShadow::paintEvent(QPaintEvent *)
 {
+    // The toolbar may be gone already.
+    if (!m_toolBar)
+        return;
     const SchemeColours *colours = Appearance::coloursFor(m_toolBar);
     QLinearGradient gradient(0, 0, 0, height());
     // On dark pages less is not seen. A shadow fades faster than it should by equal steps.

@@ -52,8 +52,10 @@ RowPeek::RowPeek(QWidget *toolBar, QVBoxLayout *layout, QWidget *rows)
 
 RowPeek::~RowPeek()
 {
-    if (m_shadow)
-        m_shadow->deleteLater();
+    if (!m_shadow)
+        return;
+    m_shadow->hide();
+    m_shadow->deleteLater();
 }
 
 bool RowPeek::begin()
