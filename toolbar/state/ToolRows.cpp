@@ -101,6 +101,9 @@ void ToolRows::request(const QAbstractButton *tab, By by)
             return;
         if (isContextHidden(position)) {
             m_requests.settle(m_members.stack->currentIndex());
+            // The click has checked the tab that is not opened.
+            if (QPushButton *shown = m_members.tabs.at(m_members.stack->currentIndex()))
+                checkOnly(shown);
             return;
         }
     }
