@@ -1,134 +1,16 @@
 // SPDX-FileCopyrightText: The MRToolBar authors
 // SPDX-License-Identifier: MIT
 
-#include "tests/support/Describe.h"
-#include "tests/support/Rows.h"
-#include "tests/support/TestHost.h"
-#include "toolbar/widgets/MRMainToolBar.h"
+#include "tests/support/EventCounter.h"
+#include "tests/support/FittingHost.h"
 #include "toolbar/widgets/RowFit.h"
 
 #include <QApplication>
-#include <QLayout>
-#include <QMenu>
-#include <QToolButton>
 #include <QToolTip>
 
 using namespace Describe;
 
 namespace {
-
-QString shrink(int order)
-{
-    return QStringLiteral("icon='icon24/HandTool.svg' shrink='%1' ").arg(order);
-}
-
-constexpr int everythingMoves = 120;
-constexpr int everythingFits = 2000;
-
-QString shrinkingGroup()
-{
-    return QStringLiteral("<buttongroup name='gr' shrink='2'>%1</buttongroup>")
-        .arg(button("group_one", "icon='icon24/HandTool.svg'")
-             + button("group_two", "icon='icon24/HandTool.svg'")
-             + menu("group_menu", item("group_entry"), "icon='icon24/HandTool.svg'"));
-}
-
-QString shrinkingRow()
-{
-    const QString entries = item("choice_one", "checkable='true'") + item("choice_two");
-    return button("stays") + "<sperator/>" + button("first", shrink(1) + "checkable='true'")
-           + button("other", shrink(1) + "disabletip='not now'") + "<sperator/>"
-           + menu("drop", entries, shrink(3) + "checkable='true' switchable='true' index='2'")
-           + menu("own", item("own_command") + item("own_other"),
-                  shrink(3) + "checkable='true' withaction='true' index='1'")
-           + shrinkingGroup() + "<sperator/>" + button("late", shrink(9)) + field("number");
-}
-
-/** A host whose row may have any width, as its window is part of another one. */
-class FittingHost : public TestHost
-{
-public:
-    explicit FittingHost(const QString &controls = shrinkingRow(), const SkinMap &skin = {})
-        : TestHost(row(controls), skin)
-    {
-        window().layout()->setSizeConstraint(QLayout::SetNoConstraint);
-        window().setParent(&m_holder);
-        m_holder.resize(2100, 200);
-        enableRows();
-        m_holder.show();
-        window().show();
-        m_holder.activateWindow();
-        if (!QTest::qWaitForWindowActive(&m_holder))
-            qFatal("no window");
-    }
-    ~FittingHost() { window().setParent(nullptr); }
-
-    void setWidth(int width)
-    {
-        window().resize(width, 150);
-        QCoreApplication::sendPostedEvents();
-    }
-
-    MRMainToolBar *bar() const { return find<MRMainToolBar>("row"); }
-    QToolButton *more() const { return find<QToolButton>("row_more"); }
-    QMenu *menuOfMoved() const { return more()->menu(); }
-    QRect screenRect(const QWidget *widget) const
-    {
-        return {widget->mapToGlobal(QPoint()), widget->size()};
-    }
-    bool isTooWide() const { return bar()->width() > bar()->parentWidget()->width(); }
-
-    /** What stands on the row: the widths of its controls, in order. */
-    QList<int> shownWidths() const
-    {
-        QList<int> widths;
-        const QList<QAction *> places = bar()->actions();
-        for (QAction *place : places) {
-            const QWidget *widget = bar()->widgetForAction(place);
-            widths.append(widget->isVisible() ? widget->width() : 0);
-        }
-        return widths;
-    }
-
-    /** The names of the entries; of those that open a menu, the text. */
-    QStringList moved() const
-    {
-        QStringList names;
-        const QList<QAction *> entries = menuOfMoved()->actions();
-        for (const QAction *entry : entries) {
-            if (entry->isSeparator())
-                names.append("|");
-            else
-                names.append(entry->menu() ? entry->text() + " >" : entry->objectName());
-        }
-        return names;
-    }
-
-    QToolButton *buttonOf(const QString &name) const
-    {
-        const QList<QAction *> places = bar()->actions();
-        const auto place = std::find_if(places.begin(), places.end(), [&name](const QAction *each) {
-            return each->objectName() == name;
-        });
-        return qobject_cast<QToolButton *>(bar()->widgetForAction(*place));
-    }
-
-private:
-    QWidget m_holder;
-};
-
-/** Counts how often a row is laid out. */
-class LayoutCount : public QObject
-{
-public:
-    explicit LayoutCount(QObject *row) { row->installEventFilter(this); }
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        count += event->type() == QEvent::LayoutRequest || event->type() == QEvent::Resize;
-        return false;
-    }
-    int count = 0;
-};
 
 /** Forms as letters: F, B or M, "-" for what is absent, "|" and "." for a separator. */
 QString formsOf(RowPlan plan, int available)
@@ -207,14 +89,14 @@ void TestRowFit::shouldFollowFromTheWidthAlone()
 {
     const SkinChoice skin;
     FittingHost host;
-    LayoutCount layouts(host.bar());
+    EventCounter layouts(host.bar(), {QEvent::LayoutRequest, QEvent::Resize});
     QMap<int, QList<int>> known;
     constexpr int most = 2000;
     for (int step = 1; step < 2 * most; ++step) {
         const int width = step <= most ? step : 2 * most - step;
-        layouts.count = 0;
+        layouts.sinceLastAsked();
         host.setWidth(width);
-        QVERIFY2(layouts.count <= 4, qPrintable(QString::number(layouts.count)));
+        QVERIFY2(layouts.count() <= 4, qPrintable(QString::number(layouts.count())));
         const QList<int> shown = host.shownWidths();
         if (step > most)
             QCOMPARE(shown, known.value(width));

@@ -25,8 +25,6 @@
 
 namespace {
 
-constexpr int usedAppRecords = 2;
-
 /** The menu of what a bar has no room for belongs to the toolbar, too. Qt makes it when needed. */
 void markOverflowMenu(const QObject *overflowButton)
 {
@@ -60,8 +58,7 @@ void NewToolBar::Inner_DoDelayLoadMenuSlot()
     if (m_menusLoaded)
         return;
 
-    const QList<Controller *> records =
-        sectionRecords(m_controllers, Section::appButton).mid(0, usedAppRecords);
+    const QList<Controller *> records = appButtonRecords(m_controllers);
     for (int i = 0; i < records.size(); ++i) {
         if (const auto *button = qobject_cast<MRMenuButton *>(m_appButtonWidgets.at(i)))
             AppendSubMenu(button->GetMenu(), records.at(i)->children, m_menuStyles.value(i));

@@ -18,9 +18,6 @@
 
 namespace {
 
-/** Further records of the section are not made. */
-constexpr int usedAppRecords = 2;
-
 /** Those used most come first, as they get the letter that comes to mind. */
 constexpr QLatin1String topLineSections[]{Section::tabBar, Section::appButton,
                                           Section::quickAccessBar, Section::additional};
@@ -88,9 +85,9 @@ QList<KeyTip> KeyTipTargets::ofTopLine() const
     QList<const Controller *> records;
     QList<QWidget *> controls;
     for (const QLatin1String section : topLineSections) {
-        QList<Controller *> described = sectionRecords(m_records, section);
-        if (section == Section::appButton)
-            described = described.mid(0, usedAppRecords);
+        const QList<Controller *> described = section == Section::appButton
+                                                  ? appButtonRecords(m_records)
+                                                  : sectionRecords(m_records, section);
         for (int i = 0; i < described.size(); ++i) {
             records.append(described.at(i));
             controls.append(topLineControl(*described.at(i), i));

@@ -181,12 +181,8 @@ QIcon Presentation::icon(const Controller &record) const
 {
     if (const QIcon *given = m_byName.icon(record))
         return *given;
-    const auto known = m_icons.constFind(record.icon);
-    if (known != m_icons.cend())
-        return *known;
-    const QIcon icon = m_appearance.icon(skinIconPath(m_directory, record.icon));
-    // One that is missing may come with resources that are loaded later.
-    return icon.isNull() ? icon : *m_icons.insert(record.icon, icon);
+    return record.icon.isEmpty() ? QIcon()
+                                 : m_appearance.icon(skinIconFile(m_directory, record.icon));
 }
 
 QIcon Presentation::topLineIcon(const Controller &record, const QString &letter) const

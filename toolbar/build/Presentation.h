@@ -164,7 +164,6 @@ private:
     const Scale &m_scale;
     mutable std::shared_ptr<CustomMenuStyle> m_menuStyle; ///< None while menus follow the screen.
     CardLines m_cardLines = CardLines::Characters;
-    mutable QHash<QString, QIcon> m_icons; ///< That the skin has, by the name in the description.
     std::vector<Given> m_given;
     TextsByName m_byName;
     QHash<QString, QList<qsizetype>> m_positions; ///< In m_given; not before a name is asked for.

@@ -8,9 +8,6 @@
 
 namespace {
 
-/** Further records of the section are not made. */
-constexpr int usedAppRecords = 2;
-
 /** Whether a record without others below it is a command, by its place. */
 bool isCommand(const Controller &record, const CommandPlace &place)
 {
@@ -33,8 +30,7 @@ bool holdsCommands(const Controller &record)
 
 CommandPlaces::CommandPlaces(const QList<Controller *> &records)
 {
-    const QList<Controller *> appButtons =
-        sectionRecords(records, Section::appButton).mid(0, usedAppRecords);
+    const QList<Controller *> appButtons = appButtonRecords(records);
     for (const Controller *button : appButtons)
         add(button->children, button, nullptr);
     add(sectionRecords(records, Section::quickAccessBar), nullptr, nullptr);

@@ -15,3 +15,9 @@ QList<Controller *> sectionRecords(const QList<Controller *> &records, QLatin1St
                  [section](const Controller *record) { return record->section == section; });
     return found;
 }
+
+QList<Controller *> appButtonRecords(const QList<Controller *> &records)
+{
+    constexpr int made = 2;
+    return sectionRecords(records, Section::appButton).mid(0, made);
+}

@@ -103,7 +103,11 @@ QColor Appearance::mainColour() const
 QIcon Appearance::icon(const QString &path)
 {
     const auto known = m_icons.constFind(path);
-    return known == m_icons.cend() ? *m_icons.insert(path, followingIcon(path, this)) : *known;
+    if (known != m_icons.cend())
+        return *known;
+    const QIcon icon = followingIcon(path, this);
+    // One that is missing may come with resources that are loaded later.
+    return icon.isNull() ? icon : *m_icons.insert(path, icon);
 }
 
 bool Appearance::eventFilter(QObject *watched, QEvent *event)

@@ -165,12 +165,17 @@ qreal disabledIconOpacity(const SchemeLook &look)
     return look.isLight() ? disabledOpacity : disabledOpacityOnDark;
 }
 
+QString skinIconFile(const QString &directory, const QString &name)
+{
+    return directory + QStringLiteral("icons/") + name;
+}
+
 QString skinIconPath(const QString &directory, const QString &name)
 {
     if (name.isEmpty())
         return QString();
 
-    const QString path = directory + QStringLiteral("icons/") + name;
+    const QString path = skinIconFile(directory, name);
     return QFile::exists(path) ? path : QString();
 }
 

@@ -20,6 +20,9 @@ QString skinIconPath(const QString &directory, const QString &name);
  */
 QIcon skinIcon(const QString &path, const SchemeLook &look = {});
 
+/** Where the skin would have the icon of that name. */
+QString skinIconFile(const QString &directory, const QString &name);
+
 /**
  * The drawing of the same thing for @p side physical pixels and for a coloured ground, where there
  * is one; or else for that side, or @p path.
