@@ -93,13 +93,15 @@ private Q_SLOTS:
         host.showEnabled();
         auto *opened = host.find<QMenu>("m");
         opened->popup(host.window().pos());
+        QVERIFY(QTest::qWaitForWindowExposed(opened));
         const int width = opened->width();
         MarkedLanguage marked;
         marked.install();
         QVERIFY(opened->isVisible());
         QCOMPARE(opened->title(), QString("<m >"));
-        QVERIFY(opened->width() > width);
-        QCOMPARE(opened->size(), opened->sizeHint());
+        // The window system may still tell of the size before.
+        QTRY_VERIFY(opened->width() > width);
+        QTRY_COMPARE(opened->size(), opened->sizeHint());
     }
 };
 
