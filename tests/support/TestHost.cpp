@@ -57,11 +57,13 @@ TestHost::TestHost(const QString &sections, const SkinMap &skin, ToolBarAlignmen
 
 TestHost::TestHost(const QDomDocument &document, const SkinMap &skin, ToolBarAlignment alignment)
     : m_document(document)
-    , m_window(std::make_unique<QMainWindow>())
 {
+    // Without a running event loop a window that exists is not told of another font.
+    const SkinMap chosen = withChoicesOfRun(skin);
+    m_window = std::make_unique<QMainWindow>();
     m_window->resize(1300, 600);
     QDomElement root = m_document.documentElement();
-    m_facade = std::make_unique<MRToolBar>(m_window.get(), root, withChoicesOfRun(skin), alignment);
+    m_facade = std::make_unique<MRToolBar>(m_window.get(), root, chosen, alignment);
 }
 
 TestHost TestHost::shown(const QString &sections, const SkinMap &skin)
