@@ -33,6 +33,7 @@ struct Reader
         window.openSample();
         window.show();
         window.activateWindow();
+        QGuiApplication::sync(); // An earlier window may still be told of its end.
         QVERIFY(QTest::qWaitForWindowActive(&window));
         QTRY_VERIFY(view->hasFocus());
     }

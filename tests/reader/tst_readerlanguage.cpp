@@ -58,16 +58,20 @@ QToolBar *use(ReaderWindow &window)
     window.openSample();
     window.show();
     window.activateWindow();
+    QGuiApplication::sync();
     if (!QTest::qWaitForWindowActive(&window))
         qFatal("The window is not active");
     auto *toolBar = window.findChild<QToolBar *>("mrtoolbar");
     auto *field = toolBar->findChild<QLineEdit *>("st_input");
     // The click returns when its menu has closed.
-    QTimer::singleShot(500, &window, [] {
+    QTimer closing;
+    QObject::connect(&closing, &QTimer::timeout, &window, [] {
         if (QWidget *menu = QApplication::activePopupWidget())
             menu->close();
     });
+    closing.start(100);
     QTest::mouseClick(toolBar->findChild<QPushButton *>("menu_file"), Qt::LeftButton);
+    closing.stop();
     field->setText("word");
     openThreeTabs(*toolBar);
     typeZoom(*toolBar);

@@ -99,7 +99,14 @@ std::unique_ptr<TestHost> TestHost::withFile(const QString &path, const SkinMap 
 void TestHost::show()
 {
     m_window->show();
+    activate();
+}
+
+void TestHost::activate()
+{
     m_window->activateWindow();
+    // The window system may still tell of a window that has just been closed.
+    QGuiApplication::sync();
     QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
 }
 

@@ -66,6 +66,8 @@ public:
 
     /** Shows the window and waits until it is on the screen and active. */
     void show();
+    /** Activates the window again, for instance after a menu, and waits until it is active. */
+    void activate();
     /** The rows stay disabled until the host has reported a first state. */
     void enableRows() { setUsable(QStringLiteral("no control"), true); }
     void showEnabled();
