@@ -32,7 +32,8 @@ QString described()
            + section("tabbar", tab("first", button("one"), "checked='true'")
                                    + tab("second", menu("d_drop", entries, drop) + button("two"))
                                    + tab("third", group("g", menu("g_drop", entries, drop)))
-                                   + tab("hidden", button("three"), "visible='false'"))
+                                   + tab("hidden", button("three"), "visible='false'")
+                                   + tab("moment", button("four"), "context='c'"))
            + section("addtional", button("t_fold"));
 }
 
@@ -277,6 +278,17 @@ void tst_kept::shouldTellOfEachChangeOnce_data()
         QTest::newRow(name) << act << changes;
     };
     row("a tab", 1, [](TestHost &host) { host.click("third"); });
+    row("a tab of a context", 0, [](TestHost &host) {
+        host.facade().DoShowContextSlot("c", true);
+        host.click("moment");
+    });
+    row("in the host's answer while another state is restored", 1, [](TestHost &host) {
+        QObject::connect(&host.facade(), &MRToolBar::DoRequestAuthority, &host.window(),
+                         [&host] { host.click("t_fold"); });
+        host.setSkin({{stateKey, "mrtoolbar/1;tab=third"}});
+        QCOMPARE(stateOf(host).tab, QString("third"));
+        QVERIFY(isFolded(host));
+    });
     row("folding", 1, [](TestHost &host) { host.click("t_fold"); });
     row("folding by the tab, twice", 2, [](TestHost &host) {
         host.click("second");

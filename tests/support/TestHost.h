@@ -101,6 +101,7 @@ public:
     void setUsable(QString name, bool usable);
     void setVisible(QString name, bool visible);
     void setChecked(QString name, bool checked);
+    void setSkin(const SkinMap &skin) { m_facade->DoSetSkinStyleSlot(skin); }
 
     /** The first argument of every emission that the spy has recorded. */
     static QStringList texts(const QSignalSpy &spy);

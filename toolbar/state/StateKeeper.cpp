@@ -67,7 +67,7 @@ StateKeeper::StateKeeper(ControlLists lists, ToolRows &rows)
     : m_lists(std::move(lists))
     , m_rows(rows)
 {
-    connect(&rows, &ToolRows::tabShown, this, &StateKeeper::note);
+    connect(&rows, &ToolRows::tabShown, this, &StateKeeper::noteTab);
     connect(&rows, &ToolRows::foldedChanged, this, &StateKeeper::note);
 }
 
@@ -75,7 +75,7 @@ KeptState StateKeeper::state() const
 {
     const QList<QAction *> buttons = describedButtons(m_lists.quickAccessBar);
     KeptState state;
-    state.tab = m_rows.currentTab();
+    state.tab = m_rows.lastingTab();
     state.isFolded = m_rows.isFolded();
     state.shown = namesOf(buttons, true);
     state.hidden = namesOf(buttons, false);
@@ -120,12 +120,15 @@ void StateKeeper::restore(const KeptState &state)
     restoreLists(state);
     restoreQuickAccess(state);
     restoreFaces(state);
-    restoreRows(state);
+    if (state.isFolded && *state.isFolded != m_rows.isFolded())
+        m_rows.setFolded(*state.isFolded);
     if (!self)
         return;
     m_isRestoring = false;
     m_told = this->state().toText();
     m_shown = shownButtons();
+    // Last, as the host is asked for states, and what happens in its answer is told of.
+    restoreTab(state.tab);
 }
 
 /** Which buttons of the quick access bar are shown, in their order. */
@@ -186,14 +189,23 @@ void StateKeeper::restoreFaces(const KeptState &state)
     }
 }
 
-void StateKeeper::restoreRows(const KeptState &state)
+void StateKeeper::restoreTab(const QString &tab)
 {
+    if (tab.isEmpty() || !m_lists.tabButtons.first(tab) || tab == m_rows.currentTab())
+        return;
     const QPointer<StateKeeper> self(this);
-    const QPushButton *tab = state.tab.isEmpty() ? nullptr : m_lists.tabButtons.first(state.tab);
-    if (tab && state.tab != m_rows.currentTab())
-        m_rows.restore(state.tab);
-    if (self && state.isFolded && *state.isFolded != m_rows.isFolded())
-        m_rows.setFolded(*state.isFolded);
+    m_restoredTab = tab;
+    m_rows.restore(tab);
+    if (self)
+        m_restoredTab.clear();
+}
+
+void StateKeeper::noteTab(const QString &tab)
+{
+    if (!tab.isEmpty() && tab == m_restoredTab)
+        m_told = state().toText();
+    else
+        note();
 }
 
 void StateKeeper::takeSwitchable(QToolButton *button)

@@ -62,13 +62,15 @@ private:
     void restoreLists(const KeptState &state);
     void restoreQuickAccess(const KeptState &state);
     void restoreFaces(const KeptState &state);
-    void restoreRows(const KeptState &state);
+    void restoreTab(const QString &tab);
+    void noteTab(const QString &tab);
     void restoreFace(QToolButton *button) const;
     void noteFace(const QToolButton *button);
 
     const ControlLists m_lists;
     ToolRows &m_rows;
     KeptState m_expected;
+    QString m_restoredTab;          ///< While it is being opened.
     QString m_told;                 ///< The state when it was last told.
     std::vector<bool> m_shown;      ///< Which quick access buttons were shown then.
     QMap<QString, QString> m_faces; ///< Also of buttons that are made later.

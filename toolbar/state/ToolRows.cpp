@@ -14,6 +14,7 @@
 #include <QPushButton>
 #include <QStackedWidget>
 
+#include <algorithm>
 #include <cstdlib>
 #include <utility>
 
@@ -320,11 +321,23 @@ void ToolRows::showFoldButtons(bool isFolded)
     setVisible(m_members.foldButton, !isFolded);
 }
 
+QString ToolRows::nameOf(int tab) const
+{
+    const QPushButton *button = m_members.tabs.at(tab);
+    return button ? button->objectName() : QString();
+}
+
 QString ToolRows::currentTab() const
 {
-    const QPushButton *tab =
-        m_members.tabs.at(m_members.stack ? m_members.stack->currentIndex() : -1);
-    return tab ? tab->objectName() : QString();
+    return nameOf(m_members.stack ? m_members.stack->currentIndex() : -1);
+}
+
+QString ToolRows::lastingTab() const
+{
+    const auto last = std::find_if(m_opened.crbegin(), m_opened.crend(), [this](int tab) {
+        return m_members.tabs.at(tab) && !dynamic_cast<const ContextTab *>(m_members.tabs.at(tab));
+    });
+    return last == m_opened.crend() ? QString() : nameOf(*last);
 }
 
 void ToolRows::showExtraGroups(const QString &tabName)

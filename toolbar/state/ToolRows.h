@@ -78,6 +78,8 @@ public:
     State state() const;
     /** The name of the tab on show; empty if there is none. */
     QString currentTab() const;
+    /** The one on show last that needs no context; empty if there was none. */
+    QString lastingTab() const;
     /** Shows the extra groups of that name and hides the others. */
     void showExtraGroups(const QString &tabName);
     void enableExtraGroups(bool isEnabled);
@@ -106,6 +108,7 @@ private:
     bool endPeek();
     void toggleFolded();
     void announce();
+    QString nameOf(int tab) const;
     bool isContextHidden(int tab) const;
     void leaveHiddenContext();
     const QAbstractButton *tabToReturnTo() const;
