@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: MIT
 
 #include "tests/support/FieldHost.h"
+#include "tests/support/Rows.h"
 #include "toolbar/widgets/MRMainToolBar.h"
 
 #include <QAccessible>
+#include <QDockWidget>
 #include <QShortcut>
 #include <QTemporaryFile>
 #include <QToolBar>
@@ -15,6 +17,46 @@ namespace {
 
 const QString inWindow = "shortcut='Ctrl+T' shortcutscope='window'";
 
+const struct
+{
+    const char *name;
+    QString sections;
+    bool isMade;
+} places[] = {
+    {"a button of the row on show", tabs(button("x", inWindow), button("b")), true},
+    {"a button of a row not made", tabs(button("a"), button("x", inWindow)), false},
+    {"a button of a group", tabs(button("a"), group("g", button("x", inWindow))), false},
+    {"an entry of a row's menu on show", tabs(menu("m", item("x", inWindow)), button("b")), true},
+    {"an entry of a row's menu not made", tabs(button("a"), menu("m", item("x", inWindow))), false},
+    {"an entry of an application menu",
+     fileMenu(menu("more", item("x", inWindow))) + row(button("a")), false},
+    {"a way to a command", fileMenu(item("menu_x", inWindow)) + row(button("x")), false},
+};
+
+/** What gives the focus to a field outside of the main window. */
+const struct
+{
+    const char *name;
+    void (*put)(QMainWindow &window, QWidget &outer, QLineEdit *field);
+} outside[] = {
+    {"the main window is a part of another",
+     [](QMainWindow &window, QWidget &outer, QLineEdit *field) {
+         window.setParent(&outer);
+         field->setParent(&outer);
+         outer.resize(1000, 600);
+         outer.show();
+         window.show();
+     }},
+    {"a floating dock",
+     [](QMainWindow &window, QWidget &, QLineEdit *field) {
+         auto *dock = new QDockWidget(&window);
+         dock->setWidget(field);
+         window.addDockWidget(Qt::LeftDockWidgetArea, dock);
+         dock->setFloating(true);
+         dock->show();
+     }},
+};
+
 } // namespace
 
 /** Shortcuts of the whole window, and what assistive technology is told of tabs. */
@@ -23,40 +65,17 @@ class KeysTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void shouldTriggerByItsKeysWhereverTheCommandStands_data()
-    {
-        QTest::addColumn<QString>("sections");
-        QTest::addColumn<bool>("isMade");
-        QTest::newRow("a button of the row on show")
-            << tabs(button("x", inWindow), button("b")) << true;
-        QTest::newRow("a button of a row not made")
-            << tabs(button("a"), button("x", inWindow)) << false;
-        QTest::newRow("a button of a group")
-            << tabs(button("a"), group("g", button("b") + button("x", inWindow))) << false;
-        QTest::newRow("an entry of a row's menu on show")
-            << tabs(menu("m", item("x", inWindow)), button("b")) << true;
-        QTest::newRow("an entry of a row's menu not made")
-            << tabs(button("a"), menu("m", item("x", inWindow))) << false;
-        QTest::newRow("an entry of an application menu")
-            << fileMenu(menu("more", item("x", inWindow))) + row(button("a")) << false;
-        QTest::newRow("a way to a command")
-            << fileMenu(item("menu_x", inWindow)) + row(button("x")) << false;
-    }
-
+    void shouldTriggerByItsKeysWhereverTheCommandStands_data() { addRows(places); }
     void shouldTriggerByItsKeysWhereverTheCommandStands()
     {
-        QFETCH(QString, sections);
-        QFETCH(bool, isMade);
-        FieldHost host(sections);
+        FieldHost host(rowOf(places).sections);
         connect(&host.facade(), &MRToolBar::DoRequestAuthority, this,
                 [&host] { host.enableEverything(); });
         host.press();
-        QCOMPARE(host.asked.count(), isMade ? 0 : 1);
-        QCOMPARE(host.commands(), QStringList("x"));
         host.press();
         QCOMPARE(host.commands(), (QStringList{"x", "x"}));
-        QCOMPARE(host.asked.count(), isMade ? 0 : 1);
-        // Neither folding nor hiding the toolbar takes the keys away, disabling it does.
+        QCOMPARE(host.asked.count(), rowOf(places).isMade ? 0 : 1);
+        // Hiding the toolbar does not take the keys away, disabling it does.
         host.setVisible("toolbar_whole", false);
         host.press();
         QCOMPARE(host.commands().size(), 3);
@@ -66,28 +85,30 @@ private Q_SLOTS:
         QCOMPARE(host.commands().size(), 3);
     }
 
-    void shouldGiveEveryShortcutOfTheRootsScopeTheWindow()
+    void shouldObeyTheScopeOfTheRoot_data()
     {
+        QTest::addColumn<QString>("root");
+        QTest::addColumn<QString>("reported");
+        QTest::newRow("the window") << "shortcutscope='window'"
+                                    << "x";
+        QTest::newRow("none") << ""
+                              << "";
+    }
+    void shouldObeyTheScopeOfTheRoot()
+    {
+        QFETCH(QString, root);
+        QFETCH(QString, reported);
         QTemporaryFile file;
         QVERIFY(file.open());
         const QString sections = tabs(button("a"), button("x", "shortcut='Ctrl+T'"));
-        file.write(
-            ("<uiconfig prefix='' shortcutscope='window'>" + sections + "</uiconfig>").toUtf8());
+        file.write(("<uiconfig prefix='' " + root + ">" + sections + "</uiconfig>").toUtf8());
         file.close();
         const auto host = TestHost::withFile(file.fileName());
         host->showEnabled();
         const QSignalSpy active(&host->facade(), &MRToolBar::DoActive);
         QTest::keyClick(&host->window(), Qt::Key_T, Qt::ControlModifier);
-        QCOMPARE(TestHost::texts(active), QStringList("x"));
-    }
-
-    void shouldHaveNoShortcutsWithoutTheScope()
-    {
-        FieldHost host(fileMenu(item("y", "shortcut='Ctrl+T'"))
-                       + tabs(button("a"), button("x", "shortcut='Ctrl+T'")));
-        QVERIFY(host.window().findChildren<QShortcut *>().isEmpty());
-        host.press();
-        QCOMPARE(host.asked.count(), 0);
+        QCOMPARE(TestHost::texts(active).join(','), reported);
+        QCOMPARE(host->window().findChildren<QShortcut *>().isEmpty(), root.isEmpty());
     }
 
     void shouldObeyTheStateReportedBeforeTheCommandIsMade()
@@ -109,25 +130,42 @@ private Q_SLOTS:
         }
     }
 
-    void shouldNotTriggerWhatTheHostDisablesWhenItIsAsked()
+    void shouldForgetAnEarlierCheck()
     {
+        const QString check = "checkable='true' group='g' ";
+        for (const bool isReset : {true, false}) {
+            FieldHost host(tabs(button("a"), button("y", check) + button("x", check + inWindow)));
+            host.setChecked("x", true);
+            if (isReset)
+                host.facade().DoResetToolbarSlot();
+            else
+                host.setChecked("y", true);
+            host.click("other");
+            QVERIFY(!host.facade().GetControlCheckedState("x"));
+        }
+    }
+
+    void shouldNotTriggerWhatTheHostTakesAwayWhenItIsAsked_data()
+    {
+        QTest::addColumn<bool>("isDeleted");
+        QTest::newRow("disabled") << false;
+        QTest::newRow("deleted") << true;
+    }
+    void shouldNotTriggerWhatTheHostTakesAwayWhenItIsAsked()
+    {
+        QFETCH(bool, isDeleted);
         FieldHost host(tabs(button("a"), button("x", inWindow)));
-        connect(&host.facade(), &MRToolBar::DoRequestAuthority, this,
-                [&host] { host.setUsable("x", false); });
+        connect(&host.facade(), &MRToolBar::DoRequestAuthority, this, [&] {
+            if (isDeleted)
+                delete host.find<QToolBar>("mrtoolbar");
+            else
+                host.setUsable("x", false);
+        });
         host.press();
         QCOMPARE(host.asked.count(), 1);
         QCOMPARE(host.commands(), QStringList());
-    }
-
-    void shouldSurviveAHostThatDeletesItWhenItIsAsked()
-    {
-        FieldHost host(tabs(button("a"), button("x", inWindow)));
-        connect(&host.facade(), &MRToolBar::DoRequestAuthority, this,
-                [&host] { delete host.find<QToolBar>("mrtoolbar"); });
-        host.press();
-        QCOMPARE(host.asked.count(), 1);
         runDeferredDeletes();
-        QVERIFY(host.window().findChildren<QShortcut *>().isEmpty());
+        QCOMPARE(host.window().findChildren<QShortcut *>().isEmpty(), isDeleted);
     }
 
     void shouldLeaveTheKeysToTheFirstCommandTheHostAndTheField()
@@ -150,19 +188,47 @@ private Q_SLOTS:
         host.press();
         host.press();
         QCOMPARE(owned.count(), 2);
-        QCOMPARE(host.commands(), QStringList("x"));
         own.setEnabled(false);
         host.press();
         QCOMPARE(host.commands(), (QStringList{"x", "x"}));
     }
 
+    void shouldActWhereTheFocusIsOutsideOfTheMainWindow_data() { addRows(outside); }
+    void shouldActWhereTheFocusIsOutsideOfTheMainWindow()
+    {
+        QWidget outer;
+        FieldHost host(tabs(button("a"), button("x", inWindow)));
+        auto *field = new QLineEdit;
+        rowOf(outside).put(host.window(), outer, field);
+        field->show();
+        field->activateWindow();
+        field->setFocus();
+        QTRY_COMPARE(QApplication::focusWidget(), field);
+        host.setUsable("x", false);
+        host.press();
+        QCOMPARE(host.asked.count(), 0);
+        host.setUsable("x", true);
+
+        QAction own;
+        own.setShortcut(QKeySequence("Ctrl+T"));
+        field->window()->addAction(&own);
+        const QSignalSpy owned(&own, &QAction::triggered);
+        host.press();
+        QCOMPARE(owned.count(), 1);
+        own.setEnabled(false);
+        host.press();
+        QCOMPARE(host.commands(), QStringList("x"));
+        host.window().setParent(nullptr);
+    }
+
     void shouldCallTabsTabs()
     {
         FieldHost host(tabs(button("a"), button("b")) + section("addtional", button("h_help")));
-        auto *first = host.find<QPushButton>("row");
-        auto *second = host.find<QPushButton>("other");
-        QAccessibleInterface *shown = QAccessible::queryAccessibleInterface(first);
-        QAccessibleInterface *other = QAccessible::queryAccessibleInterface(second);
+        const auto spoken = [&host](const char *name) {
+            return QAccessible::queryAccessibleInterface(host.find<QPushButton>(name));
+        };
+        QAccessibleInterface *shown = spoken("row");
+        QAccessibleInterface *other = spoken("other");
         QCOMPARE(shown->role(), QAccessible::PageTab);
         QCOMPARE(shown->parent()->role(), QAccessible::PageTabList);
         QCOMPARE(shown->text(QAccessible::Name), QStringLiteral("row"));
@@ -173,8 +239,7 @@ private Q_SLOTS:
         QTRY_VERIFY(other->state().selected);
         QVERIFY(host.find<MRMainToolBar>("other")->isVisible());
         QVERIFY(!shown->state().selected);
-        QWidget *help = host.find<QPushButton>("h_help");
-        QCOMPARE(QAccessible::queryAccessibleInterface(help)->role(), QAccessible::Button);
+        QCOMPARE(spoken("h_help")->role(), QAccessible::Button);
     }
 };
 

@@ -11,15 +11,24 @@
 #include <QMainWindow>
 #include <QToolBar>
 
+namespace {
+
+/** What the keys act in. */
+QWidget *keyArea(QMainWindow *mainWindow, QWidget *toolBar)
+{
+    return mainWindow ? static_cast<QWidget *>(mainWindow) : toolBar;
+}
+
+} // namespace
+
 void NewToolBar::makeWindowShortcuts()
 {
     const QList<const Controller *> wanted = WindowShortcuts::wantedBy(m_controllers);
     if (wanted.isEmpty())
         return;
 
-    QWidget *window = m_mainWindow ? static_cast<QWidget *>(m_mainWindow) : this;
     m_parts->windowShortcuts = std::make_unique<WindowShortcuts>(
-        wanted, CommandPlaces(m_controllers), window,
+        wanted, CommandPlaces(m_controllers), keyArea(m_mainWindow, this),
         [this](const CommandPlace &place) { return isUsable(place); });
     for (QAction *command : m_actions)
         m_parts->windowShortcuts->restore(command);
@@ -57,7 +66,6 @@ void NewToolBar::chooseKeyTips(const QString &choice)
         m_parts->keyTips.reset();
     if (choice != QLatin1String("true") || m_parts->keyTips)
         return;
-    QWidget *window = m_mainWindow ? static_cast<QWidget *>(m_mainWindow) : this;
-    m_parts->keyTips = std::make_unique<KeyTips>(this, window, m_controllers,
+    m_parts->keyTips = std::make_unique<KeyTips>(this, keyArea(m_mainWindow, this), m_controllers,
                                                  Parts::controlLists(*this, m_parts->zoom));
 }

@@ -119,6 +119,8 @@ void NewToolBar::ResetToolbarState()
         return;
     DoSetTotalPageSlot(QStringLiteral(" "));
     DoSetPageNumSlot(QStringLiteral(" "));
+    if (m_parts->windowShortcuts)
+        m_parts->windowShortcuts->forgetChecked();
     m_parts->checkedStates.uncheckAll();
     const QStringList added = self && m_parts->added ? m_parts->added->names() : QStringList();
     for (const QString &name : added)

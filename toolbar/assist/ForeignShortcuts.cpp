@@ -13,9 +13,19 @@
 
 namespace {
 
-bool reachesFrom(const QWidget *widget, Qt::ShortcutContext context, const QWidget *window)
+/** Qt has the shortcuts of a window act in the tool windows that float above it, too. */
+bool isReached(const QWidget *window)
 {
-    if (!widget->isVisible() || !widget->isEnabled() || widget->window() != window)
+    const QWidget *active = QApplication::activeWindow();
+    const bool isFloating = active && active != window && active->windowType() == Qt::Tool;
+    if (isFloating && active->parentWidget())
+        active = active->parentWidget()->window();
+    return active == window;
+}
+
+bool reachesFrom(const QWidget *widget, Qt::ShortcutContext context)
+{
+    if (!widget->isVisible() || !widget->isEnabled() || !isReached(widget->window()))
         return false;
 
     const QWidget *focused = QApplication::focusWidget();
@@ -41,12 +51,12 @@ QList<QAction *> usableActions(const QWidget *widget)
     return usable;
 }
 
-bool hasAction(const QWidget *widget, const QKeySequence &sequence, const QWidget *window)
+bool hasAction(const QWidget *widget, const QKeySequence &sequence)
 {
     const QList<QAction *> actions = usableActions(widget);
     return std::any_of(actions.begin(), actions.end(), [&](const QAction *action) {
         return action->isEnabled() && action->isVisible() && action->shortcuts().contains(sequence)
-               && reachesFrom(widget, action->shortcutContext(), window);
+               && reachesFrom(widget, action->shortcutContext());
     });
 }
 
@@ -59,11 +69,11 @@ bool ForeignShortcuts::reach(QWidget *window, const QKeySequence &sequence,
     for (const QShortcut *shortcut : shortcuts) {
         const auto *parent = qobject_cast<const QWidget *>(shortcut->parent());
         if (shortcut->isEnabled() && QtCompat::hasKeys(shortcut, sequence) && !isLeftOut(shortcut)
-            && parent && reachesFrom(parent, shortcut->context(), window))
+            && parent && reachesFrom(parent, shortcut->context()))
             return true;
     }
     const QWidgetList widgets = QWidgetList{window} + window->findChildren<QWidget *>();
     return std::any_of(widgets.begin(), widgets.end(), [&](const QWidget *widget) {
-        return !qobject_cast<const QMenu *>(widget) && hasAction(widget, sequence, window);
+        return !qobject_cast<const QMenu *>(widget) && hasAction(widget, sequence);
     });
 }

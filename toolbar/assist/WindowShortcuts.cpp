@@ -10,6 +10,7 @@
 #include "toolbar/description/Names.h"
 
 #include <QAction>
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QShortcut>
 #include <QWidget>
@@ -60,15 +61,19 @@ WindowShortcuts::WindowShortcuts(const QList<const Controller *> &wanted,
     , m_isUsable(std::move(isUsable))
 {
     QHash<const Controller *, CommandPlace> placeOf;
-    for (const CommandPlace &place : places.all())
+    for (const CommandPlace &place : places.all()) {
         placeOf.insert(place.record, place);
+        if (!place.record->group.isEmpty())
+            m_groups.insert(place.record->name, place.record->group);
+    }
     for (const Controller *record : wanted) {
         const auto place = placeOf.constFind(record);
         // The top line has no shortcuts.
         if (place != placeOf.cend() && place->holder)
             add(*place);
     }
-    window->installEventFilter(this);
+    // The focus may be in another window by then, such as a floating dock.
+    QCoreApplication::instance()->installEventFilter(this);
 }
 
 WindowShortcuts::~WindowShortcuts()
@@ -110,7 +115,18 @@ void WindowShortcuts::noteVisible(const QString &name, bool isVisible)
 
 void WindowShortcuts::noteChecked(const QString &name, bool isChecked)
 {
+    const QString group = isChecked ? m_groups.value(name) : QString();
+    for (auto other = m_reported.begin(); other != m_reported.end() && !group.isEmpty(); ++other) {
+        if (m_groups.value(other.key()) == group)
+            other->isChecked = false;
+    }
     note(name, &Reported::isChecked, isChecked);
+}
+
+void WindowShortcuts::forgetChecked()
+{
+    for (Reported &reported : m_reported)
+        reported.isChecked.reset();
 }
 
 void WindowShortcuts::note(const QString &name, std::optional<bool> Reported::*state, bool value)
@@ -135,8 +151,11 @@ void WindowShortcuts::restore(QAction *command)
 
 bool WindowShortcuts::eventFilter(QObject *watched, QEvent *event)
 {
-    // Comes up here from the focused widget, unless that keeps the key, before Qt looks the key up.
-    if (event->type() == QEvent::ShortcutOverride && watched == m_window)
+    if (event->type() != QEvent::ShortcutOverride || !watched->isWidgetType())
+        return false;
+    // Comes up to the window from the focused widget, unless that keeps the key, before Qt looks
+    // the key up.
+    if (static_cast<QWidget *>(watched)->isWindow())
         follow(*static_cast<QKeyEvent *>(event));
     return false;
 }
@@ -161,7 +180,7 @@ bool WindowShortcuts::isReportedAway(const QString &name) const
 
 bool WindowShortcuts::isTaken(const QKeySequence &sequence) const
 {
-    return ForeignShortcuts::reach(m_window, sequence,
+    return ForeignShortcuts::reach(m_window->window(), sequence,
                                    [this](const QShortcut *shortcut) { return isOwn(shortcut); });
 }
 

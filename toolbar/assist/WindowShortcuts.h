@@ -42,7 +42,7 @@ public:
     /**
      * @param wanted   the result of wantedBy()
      * @param places   where the commands of the description stand
-     * @param window   where the keys act; it may be deleted earlier than this
+     * @param window   in whose window the keys act; it may be deleted earlier than this
      * @param isUsable whether a command that has been made may be triggered, and whether one that
      *                 has not stands where it could be
      */
@@ -54,7 +54,10 @@ public:
      *  @{ */
     void noteEnabled(const QString &name, bool isEnabled);
     void noteVisible(const QString &name, bool isVisible);
+    /** Of an exclusive group, the command checked last is the only one. */
     void noteChecked(const QString &name, bool isChecked);
+    /** All checks are taken away. */
+    void forgetChecked();
     /** @} */
 
     /**
@@ -94,4 +97,5 @@ private:
     Usable m_isUsable;
     std::vector<Entry> m_entries;
     QHash<QString, Reported> m_reported; ///< By the names of those that have not been made.
+    QHash<QString, QString> m_groups;    ///< By command, the exclusive group that it is of.
 };

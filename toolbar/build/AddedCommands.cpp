@@ -166,7 +166,20 @@ void AddedCommands::setWaiting(const QString &name, void (QAction::*state)(bool)
     const AddedCommand *present = added(name);
     if (!present || !present->button() || present->isFollowing())
         return;
+    if (state == &QAction::setChecked && isOn)
+        uncheckGroupOf(*present);
     const bool isAboutEnabled = state == &QAction::setEnabled;
     if (!isAboutEnabled || ActionData::isAvailable(present->button()))
         (present->button()->*state)(isOn);
+}
+
+/** As its exclusive group will do when the row is made. */
+void AddedCommands::uncheckGroupOf(const AddedCommand &command)
+{
+    for (const AddedCommand *other : std::as_const(m_added)) {
+        const bool isOfGroup = other->command().group == command.command().group;
+        if (isOfGroup && !other->isFollowing() && !other->command().group.isEmpty()
+            && other->button())
+            other->button()->setChecked(false);
+    }
 }

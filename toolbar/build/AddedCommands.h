@@ -58,6 +58,7 @@ private:
     void add(const QString &name);
     void remove(AddedCommand *command);
     void activate(AddedCommand *command);
+    void uncheckGroupOf(const AddedCommand &command);
     void orderFocus(const QAction *button);
     void showBar();
 
