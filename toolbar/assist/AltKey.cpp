@@ -7,24 +7,29 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMenuBar>
+#include <QStyle>
 
 #include <algorithm>
 #include <utility>
 
 namespace {
 
-bool hasMnemonics(const QMenuBar *bar)
+/** Whether Alt leads to the menus of the bar, which also those without mnemonics have. */
+bool takesAlt(const QMenuBar *bar)
 {
     const QList<QAction *> menus = bar->actions();
-    return bar->isVisible() && std::any_of(menus.begin(), menus.end(), [](const QAction *menu) {
-               return menu->isVisible() && !QKeySequence::mnemonic(menu->text()).isEmpty();
-           });
+    return bar->isVisible()
+           && bar->style()->styleHint(QStyle::SH_MenuBar_AltKeyNavigation, nullptr, bar)
+           && std::any_of(menus.begin(), menus.end(),
+                          [](const QAction *menu) { return menu->isVisible(); });
 }
 
-bool hasMenuBarWithMnemonics(const QWidget *window)
+bool hasMenuBarThatTakesAlt(const QWidget *window)
 {
     const QList<QMenuBar *> bars = window->findChildren<QMenuBar *>();
-    return std::any_of(bars.begin(), bars.end(), hasMnemonics);
+    return std::any_of(bars.begin(), bars.end(), [window](const QMenuBar *bar) {
+        return bar->window() == window && takesAlt(bar);
+    });
 }
 
 } // namespace
@@ -42,7 +47,7 @@ bool AltKey::eventFilter(QObject *watched, QEvent *event)
     switch (event->type()) {
     case QEvent::KeyPress:
         notePress(*static_cast<QKeyEvent *>(event));
-        if (watched == m_window && static_cast<QKeyEvent *>(event)->key() == Qt::Key_F10
+        if (watched == m_window->window() && static_cast<QKeyEvent *>(event)->key() == Qt::Key_F10
             && static_cast<QKeyEvent *>(event)->modifiers() == Qt::NoModifier && isForWindow()) {
             Q_EMIT pressed();
             return true;
@@ -59,6 +64,9 @@ bool AltKey::eventFilter(QObject *watched, QEvent *event)
     case QEvent::Wheel:
     case QEvent::WindowDeactivate:
         m_isAltAlone = false;
+        break;
+    case QEvent::FocusOut:
+        m_isComposing = false;
         break;
     case QEvent::InputMethod:
         m_isComposing = !static_cast<QInputMethodEvent *>(event)->preeditString().isEmpty();
@@ -80,12 +88,12 @@ void AltKey::noteRelease(const QKeyEvent &key)
 {
     const bool wasAlone = std::exchange(m_isAltAlone, false);
     if (wasAlone && key.key() == Qt::Key_Alt && !m_isComposing && isForWindow()
-        && !hasMenuBarWithMnemonics(m_window))
+        && !hasMenuBarThatTakesAlt(m_window->window()))
         Q_EMIT pressed();
 }
 
 bool AltKey::isForWindow() const
 {
-    return QApplication::activeWindow() == m_window && !QApplication::activePopupWidget()
+    return QApplication::activeWindow() == m_window->window() && !QApplication::activePopupWidget()
            && !QApplication::activeModalWidget();
 }

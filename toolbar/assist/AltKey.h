@@ -11,15 +11,18 @@ class QWidget;
 /**
  * Notices the keys that ask for key tips in a window: Alt, pressed and released alone, and F10.
  *
- * Both keep what they are for elsewhere: Alt goes to a menu bar with mnemonics, and to an input
- * method that is composing, and F10 to whatever takes it before the window gets it.
+ * Both keep what they are for elsewhere: Alt goes to a menu bar that is opened by it, and to an
+ * input method that is composing, and F10 to whatever takes it before the window gets it.
  */
 class AltKey : public QObject
 {
     Q_OBJECT
 
 public:
-    /** Watches the events of the application, as whatever has the focus may keep its keys. */
+    /**
+     * Watches the events of the application, as whatever has the focus may keep its keys.
+     * @param window what takes the toolbar in, which may be a part of a window
+     */
     AltKey(QWidget *window, QObject *parent);
 
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -16,6 +16,8 @@
 #include <QToolBar>
 #include <QToolButton>
 
+#include <vector>
+
 namespace {
 
 /** Those used most come first, as they get the letter that comes to mind. */
@@ -52,6 +54,26 @@ const Controller &moreRecord()
         return more;
     }();
     return record;
+}
+
+/** The buttons that the bar has besides the described ones. */
+std::vector<Controller> furtherRecords(const QToolBar *bar)
+{
+    if (!bar)
+        return {};
+    Controller record;
+    record.section = Section::quickAccessBar;
+    record.name = Part::overflowButton;
+    std::vector<Controller> records{record};
+    const QList<QAction *> buttons = bar->actions();
+    for (const QAction *button : buttons) {
+        if (!button->property(Property::added).isValid())
+            continue;
+        record.name = button->objectName();
+        record.text = button->text();
+        records.push_back(record);
+    }
+    return records;
 }
 
 /** All that belongs to a control of a row. */
@@ -93,6 +115,12 @@ QList<KeyTip> KeyTipTargets::ofTopLine() const
             controls.append(topLineControl(*described.at(i), i));
         }
     }
+    // Last, so that the letters of the others do not depend on what the user adds.
+    const std::vector<Controller> further = furtherRecords(m_lists.quickAccessBar);
+    for (const Controller &record : further) {
+        records.append(&record);
+        controls.append(topLineControl(record, -1));
+    }
 
     // Also those that are hidden have letters, so that nobody else gets these.
     const QStringList letters = KeyTipLetters::assigned(records);
@@ -110,6 +138,8 @@ QWidget *KeyTipTargets::topLineControl(const Controller &record, int position) c
         return m_lists.appButtons.at(position);
     if (record.section == Section::tabBar)
         return m_lists.tabButtons.at(position);
+    if (record.name == Part::overflowButton)
+        return m_lists.quickAccessBar->findChild<QWidget *>(Part::overflowButton);
     if (record.section == Section::quickAccessBar)
         return record.name == Name::customise ? m_lists.quickAccessSetButton.data()
                                               : buttonOn(m_lists.quickAccessBar, record.name);

@@ -95,7 +95,7 @@ void KeyTips::show(const QList<KeyTip> &tips)
         return;
     }
     if (!m_layer) {
-        m_layer = new KeyTipLayer(m_window, m_toolBar);
+        m_layer = new KeyTipLayer(m_window->window(), m_toolBar);
         connect(m_layer, &KeyTipLayer::typed, this, &KeyTips::type);
         connect(m_layer, &KeyTipLayer::steppedBack, this, &KeyTips::stepBack);
         connect(m_layer, &KeyTipLayer::left, this, &KeyTips::end);
