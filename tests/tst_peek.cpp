@@ -2,10 +2,13 @@
 // SPDX-License-Identifier: MIT
 
 #include "tests/support/Describe.h"
+#include "tests/support/Menus.h"
 #include "tests/support/PageHost.h"
+#include "tests/support/Rows.h"
 
 #include <QLineEdit>
 #include <QMenu>
+#include <QStatusBar>
 
 using namespace Describe;
 
@@ -15,11 +18,52 @@ namespace {
 QString withPeek(const QString &foldMore = "peek='true'")
 {
     const QString fields = comboBox("v_zoom", choice("vzmode_50p", "50%"), "editable='true'")
-                           + field("d_gotopage", "text='Page'");
+                           + field("d_gotopage", "text='Page' keytip='P'");
     return section("tabbar", tab("home", button("one"), "checked='true'")
-                                 + tab("edit", button("two") + menu("m", item("entry")) + fields))
+                                 + tab("edit", button("two") + menu("m", item("entry")) + fields,
+                                       "keytip='E'"))
            + section("addtional", button("h_help") + button("t_fold", foldMore));
 }
+
+enum class Rows
+{
+    Folded,
+    Unfolded,
+    Peeking
+};
+
+/** What comes after the rows have been folded and a tab has been clicked. */
+const struct
+{
+    const char *name;
+    const char *steps;
+    Rows rows;
+} ends[] = {
+    {"a click on the tab", "click edit", Rows::Folded},
+    {"a click on a page", "page", Rows::Folded},
+    {"Esc", "key Escape", Rows::Folded},
+    {"unfolding", "click t_extend", Rows::Unfolded},
+    {"a command of the top line", "click h_help", Rows::Folded},
+    {"hidden by name", "hide toolbar_maintoolbar", Rows::Folded},
+    {"a click on another tab", "click home", Rows::Peeking},
+    {"states by name", "disable one,hide edit", Rows::Peeking},
+    {"a call for a tab", "tab home", Rows::Peeking},
+};
+
+const struct
+{
+    const char *name;
+    const char *steps;
+    bool isUnfolded;
+} doubleClicks[] = {
+    {"open tab", "double home", false},
+    {"other tab", "double edit", false},
+    {"folded, open tab", "click t_fold,double home", true},
+    {"folded, other tab", "click t_fold,double edit", true},
+    {"peeking, peeked tab", "click t_fold,click edit,double edit", true},
+    {"twice", "double home,double home", true},
+    {"one click after it", "double home,double home,click home", false},
+};
 
 } // namespace
 
@@ -44,15 +88,11 @@ private Q_SLOTS:
         QVERIFY(host.isShown("t_extend"));
         QVERIFY(host.facade().GetCompositeVisible("toolbar_maintoolbar"));
         const QRect command = host.facade().GetControlGeometry("two");
-        QWidget *seen = QApplication::widgetAt(command.center());
+        const QWidget *seen = QApplication::widgetAt(command.center());
         QVERIFY(seen && seen->inherits("QToolButton"));
         host.window().resize(900, 500);
         QTRY_COMPARE(host.page->window()->width(), 900);
         QCOMPARE(host.find<QWidget>("tabwidget")->width(), host.toolBar()->width());
-        QCOMPARE(host.pages().top(), pages.top());
-        host.act("click home");
-        QVERIFY(host.areRowsSeen());
-        QCOMPARE(host.openTab(), QString("home"));
         QCOMPARE(host.pages().top(), pages.top());
     }
 
@@ -60,9 +100,9 @@ private Q_SLOTS:
     {
         PageHost host(withPeek(), {{"scalefactor", "1"}});
         host.act("click t_fold,click edit");
-        const int before = host.find<QWidget>("tabwidget")->height();
-        host.facade().DoSetScaleSlot(2);
         const QWidget *rows = host.find<QWidget>("tabwidget");
+        const int before = rows->height();
+        host.facade().DoSetScaleSlot(2);
         QTRY_VERIFY(rows->height() > before * 3 / 2);
         const int peeked = rows->height();
         QCOMPARE(host.pages().top(), host.find<QWidget>("top_widget")->height());
@@ -71,77 +111,38 @@ private Q_SLOTS:
         QCOMPARE(rows->height(), peeked);
     }
 
-    void shouldEndAPeek_data()
-    {
-        QTest::addColumn<QString>("steps");
-        QTest::addColumn<QString>("rows");
-        QTest::newRow("a click on the tab") << "click edit"
-                                            << "folded";
-        QTest::newRow("a click on a page") << "page"
-                                           << "folded";
-        QTest::newRow("Esc") << "key Escape"
-                             << "folded";
-        QTest::newRow("unfolding") << "click t_extend"
-                                   << "unfolded";
-        QTest::newRow("a command of the top line") << "click h_help"
-                                                   << "folded";
-        QTest::newRow("hidden by name") << "hide toolbar_maintoolbar"
-                                        << "folded";
-        QTest::newRow("a click on another tab") << "click home"
-                                                << "peeking";
-        QTest::newRow("states by name") << "disable one,hide edit"
-                                        << "peeking";
-        QTest::newRow("a call for a tab") << "tab home"
-                                          << "peeking";
-    }
-
+    void shouldEndAPeek_data() { addRows(ends); }
     void shouldEndAPeek()
     {
-        QFETCH(QString, steps);
-        QFETCH(QString, rows);
+        const Rows rows = rowOf(ends).rows;
         PageHost host(withPeek());
         host.act("click t_fold");
         const QRect pages = host.pages();
-        host.act("click edit," + steps);
-        QCOMPARE(host.areRowsSeen(), rows != "folded");
-        QCOMPARE(host.pages() == pages, rows != "unfolded");
-        QCOMPARE(host.isShown("t_extend"), rows != "unfolded");
-        if (rows == "folded")
+        host.act("click edit");
+        host.act(rowOf(ends).steps);
+        QCOMPARE(host.areRowsSeen(), rows != Rows::Folded);
+        QCOMPARE(host.pages() == pages, rows != Rows::Unfolded);
+        QCOMPARE(host.isShown("t_extend"), rows != Rows::Unfolded);
+        if (rows == Rows::Folded)
             QCOMPARE(host.toolBar()->height(), pages.top());
-    }
-
-    void shouldSurviveTheEndOfTheToolbarWhilePeeking()
-    {
-        PageHost host(withPeek());
-        host.act("click t_fold,click edit");
-        QVERIFY(host.areRowsSeen());
-        // As a host does that goes on in an event loop of its own, where nothing is deleted later.
-        delete host.toolBar();
-        host.window().grab();
-        QVERIFY(!host.toolBar());
     }
 
     void shouldEndAPeekBeforeItsCommandIsUsed()
     {
         PageHost host(withPeek());
-        QStringList used;
+        const QSignalSpy used(&host.facade(), &MRToolBar::DoActive);
         QObject::connect(&host.facade(), &MRToolBar::DoActive, &host.window(),
-                         [&](const QString &name) {
-                             QVERIFY(!host.areRowsSeen());
-                             used.append(name);
-                         });
+                         [&] { QVERIFY(!host.areRowsSeen()); });
         host.act("click t_fold,click edit");
         QTest::mouseClick(QApplication::widgetAt(host.facade().GetControlGeometry("two").center()),
                           Qt::LeftButton);
         host.act("click edit");
         auto *menu = host.find<QMenu>("m");
-        QVERIFY(menu);
         menu->popup(host.facade().GetControlGeometry("m").bottomLeft());
         QTRY_VERIFY(menu->isVisible());
         QVERIFY(host.areRowsSeen());
-        QTest::keyClick(menu, Qt::Key_Down);
-        QTest::keyClick(menu, Qt::Key_Return);
-        QCOMPARE(used, QStringList({"two", "entry"}));
+        clickEntries(menu, {"entry"});
+        QCOMPARE(TestHost::texts(used), QStringList({"two", "entry"}));
     }
 
     void shouldLetFieldsBeTypedInWhilePeeking()
@@ -151,7 +152,6 @@ private Q_SLOTS:
         host.act("click t_fold,click edit");
         host.facade().DoSetPageInfoSlot(1, 9);
         auto *field = host.find<QLineEdit>("d_gotopage");
-        QVERIFY(field);
         QTest::mouseClick(field, Qt::LeftButton);
         field->selectAll();
         QTest::keyClicks(field, "7");
@@ -167,6 +167,19 @@ private Q_SLOTS:
         QVERIFY(host.areRowsSeen());
     }
 
+    void shouldGiveTheFocusBackToWhatHadItBeforeTheKeyTips()
+    {
+        PageHost host(withPeek(), {{"keytips", "true"}});
+        auto *own = new QLineEdit;
+        host.window().statusBar()->addWidget(own);
+        own->setFocus();
+        host.act("click t_fold,key Alt,key E,key P");
+        QVERIFY(host.find<QLineEdit>("d_gotopage")->hasFocus());
+        host.act("key Escape");
+        QVERIFY(!host.areRowsSeen());
+        QCOMPARE(QApplication::focusWidget(), own);
+    }
+
     void shouldEndAPeekWithTheFocusOfTheWindow()
     {
         PageHost host(withPeek());
@@ -178,27 +191,14 @@ private Q_SLOTS:
         QTRY_VERIFY(!host.areRowsSeen());
     }
 
-    void shouldFoldOrUnfoldByADoubleClick_data()
-    {
-        QTest::addColumn<QString>("steps");
-        QTest::addColumn<bool>("isUnfolded");
-        QTest::newRow("open tab") << "double home" << false;
-        QTest::newRow("other tab") << "double edit" << false;
-        QTest::newRow("folded, open tab") << "click t_fold,double home" << true;
-        QTest::newRow("folded, other tab") << "click t_fold,double edit" << true;
-        QTest::newRow("peeking, peeked tab") << "click t_fold,click edit,double edit" << true;
-        QTest::newRow("twice") << "double home,double home" << true;
-        QTest::newRow("one click after it") << "double home,double home,click home" << false;
-    }
-
+    void shouldFoldOrUnfoldByADoubleClick_data() { addRows(doubleClicks); }
     void shouldFoldOrUnfoldByADoubleClick()
     {
-        QFETCH(QString, steps);
-        QFETCH(bool, isUnfolded);
+        const QString steps = rowOf(doubleClicks).steps;
         PageHost host(withPeek());
         host.act(steps);
-        QCOMPARE(host.areRowsSeen(), isUnfolded);
-        QCOMPARE(host.isShown("t_fold"), isUnfolded);
+        QCOMPARE(host.areRowsSeen(), rowOf(doubleClicks).isUnfolded);
+        QCOMPARE(host.isShown("t_fold"), rowOf(doubleClicks).isUnfolded);
         QCOMPARE(host.toolBar()->height(), host.pages().top());
         QCOMPARE(host.openTab(), steps.contains("edit") ? QString("edit") : QString("home"));
     }
@@ -211,20 +211,22 @@ private Q_SLOTS:
         QTRY_COMPARE(host.toolBar()->height(), host.pages().top());
     }
 
-    void shouldSurviveTheEndOfTheWindowWhilePeeking()
+    void shouldSurviveTheEndOfTheToolbarWhilePeeking()
     {
         PageHost host(withPeek());
         host.act("click t_fold,click edit");
-        host.deleteFacade();
-        host.deleteWindow();
+        // As a host does that goes on in an event loop of its own, where nothing is deleted later.
+        delete host.toolBar();
+        host.window().grab();
         runDeferredDeletes();
+        QVERIFY(host.window().isVisible());
+        QTest::mouseClick(host.page->viewport(), Qt::LeftButton);
 
         PageHost other(withPeek());
         other.act("click t_fold,click edit");
-        delete other.toolBar();
+        other.deleteFacade();
+        other.deleteWindow();
         runDeferredDeletes();
-        QVERIFY(other.window().isVisible());
-        QTest::mouseClick(other.page->viewport(), Qt::LeftButton);
     }
 };
 

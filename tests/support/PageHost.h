@@ -64,38 +64,54 @@ public:
         const QPoint place = widget->mapTo(&window(), widget->rect().center());
         QTest::mouseDClick(window().windowHandle(), Qt::LeftButton, {}, place);
     }
-    /** The steps, separated by commas, of a user or host. */
+    /** What a user or host does. */
+    void step(const QString &step);
+    /** Several steps, separated by commas. */
     void act(const QString &steps);
 
     QTextEdit *page;
+
+private:
+    static Qt::Key keyOf(const QString &name);
 };
+
+inline Qt::Key PageHost::keyOf(const QString &name)
+{
+    if (name == "Alt")
+        return Qt::Key_Alt;
+    return name == "Escape" ? Qt::Key_Escape : Qt::Key(name.at(0).unicode());
+}
+
+inline void PageHost::step(const QString &step)
+{
+    const QString what = step.section(' ', 0, 0);
+    const QString name = step.section(' ', 1);
+    if (what == "click")
+        click(name);
+    else if (what == "double")
+        doubleClick(name);
+    else if (what == "select" || what == "unselect")
+        showContext(name, what == "select");
+    else if (what == "tab")
+        showTab(name);
+    else if (what == "hide" || what == "unhide")
+        setVisible(name, what == "unhide");
+    else if (what == "disable")
+        setUsable(name, false);
+    else if (what == "page")
+        QTest::mouseClick(page->viewport(), Qt::LeftButton, {},
+                          QPoint(20, page->viewport()->height() - 20));
+    else if (what == "key")
+        QTest::keyClick(QApplication::focusWidget(), keyOf(name));
+    else
+        QFAIL(qPrintable("There is no step " + step));
+}
 
 inline void PageHost::act(const QString &steps)
 {
     const QStringList all = steps.split(',', Qt::SkipEmptyParts);
-    for (const QString &step : all) {
-        const QString what = step.section(' ', 0, 0);
-        const QString name = step.section(' ', 1);
-        if (what == "click")
-            click(name);
-        else if (what == "double")
-            doubleClick(name);
-        else if (what == "select" || what == "unselect")
-            showContext(name, what == "select");
-        else if (what == "tab")
-            showTab(name);
-        else if (what == "hide" || what == "unhide")
-            setVisible(name, what == "unhide");
-        else if (what == "disable")
-            setUsable(name, false);
-        else if (what == "page")
-            QTest::mouseClick(page->viewport(), Qt::LeftButton, {},
-                              QPoint(20, page->viewport()->height() - 20));
-        else if (what == "key")
-            QTest::keyClick(QApplication::focusWidget(),
-                            name == "Escape" ? Qt::Key_Escape : Qt::Key_Return);
-        else
-            QFAIL(qPrintable("There is no step " + step));
+    for (const QString &each : all) {
+        step(each);
         settle();
     }
 }

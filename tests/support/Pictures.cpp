@@ -4,9 +4,12 @@
 #include "tests/support/Pictures.h"
 
 #include "tests/support/TestHost.h"
+#include "toolbar/skin/Contrast.h"
 #include "toolbar/widgets/MRDropButton.h"
 
 #include <QMenu>
+
+#include <algorithm>
 
 void useForAWhile(TestHost &host)
 {
@@ -42,4 +45,14 @@ QList<QImage> picturesOf(TestHost &host)
         }
     }
     return taken;
+}
+
+double bestContrast(const QImage &picture, const QColor &ground)
+{
+    double best = 1.0;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x)
+            best = std::max(best, Contrast::ratio(picture.pixelColor(x, y), ground));
+    }
+    return best;
 }

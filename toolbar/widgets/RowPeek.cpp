@@ -32,6 +32,12 @@ QWidget *topAround(QWidget *toolBar)
     return top->parentWidget() ? top : nullptr;
 }
 
+/** Key tips have the focus only while they lead to a control. */
+bool isKeyTips(const QObject *widget)
+{
+    return widget && widget->objectName() == Part::keyTips;
+}
+
 bool isReturn(const QKeyEvent &event)
 {
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
@@ -151,6 +157,9 @@ bool RowPeek::eventFilter(QObject *watched, QEvent *event)
         const bool isByTab = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason;
         if (isByTab && !isBelow(m_toolBar, target))
             end();
+        // The tips that have opened the tab give the focus back first.
+        else if (isKeyTips(m_previousFocus) && !isKeyTips(target))
+            m_previousFocus = target;
         return false;
     }
     case QEvent::ShortcutOverride:
@@ -165,7 +174,7 @@ bool RowPeek::handleKey(QWidget *target, QEvent *event)
 {
     const auto &key = *static_cast<QKeyEvent *>(event);
     // With key tips Esc goes a step back.
-    if (QApplication::activePopupWidget() || target->objectName() == Part::keyTips)
+    if (QApplication::activePopupWidget() || isKeyTips(target))
         return false;
     if (key.key() == Qt::Key_Escape) {
         event->accept();
