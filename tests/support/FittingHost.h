@@ -4,6 +4,7 @@
 #pragma once
 
 #include "tests/support/Describe.h"
+#include "tests/support/Menus.h"
 #include "tests/support/Rows.h"
 #include "tests/support/TestHost.h"
 #include "toolbar/widgets/MRMainToolBar.h"
@@ -11,6 +12,8 @@
 #include <QLayout>
 #include <QMenu>
 #include <QToolButton>
+
+#include <algorithm>
 
 inline QString shrink(int order)
 {
@@ -102,6 +105,14 @@ public:
                 names.append(entry->menu() ? entry->text() + " >" : entry->objectName());
         }
         return names;
+    }
+
+    qsizetype shownSeparators() const
+    {
+        const QList<QAction *> places = bar()->actions();
+        return std::count_if(places.begin(), places.end(), [](const QAction *place) {
+            return place->isSeparator() && place->isVisible();
+        });
     }
 
     QToolButton *buttonOf(const QString &name) const

@@ -155,19 +155,34 @@ bool RowFit::eventFilter(QObject *watched, QEvent *event)
 
 void RowFit::arrange()
 {
+    const QPointer<RowFit> self(this);
     m_isArranging = true;
     RowPlan plan = this->plan();
-    plan.fit(m_area->width());
-    QWidget *focus = newFocus(plan);
-    const QPointer<RowFit> self(this);
+    if (QWidget *focus = newFocus(plan)) {
+        passFocus(focus);
+        // Whoever hears of it may change or delete the row.
+        if (!self)
+            return;
+        plan = this->plan();
+    }
     apply(plan);
     layOut();
-    if (!self)
-        return;
-    m_isArranging = false;
-    // Last, as whoever hears of it may delete the row.
-    if (focus)
-        focus->setFocus(Qt::OtherFocusReason);
+    if (self)
+        m_isArranging = false;
+}
+
+/** Before what has it is hidden: Qt would let it go to whatever comes next, and tell of that. */
+void RowFit::passFocus(QWidget *focus)
+{
+    if (focus == m_more)
+        m_morePlace->setVisible(true);
+    for (const Held &seat : m_seats) {
+        if (seat.buttons.contains(qobject_cast<QToolButton *>(focus)))
+            setShown(seat.place, true);
+    }
+    for (QWidget *widget = focus; widget != m_row; widget = widget->parentWidget())
+        widget->show();
+    focus->setFocus(Qt::OtherFocusReason);
 }
 
 void RowFit::layOut()
@@ -190,6 +205,7 @@ RowPlan RowFit::plan()
     const QList<QAction *> actions = m_row->actions();
     for (QAction *action : actions)
         plan.items.push_back(itemOf(action));
+    plan.fit(m_area->width());
     return plan;
 }
 

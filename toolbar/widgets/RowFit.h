@@ -79,6 +79,7 @@ private:
     Held *seatOf(const QAction *place);
     void apply(const RowPlan &plan);
     QWidget *newFocus(const RowPlan &plan);
+    void passFocus(QWidget *focus);
     void applyTo(Held &seat, RowPlan::Form form);
     void fillMenu();
     QAction *menuSeparator(qsizetype position);
