@@ -11,6 +11,7 @@
 #include <QWidget>
 
 #include <memory>
+#include <utility>
 
 namespace {
 
@@ -100,6 +101,16 @@ void CommandFinder::setLastFound(const QStringList &names)
 
 void CommandFinder::followTexts()
 {
+    // A host that changes the language sets many texts.
+    if (!isOpen())
+        takeTexts();
+    else if (!std::exchange(m_isFollowing, true))
+        QMetaObject::invokeMethod(this, &CommandFinder::takeTexts, Qt::QueuedConnection);
+}
+
+void CommandFinder::takeTexts()
+{
+    m_isFollowing = false;
     m_index.reset();
     if (m_popup)
         m_popup->retranslate();

@@ -53,6 +53,7 @@ private:
     const CommandPlace *placeOf(std::size_t command) const;
     FoundLine line(std::size_t command) const;
     QString keyOf(std::size_t command) const;
+    void takeTexts();
     void makePopup();
     void listVisible();
     void search();
@@ -71,5 +72,6 @@ private:
     QPointer<FindPopup> m_popup; ///< From the first opening on; hidden while closed.
     QStringList m_lastFound;
     QThread *m_spelling = nullptr; ///< Looks up how the texts are spelt.
+    bool m_isFollowing = false;    ///< Whether the texts have changed since the last event.
     bool m_isSpelt = false;        ///< Whether it has done so for the texts of the index.
 };
