@@ -4,6 +4,8 @@
 #include "tests/support/QuickAdd.h"
 #include "toolbar/state/KeptState.h"
 
+#include <QWindow>
+
 using namespace QuickAdd;
 
 namespace {
@@ -35,6 +37,7 @@ private Q_SLOTS:
     void shouldAddTheCommandOfAButton_data();
     void shouldAddTheCommandOfAButton();
     void shouldOfferTheMenuToTheKeyboard();
+    void shouldOfferWhatARowHasMoved();
     void shouldOfferNothingForWhatIsNoCommand_data();
     void shouldOfferNothingForWhatIsNoCommand();
     void shouldLeaveNothingBehindWhenRemoved_data();
@@ -87,12 +90,39 @@ void tst_quickadd::shouldAddTheCommandOfAButton()
 void tst_quickadd::shouldOfferTheMenuToTheKeyboard()
 {
     TestHost host = TestHost::enabled(described());
-    askForMenu(control(host, "plain"), QContextMenuEvent::Keyboard);
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint());
+    QApplication::sendEvent(control(host, "plain"), &event);
     QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
     QVERIFY(onBar(host, "qbar_plain"));
     // The new button comes between those that there were and the one that customises the bar.
     QCOMPARE(host.find<QPushButton>("qt_set")->previousInFocusChain(),
              buttonOf(host, "qbar_plain"));
+}
+
+void tst_quickadd::shouldOfferWhatARowHasMoved()
+{
+    QString controls;
+    for (int i = 0; i < 12; ++i)
+        controls += Describe::button("command" + QString::number(i), "shrink='1'");
+    using Describe::section;
+    TestHost host =
+        TestHost::enabled(section("quickaccessbar", Describe::button("qt_set", "quickadd='true'"))
+                              + Describe::row(controls),
+                          {{"keytips", "true"}});
+    host.window().resize(300, 300);
+    const auto *more = host.find<QToolButton>("row_more");
+    QTRY_VERIFY(more->isVisible());
+    more->menu()->popup(QPoint(100, 300));
+    QAction *entry = more->menu()->actions().constLast();
+    QCOMPARE(takeOffer(more->menu(), more->menu()->actionGeometry(entry).center()), addText);
+    more->menu()->close();
+    QVERIFY(buttonOf(host, "qbar_" + entry->objectName()));
+    // By its letter it is used as the others are.
+    host.window().resize(900, 300);
+    QTRY_VERIFY(buttonOf(host, "qbar_" + entry->objectName())->isVisible());
+    QTRY_VERIFY(host.window().isActiveWindow());
+    QTest::keyClick(host.window().windowHandle(), Qt::Key_Alt);
+    QVERIFY(QApplication::focusWidget()->accessibleName().contains(entry->objectName()));
 }
 
 void tst_quickadd::shouldOfferNothingForWhatIsNoCommand_data()

@@ -74,23 +74,26 @@ inline QWidget *control(const TestHost &host, const QString &name)
     return host.find<QWidget>(name);
 }
 
-inline void askForMenu(QWidget *widget, QContextMenuEvent::Reason reason = QContextMenuEvent::Mouse)
+/** The text of what the context menu of the widget offers, which is done; empty without a menu. */
+inline QString takeOffer(QWidget *widget, const QPoint &place)
 {
-    const QPoint middle = widget->rect().center();
-    QContextMenuEvent event(reason, middle, widget->mapToGlobal(middle));
+    const QWidget *before = QApplication::activePopupWidget();
+    QContextMenuEvent event(QContextMenuEvent::Mouse, place, widget->mapToGlobal(place));
     QApplication::sendEvent(widget, &event);
-}
-
-/** The text of what the context menu of the control offers, which is done; empty without a menu. */
-inline QString takeOffer(const TestHost &host, const QString &name)
-{
-    askForMenu(control(host, name));
+    if (QApplication::activePopupWidget() == before)
+        return QString();
     auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
     if (!menu || menu->actions().size() != 1)
         return QString();
     const QString text = menu->actions().constFirst()->text();
     clickEntry(menu, menu->actions().constFirst());
     return text;
+}
+
+inline QString takeOffer(const TestHost &host, const QString &name)
+{
+    QWidget *widget = control(host, name);
+    return takeOffer(widget, widget->rect().center());
 }
 
 /** The button on its ground, without the pointer. */

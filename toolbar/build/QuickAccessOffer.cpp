@@ -15,11 +15,25 @@
 
 namespace {
 
-/** What a click on a button of a row triggers; empty for those that only open a menu. */
-QString commandOf(const QToolButton *button)
+/** What has been asked about: a button of a row, or an entry of the menu of what has moved. */
+struct Asked
 {
-    const QAction *action = shownCommand(button);
-    return action ? action->objectName() : QString();
+    QString command; ///< What a click triggers; empty where that only opens a menu.
+    QRect place;     ///< In the widget that was asked.
+};
+
+Asked askedOf(const QWidget *widget, const QContextMenuEvent &event)
+{
+    const auto *menu = qobject_cast<const QMenu *>(widget);
+    if (!menu) {
+        const QAction *action = shownCommand(qobject_cast<const QToolButton *>(widget));
+        return {action ? action->objectName() : QString(), widget->rect()};
+    }
+    QAction *entry = event.reason() == QContextMenuEvent::Keyboard ? menu->activeAction()
+                                                                   : menu->actionAt(event.pos());
+    if (!entry || entry->menu())
+        return {};
+    return {entry->objectName(), menu->actionGeometry(entry)};
 }
 
 } // namespace
@@ -35,29 +49,32 @@ void QuickAccessOffer::watch(const QWidget *rows)
 {
     // Each by itself: a disabled button does not leave the event to the row that it is on.
     const QList<QToolButton *> buttons = rows->findChildren<QToolButton *>();
-    for (QToolButton *button : buttons)
+    for (QToolButton *button : buttons) {
         button->installEventFilter(this);
+        if (button->objectName() == Name::rowMore)
+            button->menu()->installEventFilter(this);
+    }
 }
 
 bool QuickAccessOffer::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() != QEvent::ContextMenu)
         return false;
-    const auto *button = qobject_cast<QToolButton *>(watched);
-    const QString command = commandOf(button);
-    if (!m_commands->isOffered(command))
+    const auto *widget = static_cast<const QWidget *>(watched);
+    const auto &request = *static_cast<const QContextMenuEvent *>(event);
+    const Asked asked = askedOf(widget, request);
+    if (!m_commands->isOffered(asked.command))
         return false;
     event->accept();
-    const auto *asked = static_cast<const QContextMenuEvent *>(event);
-    QMenu *menu = makeMenu(command);
-    if (asked->reason() != QContextMenuEvent::Keyboard) {
-        menu->popup(asked->globalPos());
+    QMenu *menu = makeMenu(asked.command);
+    if (request.reason() != QContextMenuEvent::Keyboard) {
+        menu->popup(request.globalPos());
         return true;
     }
-    const QRect place = button->rect();
+    const QRect &place = asked.place;
     menu->setActiveAction(menu->actions().constFirst());
     menu->popup(
-        button->mapToGlobal(button->isRightToLeft() ? place.bottomRight() : place.bottomLeft()));
+        widget->mapToGlobal(widget->isRightToLeft() ? place.bottomRight() : place.bottomLeft()));
     return true;
 }
 

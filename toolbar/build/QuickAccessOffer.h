@@ -22,7 +22,7 @@ public:
     /** @param commands owns this */
     QuickAccessOffer(AddedCommands *commands, const ControlFactory &factory);
 
-    /** Offers the commands of the buttons that are on the rows by now. */
+    /** Offers the commands of the buttons that are on the rows by now, also when they move. */
     void watch(const QWidget *rows);
 
     bool eventFilter(QObject *watched, QEvent *event) override;
