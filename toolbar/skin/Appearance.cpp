@@ -135,10 +135,14 @@ const SchemeColours *Appearance::coloursFor(const QWidget *widget)
     return appearance ? appearance->colours() : nullptr;
 }
 
+SchemeLook Appearance::lookOf(const Appearance *appearance)
+{
+    return appearance ? appearance->look() : SchemeLook();
+}
+
 SchemeLook Appearance::lookFor(const QWidget *widget)
 {
-    const Appearance *appearance = nearestTo(widget);
-    return appearance ? appearance->look() : SchemeLook();
+    return lookOf(nearestTo(widget));
 }
 
 SchemeNotifier *SchemeNotifier::instance()

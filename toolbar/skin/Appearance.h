@@ -32,6 +32,8 @@ public:
     void set(const QString &scheme, const QString &mainColour);
 
     const SchemeLook &look() const { return m_look; }
+    /** The same for one that may be gone; light then. */
+    static SchemeLook lookOf(const Appearance *appearance);
     /** The colours of the scheme; null while it is light. */
     const SchemeColours *colours() const { return m_colours ? &*m_colours : nullptr; }
 

@@ -151,13 +151,17 @@ bool isForColouredStrip(const QString &path)
 QString drawingForStrip(const QString &path, int side)
 {
     const int ownSide = drawnSideOf(path);
+    QString best;
+    int bestSide = 0;
     for (const int drawnSide : drawnSides) {
-        QString other = path;
-        other.replace(folderOf(ownSide), folderOf(drawnSide));
-        if (ownSide != 0 && QFile::exists(other) && isForColouredStrip(other))
-            return other;
+        const QString other = ownSide != 0 ? drawingOfSide(path, ownSide, drawnSide) : QString();
+        const bool isBetter = best.isEmpty() || misfit(drawnSide, side) < misfit(bestSide, side);
+        if (!other.isEmpty() && isBetter && isForColouredStrip(other)) {
+            best = other;
+            bestSide = drawnSide;
+        }
     }
-    return drawingFor(path, side);
+    return best.isEmpty() ? drawingFor(path, side) : best;
 }
 
 qreal disabledIconOpacity(const SchemeLook &look)

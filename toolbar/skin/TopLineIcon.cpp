@@ -9,6 +9,7 @@
 #include "toolbar/skin/Skin.h"
 #include "toolbar/skin/SkinIcon.h"
 
+#include <QHash>
 #include <QPointer>
 
 namespace {
@@ -43,16 +44,18 @@ public:
     }
 
 private:
-    SchemeLook look() const { return m_appearance ? m_appearance->look() : SchemeLook(); }
+    SchemeLook look() const { return Appearance::lookOf(m_appearance); }
     bool isOnColour() const { return m_appearance && look().isLight() && !Skin::isLum(); }
 
-    QIcon drawing(const QPainter &painter, const QRect &rect) const
+    QIcon drawing(const QPainter &painter, const QRect &rect)
     {
         if (!isOnColour())
             return skinIcon(m_path, look());
         const qreal ratio = painter.device() ? painter.device()->devicePixelRatioF() : 1.0;
         const int side = qRound(qMin(rect.width(), rect.height()) * ratio);
-        const QString path = drawingForStrip(m_path, side);
+        QString &path = m_paths[side];
+        if (path.isEmpty())
+            path = drawingForStrip(m_path, side);
         return isForColouredStrip(path)
                    ? skinIcon(path)
                    : IconColours::stripDrawing(path, m_appearance->mainColour());
@@ -70,6 +73,7 @@ private:
     }
 
     QString m_path;
+    QHash<int, QString> m_paths; ///< By the side in physical pixels; found when first painted.
     QString m_letter;
     QPointer<const Appearance> m_appearance;
 };
