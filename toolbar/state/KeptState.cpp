@@ -23,18 +23,6 @@ constexpr int mostCharacters = 100; ///< Of a name.
 /** More than six lists of such names, each character of which may take nine. */
 constexpr int mostOfText = 1 << 20;
 
-namespace Key {
-constexpr QLatin1String tab = latin1("tab");
-constexpr QLatin1String folded = latin1("folded");
-constexpr QLatin1String shown = latin1("shown");
-constexpr QLatin1String hidden = latin1("hidden");
-constexpr QLatin1String added = latin1("added");
-constexpr QLatin1String found = latin1("found");
-constexpr QLatin1String faces = latin1("faces");
-constexpr QLatin1String scale = latin1("scale");
-constexpr QLatin1String scheme = latin1("scheme");
-} // namespace Key
-
 constexpr QLatin1String yes = latin1("1");
 constexpr QLatin1String no = latin1("0");
 
@@ -65,9 +53,9 @@ QString encoded(const QStringList &names)
     return texts.join(nameEnd);
 }
 
-QStringList decodedList(const QString &text)
+void decode(const QString &text, QStringList &names)
 {
-    QStringList names;
+    names.clear();
     const QStringList texts = text.split(nameEnd, Qt::SkipEmptyParts).mid(0, mostNames);
     for (const QString &part : texts) {
         const QString name = decoded(part);
@@ -75,7 +63,11 @@ QStringList decodedList(const QString &text)
             names.append(name);
     }
     names.removeDuplicates();
-    return names;
+}
+
+void decode(const QString &text, std::optional<QStringList> &names)
+{
+    decode(text, names.emplace());
 }
 
 QString encoded(const QMap<QString, QString> &faces)
@@ -88,9 +80,9 @@ QString encoded(const QMap<QString, QString> &faces)
     return texts.join(nameEnd);
 }
 
-QMap<QString, QString> decodedFaces(const QString &text)
+void decode(const QString &text, QMap<QString, QString> &faces)
 {
-    QMap<QString, QString> faces;
+    faces.clear();
     const QStringList texts = text.split(nameEnd, Qt::SkipEmptyParts).mid(0, mostNames);
     for (const QString &part : texts) {
         const QString button = decoded(part.section(entryBegin, 0, 0));
@@ -98,38 +90,56 @@ QMap<QString, QString> decodedFaces(const QString &text)
         if (!button.isEmpty() && !entry.isEmpty())
             faces.insert(button, entry);
     }
-    return faces;
 }
 
-std::optional<bool> decodedTruth(const QString &text)
+QString encoded(bool isTrue)
 {
-    if (text == yes)
-        return true;
-    if (text == no)
-        return false;
-    return std::nullopt;
+    return isTrue ? yes : no;
 }
 
-void readField(KeptState &state, const QString &key, const QString &value)
+template <typename Value>
+QString encoded(const std::optional<Value> &value)
 {
-    if (key == Key::tab)
-        state.tab = decoded(value);
-    else if (key == Key::folded)
-        state.isFolded = decodedTruth(value);
-    else if (key == Key::shown)
-        state.shown = decodedList(value);
-    else if (key == Key::hidden)
-        state.hidden = decodedList(value);
-    else if (key == Key::added)
-        state.added = decodedList(value);
-    else if (key == Key::found)
-        state.found = decodedList(value);
-    else if (key == Key::faces)
-        state.faces = decodedFaces(value);
-    else if (key == Key::scale)
-        state.scale = decoded(value);
-    else if (key == Key::scheme)
-        state.scheme = decoded(value);
+    return value ? encoded(*value) : QString();
+}
+
+template <typename Value>
+bool isSaid(const Value &)
+{
+    return true;
+}
+
+template <typename Value>
+bool isSaid(const std::optional<Value> &value)
+{
+    return value.has_value();
+}
+
+void decode(const QString &text, QString &value)
+{
+    value = decoded(text);
+}
+
+void decode(const QString &text, std::optional<bool> &value)
+{
+    value.reset();
+    if (text == yes || text == no)
+        value = text == yes;
+}
+
+/** Calls @p visit with the key and the value of each field, in the order of the text. */
+template <typename State, typename Visitor>
+void visitFields(State &state, const Visitor &visit)
+{
+    visit(latin1("tab"), state.tab);
+    visit(latin1("folded"), state.isFolded);
+    visit(latin1("shown"), state.shown);
+    visit(latin1("hidden"), state.hidden);
+    visit(latin1("added"), state.added);
+    visit(latin1("found"), state.found);
+    visit(latin1("faces"), state.faces);
+    visit(latin1("scale"), state.scale);
+    visit(latin1("scheme"), state.scheme);
 }
 
 bool isHeading(const QString &text)
@@ -144,21 +154,10 @@ bool isHeading(const QString &text)
 QString KeptState::toText() const
 {
     QString text = heading + QString::number(version);
-    const auto write = [&text](QLatin1String key, const QString &value) {
-        text += fieldEnd + key + valueBegin + value;
-    };
-    write(Key::tab, encoded(tab));
-    if (isFolded)
-        write(Key::folded, *isFolded ? yes : no);
-    write(Key::shown, encoded(shown));
-    write(Key::hidden, encoded(hidden));
-    if (added)
-        write(Key::added, encoded(*added));
-    if (found)
-        write(Key::found, encoded(*found));
-    write(Key::faces, encoded(faces));
-    write(Key::scale, encoded(scale));
-    write(Key::scheme, encoded(scheme));
+    visitFields(*this, [&text](QLatin1String key, const auto &value) {
+        if (isSaid(value))
+            text += fieldEnd + key + valueBegin + encoded(value);
+    });
     return text;
 }
 
@@ -171,7 +170,12 @@ std::optional<KeptState> KeptState::fromText(const QString &text)
     if (!isHeading(fields.first()))
         return std::nullopt;
     KeptState state;
-    for (const QString &field : fields.mid(1))
-        readField(state, field.section(valueBegin, 0, 0), field.section(valueBegin, 1));
+    for (const QString &field : fields.mid(1)) {
+        const QString name = field.section(valueBegin, 0, 0);
+        visitFields(state, [&](QLatin1String key, auto &value) {
+            if (key == name)
+                decode(field.section(valueBegin, 1), value);
+        });
+    }
     return state;
 }
