@@ -20,7 +20,6 @@
 class Appearance;
 class CommandAccess;
 class CommandFinder;
-class Scale;
 class CustomMenuStyle;
 class MRDropButton;
 class MRScrollWidget;
@@ -38,6 +37,7 @@ class QStackedWidget;
 class QToolBar;
 class QToolButton;
 class QVBoxLayout;
+class Scale;
 struct CommandPlace;
 struct Controller;
 struct KeptState;
@@ -199,20 +199,22 @@ private:
     bool AppendSubMenu(QMenu *menu, const QList<Controller *> &items, QProxyStyle *style);
     bool AddToolBarAction(const QList<Controller *> &records, QToolBar *row, bool ignored,
                           bool addToRow);
-    bool makeCommand(const CommandPlace &place);
-    void addPeek();
-    void makeWindowShortcuts();
-    bool isUsable(const CommandPlace &place);
-    void useByKeys(const CommandPlace &place);
-    void chooseKeyTips(const QString &choice);
-    CommandAccess &commandAccess();
-    CommandFinder *commandFinder();
-    void toggleFinder(QWidget *opener);
     QWidget *CreateExtraGroup(const QList<Controller *> &children);
     QWidget *CreateButtonGroupWidget(const QList<Controller *> &children, QToolBar *row);
     void CreateActionGroup(const QString &name, QObject *row);
     void SetExtraGroupVisible(QString tabName);
     void SetExtraGroupEnable(bool enable);
+    void addPeek();
+
+    // The commands, wherever they stand, for the finder and for keys.
+    bool makeCommand(const CommandPlace &place);
+    bool isUsable(const CommandPlace &place);
+    CommandAccess &commandAccess();
+    CommandFinder *commandFinder();
+    void toggleFinder(QWidget *opener);
+    void makeWindowShortcuts();
+    void useByKeys(const CommandPlace &place);
+    void chooseKeyTips(const QString &choice);
 
     // What is kept between two runs.
     static std::optional<KeptState> takeState(QMap<QString, QString> &options);
