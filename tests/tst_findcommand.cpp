@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "tests/support/Finder.h"
+#include "tests/support/Rows.h"
 #include "toolbar/find/CommandFinder.h"
 #include "toolbar/find/Match.h"
 #include "toolbar/widgets/ButtonRing.h"
@@ -15,94 +16,92 @@
 #include <QToolBar>
 #include <QToolButton>
 
-Q_DECLARE_METATYPE(Fit)
-
 using namespace Finder;
+
+namespace {
+
+const struct
+{
+    const char *name;
+    const char *typed;
+    const char *text;
+    Fit fit;
+} fits[] = {
+    {"whole text", "zoom", "Zoom", Fit::Word},
+    {"whole word", "zoom", "v_zoom in", Fit::Word},
+    {"a later word", "in", "inner, in", Fit::Word},
+    {"accents", "resume", "Résumé", Fit::Word},
+    {"prefix", "zo", "v_zoom", Fit::Prefix},
+    {"prefix of ideographs", "缩", "缩放", Fit::Prefix},
+    {"substring", "oo", "zoom", Fit::Substring},
+    {"subsequence", "zm", "zoom", Fit::Subsequence},
+    {"any order", "mzo", "zoom", Fit::Letters},
+    {"a letter too often", "zzm", "zoom", Fit::None},
+    {"another letter", "zoomx", "zoom", Fit::None},
+    {"nothing", "", "zoom", Fit::None},
+};
+
+const struct
+{
+    const char *name;
+    const char *typed;
+    const char *first;
+    bool isBySpelling = false;
+} names[] = {
+    {"text", "缩放", "缩放"},
+    {"initials", "sf", "缩放", true},
+    {"spelling", "suofang", "缩放", true},
+    {"tooltip", "enlarge", "缩放"},
+    {"name", "v_scale", "缩放"},
+    {"keyword", "lupe", "缩放"},
+    {"words in any order", "lupe scale", "缩放"},
+    {"text before name", "scale", "Scale"},
+    {"mnemonic", "open", "Open"},
+};
+
+/** What is typed, what is reported or outlined, and the button that this is at. */
+const struct
+{
+    const char *name;
+    const char *reported;
+    const char *outlined;
+} commands[] = {
+    {"one", "one", "one"},
+    {"three", "three", "three"},
+    {"four", "four", "four"},
+    {"d_two", "d_two", "d_drop"},
+    {"f_recent", "f_recent", "file"},
+    {"h_help", "h_help", "h_help"},
+    {"qbar_quick", "quick", "qbar_quick"},
+};
+
+} // namespace
 
 class FindCommandTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void shouldTellHowWellWhatIsTypedFits_data()
-    {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<Fit>("fit");
-        QTest::newRow("whole text") << "zoom"
-                                    << "Zoom" << Fit::Word;
-        QTest::newRow("whole word") << "zoom"
-                                    << "v_zoom in" << Fit::Word;
-        QTest::newRow("a later word") << "in"
-                                      << "inner, in" << Fit::Word;
-        QTest::newRow("accents") << "resume"
-                                 << "Résumé" << Fit::Word;
-        QTest::newRow("prefix") << "zo"
-                                << "v_zoom" << Fit::Prefix;
-        QTest::newRow("prefix of ideographs") << "缩"
-                                              << "缩放" << Fit::Prefix;
-        QTest::newRow("substring") << "oo"
-                                   << "zoom" << Fit::Substring;
-        QTest::newRow("subsequence") << "zm"
-                                     << "zoom" << Fit::Subsequence;
-        QTest::newRow("any order") << "mzo"
-                                   << "zoom" << Fit::Letters;
-        QTest::newRow("a letter too often") << "zzm"
-                                            << "zoom" << Fit::None;
-        QTest::newRow("another letter") << "zoomx"
-                                        << "zoom" << Fit::None;
-        QTest::newRow("nothing") << ""
-                                 << "zoom" << Fit::None;
-    }
-
+    void shouldTellHowWellWhatIsTypedFits_data() { addRows(fits); }
     void shouldTellHowWellWhatIsTypedFits()
     {
-        QFETCH(QString, typed);
-        QFETCH(QString, text);
-        QFETCH(Fit, fit);
-        QCOMPARE(matchOf(SearchText(typed), SearchText(text)).fit, fit);
+        const auto &row = rowOf(fits);
+        QCOMPARE(matchOf(SearchText(row.typed), SearchText(row.text)).fit, row.fit);
     }
 
-    void shouldFindByEverythingThatACommandIsCalled_data()
-    {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QString>("first");
-        QTest::newRow("text") << "缩放"
-                              << "缩放";
-        QTest::newRow("initials") << "sf"
-                                  << "缩放";
-        QTest::newRow("spelling") << "suofang"
-                                  << "缩放";
-        QTest::newRow("tooltip") << "enlarge"
-                                 << "缩放";
-        QTest::newRow("name") << "v_scale"
-                              << "缩放";
-        QTest::newRow("keyword") << "lupe"
-                                 << "缩放";
-        QTest::newRow("words in any order") << "lupe scale"
-                                            << "缩放";
-        QTest::newRow("text before name") << "scale"
-                                          << "Scale";
-        QTest::newRow("mnemonic") << "open"
-                                  << "Open";
-    }
-
+    void shouldFindByEverythingThatACommandIsCalled_data() { addRows(names); }
     void shouldFindByEverythingThatACommandIsCalled()
     {
-        QFETCH(QString, typed);
-        QFETCH(QString, first);
 #ifndef MRTOOLBAR_HAS_SPELLING
-        if (QTest::currentDataTag() == QByteArray("initials")
-            || QTest::currentDataTag() == QByteArray("spelling"))
+        if (rowOf(names).isBySpelling)
             QSKIP("Built without the library that spells");
 #endif
         TestHost host = TestHost::enabled(row(
             "<button name='v_scale' text='缩放' tooltip='Enlarge;the page' keywords='lupe glass'/>"
             "<button name='other' text='Scale'/><button name='x' text='&amp;Open(&amp;O)'/>"));
         open(host);
-        type(host, typed);
-        QTRY_VERIFY(!found(host).isEmpty());
-        QTRY_COMPARE(found(host).first(), first);
+        type(host, rowOf(names).typed);
+        QTRY_COMPARE(found(host).value(0), QString(rowOf(names).first));
     }
 
     void shouldListACommandOnceWhereverItStands()
@@ -113,6 +112,10 @@ private Q_SLOTS:
                                            "two", "d_one", "d_two", "four"}));
         type(host, "three");
         QCOMPARE(model(host)->line(0).where, QString("other"));
+        QCOMPARE(model(host)->line(0).key, QString("Ctrl+D"));
+        field(host)->selectAll();
+        type(host, "d_two");
+        QCOMPARE(model(host)->line(0).where, QString("row › d_drop › d_more"));
     }
 
     void shouldNotListWhatIsHidden()
@@ -127,34 +130,17 @@ private Q_SLOTS:
         QCOMPARE(found(host), QStringList({"menu_three", "f_recent", "qbar_quick", "one"}));
     }
 
-    void shouldShowWhereItStandsAndItsKey()
-    {
-        TestHost host = TestHost::enabled(
-            section("appbutton", menu("file", menu("more", item("deep", "shortcut='Ctrl+D'")))));
-        open(host);
-        QCOMPARE(model(host)->line(0).where, QString("file › more"));
-        QCOMPARE(model(host)->line(0).key, QString("Ctrl+D"));
-    }
-
     void shouldTriggerTheCommandAsAClickWould_data()
     {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QString>("reported");
-        for (const char *name : {"one", "three", "four", "d_two", "f_recent", "h_help"})
-            QTest::newRow(name) << name << name;
-        QTest::newRow("quick access") << "qbar_quick"
-                                      << "quick";
+        addRows(commands);
     }
-
     void shouldTriggerTheCommandAsAClickWould()
     {
-        QFETCH(QString, typed);
-        QFETCH(QString, reported);
         TestHost host = usable(several());
         answer(host);
-        QSignalSpy active(&host.facade(), &MRToolBar::DoActive);
-        run(host, typed);
-        QTRY_COMPARE(TestHost::texts(active), QStringList{reported});
+        const QSignalSpy active(&host.facade(), &MRToolBar::DoActive);
+        run(host, rowOf(commands).name);
+        QTRY_COMPARE(TestHost::texts(active), QStringList{rowOf(commands).reported});
         QVERIFY(!field(host));
     }
 
@@ -162,7 +148,7 @@ private Q_SLOTS:
     {
         TestHost host = usable(several());
         answer(host);
-        QSignalSpy asked(&host.facade(), &MRToolBar::DoRequestAuthority);
+        const QSignalSpy asked(&host.facade(), &MRToolBar::DoRequestAuthority);
         const auto *other = host.find<MRMainToolBar>("other");
         open(host);
         type(host, "three");
@@ -171,75 +157,52 @@ private Q_SLOTS:
         QTRY_VERIFY(other->isFilled());
         QCOMPARE(asked.size(), 1);
         QVERIFY(!other->isVisible());
-    }
-
-    void shouldShowTheEntryThatWasChosenOnItsDropButton()
-    {
-        TestHost host = usable(several());
         run(host, "d_one");
-        const auto *button = host.find<MRDropButton>("d_drop");
-        QTRY_COMPARE(button->GetCurrentAction(), host.action("d_one"));
-    }
-
-    void shouldNeitherRunNorLeaveADisabledCommand_data()
-    {
-        QTest::addColumn<int>("modifier");
-        QTest::newRow("run") << int(Qt::NoModifier);
-        QTest::newRow("show") << int(Qt::ControlModifier);
+        QTRY_COMPARE(host.find<MRDropButton>("d_drop")->GetCurrentAction(), host.action("d_one"));
     }
 
     void shouldNeitherRunNorLeaveADisabledCommand()
     {
-        QFETCH(int, modifier);
-        TestHost host = usable(several());
-        connect(&host.facade(), &MRToolBar::DoRequestAuthority, &host.facade(),
-                [&host] { host.setUsable("three", false); });
-        QSignalSpy active(&host.facade(), &MRToolBar::DoActive);
-        open(host);
-        type(host, "drei");
-        QVERIFY(model(host)->line(0).isEnabled);
-        for (int time = 0; time < 2; ++time) {
-            QTest::keyClick(field(host), Qt::Key_Return, Qt::KeyboardModifiers(modifier));
-            QCoreApplication::processEvents();
-            QVERIFY(field(host));
-            QVERIFY(!model(host)->line(0).isEnabled);
-            QCOMPARE(model(host)->line(0).reason, QString("select a page"));
+        for (const auto modifier : {Qt::NoModifier, Qt::ControlModifier}) {
+            TestHost host = usable(several());
+            connect(&host.facade(), &MRToolBar::DoRequestAuthority, &host.facade(),
+                    [&host] { host.setUsable("three", false); });
+            const QSignalSpy active(&host.facade(), &MRToolBar::DoActive);
+            open(host);
+            type(host, "drei");
+            QVERIFY(model(host)->line(0).isEnabled);
+            for (int time = 0; time < 2; ++time) {
+                QTest::keyClick(field(host), Qt::Key_Return, modifier);
+                QCoreApplication::processEvents();
+                QVERIFY(field(host));
+                QVERIFY(!model(host)->line(0).isEnabled);
+                QCOMPARE(model(host)->line(0).reason, QString("select a page"));
+            }
+            QVERIFY(active.isEmpty());
+            QCOMPARE(host.find<QStackedWidget>("tabwidget")->currentIndex(), 0);
         }
-        QVERIFY(active.isEmpty());
-        QCOMPARE(host.find<QStackedWidget>("tabwidget")->currentIndex(), 0);
     }
 
     void shouldShowWhereTheCommandIs_data()
     {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QString>("outlined");
-        for (const char *name : {"one", "three", "four", "h_help"})
-            QTest::newRow(name) << name << name;
-        QTest::newRow("entry of a drop menu") << "d_two"
-                                              << "d_drop";
-        QTest::newRow("entry of an application menu") << "f_recent"
-                                                      << "file";
+        addRows(commands);
     }
-
     void shouldShowWhereTheCommandIs()
     {
-        QFETCH(QString, typed);
-        QFETCH(QString, outlined);
         TestHost host = usable(several());
         answer(host);
         host.toolBar()->InitMainToolBar("0"); // Folds the rows.
-        QSignalSpy active(&host.facade(), &MRToolBar::DoActive);
-        run(host, typed, Qt::ControlModifier);
+        const QSignalSpy active(&host.facade(), &MRToolBar::DoActive);
+        run(host, rowOf(commands).name, Qt::ControlModifier);
         QTRY_COMPARE(host.toolBar()->findChildren<ButtonRing *>().size(), 1);
         const QPointer<ButtonRing> ring(host.toolBar()->findChild<ButtonRing *>());
         QVERIFY(ring->isVisible());
-        const QPoint middle = ring->mapTo(host.toolBar(), ring->rect().center());
-        const QWidget *control = host.toolBar()->childAt(middle);
-        auto *button = qobject_cast<const QToolButton *>(control);
-        const QString name = button && button->defaultAction()
-                                 ? button->defaultAction()->objectName()
-                                 : control->objectName();
-        QCOMPARE(name, outlined);
+        const QWidget *control =
+            host.toolBar()->childAt(ring->mapTo(host.toolBar(), ring->rect().center()));
+        const auto *button = qobject_cast<const QToolButton *>(control);
+        const QAction *shown = button ? button->defaultAction() : nullptr;
+        QCOMPARE(shown ? shown->objectName() : control->objectName(),
+                 QString(rowOf(commands).outlined));
         QTRY_VERIFY(!ring);
         QVERIFY(active.isEmpty());
     }
@@ -292,52 +255,29 @@ private Q_SLOTS:
         QTRY_COMPARE(TestHost::texts(active), QStringList{"two"});
     }
 
-    void shouldGiveTheFocusBack_data()
+    void shouldCloseAndGiveTheFocusBack()
     {
-        QTest::addColumn<bool>("isByKey");
-        QTest::newRow("Escape") << true;
-        QTest::newRow("a click outside") << false;
-    }
-
-    void shouldGiveTheFocusBack()
-    {
-        QFETCH(bool, isByKey);
         TestHost host = usable(several());
+        QVERIFY(!host.toolBar()->findChild<CommandFinder *>());
+        const QSignalSpy active(&host.facade(), &MRToolBar::DoActive);
         auto *pages = new QTextEdit;
         host.window().setCentralWidget(pages);
         QTRY_VERIFY(pages->isVisible());
-        pages->setFocus();
-        open(host);
-        QVERIFY(field(host)->hasFocus());
-        if (isByKey)
-            QTest::keyClick(field(host), Qt::Key_Escape);
-        else
-            QTest::mouseClick(host.find<QWidget>("top_widget"), Qt::LeftButton);
-        QVERIFY(!field(host));
-        QVERIFY(pages->hasFocus());
-    }
-
-    void shouldCloseWhereTheFocusGoesElsewhere()
-    {
-        TestHost host = usable(several());
-        auto *pages = new QTextEdit;
-        host.window().setCentralWidget(pages);
-        QTRY_VERIFY(pages->isVisible());
-        open(host);
-        pages->setFocus();
-        QVERIFY(!field(host));
-        QVERIFY(pages->hasFocus());
-    }
-
-    void shouldOpenAndCloseByItsButtonUnreported()
-    {
-        TestHost host = usable(several());
-        QSignalSpy active(&host.facade(), &MRToolBar::DoActive);
-        host.click("t_findcommand");
-        QVERIFY(field(host));
-        QVERIFY(host.window().rect().contains(host.find<QWidget>("findcommand")->geometry()));
-        QTest::mouseClick(host.find<QPushButton>("t_findcommand"), Qt::LeftButton);
-        QVERIFY(!field(host));
+        const std::function<void()> ends[]{
+            [&] { QTest::keyClick(field(host), Qt::Key_Escape); },
+            [&] { QTest::mouseClick(host.find<QWidget>("top_widget"), Qt::LeftButton); },
+            [&] { QTest::mouseClick(host.find<QPushButton>("t_findcommand"), Qt::LeftButton); },
+            [&] { pages->setFocus(); },
+        };
+        for (const auto &end : ends) {
+            pages->setFocus();
+            host.click("t_findcommand");
+            QVERIFY(field(host) && field(host)->hasFocus());
+            QVERIFY(host.window().rect().contains(host.find<QWidget>("findcommand")->geometry()));
+            end();
+            QVERIFY(!field(host));
+            QVERIFY(pages->hasFocus());
+        }
         QVERIFY(active.isEmpty());
     }
 
@@ -357,33 +297,20 @@ private Q_SLOTS:
         QVERIFY(host.find<QWidget>("findcommand")->height() > height);
     }
 
-    void shouldLetTheHostDeleteTheWindow_data()
-    {
-        QTest::addColumn<bool>("isInAnswer");
-        QTest::newRow("when it is asked for states") << true;
-        QTest::newRow("when the command is reported") << false;
-    }
-
     void shouldLetTheHostDeleteTheWindow()
     {
-        QFETCH(bool, isInAnswer);
-        TestHost host = usable(several());
-        const auto end = [&host] { host.deleteWindow(); };
-        if (isInAnswer)
-            connect(&host.facade(), &MRToolBar::DoRequestAuthority, &host.facade(), end);
-        else
-            connect(&host.facade(), &MRToolBar::DoActive, &host.facade(), end);
-        const QPointer<QMainWindow> window(&host.window());
-        run(host, isInAnswer ? "four" : "one");
-        QTRY_VERIFY(!window);
-        runDeferredDeletes();
-    }
-
-    void shouldCostNothingBeforeItIsUsed()
-    {
-        TestHost host = usable(several());
-        QVERIFY(!host.toolBar()->findChild<CommandFinder *>());
-        QVERIFY(!host.find<QWidget>("findcommand"));
+        for (const bool isInAnswer : {true, false}) {
+            TestHost host = usable(several());
+            const auto end = [&host] { host.deleteWindow(); };
+            if (isInAnswer)
+                connect(&host.facade(), &MRToolBar::DoRequestAuthority, &host.facade(), end);
+            else
+                connect(&host.facade(), &MRToolBar::DoActive, &host.facade(), end);
+            const QPointer<QMainWindow> window(&host.window());
+            run(host, isInAnswer ? "four" : "one");
+            QTRY_VERIFY(!window);
+            runDeferredDeletes();
+        }
     }
 };
 

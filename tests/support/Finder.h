@@ -29,7 +29,8 @@ inline QString several()
     return section("appbutton", menu("file", item("menu_three") + menu("recent", item("f_recent"))))
            + section("quickaccessbar", button("qbar_three") + button("qbar_quick"))
            + row(button("one", "keywords='premier erste'") + button("two") + drop,
-                 tab("other", button("three", "tooltip='Drei' disabletip='No;select a page'")
+                 tab("other", button("three", "tooltip='Drei' disabletip='No;select a page' "
+                                              "shortcut='Ctrl+D'")
                                   + group("g", button("four"))))
            + opener();
 }
@@ -41,11 +42,8 @@ inline void open(TestHost &host)
 
 inline QLineEdit *field(const TestHost &host)
 {
-    const QList<QLineEdit *> fields =
-        host.find<QWidget>("findcommand")
-            ? host.find<QWidget>("findcommand")->findChildren<QLineEdit *>()
-            : QList<QLineEdit *>();
-    return fields.isEmpty() || !fields.first()->isVisible() ? nullptr : fields.first();
+    const auto *popup = host.find<QWidget>("findcommand");
+    return popup && popup->isVisible() ? popup->findChild<QLineEdit *>() : nullptr;
 }
 
 inline const FoundModel *model(const TestHost &host)
