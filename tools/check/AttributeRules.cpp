@@ -48,6 +48,14 @@ void checkAttribute(const SourceElement &element, const SourceAttribute &attribu
         checkUnknown(element, attribute, findings);
         return;
     }
+    // Those of quick access buttons are common in existing descriptions.
+    if (attribute.name == QLatin1String("shortcut") && element.role != Role::QuickButton) {
+        findings.warn("shortcut-unused", attribute.position,
+                      QStringLiteral("%1 has no shortcut, so '%2' does nothing; describe it on a "
+                                     "button of a row or on a menu entry")
+                          .arg(Vocabulary::noun(element.role), attribute.value));
+        return;
+    }
     findings.note("unused-attribute", attribute.position,
                   QStringLiteral("the library does not use '%1' on %2; remove it")
                       .arg(attribute.name, Vocabulary::noun(element.role)));

@@ -54,8 +54,10 @@ void checkContent(const SourceDocument &document, const CheckOptions &options, F
     Rules::checkIndexes(document, findings);
     Rules::checkShrinking(document, findings);
     Rules::checkNames(document, findings);
+    Rules::checkReservedNames(document, findings);
     Rules::checkGroups(document, findings);
     Rules::checkIcons(document, options, findings);
+    Rules::checkToolTips(document, options, findings);
     Rules::checkShortcuts(document, findings);
     Rules::checkKeyTips(document, findings);
     Rules::checkSpecialControls(document, findings);

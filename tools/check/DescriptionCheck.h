@@ -29,6 +29,7 @@ struct CheckOptions
 {
     /** The skin whose icons are accepted, "marodi" or "lum"; empty to accept those of both. */
     QString skin;
+    bool hasToolTipWords = false; ///< The host sets the skin key "tooltipwords".
 };
 
 /**

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The MRToolBar authors
 // SPDX-License-Identifier: MIT
 
+#include "toolbar/description/Names.h"
 #include "tools/check/Rules.h"
 #include "tools/check/Vocabulary.h"
 
@@ -54,9 +55,19 @@ QString disagreement(const SourceElement &one, const SourceElement &other)
     return one.record.checkable != other.record.checkable ? QStringLiteral("checkable") : QString();
 }
 
+/** How two elements of that name get what each of them describes. */
+QString mendOfSharing(const QString &name)
+{
+    return name.startsWith(Prefix::menu)
+               ? QStringLiteral("describe both alike")
+               : QStringLiteral("name one of them 'menu_%1', which triggers '%1' too, or describe "
+                                "both alike")
+                     .arg(name);
+}
+
 void checkSharing(const SourceElement &element, const SourceElement &earlier, Findings &findings)
 {
-    const SourcePosition position = element.positionOf(element.has("action") ? "action" : "name");
+    const SourcePosition position = element.namePosition();
     const QString name = element.record.name;
     const int line = earlier.position.line;
     const QString difference = disagreement(element, earlier);
@@ -70,11 +81,11 @@ void checkSharing(const SourceElement &element, const SourceElement &earlier, Fi
         findings.warn(
             "shared-action-differs", position,
             QStringLiteral("'%1' shares its action with line %2, where '%3' differs; only "
-                           "one of the two can count, and which depends on what the user "
-                           "opens first")
+                           "one of the two can count, and which depends on what the "
+                           "user opens first; %4")
                 .arg(name)
                 .arg(line)
-                .arg(difference));
+                .arg(difference, mendOfSharing(name)));
 }
 
 void checkPair(const SourceElement &element, const SourceElement &earlier, Findings &findings)
@@ -85,7 +96,7 @@ void checkPair(const SourceElement &element, const SourceElement &earlier, Findi
         checkSharing(element, earlier, findings);
         return;
     }
-    const SourcePosition position = element.positionOf(element.has("action") ? "action" : "name");
+    const SourcePosition position = element.namePosition();
     const QString where = QStringLiteral("'%1' also names %2 in line %3")
                               .arg(element.record.name, Vocabulary::noun(earlier.role))
                               .arg(earlier.position.line);

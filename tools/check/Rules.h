@@ -46,9 +46,13 @@ void checkIndexes(const SourceDocument &document, Findings &findings);
 void checkShrinking(const SourceDocument &document, Findings &findings);
 /** Names that occur more than once. */
 void checkNames(const SourceDocument &document, Findings &findings);
+/** Names that decide what a control does, by themselves or by a word in them. */
+void checkReservedNames(const SourceDocument &document, Findings &findings);
 /** Exclusive groups and their checked members. */
 void checkGroups(const SourceDocument &document, Findings &findings);
 void checkIcons(const SourceDocument &document, const CheckOptions &options, Findings &findings);
+/** Tooltips of two parts, whose lines have a fixed length. */
+void checkToolTips(const SourceDocument &document, const CheckOptions &options, Findings &findings);
 void checkShortcuts(const SourceDocument &document, Findings &findings);
 /** Letters that cannot be typed, or that lead to two of the controls that are shown together. */
 void checkKeyTips(const SourceDocument &document, Findings &findings);

@@ -25,21 +25,13 @@ QString spelledOut(const QString &shortcut)
     return keys.toString(QKeySequence::PortableText);
 }
 
-bool isInOptionsOfSearch(const SourceDocument &document, const SourceElement &element)
-{
-    const SourceElement *parent = &element;
-    while (parent->parent >= 0 && parent->role != Role::SearchSet)
-        parent = &document.parentOf(*parent);
-    return parent->role == Role::SearchSet;
-}
-
 /** Whether the shortcut of the element acts in the whole window. */
 bool actsInWindow(const SourceDocument &document, const SourceElement &element)
 {
     const SourceAttribute *ofRoot = document.at(0).find("shortcutscope");
     const bool isAsked = element.record.shortcutscope == Word::windowScope
                          || (ofRoot && ofRoot->value == Word::windowScope);
-    return isAsked && !isInOptionsOfSearch(document, element);
+    return isAsked && !document.isBelow(element, Role::SearchSet);
 }
 
 void checkScope(const SourceElement &element, Findings &findings)
@@ -49,6 +41,11 @@ void checkScope(const SourceElement &element, Findings &findings)
         findings.warn("shortcut-scope", scope->position,
                       QStringLiteral("the only scope of a shortcut is 'window'; '%1' is ignored")
                           .arg(scope->value));
+    else if (scope && element.role != Role::Root && element.record.shortcut.isEmpty()
+             && Vocabulary::usesAttribute(element.role, QStringLiteral("shortcut")))
+        findings.warn("scope-without-shortcut", scope->position,
+                      QStringLiteral("there is no 'shortcut' for 'shortcutscope' to act on; add "
+                                     "one or remove this"));
 }
 
 void checkCollision(const SourceDocument &document, const SourceElement &owner,
@@ -71,13 +68,24 @@ void checkCollision(const SourceDocument &document, const SourceElement &owner,
                          .arg(owner.position.line));
 }
 
-void checkReach(const SourceDocument &document, const SourceElement &element, Findings &findings)
+/** Whether the keys trigger the control itself; reports it if they do not. */
+bool checkReach(const SourceDocument &document, const SourceElement &element, Findings &findings)
 {
-    const bool isButton = element.role == Role::RowButton || element.role == Role::GroupButton;
-    if (isButton && !actsInWindow(document, element))
-        findings.warn("shortcut-without-scope", element.positionOf("shortcut"),
+    if (actsInWindow(document, element))
+        return true;
+    const SourcePosition position = element.positionOf("shortcut");
+    if (element.role == Role::RowButton || element.role == Role::GroupButton)
+        findings.warn("shortcut-without-scope", position,
                       QStringLiteral("on %1 a shortcut acts only with shortcutscope=\"window\"")
                           .arg(Vocabulary::noun(element.role)));
+    else if (document.isBelow(element, Role::AppSection))
+        findings.warn("shortcut-only-shown", position,
+                      QStringLiteral("an entry of the application menus only shows its shortcut; "
+                                     "add shortcutscope=\"window\", which leaves the keys to the "
+                                     "host if that has them, too"));
+    else
+        return true;
+    return false;
 }
 
 } // namespace
@@ -100,7 +108,8 @@ void Rules::checkShortcuts(const SourceDocument &document, Findings &findings)
                               .arg(shortcut));
             continue;
         }
-        checkReach(document, element, findings);
+        if (!checkReach(document, element, findings))
+            continue;
         auto &owners = ownersByScope[actsInWindow(document, element) ? 1 : 0];
         if (const SourceElement *owner = owners.value(keys))
             checkCollision(document, *owner, element, keys, findings);

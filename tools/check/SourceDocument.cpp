@@ -213,6 +213,14 @@ SourcePosition SourceElement::positionOf(const char *attribute) const
     return found ? found->position : position;
 }
 
+bool SourceDocument::isBelow(const SourceElement &element, Role role) const
+{
+    const SourceElement *above = &element;
+    while (above->parent >= 0 && above->role != role)
+        above = &parentOf(*above);
+    return above->role == role;
+}
+
 SourceDocument readDocument(const QByteArray &description)
 {
     SourceDocument document;

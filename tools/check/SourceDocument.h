@@ -44,6 +44,8 @@ struct SourceElement
     const SourceAttribute *find(const char *attribute) const;
     /** The position of the attribute; that of the element if it has no such attribute. */
     SourcePosition positionOf(const char *attribute) const;
+    /** The position of the attribute that names the element; that of the element without one. */
+    SourcePosition namePosition() const { return positionOf(has("action") ? "action" : "name"); }
 };
 
 struct SourceFault
@@ -62,6 +64,8 @@ struct SourceDocument
 
     const SourceElement &at(int index) const { return elements[static_cast<std::size_t>(index)]; }
     const SourceElement &parentOf(const SourceElement &element) const { return at(element.parent); }
+    /** Whether the element or one around it has the role. */
+    bool isBelow(const SourceElement &element, Role role) const;
 };
 
 SourceDocument readDocument(const QByteArray &description);

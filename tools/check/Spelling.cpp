@@ -27,6 +27,17 @@ int distance(const QString &from, const QString &to)
     return row.back();
 }
 
+/** Whether two neighbouring letters have changed their places, and nothing else. */
+bool isSwapped(const QString &word, const QString &meant)
+{
+    const auto ends = std::mismatch(word.cbegin(), word.cend(), meant.cbegin(), meant.cend());
+    const int position = static_cast<int>(std::distance(word.cbegin(), ends.first));
+    QString swapped = word;
+    if (position + 1 < word.size())
+        std::iter_swap(swapped.begin() + position, swapped.begin() + position + 1);
+    return swapped == meant;
+}
+
 } // namespace
 
 QString Spelling::nearest(const QString &word, const QStringList &candidates)
@@ -42,6 +53,15 @@ QString Spelling::nearest(const QString &word, const QStringList &candidates)
         }
     }
     return best;
+}
+
+bool Spelling::isSlip(const QString &word, const QString &meant)
+{
+    // Two letters of a short name make another one.
+    constexpr int shortLength = 6;
+    const int steps = distance(word, meant);
+    const int swapped = isSwapped(word, meant) ? 1 : steps;
+    return word != meant && std::min(steps, swapped) <= (meant.size() > shortLength ? 2 : 1);
 }
 
 QString Spelling::hint(const QString &word, const QStringList &candidates)

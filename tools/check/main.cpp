@@ -68,6 +68,8 @@ void addOptions(QCommandLineParser &parser)
              "Load the resources of a host first, for icons of its own below the skin's; "
              "a file made with rcc --binary."),
          QStringLiteral("rcc file")},
+        {QStringLiteral("tooltipwords"),
+         QStringLiteral("The host sets the skin key of this name, so no tooltip cuts a word.")},
         {QStringLiteral("notes"), QStringLiteral("Report notes, too; they count like the rest.")},
         {QStringLiteral("werror"), QStringLiteral("Report warnings as errors.")},
         {QStringLiteral("json"), QStringLiteral("Write the findings as a JSON array.")},
@@ -208,6 +210,7 @@ int main(int argc, char *argv[])
     options.skin = parser.value(QStringLiteral("skin"));
     if (parser.isSet(QStringLiteral("skin")) && !SkinIcons::skins().contains(options.skin))
         return fail(QStringLiteral("there is no skin '%1', only marodi and lum").arg(options.skin));
+    options.hasToolTipWords = parser.isSet(QStringLiteral("tooltipwords"));
     const QStringList resources = parser.values(QStringLiteral("resources"));
     for (const QString &file : resources) {
         if (!QResource::registerResource(file))

@@ -29,6 +29,7 @@ QVector<Finding> check(const QByteArray &content, const QString &skin)
 {
     CheckOptions options;
     options.skin = skin;
+    options.hasToolTipWords = true; // ReaderWindow sets the skin key.
     return checkDescription(content, options);
 }
 #else
