@@ -225,6 +225,13 @@ private Q_SLOTS:
             {"absent.xml -", clean, 2, ""},
             {"--oops -", {}, 2, ""},
             {"--resources absent.rcc -", {}, 2, ""},
+            {"--resources " CHECK_TOOL " -", {}, 2, ""},
+            {"--skin", {}, 2, ""},
+            {"--names -", clean, 2, ""},
+            {"--names -o names.h --texts -", clean, 2, ""},
+            {"-o names.h -", clean, 2, ""},
+            {"--errors-fail -", withWarning, 0, "-:3:20: warning: "},
+            {"--errors-fail --werror -", withWarning, 1, "-:3:20: error: "},
             {"--skin blue -", {}, 2, ""},
             {"--help", {}, 0, "Usage: "},
             {"--version", {}, 0, "mrtoolbar-check "}};
@@ -236,6 +243,68 @@ private Q_SLOTS:
             // One line, and only if the call itself is wrong.
             QCOMPARE(int(result.error.count('\n')), exitCode == 2 ? 1 : 0);
         }
+    }
+
+    void shouldLoadTheIconsOfTheHost_data()
+    {
+        QTest::addColumn<QString>("resources");
+        for (const QString name : {"icons", "icons.qrc", "icons.rcc"})
+            QTest::newRow(qPrintable(name)) << name;
+    }
+
+    void shouldLoadTheIconsOfTheHost()
+    {
+        QFETCH(const QString, resources);
+        const QTemporaryDir folder;
+        QVERIFY(QDir(folder.path()).mkpath("icons/lum"));
+        writeFile(folder.filePath("icons/a&b.svg"), "<svg/>");
+        writeFile(folder.filePath("icons/lum/b.svg"), "<svg/>");
+        writeFile(folder.filePath("icons.qrc"),
+                  "<RCC><qresource prefix='/mr_toolbar/Resources/lum/icons'><file alias='b.svg'>"
+                  "icons/lum/b.svg</file><file alias='a&amp;b.svg'>icons/a&amp;b.svg</file>"
+                  "</qresource></RCC>");
+        QCOMPARE(QProcess::execute(RCC, {"--binary", folder.filePath("icons.qrc"), "-o",
+                                         folder.filePath("icons.rcc")}),
+                 0);
+        const QByteArray described =
+            row("<button action='a' icon='a&amp;b.svg'/><button action='b' icon='b.svg'/>");
+        const QString path = QDir::current().relativeFilePath(folder.filePath(resources));
+        for (const auto &[skin, exitCode] : {std::pair{"lum", 0}, {"marodi", 1}}) {
+            const ToolResult result =
+                runTool({"--resources", path, "--skin", skin, "-"}, described);
+            QVERIFY2(result.exitCode == exitCode, result.error + result.output);
+            // What is not for one skin alone is for both.
+            if (resources == "icons")
+                QCOMPARE(int(result.output.count("icon-missing")), exitCode);
+        }
+    }
+
+    void shouldWriteNamesAsConstants()
+    {
+        const QByteArray description =
+            row("<button action='menu_a'/><button action='b-c'/><button action='b_c'/>"
+                "<button action='delete'/><button action='1__x'/><button action='\xC3\xA9&quot;'/>")
+                .replace(
+                    "<toolbar_tabbar>",
+                    "<toolbar_quickaccessbar><button action='qbar_f'/></toolbar_quickaccessbar>"
+                    "<toolbar_tabbar>");
+        const QTemporaryDir folder;
+        const QString header = folder.filePath("names.h");
+        const QStringList call{"--names", "-", "-o", header};
+        QCOMPARE(runTool(call, description).exitCode, 0);
+        const QByteArray written = contentOf(header);
+        for (const char *constant :
+             {R"(menu_a[] = "menu_a")", R"( a[] = "a")", R"(b_c[] = "b_c")", R"(b_c_2[] = "b-c")",
+              R"(delete_[] = "delete")", R"(n1_x[] = "1__x")", R"(n_u00e9_[] = "\303\251\042")",
+              R"(qbar_f[] = "qbar_f")", R"( f[] = "f")"})
+            QVERIFY2(written.contains(constant + QByteArray(";\n")), written);
+        // What includes the header is not compiled again without a reason.
+        const QDateTime time = QFileInfo(header).lastModified();
+        QTest::qWait(20);
+        QCOMPARE(runTool(call, description).exitCode, 0);
+        QCOMPARE(QFileInfo(header).lastModified(), time);
+        QCOMPARE(runTool(call, "<uiconfig").exitCode, 2);
+        QCOMPARE(contentOf(header), written);
     }
 
     void shouldWriteFindingsAsJson()

@@ -20,6 +20,11 @@ struct ToolResult
 inline ToolResult runTool(const QStringList &arguments, const QByteArray &input = {})
 {
     QProcess tool;
+    // It is called while building, where there is no display.
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        environment.remove(QLatin1String(name));
+    tool.setProcessEnvironment(environment);
     tool.start(CHECK_TOOL, arguments);
     tool.write(input);
     tool.closeWriteChannel();

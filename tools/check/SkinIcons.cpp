@@ -11,21 +11,15 @@
 
 namespace {
 
-/** The directory of the icons of a skin. */
-QString directory(const QString &skin)
-{
-    return QStringLiteral(":/mr_toolbar/Resources/%1/icons/").arg(skin);
-}
-
 /** The names of icons as in descriptions, by file names in lower case. */
 using FilesByName = QHash<QString, QString>;
 
 FilesByName filesByName(const QString &skin)
 {
     FilesByName names;
-    QDirIterator files(directory(skin), QDir::Files, QDirIterator::Subdirectories);
+    QDirIterator files(SkinIcons::directory(skin), QDir::Files, QDirIterator::Subdirectories);
     while (files.hasNext()) {
-        const QString name = files.next().mid(directory(skin).size());
+        const QString name = files.next().mid(SkinIcons::directory(skin).size());
         QString &known = names[files.fileName().toLower()];
         // The largest of several sizes is the one for rows.
         known = std::max(known, name);
@@ -40,9 +34,14 @@ QStringList SkinIcons::skins()
     return {QStringLiteral("marodi"), QStringLiteral("lum")};
 }
 
+QString SkinIcons::directory(const QString &skin)
+{
+    return QStringLiteral(":/mr_toolbar/Resources/%1/icons/").arg(skin);
+}
+
 bool SkinIcons::exists(const QString &skin, const QString &name)
 {
-    return QFileInfo(directory(skin) + name).isFile();
+    return QFileInfo(SkinIcons::directory(skin) + name).isFile();
 }
 
 QString SkinIcons::elsewhere(const QString &skin, const QString &name)

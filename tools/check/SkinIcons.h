@@ -11,6 +11,9 @@ namespace SkinIcons {
 
 QStringList skins();
 
+/** The directory of the icons of a skin in the resources, with a slash at its end. */
+QString directory(const QString &skin);
+
 /** Whether the skin has an icon of that name, in the spelling of descriptions. */
 bool exists(const QString &skin, const QString &name);
 

@@ -6,13 +6,15 @@
 #include "tools/check/Catalogue.h"
 #include "tools/check/DescribedTexts.h"
 #include "tools/check/DescriptionCheck.h"
+#include "tools/check/HostResources.h"
+#include "tools/check/NamesHeader.h"
 #include "tools/check/Report.h"
+#include "tools/check/RoleAssignment.h"
 #include "tools/check/SkinIcons.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <QResource>
 #include <QSaveFile>
 
 #include <algorithm>
@@ -47,10 +49,33 @@ QString explanation()
         "or the command line is wrong.\n\n"
         "With --texts it writes the texts of descriptions into a catalogue for Qt Linguist "
         "instead; "
-        "a catalogue that there is keeps its translations.\n\n"
+        "a catalogue that there is keeps its translations. With --names it writes their names as "
+        "constants into a C++ header, which keeps its time if nothing changes.\n\n"
         "Examples:\n"
         "  mrtoolbar-check --skin lum my_toolbar.xml\n"
-        "  mrtoolbar-check --texts my_toolbar.xml -o my_toolbar_en.ts --target-language en");
+        "  mrtoolbar-check --texts my_toolbar.xml -o my_toolbar_en.ts --target-language en\n"
+        "  mrtoolbar-check --names my_toolbar.xml -o names.h");
+}
+
+void addCheckOptions(QCommandLineParser &parser)
+{
+    parser.addOptions({
+        {QStringLiteral("skin"),
+         QStringLiteral("Look up icons in this skin, marodi or lum; without it those of both "
+                        "skins are accepted."),
+         QStringLiteral("skin")},
+        {QStringLiteral("resources"),
+         QStringLiteral("Load the resources of a host first, for icons of its own below the "
+                        "skin's: a .qrc file, one made with rcc --binary, or a folder of icons, in "
+                        "which folders marodi and lum are for that skin only."),
+         QStringLiteral("file or folder")},
+        {QStringLiteral("tooltipwords"),
+         QStringLiteral("The host sets the skin key of this name, so no tooltip cuts a word.")},
+        {QStringLiteral("notes"), QStringLiteral("Report notes, too; they count like the rest.")},
+        {QStringLiteral("werror"), QStringLiteral("Report warnings as errors.")},
+        {QStringLiteral("errors-fail"), QStringLiteral("Exit with 1 for errors only.")},
+        {QStringLiteral("json"), QStringLiteral("Write the findings as a JSON array.")},
+    });
 }
 
 void addOptions(QCommandLineParser &parser)
@@ -58,24 +83,13 @@ void addOptions(QCommandLineParser &parser)
     parser.setApplicationDescription(explanation());
     parser.addHelpOption();
     parser.addVersionOption();
+    addCheckOptions(parser);
     parser.addOptions({
-        {QStringLiteral("skin"),
-         QStringLiteral("Look up icons in this skin, marodi or lum; without it those of both "
-                        "skins are accepted."),
-         QStringLiteral("skin")},
-        {QStringLiteral("resources"),
-         QStringLiteral(
-             "Load the resources of a host first, for icons of its own below the skin's; "
-             "a file made with rcc --binary."),
-         QStringLiteral("rcc file")},
-        {QStringLiteral("tooltipwords"),
-         QStringLiteral("The host sets the skin key of this name, so no tooltip cuts a word.")},
-        {QStringLiteral("notes"), QStringLiteral("Report notes, too; they count like the rest.")},
-        {QStringLiteral("werror"), QStringLiteral("Report warnings as errors.")},
-        {QStringLiteral("json"), QStringLiteral("Write the findings as a JSON array.")},
         {QStringLiteral("texts"), QStringLiteral("Write the texts into the catalogue of -o.")},
-        {QStringLiteral("o"), QStringLiteral("With --texts: the catalogue."),
-         QStringLiteral("ts file")},
+        {QStringLiteral("names"),
+         QStringLiteral("Write the names as constants of C++ into the header of -o.")},
+        {QStringLiteral("o"), QStringLiteral("With --texts or --names: the file to write."),
+         QStringLiteral("file")},
         {QStringLiteral("source-language"),
          QStringLiteral(
              "With --texts: the language of the descriptions, zh_CN unless the catalogue "
@@ -123,6 +137,15 @@ QVector<Finding> reported(QVector<Finding> findings, const QCommandLineParser &p
     return findings;
 }
 
+/** Whether the findings are told by the exit status. */
+bool counts(const QVector<Finding> &findings, const QCommandLineParser &parser)
+{
+    const bool isStrict = !parser.isSet(QStringLiteral("errors-fail"));
+    return std::any_of(findings.begin(), findings.end(), [isStrict](const Finding &finding) {
+        return isStrict || finding.severity == Severity::Error;
+    });
+}
+
 int checkFiles(const QCommandLineParser &parser, const CheckOptions &options)
 {
     ExitCode code = Clean;
@@ -136,13 +159,26 @@ int checkFiles(const QCommandLineParser &parser, const CheckOptions &options)
             continue;
         }
         reports.append({path, reported(checkDescription(content, options), parser)});
-        if (code == Clean && !reports.last().findings.isEmpty())
+        if (code == Clean && counts(reports.last().findings, parser))
             code = Found;
     }
     const QByteArray output = parser.isSet(QStringLiteral("json")) ? Report::json(reports)
                                                                    : Report::text(reports).toUtf8();
     std::fwrite(output.constData(), 1, static_cast<std::size_t>(output.size()), stdout);
     return code;
+}
+
+/** Writes the file unless it has that content already. */
+int write(const QString &path, const QByteArray &content)
+{
+    QFile present(path);
+    if (present.open(QIODevice::ReadOnly) && present.readAll() == content)
+        return Clean;
+    present.close();
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) < 0 || !file.commit())
+        return fail(QStringLiteral("cannot write '%1': %2").arg(path, file.errorString()));
+    return Clean;
 }
 
 /** The catalogue as it is so far, or a new one. */
@@ -161,9 +197,6 @@ bool readCatalogue(const QString &path, Catalogue *catalogue, QString *error)
 int writeTexts(const QCommandLineParser &parser)
 {
     const QString path = parser.value(QStringLiteral("o"));
-    if (path.isEmpty())
-        return fail(QStringLiteral("--texts needs a catalogue to write to: -o FILE.ts"));
-
     DescribedTexts texts;
     QString error;
     const QStringList descriptions = parser.positionalArguments();
@@ -183,10 +216,48 @@ int writeTexts(const QCommandLineParser &parser)
     const bool hasPlaces = !parser.isSet(QStringLiteral("no-locations"));
     catalogue.update(texts.all(), hasPlaces ? QFileInfo(path).absolutePath() : QString());
 
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(catalogue.content()) < 0 || !file.commit())
-        return fail(QStringLiteral("cannot write '%1': %2").arg(path, file.errorString()));
-    return Clean;
+    return write(path, catalogue.content());
+}
+
+int writeNames(const QCommandLineParser &parser)
+{
+    NamesHeader header;
+    QStringList origin;
+    const QStringList descriptions = parser.positionalArguments();
+    for (const QString &path : descriptions) {
+        QByteArray content;
+        QString error;
+        if (!read(path, &content, &error))
+            return fail(error);
+        SourceDocument document = readDocument(content);
+        if (document.fault)
+            return fail(QStringLiteral("'%1' cannot be read; check it").arg(path));
+        assignRoles(document);
+        header.add(document);
+        origin.append(QFileInfo(path).fileName());
+    }
+    return write(parser.value(QStringLiteral("o")),
+                 header.content(origin.join(QLatin1String(", "))));
+}
+
+/** What is wrong with the options together; empty if nothing is. */
+QString faultOf(const QCommandLineParser &parser)
+{
+    const bool writesTexts = parser.isSet(QStringLiteral("texts"));
+    const bool writesNames = parser.isSet(QStringLiteral("names"));
+    if (writesTexts && writesNames)
+        return QStringLiteral("--texts and --names write different files; call it twice");
+    if ((writesTexts || writesNames) && parser.value(QStringLiteral("o")).isEmpty())
+        return writesTexts ? QStringLiteral("--texts needs a catalogue to write to: -o FILE.ts")
+                           : QStringLiteral("--names needs a header to write to: -o FILE.h");
+    if (parser.isSet(QStringLiteral("o")) && !writesTexts && !writesNames)
+        return QStringLiteral("-o needs --texts or --names");
+    const QString skin = parser.value(QStringLiteral("skin"));
+    if (parser.isSet(QStringLiteral("skin")) && !SkinIcons::skins().contains(skin))
+        return QStringLiteral("there is no skin '%1', only marodi and lum").arg(skin);
+    if (parser.positionalArguments().isEmpty())
+        return QStringLiteral("no file to check; --help lists the options");
+    return QString();
 }
 
 } // namespace
@@ -206,17 +277,19 @@ int main(int argc, char *argv[])
     if (parser.isSet(QStringLiteral("version")))
         parser.showVersion();
 
+    const QString fault = faultOf(parser);
+    if (!fault.isEmpty())
+        return fail(fault);
     CheckOptions options;
     options.skin = parser.value(QStringLiteral("skin"));
-    if (parser.isSet(QStringLiteral("skin")) && !SkinIcons::skins().contains(options.skin))
-        return fail(QStringLiteral("there is no skin '%1', only marodi and lum").arg(options.skin));
     options.hasToolTipWords = parser.isSet(QStringLiteral("tooltipwords"));
     const QStringList resources = parser.values(QStringLiteral("resources"));
-    for (const QString &file : resources) {
-        if (!QResource::registerResource(file))
-            return fail(QStringLiteral("there are no resources in '%1'").arg(file));
+    for (const QString &path : resources) {
+        const QString error = HostResources::load(path);
+        if (!error.isEmpty())
+            return fail(error);
     }
-    if (parser.positionalArguments().isEmpty())
-        return fail(QStringLiteral("no file to check; --help lists the options"));
+    if (parser.isSet(QStringLiteral("names")))
+        return writeNames(parser);
     return parser.isSet(QStringLiteral("texts")) ? writeTexts(parser) : checkFiles(parser, options);
 }

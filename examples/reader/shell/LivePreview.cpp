@@ -8,7 +8,12 @@
 #include "shell/Language.h"
 #include "shell/ReaderWindow.h"
 
+#ifdef READER_HAS_CHECKER
+#include "tools/check/HostResources.h"
+#endif
+
 #include <QFileInfo>
+#include <QResource>
 
 #include <algorithm>
 
@@ -32,6 +37,11 @@ QVector<Finding> check(const QByteArray &content, const QString &skin)
     options.hasToolTipWords = true; // ReaderWindow sets the skin key.
     return checkDescription(content, options);
 }
+
+QString loadResource(const QString &path)
+{
+    return HostResources::load(path);
+}
 #else
 QString emptyNotice()
 {
@@ -41,6 +51,15 @@ QString emptyNotice()
 QVector<Finding> check(const QByteArray & /*content*/, const QString & /*skin*/)
 {
     return {};
+}
+
+QString loadResource(const QString &path)
+{
+    return QResource::registerResource(path)
+               ? QString()
+               : QStringLiteral("cannot load '%1'; without the checker only files made with "
+                                "rcc --binary are loaded")
+                     .arg(path);
 }
 #endif
 
@@ -67,6 +86,16 @@ LivePreview::LivePreview(ReaderWindow &window, const Options &options)
     window.addDockWidget(Qt::BottomDockWidgetArea, m_panel);
     connect(&m_watcher, &FileWatcher::fileRead, this, &LivePreview::showFile);
     m_watcher.start();
+}
+
+QString LivePreview::loadResources(const QStringList &paths)
+{
+    for (const QString &path : paths) {
+        const QString error = loadResource(path);
+        if (!error.isEmpty())
+            return error;
+    }
+    return QString();
 }
 
 void LivePreview::showFile(const QByteArray &content, const QString &fault)

@@ -21,6 +21,9 @@ public:
     /** Reads the file before it returns. */
     LivePreview(ReaderWindow &window, const Options &options);
 
+    /** Loads the resources of a host as the checker does; returns why that is impossible. */
+    static QString loadResources(const QStringList &paths);
+
 private:
     void showFile(const QByteArray &content, const QString &fault);
 

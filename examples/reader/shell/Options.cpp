@@ -79,6 +79,16 @@ const QCommandLineOption &watchOption()
     return option;
 }
 
+const QCommandLineOption &resourcesOption()
+{
+    static const QCommandLineOption option(
+        QStringLiteral("resources"),
+        QStringLiteral("Load resources with icons for the description: a .qrc file, one made with "
+                       "rcc --binary, or a folder of icons."),
+        QStringLiteral("file or folder"));
+    return option;
+}
+
 /** Why a description cannot be watched, such as those that are resources. */
 QString watchFaultOf(const QString &description)
 {
@@ -120,7 +130,7 @@ Options Options::of(const QStringList &arguments, QString *error)
         QStringLiteral("file"), QStringLiteral("An OFD file; without one the pages are generated."),
         QStringLiteral("[file]"));
     parser.addOptions({skinOption(), languageOption(), schemeOption(), descriptionOption(),
-                       watchOption(), screenshotOption(), clearHistoryOption()});
+                       watchOption(), resourcesOption(), screenshotOption(), clearHistoryOption()});
     const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
                                   QStringLiteral("Show this text and end."));
     parser.addOption(help);
@@ -137,6 +147,7 @@ Options Options::of(const QStringList &arguments, QString *error)
     options.language = parser.value(languageOption());
     options.scheme = parser.value(schemeOption());
     options.description = parser.value(descriptionOption());
+    options.resources = parser.values(resourcesOption());
     options.screenshot = parser.value(screenshotOption());
     options.file = parser.positionalArguments().value(0);
     options.watch = parser.isSet(watchOption());

@@ -13,8 +13,9 @@ struct Options
     QString language;
     QString scheme; ///< Empty for the one of the last run.
     QString description;
-    QString screenshot; ///< Empty if no picture is requested.
-    QString file;       ///< The document to open; empty for the sample.
+    QStringList resources; ///< Of a host, with the icons of the description.
+    QString screenshot;    ///< Empty if no picture is requested.
+    QString file;          ///< The document to open; empty for the sample.
     bool clearHistory = false;
     bool watch = false; ///< Rebuild the toolbar whenever the description is saved.
 

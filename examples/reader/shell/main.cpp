@@ -55,6 +55,9 @@ int main(int argc, char *argv[])
     const Options options = Options::of(QCoreApplication::arguments(), &error);
     if (!error.isEmpty())
         return fail(error);
+    error = LivePreview::loadResources(options.resources);
+    if (!error.isEmpty())
+        return fail(error);
     Language::install(options.language);
     const QDomDocument description = describedToolBar(options, &error);
     if (!error.isEmpty())
