@@ -3,6 +3,8 @@
 
 // A notepad with its own description and its own icons.
 
+#include <names.h> // Made from the description.
+
 #include <toolbar/MRToolBar.h>
 
 #include <QApplication>
@@ -17,7 +19,7 @@
 int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
-    QFile file(":/notepad/description.xml");
+    QFile file(":/mr_toolbar/Resources/marodi/description.xml");
     QDomDocument description;
     if (!file.open(QIODevice::ReadOnly) || !description.setContent(file.readAll()))
         return 1;
@@ -32,12 +34,12 @@ int main(int argc, char *argv[])
         note->setLineWrapMode(isOn ? QPlainTextEdit::WidgetWidth : QPlainTextEdit::NoWrap);
     };
     const QMap<QString, std::function<void()>> commands{
-        {"n_clear", [&] { note->clear(); }},
-        {"n_date", [&] { note->insertPlainText(QDate::currentDate().toString(Qt::ISODate)); }},
-        {"n_wrap", [&] { setWrap(toolBar.GetControlCheckedState("n_wrap")); }},
-        {"n_undo", [&] { note->undo(); }},
-        {"n_redo", [&] { note->redo(); }},
-        {"n_exit", [&] { window.close(); }},
+        {Names::n_clear, [&] { note->clear(); }},
+        {Names::n_date, [&] { note->insertPlainText(QDate::currentDate().toString(Qt::ISODate)); }},
+        {Names::n_wrap, [&] { setWrap(toolBar.GetControlCheckedState(Names::n_wrap)); }},
+        {Names::n_undo, [&] { note->undo(); }},
+        {Names::n_redo, [&] { note->redo(); }},
+        {Names::n_exit, [&] { window.close(); }},
     };
     const auto reportStates = [&] {
         for (QString name : commands.keys())
