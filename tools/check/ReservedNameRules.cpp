@@ -193,8 +193,8 @@ private:
         if (!match.hasMatch())
             return false;
         return warn("zoom-mode-without-p", element,
-                    QStringLiteral("without a 'p' at its end '%1' is no percentage, and no zoom "
-                                   "that the host reports leads to it; name it '%2%3p'")
+                    QStringLiteral("without a 'p' at its end '%1' is no percentage, so the zoom "
+                                   "buttons do not follow it; name it '%2%3p'")
                         .arg(element.record.name, Prefix::zoomMode, match.captured(1)));
     }
 
