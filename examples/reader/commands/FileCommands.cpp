@@ -69,13 +69,17 @@ void FileCommands::addTo(CommandTable &table)
               [this](const QString &) { m_parts.say(tr("检查更新：示例不连接网络")); });
 }
 
-void FileCommands::open(const QString &fileName)
+void FileCommands::open(const QString &fileName, QString *refusal)
 {
     if (!mayLeaveDocument())
         return;
     QString error;
     if (!m_parts.document->open(fileName, &error)) {
-        refuse(fileName, error);
+        const QString sentence = tr("无法打开“%1”：%2").arg(QFileInfo(fileName).fileName(), error);
+        if (refusal)
+            *refusal = sentence;
+        else
+            showRefusal(sentence);
         return;
     }
     m_savedFile.clear();
@@ -87,12 +91,11 @@ void FileCommands::open(const QString &fileName)
                                   : leftOut);
 }
 
-void FileCommands::refuse(const QString &fileName, const QString &reason) const
+void FileCommands::showRefusal(const QString &sentence) const
 {
     // Not exec(): a file of the command line is opened before the window is shown.
-    auto *box = new QMessageBox(QMessageBox::Warning, tr("无法打开"),
-                                tr("无法打开“%1”：%2").arg(QFileInfo(fileName).fileName(), reason),
-                                QMessageBox::Ok, m_parts.window);
+    auto *box = new QMessageBox(QMessageBox::Warning, tr("无法打开"), sentence, QMessageBox::Ok,
+                                m_parts.window);
     box->setTextFormat(Qt::PlainText);
     box->button(QMessageBox::Ok)->setText(tr("确定"));
     box->setAttribute(Qt::WA_DeleteOnClose);

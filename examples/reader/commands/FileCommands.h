@@ -22,9 +22,10 @@ public:
 
     /**
      * Opens a file and adds it to the recent files, unless mayLeaveDocument() returns false. A file
-     * that cannot be opened does not change the open document; one message tells why.
+     * that cannot be opened does not change the open document; one message tells why, or refusal
+     * does if it is given.
      */
-    void open(const QString &fileName);
+    void open(const QString &fileName, QString *refusal = nullptr);
     /**
      * Whether the open document may be replaced or closed: it is unchanged, or the user was asked
      * and has saved or discarded the changes. After an incomplete save it may not.
@@ -39,7 +40,7 @@ private:
     bool saveAs();
     bool saveTo(const QString &fileName);
     void print();
-    void refuse(const QString &fileName, const QString &reason) const;
+    void showRefusal(const QString &sentence) const;
     void showProperties() const;
     void showPreferences();
     void showAbout() const;

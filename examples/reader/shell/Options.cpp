@@ -9,6 +9,8 @@
 #include <QCommandLineParser>
 #include <QFileInfo>
 
+#include <algorithm>
+
 namespace {
 
 const QStringList skins = {QStringLiteral("marodi"), QStringLiteral("lum")};
@@ -122,6 +124,15 @@ QString faultOf(const QCommandLineParser &parser)
 
 } // namespace
 
+bool Options::askForText(int count, char *const *arguments)
+{
+    static const QStringList names = {QStringLiteral("-h"), QStringLiteral("--help"),
+                                      QStringLiteral("-v"), QStringLiteral("--version")};
+    return std::any_of(arguments, arguments + count, [](const char *argument) {
+        return names.contains(QString::fromLocal8Bit(argument));
+    });
+}
+
 Options Options::of(const QStringList &arguments, QString *error)
 {
     QCommandLineParser parser;
@@ -134,6 +145,7 @@ Options Options::of(const QStringList &arguments, QString *error)
     const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
                                   QStringLiteral("Show this text and end."));
     parser.addOption(help);
+    const QCommandLineOption version = parser.addVersionOption();
 
     Options options;
     if (!parser.parse(arguments)) {
@@ -142,6 +154,8 @@ Options Options::of(const QStringList &arguments, QString *error)
     }
     if (parser.isSet(help))
         parser.showHelp();
+    if (parser.isSet(version))
+        parser.showVersion();
     *error = faultOf(parser);
     options.skin = parser.value(skinOption());
     options.language = parser.value(languageOption());

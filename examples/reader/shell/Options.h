@@ -19,6 +19,8 @@ struct Options
     bool clearHistory = false;
     bool watch = false; ///< Rebuild the toolbar whenever the description is saved.
 
-    /** Parses the arguments. On --help prints the help and ends the program. */
+    /** Whether the arguments ask for a text only, which needs no display. */
+    static bool askForText(int count, char *const *arguments);
+    /** Parses the arguments. On --help and --version prints the text and ends the program. */
     static Options of(const QStringList &arguments, QString *error);
 };

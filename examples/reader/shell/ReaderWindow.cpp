@@ -293,9 +293,9 @@ void ReaderWindow::readZoomBox(int index)
         m_view->setZoomMode(mode);
 }
 
-void ReaderWindow::open(const QString &fileName)
+void ReaderWindow::openOrExplain(const QString &fileName, QString *refusal)
 {
-    m_fileCommands.open(fileName);
+    m_fileCommands.open(fileName, refusal);
     stateChanged();
 }
 

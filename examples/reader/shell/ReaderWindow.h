@@ -46,7 +46,9 @@ public:
     /** Makes the window as light or dark as one of ReaderScheme::names(). */
     void setScheme(const QString &scheme);
 
-    void open(const QString &fileName);
+    void open(const QString &fileName) { openOrExplain(fileName, nullptr); }
+    /** The same, with what would be shown when a file cannot be opened in refusal instead. */
+    void openOrExplain(const QString &fileName, QString *refusal);
     /** Opens a generated document, which is not added to the recent files. */
     void openSample();
 

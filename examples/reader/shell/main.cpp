@@ -40,18 +40,59 @@ QDomDocument describedToolBar(const Options &options, QString *error)
     return description;
 }
 
+/** Opens the document of the command line, or the sample; returns what is wrong with it. */
+QString openDocument(ReaderWindow &window, const Options &options)
+{
+    QString refusal;
+    if (options.file.isEmpty())
+        window.openSample();
+    else if (options.screenshot.isEmpty())
+        window.open(options.file);
+    else // Nobody would answer a message.
+        window.openOrExplain(options.file, &refusal);
+    return refusal;
+}
+
+int show(const Options &options, const QDomDocument &description)
+{
+    // With --watch the description decides about the quick access buttons, not the user's setting.
+    ReaderWindow window(description, options.watch ? QString() : options.skin);
+    if (!options.scheme.isEmpty())
+        window.setScheme(options.scheme);
+    std::optional<LivePreview> preview;
+    if (options.watch)
+        preview.emplace(window, options);
+    const QString refusal = openDocument(window, options);
+    if (!refusal.isEmpty())
+        return fail(refusal);
+    window.show();
+    if (options.screenshot.isEmpty())
+        return QApplication::exec();
+
+    Screenshot screenshot(&window, options.screenshot);
+    QObject::connect(&screenshot, &Screenshot::saved, qApp, [] { QCoreApplication::exit(0); });
+    QObject::connect(&screenshot, &Screenshot::failed, qApp,
+                     [](const QString &reason) { QCoreApplication::exit(fail(reason)); });
+    return QApplication::exec();
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
 {
+    QCoreApplication::setApplicationName(QStringLiteral("mrtoolbar-reader"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(MRTOOLBAR_VERSION));
+    QString error;
+    if (Options::askForText(argc, argv)) {
+        const QCoreApplication application(argc, argv);
+        Options::of(QCoreApplication::arguments(), &error);
+        return fail(error); // Only a wrong command line gets here.
+    }
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     // Qt 6 always uses pixmaps of the density of the screen.
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
 #endif
-    QApplication application(argc, argv);
-    QCoreApplication::setApplicationName(QStringLiteral("mrtoolbar-reader"));
-
-    QString error;
+    const QApplication application(argc, argv);
     const Options options = Options::of(QCoreApplication::arguments(), &error);
     if (!error.isEmpty())
         return fail(error);
@@ -65,25 +106,5 @@ int main(int argc, char *argv[])
 
     // The skin belongs to the process and must be chosen before the first toolbar is created.
     NewToolBar::uiStyle = options.skin == QLatin1String("lum") ? lumStyle : 0;
-    // With --watch the description decides about the quick access buttons, not the user's setting.
-    ReaderWindow window(description, options.watch ? QString() : options.skin);
-    if (!options.scheme.isEmpty())
-        window.setScheme(options.scheme);
-    std::optional<LivePreview> preview;
-    if (options.watch)
-        preview.emplace(window, options);
-    if (options.file.isEmpty())
-        window.openSample();
-    else
-        window.open(options.file);
-    window.show();
-    if (options.screenshot.isEmpty())
-        return QApplication::exec();
-
-    Screenshot screenshot(&window, options.screenshot);
-    QObject::connect(&screenshot, &Screenshot::saved, &application,
-                     [] { QCoreApplication::exit(0); });
-    QObject::connect(&screenshot, &Screenshot::failed, &application,
-                     [](const QString &reason) { QCoreApplication::exit(fail(reason)); });
-    return QApplication::exec();
+    return show(options, description);
 }
