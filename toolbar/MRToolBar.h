@@ -243,6 +243,8 @@ public Q_SLOTS:
     void DoFindCommandSlot();
 
 private:
+    friend class MRToolBarCommands;
+
     void connectToolBar();
 
     QPointer<NewToolBar> m_toolBar; ///< Owned by its window.

@@ -6,6 +6,7 @@
 #include "toolbar/NewToolBarParts.h"
 #include "toolbar/build/TopLine.h"
 #include "toolbar/description/Controller.h"
+#include "toolbar/description/DescriptionLog.h"
 #include "toolbar/description/DescriptionParser.h"
 #include "toolbar/description/Names.h"
 #include "toolbar/skin/Appearance.h"
@@ -182,8 +183,13 @@ bool NewToolBar::Init(QDomNode &description)
     m_resourceDir = GetResourceDir();
 
     const QDomElement root = description.toElement();
-    if (root.tagName() != Tag::root || !root.hasAttribute(RootAttribute::prefix))
+    if (root.tagName() != Tag::root || !root.hasAttribute(RootAttribute::prefix)) {
+        qCWarning(
+            descriptionLog,
+            "the toolbar is empty: its description is \"%ls\", not \"uiconfig\" with a prefix",
+            qUtf16Printable(root.tagName()));
         return false;
+    }
 
     // An empty prefix stays empty, deliberately; the fallback is never reached.
     m_iconPrefix = root.attribute(RootAttribute::prefix,

@@ -21,6 +21,7 @@ class Appearance;
 class CommandAccess;
 class CommandFinder;
 class CustomMenuStyle;
+class DescribedNames;
 class MRDropButton;
 class MRScrollWidget;
 class MRSearchBar;
@@ -28,6 +29,7 @@ class QAction;
 class QActionGroup;
 class QButtonGroup;
 class QDomNode;
+class QKeySequence;
 class QLineEdit;
 class QMainWindow;
 class QMenu;
@@ -93,6 +95,17 @@ public:
     void ShowContext(const QString &name, bool shown);
     void ShowTab(const QString &name);
     QString GetToolBarState() const;
+    /** @} */
+
+    /** @name What the commands of a host ask
+     *  @{ */
+    /** The names of the description as signals report them, of controls not made yet, too. */
+    QStringList CommandNames() const;
+    /** Whether a call by that name means something of the description, or a part of the toolbar. */
+    bool IsDescribed(const QString &name) const;
+    QKeySequence DescribedShortcut(const QString &name) const;
+    /** Shows another sequence beside a command, which does not act here. */
+    void ShowShortcut(const QString &name, const QKeySequence &sequence);
     /** @} */
 
     /** The skin's directory of resources, with its trailing slash. */
@@ -215,6 +228,10 @@ private:
     void makeWindowShortcuts();
     void useByKeys(const CommandPlace &place);
     void chooseKeyTips(const QString &choice);
+
+    // The names of the description, for the log.
+    const DescribedNames &describedNames() const;
+    void reportUnknown(const QString &name) const;
 
     // What is kept between two runs.
     static std::optional<KeptState> takeState(QMap<QString, QString> &options);

@@ -17,6 +17,7 @@
 #include "toolbar/commands/CommandDispatcher.h"
 #include "toolbar/commands/SearchDispatcher.h"
 #include "toolbar/commands/ShownShortcuts.h"
+#include "toolbar/description/DescribedNames.h"
 #include "toolbar/fields/PageField.h"
 #include "toolbar/fields/RecentFiles.h"
 #include "toolbar/fields/ZoomBox.h"
@@ -86,4 +87,5 @@ struct NewToolBar::Parts
     StateKeeper keeper;
     std::unique_ptr<AddedCommands> added; ///< Where the description lets the user add commands.
     QuickAccessOffer *offer = nullptr;    ///< Likewise.
+    std::optional<DescribedNames> names;  ///< From the first question about them on.
 };

@@ -4,16 +4,19 @@
 #include "toolbar/NewToolBar.h"
 
 #include "toolbar/NewToolBarParts.h"
+#include "toolbar/description/DescriptionLog.h"
 #include "toolbar/description/Names.h"
 #include "toolbar/widgets/FocusEntry.h"
 #include "toolbar/widgets/MRScrollWidget.h"
 
 #include <QAction>
+#include <QKeySequence>
 #include <QStackedWidget>
 #include <QToolBar>
 
 void NewToolBar::DoSetControlUsableStateSlot(QString &objName, bool usable)
 {
+    reportUnknown(objName);
     if (m_isFirstUsableCall && m_toolRowStack)
         m_toolRowStack->setEnabled(true);
     m_isFirstUsableCall = false;
@@ -36,6 +39,7 @@ void NewToolBar::DoSetControlUsableStateSlot(QString &objName, bool usable)
 
 void NewToolBar::DoSetControlVisibleStateSlot(QString &objName, bool visible)
 {
+    reportUnknown(objName);
     if (m_parts->windowShortcuts)
         m_parts->windowShortcuts->noteVisible(objName, visible);
     const QPointer<NewToolBar> self(this);
@@ -53,6 +57,7 @@ void NewToolBar::DoSetControlCheckedStateSlot(QString &objName, bool checked)
     const auto colon = objName.indexOf(QLatin1Char(':'));
     if (colon >= 0)
         objName.truncate(colon);
+    reportUnknown(objName);
     if (m_parts->windowShortcuts)
         m_parts->windowShortcuts->noteChecked(objName, checked);
     if (m_parts->added)
@@ -87,6 +92,7 @@ QRect NewToolBar::GetControlGeometry(QString name)
 
 void NewToolBar::SetControlText(const QString &name, const QString &text)
 {
+    reportUnknown(name);
     m_parts->presentation.setText(name, text);
     if (m_parts->finder)
         m_parts->finder->followTexts();
@@ -94,6 +100,7 @@ void NewToolBar::SetControlText(const QString &name, const QString &text)
 
 void NewToolBar::SetControlToolTip(const QString &name, const QString &tip)
 {
+    reportUnknown(name);
     m_parts->presentation.setToolTip(name, tip);
     if (m_parts->finder)
         m_parts->finder->followTexts();
@@ -101,6 +108,7 @@ void NewToolBar::SetControlToolTip(const QString &name, const QString &tip)
 
 void NewToolBar::SetControlIcon(const QString &name, const QIcon &icon)
 {
+    reportUnknown(name);
     m_parts->presentation.setIcon(name, icon);
     if (m_parts->finder)
         m_parts->finder->followStates();
@@ -125,4 +133,44 @@ void NewToolBar::ResetToolbarState()
     const QStringList added = self && m_parts->added ? m_parts->added->names() : QStringList();
     for (const QString &name : added)
         m_parts->added->setWaiting(name, &QAction::setChecked, false);
+}
+
+QStringList NewToolBar::CommandNames() const
+{
+    return describedNames().reported();
+}
+
+bool NewToolBar::IsDescribed(const QString &name) const
+{
+    return describedNames().reach(name);
+}
+
+QKeySequence NewToolBar::DescribedShortcut(const QString &name) const
+{
+    return QKeySequence(describedNames().shortcut(name));
+}
+
+void NewToolBar::ShowShortcut(const QString &name, const QKeySequence &sequence)
+{
+    for (const QString &actionName : {name, QString(Prefix::menu + name)}) {
+        for (const qsizetype position : m_actions.positions(actionName)) {
+            if (QAction *action = m_actions.at(position))
+                m_parts->shortcuts.showOnly(action, sequence);
+        }
+    }
+}
+
+const DescribedNames &NewToolBar::describedNames() const
+{
+    if (!m_parts->names)
+        m_parts->names.emplace(m_controllers);
+    return *m_parts->names;
+}
+
+void NewToolBar::reportUnknown(const QString &name) const
+{
+    // Looking the name up costs something only for those who want to know.
+    if (descriptionLog().isWarningEnabled() && !IsDescribed(name))
+        qCWarning(descriptionLog, "no control is described with the name \"%ls\"",
+                  qUtf16Printable(name));
 }

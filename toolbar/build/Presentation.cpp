@@ -4,6 +4,8 @@
 #include "toolbar/build/Presentation.h"
 
 #include "toolbar/description/Controller.h"
+#include "toolbar/description/DescriptionLog.h"
+#include "toolbar/description/Names.h"
 #include "toolbar/skin/Appearance.h"
 #include "toolbar/skin/GivenIcon.h"
 #include "toolbar/skin/Scale.h"
@@ -13,6 +15,7 @@
 #include "toolbar/widgets/CustomMenuStyle.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QFontMetrics>
 #include <QMenu>
 
@@ -181,15 +184,40 @@ QIcon Presentation::icon(const Controller &record) const
 {
     if (const QIcon *given = m_byName.icon(record))
         return *given;
-    return record.icon.isEmpty() ? QIcon()
-                                 : m_appearance.icon(skinIconFile(m_directory, record.icon));
+    if (record.icon.isEmpty())
+        return QIcon();
+    const QIcon icon = record.icon.startsWith(Prefix::themeIcon)
+                           ? themeIcon(record.icon)
+                           : m_appearance.icon(iconFile(record.icon));
+    if (icon.isNull())
+        qCWarning(descriptionLog, "there is no icon \"%ls\" for the control \"%ls\"",
+                  qUtf16Printable(record.icon), qUtf16Printable(record.name));
+    return icon;
+}
+
+QString Presentation::iconFile(const QString &name) const
+{
+    return name.startsWith(Prefix::resource) ? name : skinIconFile(m_directory, name);
+}
+
+QIcon Presentation::themeIcon(const QString &name) const
+{
+    QIcon &icon = m_themeIcons[name];
+    if (icon.isNull()) {
+        const QIcon found = QIcon::fromTheme(name.mid(Prefix::themeIcon.size()));
+        icon = found.isNull() ? found : givenIcon(found, m_appearance);
+    }
+    return icon;
 }
 
 QIcon Presentation::topLineIcon(const Controller &record, const QString &letter) const
 {
     if (const QIcon *given = m_byName.icon(record))
         return *given;
-    return topLineIconOf(skinIconPath(m_directory, record.icon), letter, m_appearance);
+    if (record.icon.startsWith(Prefix::themeIcon) && !themeIcon(record.icon).isNull())
+        return themeIcon(record.icon);
+    const QString file = record.icon.isEmpty() ? QString() : iconFile(record.icon);
+    return topLineIconOf(QFile::exists(file) ? file : QString(), letter, m_appearance);
 }
 
 int Presentation::length(double designLength) const

@@ -151,6 +151,9 @@ private:
         how(static_cast<Control *>(control), self);
     }
 
+    /** The file of an icon: one of the skin, or a resource of the host as it is described. */
+    QString iconFile(const QString &name) const;
+    QIcon themeIcon(const QString &name) const;
     static QString translated(const QString &source);
     void giveAgain(bool lengthsAlone);
     void give(std::size_t position);
@@ -169,6 +172,7 @@ private:
     QHash<QString, QList<qsizetype>> m_positions; ///< In m_given; not before a name is asked for.
     std::size_t m_filed = 0;                      ///< How many of m_given they are of.
     bool m_takesToolTips = false;
+    mutable QHash<QString, QIcon> m_themeIcons; ///< As described, with their prefix.
 };
 
 /** Gives a button or an action its icon, unless it has that already: all that shows it is measured

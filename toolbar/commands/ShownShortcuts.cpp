@@ -55,6 +55,13 @@ void ShownShortcuts::show(QAction *action, const QKeySequence &sequence)
     action->setShortcut(sequence);
 }
 
+void ShownShortcuts::showOnly(QAction *action, const QKeySequence &sequence)
+{
+    if (!isOnlyShown(action))
+        keepFromActing(action);
+    action->setShortcut(sequence);
+}
+
 void ShownShortcuts::keepFromActing(QAction *action)
 {
     action->setProperty(onlyShownProperty, true);

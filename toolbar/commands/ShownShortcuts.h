@@ -33,6 +33,9 @@ public:
     /** Gives the action a sequence that is only shown, unless it is the one that acts already. */
     void show(QAction *action, const QKeySequence &sequence);
 
+    /** The same for an action whose own sequence has acted. */
+    void showOnly(QAction *action, const QKeySequence &sequence);
+
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:

@@ -106,7 +106,9 @@ inline constexpr QLatin1String quick = latin1("qbar_");
 inline constexpr QLatin1String quickFile = latin1("qbar_f_");
 inline constexpr QLatin1String quickEdit = latin1("qbar_e_");
 inline constexpr QLatin1String zoomMode = latin1("vzmode_");
-inline constexpr QLatin1String shape = latin1("tp_"); ///< Tools that leave "tp_shape" checked.
+inline constexpr QLatin1String shape = latin1("tp_");   ///< Tools that leave "tp_shape" checked.
+inline constexpr QLatin1String resource = latin1(":/"); ///< Of an icon: the host's, for any skin.
+inline constexpr QLatin1String themeIcon = latin1("theme:"); ///< Of an icon: the desktop's.
 } // namespace Prefix
 
 /** Exclusive groups of actions. */

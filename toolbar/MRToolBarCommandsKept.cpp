@@ -1,0 +1,112 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
+#include "toolbar/Latin1.h"
+#include "toolbar/MRToolBarCommandsPrivate.h"
+#include "toolbar/description/Names.h"
+
+#include <QFileInfo>
+
+namespace {
+
+constexpr QLatin1String stateKey = latin1("/state");
+constexpr QLatin1String recentKey = latin1("/recentfiles");
+constexpr QLatin1String recentValue = latin1("recent files");
+
+void restore(MRToolBar &toolBar, const QString &state)
+{
+    if (!state.isEmpty())
+        toolBar.DoSetSkinStyleSlot({{SkinKey::toolBarState, state}});
+}
+
+} // namespace
+
+void MRToolBarCommands::Private::add(const QString &name, const EntryPointer &entry)
+{
+    if (!entries.contains(name))
+        names.append(name);
+    entries.insert(name, entry);
+}
+
+MRToolBarCommands::Private::EntryPointer
+MRToolBarCommands::Private::entry(const QString &name) const
+{
+    if (entries.contains(name))
+        return entries.value(name);
+    for (const auto &[prefix, entry] : prefixes) {
+        if (name.startsWith(prefix))
+            return entry;
+    }
+    return nullptr;
+}
+
+void MRToolBarCommands::Private::setValue(const QString &name, const Value &value)
+{
+    values.insert(name, value);
+    m_toldValues.remove(name);
+}
+
+void MRToolBarCommands::connectKept()
+{
+    connect(d->toolBar, &MRToolBar::DoStateChanged, this, [this] {
+        if (d->settings && d->toolBar)
+            d->settings->setValue(d->group + stateKey, d->toolBar->GetToolBarState());
+    });
+    if (d->settings)
+        restore(*d->toolBar, d->settings->value(d->group + stateKey).toString());
+}
+
+void MRToolBarCommands::keepIn(QSettings *settings, const QString &group)
+{
+    d->settings = settings;
+    d->group = group;
+    if (!settings)
+        return;
+    d->recentFiles = settings->value(group + recentKey).toStringList().mid(0, d->recentLimit);
+    if (d->toolBar)
+        restore(*d->toolBar, settings->value(group + stateKey).toString());
+    update();
+}
+
+void MRToolBarCommands::setRecentFiles(const std::function<void(const QString &fileName)> &open,
+                                       int limit)
+{
+    d->openRecent = open;
+    d->recentLimit = std::max(limit, 0);
+    d->recentFiles = d->recentFiles.mid(0, d->recentLimit);
+    Private *data = d.get();
+    d->setValue(recentValue, {[data] { return data->recentFiles; },
+                              [](MRToolBar &toolBar, const QVariant &value) {
+                                  toolBar.DoUpdateRecentFileSlot(value.toStringList());
+                              }});
+    addDescribed(Name::clearHistory, [this] { clearRecentFiles(); }, {});
+    update();
+}
+
+void MRToolBarCommands::addRecentFile(const QString &fileName)
+{
+    const QString path = QFileInfo(fileName).absoluteFilePath();
+    d->recentFiles.removeAll(path);
+    d->recentFiles.prepend(path);
+    d->recentFiles = d->recentFiles.mid(0, d->recentLimit);
+    d->storeRecentFiles();
+    update();
+}
+
+void MRToolBarCommands::clearRecentFiles()
+{
+    d->recentFiles.clear();
+    d->storeRecentFiles();
+    update();
+}
+
+QStringList MRToolBarCommands::recentFiles() const
+{
+    return d->recentFiles;
+}
+
+void MRToolBarCommands::Private::storeRecentFiles() const
+{
+    if (settings)
+        settings->setValue(group + recentKey, recentFiles);
+}
