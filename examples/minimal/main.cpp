@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <toolbar/MRToolBar.h>
+#include <toolbar/MRToolBarCommands.h>
 
 #include <QtWidgets>
 #include <QtXml>
@@ -15,16 +16,20 @@ int main(int argc, char *argv[])
         return 1;
 
     QMainWindow window;
+    auto *text = new QPlainTextEdit;
+    window.setCentralWidget(text);
     QDomElement root = description.documentElement();
     MRToolBar toolBar(&window, root, {}, ToolBarLeft);
-    const auto enableCommands = [&] {
-        for (QString command : {"f_open", "f_exit", "t_handtool", "v_zoomin", "v_fullscreen"})
-            toolBar.DoSetControlUsableStateSlot(command, true);
-    };
-    QObject::connect(&toolBar, &MRToolBar::DoRequestAuthority, enableCommands);
-    QObject::connect(&toolBar, &MRToolBar::DoActive,
-                     [&](const QString &command) { window.setWindowTitle(command); });
-    enableCommands();
+
+    MRToolBarCommands commands(&toolBar);
+    commands.add("f_open", [&] { text->setPlainText(QFileDialog::getOpenFileName(&window)); });
+    commands.add("f_close", [&] { text->clear(); }).usableWhen([&] {
+        return !text->document()->isEmpty();
+    });
+    commands.add("v_zoomin", [&] { text->zoomIn(); });
+    commands.add("v_zoomout", [&] { text->zoomOut(); });
+    commands.add("f_exit", [&] { window.close(); });
+    QObject::connect(text, &QPlainTextEdit::textChanged, &commands, &MRToolBarCommands::update);
 
     window.showMaximized();
     return application.exec();

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The MRToolBar authors
 // SPDX-License-Identifier: MIT
 
+#include "toolbar/description/Names.h"
 #include "tools/check/Rules.h"
 #include "tools/check/SkinIcons.h"
 #include "tools/check/Vocabulary.h"
@@ -27,6 +28,12 @@ bool isBuiltAtStart(const SourceDocument &document, const SourceElement &element
             return true;
     }
     return false;
+}
+
+/** Whether the icon is a resource of the host or one of the desktop's theme, which are not here. */
+bool isFromElsewhere(const QString &icon)
+{
+    return icon.startsWith(Prefix::resource) || icon.startsWith(Prefix::themeIcon);
 }
 
 /** Looks up the icons of a document in the skins that are checked. */
@@ -124,7 +131,7 @@ void Rules::checkIcons(const SourceDocument &document, const CheckOptions &optio
 {
     IconCheck icons(document, options, findings);
     for (const SourceElement &element : document.elements) {
-        if (!element.record.icon.isEmpty()
+        if (!element.record.icon.isEmpty() && !isFromElsewhere(element.record.icon)
             && Vocabulary::usesAttribute(element.role, QStringLiteral("icon")))
             icons.check(element);
     }
