@@ -70,9 +70,10 @@ void showRowButton(QWidget *button, const Controller &record, const Presentation
 
 void fitRowButton(QWidget *button, const Controller &record, const Presentation &how)
 {
-    if (!Skin::isLum())
-        ButtonForm::setFullWidth(button, how.buttonWidth(ControlWidth::ofButton(how.text(record)),
-                                                         {how.text(record)}, 0.0));
+    if (Skin::isLum())
+        return;
+    const QString text = how.text(record);
+    ButtonForm::setFullWidth(button, how.buttonWidth(ControlWidth::ofButton(text), {text}, 0.0));
 }
 
 /** The button of a command that a panel shows: the row has it, but no room for it. */

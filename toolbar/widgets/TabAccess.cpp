@@ -58,13 +58,17 @@ private:
     TabButton *tab() const { return static_cast<TabButton *>(widget()); }
 };
 
-QAccessibleInterface *describe(const QString &, QObject *object)
+QAccessibleInterface *describe(const QString &className, QObject *object)
 {
     // Qt asks about every object, once for each class that it is of.
-    if (auto *tab = dynamic_cast<TabButton *>(object))
-        return new AccessibleTab(tab);
-    if (auto *list = dynamic_cast<TabList *>(object))
-        return new QAccessibleWidget(list, QAccessible::PageTabList);
+    if (className == QLatin1String("QPushButton")) {
+        auto *tab = dynamic_cast<TabButton *>(object);
+        return tab ? new AccessibleTab(tab) : nullptr;
+    }
+    if (className == QLatin1String("Panel")) {
+        auto *list = dynamic_cast<TabList *>(object);
+        return list ? new QAccessibleWidget(list, QAccessible::PageTabList) : nullptr;
+    }
     return nullptr;
 }
 
