@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QDirIterator>
 #include <QMenu>
+#include <QPainter>
 #include <QToolBar>
 
 #include <algorithm>
@@ -128,6 +129,28 @@ private Q_SLOTS:
                     return false;
                 });
                 QVERIFY2(highest >= colours.iconContrast, qPrintable(path + " is too dark"));
+            }
+        }
+    }
+
+    /** Apart from being read once only, and not twice as Qt's own icon of the file is. */
+    void shouldLeaveLightDrawingsAsTheyAre()
+    {
+        QDirIterator files(":/mr_toolbar/Resources", {"*.svg"}, QDir::Files,
+                           QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            const QString path = files.next();
+            const QSize own = QIcon(path).actualSize(QSize(33, 33));
+            for (const QSize &size : {own, own * 2, own + QSize(own.height(), 0)}) {
+                const auto picture = [&size](const QIcon &icon) {
+                    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+                    image.fill(Qt::transparent);
+                    QPainter painter(&image);
+                    icon.paint(&painter, image.rect());
+                    return image;
+                };
+                QVERIFY2(picture(IconColours::drawing(path, {})) == picture(QIcon(path)),
+                         qPrintable(path));
             }
         }
     }

@@ -13,6 +13,7 @@
 #include <QPainter>
 #include <QPixmapCache>
 #include <QRegularExpression>
+#include <QStyle>
 
 #include <algorithm>
 
@@ -68,6 +69,11 @@ bool isWhiteAllOver(const QString &svg)
     return true;
 }
 
+bool isSvgFile(const QString &path)
+{
+    return path.endsWith(QLatin1String(".svg"));
+}
+
 QImage recolouredPixels(QImage image, const SchemeColours &colours)
 {
     image = image.convertToFormat(QImage::Format_ARGB32);
@@ -82,13 +88,17 @@ QImage recolouredPixels(QImage image, const SchemeColours &colours)
     return image;
 }
 
-/** Draws the text of an SVG file, or, for any other file, its pixels. */
-class RecolouredEngine : public QIconEngine
+/**
+ * Draws an SVG file or, for any other file, its pixels. Qt's own icon of an SVG file reads and
+ * parses it once to see whether it can, and again to draw it.
+ */
+class DrawingEngine : public QIconEngine
 {
 public:
     using Colours = SchemeColours (*)(const SchemeLook &look);
 
-    RecolouredEngine(const QString &path, const SchemeLook &look, Colours colours)
+    /** @param colours what the drawing is recoloured with; null leaves it as it is */
+    DrawingEngine(const QString &path, const SchemeLook &look, Colours colours)
         : m_path(path)
         , m_look(look)
         , m_colours(colours)
@@ -100,20 +110,14 @@ public:
         const qreal ratio = painter->device() ? painter->device()->devicePixelRatioF() : 1.0;
         QPixmap picture = pixmap(rect.size() * ratio, QIcon::Normal, QIcon::Off);
         picture.setDevicePixelRatio(ratio);
-        QRect place(QPoint(), picture.size() / ratio);
-        place.moveCenter(rect.center());
+        const QRect place =
+            QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, picture.size() / ratio, rect);
         painter->drawPixmap(place.topLeft(), picture);
     }
 
     QPixmap pixmap(const QSize &size, QIcon::Mode, QIcon::State) override
     {
-        const QString key = QStringLiteral("mrtoolbar %1 %2 %3 %4x%5 %6")
-                                .arg(m_path)
-                                .arg(int(m_look.scheme))
-                                .arg(m_look.mainColour)
-                                .arg(size.width())
-                                .arg(size.height())
-                                .arg(m_colours == &stripColours);
+        const QString key = keyFor(size);
         QPixmap picture;
         if (!QPixmapCache::find(key, &picture)) {
             picture = QPixmap::fromImage(drawn(size));
@@ -122,39 +126,41 @@ public:
         return picture;
     }
 
-    QIconEngine *clone() const override { return new RecolouredEngine(m_path, m_look, m_colours); }
+    QIconEngine *clone() const override { return new DrawingEngine(m_path, m_look, m_colours); }
 
 private:
-    QImage drawn(const QSize &room)
+    QString keyFor(const QSize &size) const
     {
-        if (m_content.isEmpty())
-            read();
-        QBuffer buffer(&m_content);
-        QImageReader reader(&buffer);
-        // A picture of pixels is not enlarged, as in an icon.
-        const QSize own = reader.size();
-        if (m_isSvg || own.width() > room.width() || own.height() > room.height())
-            reader.setScaledSize(own.scaled(room, Qt::KeepAspectRatio));
-        const QImage image = reader.read();
-        return m_isSvg || image.isNull() ? image : recolouredPixels(image, m_colours(m_look));
+        const int kind = !m_colours ? 0 : m_colours == &schemeColours ? 1 : 2;
+        return QStringLiteral("mrtoolbar %1 %2 %3 %4 %5x%6")
+            .arg(m_path, QString::number(kind), QString::number(static_cast<int>(m_look.scheme)),
+                 QString::number(m_look.mainColour), QString::number(size.width()),
+                 QString::number(size.height()));
     }
 
-    void read()
+    QImage drawn(const QSize &room) const
     {
         QFile file(m_path);
         if (!file.open(QIODevice::ReadOnly))
-            return;
-        m_content = file.readAll();
-        m_isSvg = m_path.endsWith(QLatin1String(".svg"));
-        if (m_isSvg)
-            m_content = IconColours::recoloured(m_content, m_colours(m_look));
+            return QImage();
+        const bool isSvg = isSvgFile(m_path);
+        QByteArray content = file.readAll();
+        if (isSvg && m_colours)
+            content = IconColours::recoloured(content, m_colours(m_look));
+        QBuffer buffer(&content);
+        QImageReader reader(&buffer, isSvg ? QByteArrayLiteral("svg") : QByteArray());
+        // A picture of pixels is not enlarged, as in an icon.
+        const QSize own = reader.size();
+        if (isSvg || own.width() > room.width() || own.height() > room.height())
+            reader.setScaledSize(own.scaled(room, Qt::KeepAspectRatio));
+        const QImage image = reader.read();
+        const bool isFinished = isSvg || image.isNull() || !m_colours;
+        return isFinished ? image : recolouredPixels(image, m_colours(m_look));
     }
 
     QString m_path;
     SchemeLook m_look;
     Colours m_colours;
-    QByteArray m_content;
-    bool m_isSvg = false;
 };
 
 } // namespace
@@ -185,11 +191,13 @@ QByteArray IconColours::recoloured(const QByteArray &svg, const SchemeColours &c
 
 QIcon IconColours::drawing(const QString &path, const SchemeLook &look)
 {
-    return look.isLight() ? QIcon(path) : QIcon(new RecolouredEngine(path, look, &schemeColours));
+    if (!look.isLight())
+        return QIcon(new DrawingEngine(path, look, &schemeColours));
+    return isSvgFile(path) ? QIcon(new DrawingEngine(path, look, nullptr)) : QIcon(path);
 }
 
 QIcon IconColours::stripDrawing(const QString &path, const QColor &strip)
 {
     const SchemeLook look{Scheme::Light, strip.rgb()};
-    return QIcon(new RecolouredEngine(path, look, &stripColours));
+    return QIcon(new DrawingEngine(path, look, &stripColours));
 }
