@@ -163,6 +163,37 @@ private Q_SLOTS:
                                  "<button action='a'/></tabbutton></toolbar_tabbar>");
         QVERIFY(unchecked.find<QToolBar>("t")->actions().isEmpty());
     }
+
+    void shouldWarnOfNamesThatTheToolbarTakesAnotherWay()
+    {
+        TestHost host(
+            "<toolbar_quickaccessbar><button action='f_save'/><button action='qbar_f_open'/>"
+            "</toolbar_quickaccessbar><toolbar_tabbar>"
+            "<tabbutton name='t' checkable='true' checked='true'>"
+            "<button action='d_background'/><button action='toolbar_hide'/>"
+            "<combobox action='v_size'><item action='vzmode_10p' text='10%'/>"
+            "<item action='vzmode_20p' text='20%'/></combobox></tabbutton></toolbar_tabbar>"
+            "<toolbar_addtional><button action='t_fold'/><button action='h_unfolded'/>"
+            "</toolbar_addtional>");
+        const QSignalSpy commands(&host.facade(), &MRToolBar::DoActive);
+        const QSignalSpy backgrounds(&host.facade(), &MRToolBar::DoSetBackground);
+        const QSignalSpy zooms(&host.facade(), &MRToolBar::DoSetZoomMode);
+        // folds-rows
+        host.find<QPushButton>("h_unfolded")->click();
+        QVERIFY(host.find<QStackedWidget>("tabwidget")->isHidden());
+        // no-such-background
+        host.action("d_background")->trigger();
+        QCOMPARE(int(backgrounds.size()), 1);
+        // zoom-box-name
+        host.find<QComboBox>("v_size")->setCurrentIndex(1);
+        QCOMPARE(int(zooms.size()), 0);
+        // area-name
+        host.setUsable("toolbar_hide", false);
+        QVERIFY(host.action("toolbar_hide")->isEnabled());
+        // quick-access-prefix
+        QCOMPARE(host.facade().GetQuickAccessButtonList(), QString("open;"));
+        QCOMPARE(int(commands.size()), 0);
+    }
 };
 
 QTEST_MAIN(CheckAgreementTest)
