@@ -27,10 +27,14 @@ int fail(const QString &reason)
     return 1;
 }
 
-/** The first description of the toolbar; empty with --watch, where the file is read later. */
+/**
+ * The first description of the toolbar, whose icons are loaded, too; empty with --watch, where the
+ * file is read later.
+ */
 QDomDocument describedToolBar(const Options &options, QString *error)
 {
-    if (options.watch)
+    *error = LivePreview::loadResources(options.resources);
+    if (!error->isEmpty() || options.watch)
         return QDomDocument();
     QDomDocument description = Description::read(options.description, options.skin, error);
     if (error->isEmpty() && options.clearHistory)
@@ -94,9 +98,6 @@ int main(int argc, char *argv[])
 #endif
     const QApplication application(argc, argv);
     const Options options = Options::of(QCoreApplication::arguments(), &error);
-    if (!error.isEmpty())
-        return fail(error);
-    error = LivePreview::loadResources(options.resources);
     if (!error.isEmpty())
         return fail(error);
     Language::install(options.language);
