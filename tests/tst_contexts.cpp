@@ -9,8 +9,6 @@
 
 #include <QSet>
 
-#include <memory>
-
 using namespace Describe;
 
 namespace {
@@ -118,64 +116,51 @@ private Q_SLOTS:
         QCOMPARE(host.openTab(), QString("home"));
     }
 
-    void shouldBeReadableInItsTint_data()
-    {
-        QTest::addColumn<int>("skin");
-        QTest::addColumn<QString>("scheme");
-        QTest::addColumn<QString>("colour");
-        for (const char *scheme : {"light", "dark", "contrast"}) {
-            for (const char *colour : {"#C0392B", "#FFD54F", "#1B5E20", "#EFEFEF", "nonsense"}) {
-                QTest::addRow("marodi %s %s", scheme, colour) << marodi << scheme << colour;
-                QTest::addRow("lum %s %s", scheme, colour) << lum << scheme << colour;
-            }
-        }
-    }
+    void shouldBeReadableInItsTint_data() { addSkins(); }
     /** Of what is painted, the ground is most, and the text differs most from it. */
     void shouldBeReadableInItsTint()
     {
-        QFETCH(QString, scheme);
-        QFETCH(QString, colour);
         const SkinChoice choice;
-        PageHost host(section("tabbar", tab("home", button("one"), "checked='true'")
-                                            + tab("\u25A0\u25A0\u25A0", {},
-                                                  "context='c' contextcolour='" + colour + "'")),
-                      {{"scheme", scheme}});
-        host.act("select c");
-        auto *tab = host.find<QPushButton>("\u25A0\u25A0\u25A0");
-        QSet<QRgb> grounds;
-        for (const char *step : {"", "tab \u25A0\u25A0\u25A0"}) {
-            host.act(step);
-            movePointerAway();
-            const QImage picture = tab->grab().toImage();
-            const QColor ground = picture.pixelColor(picture.width() / 2, picture.height() / 4);
-            const double best =
-                bestContrast(picture.copy(0, picture.height() / 2, picture.width(), 1), ground);
-            QVERIFY2(best >= 4.5, qPrintable(ground.name() + QString::number(best)));
-            grounds.insert(ground.rgb());
+        const QString name = "\u25A0\u25A0\u25A0";
+        for (const char *scheme : {"light", "dark", "contrast"}) {
+            for (const char *colour : {"#C0392B", "#FFD54F", "#1B5E20", "#EFEFEF", "nonsense"}) {
+                const QString context = QString("context='c' contextcolour='%1'").arg(colour);
+                PageHost host(section("tabbar", tab("home", button("one"), "checked='true'")
+                                                    + tab(name, {}, context)),
+                              {{"scheme", scheme}});
+                host.act("select c");
+                QSet<QRgb> grounds;
+                for (const QString &step : {QString(), "tab " + name}) {
+                    host.act(step);
+                    movePointerAway();
+                    const QImage picture = host.find<QPushButton>(name)->grab().toImage();
+                    const QSize size = picture.size();
+                    const QRgb ground = picture.pixel(size.width() / 2, size.height() / 4);
+                    const double best =
+                        bestContrast(picture.copy(0, size.height() / 2, size.width(), 1), ground);
+                    QVERIFY2(best >= 4.5, qPrintable(scheme + context + QString::number(best)));
+                    grounds.insert(ground);
+                }
+                QCOMPARE(grounds.size(), 2);
+            }
         }
-        QCOMPARE(grounds.size(), 2);
     }
 
-    void shouldLetTheHostAnswerATab_data()
-    {
-        QTest::addColumn<QString>("before");
-        QTest::addColumn<QString>("last");
-        for (const char *step : {"tab text", "click text", "hide home"})
-            QTest::newRow(step) << "select text" << step;
-        QTest::newRow("unselect text") << "select text,tab text"
-                                       << "unselect text";
-    }
     void shouldLetTheHostAnswerATab()
     {
-        QFETCH(QString, before);
-        QFETCH(QString, last);
-        PageHost host(withContexts());
-        host.act(before);
-        QObject::connect(&host.facade(), &MRToolBar::DoTabShown, qApp,
-                         [&] { host.deleteWindow(); });
-        host.step(last);
-        runDeferredDeletes();
-        QVERIFY(!host.facade().IsSupportByToolBar("one"));
+        const QList<QPair<QString, QString>> uses{{"select text", "tab text"},
+                                                  {"select text", "click text"},
+                                                  {"select text,tab text", "unselect text"},
+                                                  {"", "hide home"}};
+        for (const auto &[before, last] : uses) {
+            PageHost host(withContexts());
+            host.act(before);
+            QObject::connect(&host.facade(), &MRToolBar::DoTabShown, &host.facade(),
+                             [&host] { host.deleteWindow(); });
+            host.step(last);
+            runDeferredDeletes();
+            QVERIFY2(!host.facade().IsSupportByToolBar("one"), qPrintable(last));
+        }
     }
 };
 

@@ -85,30 +85,21 @@ private Q_SLOTS:
         QCOMPARE(host.commands().size(), 3);
     }
 
-    void shouldObeyTheScopeOfTheRoot_data()
-    {
-        QTest::addColumn<QString>("root");
-        QTest::addColumn<QString>("reported");
-        QTest::newRow("the window") << "shortcutscope='window'"
-                                    << "x";
-        QTest::newRow("none") << ""
-                              << "";
-    }
     void shouldObeyTheScopeOfTheRoot()
     {
-        QFETCH(QString, root);
-        QFETCH(QString, reported);
-        QTemporaryFile file;
-        QVERIFY(file.open());
-        const QString sections = tabs(button("a"), button("x", "shortcut='Ctrl+T'"));
-        file.write(("<uiconfig prefix='' " + root + ">" + sections + "</uiconfig>").toUtf8());
-        file.close();
-        const auto host = TestHost::withFile(file.fileName());
-        host->showEnabled();
-        const QSignalSpy active(&host->facade(), &MRToolBar::DoActive);
-        QTest::keyClick(&host->window(), Qt::Key_T, Qt::ControlModifier);
-        QCOMPARE(TestHost::texts(active).join(','), reported);
-        QCOMPARE(host->window().findChildren<QShortcut *>().isEmpty(), root.isEmpty());
+        for (const QString &scope : {QString("shortcutscope='window'"), QString()}) {
+            QTemporaryFile file;
+            QVERIFY(file.open());
+            const QString sections = tabs(button("a"), button("x", "shortcut='Ctrl+T'"));
+            file.write(("<uiconfig prefix='' " + scope + ">" + sections + "</uiconfig>").toUtf8());
+            file.close();
+            const auto host = TestHost::withFile(file.fileName());
+            host->showEnabled();
+            const QSignalSpy active(&host->facade(), &MRToolBar::DoActive);
+            QTest::keyClick(&host->window(), Qt::Key_T, Qt::ControlModifier);
+            QCOMPARE(active.isEmpty(), scope.isEmpty());
+            QCOMPARE(host->window().findChildren<QShortcut *>().isEmpty(), scope.isEmpty());
+        }
     }
 
     void shouldObeyTheStateReportedBeforeTheCommandIsMade()
@@ -145,27 +136,22 @@ private Q_SLOTS:
         }
     }
 
-    void shouldNotTriggerWhatTheHostTakesAwayWhenItIsAsked_data()
-    {
-        QTest::addColumn<bool>("isDeleted");
-        QTest::newRow("disabled") << false;
-        QTest::newRow("deleted") << true;
-    }
     void shouldNotTriggerWhatTheHostTakesAwayWhenItIsAsked()
     {
-        QFETCH(bool, isDeleted);
-        FieldHost host(tabs(button("a"), button("x", inWindow)));
-        connect(&host.facade(), &MRToolBar::DoRequestAuthority, this, [&] {
-            if (isDeleted)
-                delete host.find<QToolBar>("mrtoolbar");
-            else
-                host.setUsable("x", false);
-        });
-        host.press();
-        QCOMPARE(host.asked.count(), 1);
-        QCOMPARE(host.commands(), QStringList());
-        runDeferredDeletes();
-        QCOMPARE(host.window().findChildren<QShortcut *>().isEmpty(), isDeleted);
+        for (const bool isDeleted : {false, true}) {
+            FieldHost host(tabs(button("a"), button("x", inWindow)));
+            connect(&host.facade(), &MRToolBar::DoRequestAuthority, &host.window(), [&] {
+                if (isDeleted)
+                    delete host.find<QToolBar>("mrtoolbar");
+                else
+                    host.setUsable("x", false);
+            });
+            host.press();
+            QCOMPARE(host.asked.count(), 1);
+            QCOMPARE(host.commands(), QStringList());
+            runDeferredDeletes();
+            QCOMPARE(host.window().findChildren<QShortcut *>().isEmpty(), isDeleted);
+        }
     }
 
     void shouldLeaveTheKeysToTheFirstCommandTheHostAndTheField()

@@ -229,20 +229,6 @@ private Q_SLOTS:
         QCOMPARE(QApplication::focusWidget(), host.field);
     }
 
-    void shouldReachWhatANarrowRowHasMoved()
-    {
-        QString controls;
-        for (int i = 0; i < 12; ++i)
-            controls += button("command" + QString::number(i), "shrink='1'");
-        TipHost host(tabs(controls, button("x")), tipsOn);
-        host.window().resize(host.scaled(320), host.scaled(300));
-        const auto *more = host.find<QToolButton>("row_more");
-        QTRY_VERIFY(more->isVisible());
-        host.open();
-        host.type("r");
-        QVERIFY(host.layer()->accessibleName().contains(more->accessibleName()));
-    }
-
     void shouldLeaveAltToOthers()
     {
         TipHost host(withTips(), tipsOn);

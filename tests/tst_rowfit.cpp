@@ -95,7 +95,8 @@ private Q_SLOTS:
         FittingHost host;
         EventCounter layouts(host.bar(), {QEvent::LayoutRequest, QEvent::Resize});
         QMap<int, QList<int>> known;
-        for (int step = 1; step < 2 * everythingFits; ++step) {
+        // Every width down, and some up again.
+        for (int step = 1; step < 2 * everythingFits; step += step < everythingFits ? 1 : 7) {
             const int width = step <= everythingFits ? step : 2 * everythingFits - step;
             layouts.sinceLastAsked();
             host.setWidth(width);

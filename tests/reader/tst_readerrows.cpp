@@ -29,12 +29,11 @@ void ReaderRowsTest::shouldHaveEveryCommandAtMostTwoClicksAway_data()
     QTest::addColumn<int>("style");
     QTest::addColumn<QString>("language");
     QTest::addColumn<int>("width");
-    for (const int style : {0, 1}) {
-        for (const char *language : {"zh_CN", "en"}) {
-            for (const int width : {800, 1280})
-                QTest::addRow("%s, %s, %d", style ? "lum" : "marodi", language, width)
-                    << style << language << width;
-        }
+    for (int row = 0; row < 8; ++row) {
+        const QString language = row & 2 ? "en" : "zh_CN";
+        const int width = row & 4 ? 1280 : 800;
+        QTest::addRow("%s, %s, %d", row & 1 ? "lum" : "marodi", qPrintable(language), width)
+            << (row & 1) << language << width;
     }
 }
 
