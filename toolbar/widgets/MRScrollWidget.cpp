@@ -193,6 +193,15 @@ QSize MRScrollArea::sizeHint() const
     return hint;
 }
 
+void MRScrollArea::setStylePaused(bool paused)
+{
+    m_isStylePaused = paused;
+    if (paused || !m_hasMissedStyle)
+        return;
+    QEvent change(QEvent::StyleChange);
+    QCoreApplication::sendEvent(this, &change);
+}
+
 bool MRScrollArea::isScrolling() const
 {
     return m_animation->state() == QAbstractAnimation::Running;
@@ -257,8 +266,10 @@ void MRScrollArea::DoScrollAction()
 bool MRScrollArea::event(QEvent *event)
 {
     // QScrollArea would measure the whole row at once, and again when the row has its new layout.
-    if (event->type() == QEvent::StyleChange)
-        return QAbstractScrollArea::event(event);
+    if (event->type() == QEvent::StyleChange) {
+        m_hasMissedStyle = m_isStylePaused;
+        return m_isStylePaused || QAbstractScrollArea::event(event);
+    }
     const bool isHandled = QScrollArea::event(event);
     if (event->type() == QEvent::LayoutDirectionChange)
         fadeEnds();

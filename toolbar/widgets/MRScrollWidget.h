@@ -65,6 +65,10 @@ public:
     QSize sizeHint() const override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
+    /** While its style is paused, the area takes over none; at the end it takes over the last. */
+    void setStylePaused(bool paused);
+    bool isStylePaused() const { return m_isStylePaused; }
+
 Q_SIGNALS:
     /** Whether there is hidden content on @p side, which is "left" or "right". */
     void SetExtendButtonVisible(QString side, bool visible);
@@ -95,6 +99,8 @@ private:
     EndFade *m_leftFade = nullptr; ///< There is none while the row has room.
     EndFade *m_rightFade = nullptr;
     std::shared_ptr<QObject> m_wheelWatch; ///< Calls eventFilter(); shared by all areas.
+    bool m_isStylePaused = false;
+    bool m_hasMissedStyle = false; ///< While it was paused.
 };
 
 /** A tool row in its scrolling area, between the two arrows. */

@@ -5,6 +5,8 @@
 
 #include "toolbar/widgets/MRScrollWidget.h"
 
+#include <QScrollBar>
+
 RowPause::RowPause(const QWidget *area)
 {
     const QList<QLayout *> layouts = area->findChildren<QLayout *>();
@@ -15,8 +17,10 @@ RowPause::RowPause(const QWidget *area)
         m_layouts.append(layout);
     }
     const QList<MRScrollArea *> rows = area->findChildren<MRScrollArea *>();
-    for (const MRScrollArea *row : rows)
-        m_places.append({row->horizontalScrollBar(), row->horizontalScrollBar()->value()});
+    for (MRScrollArea *row : rows) {
+        m_places.append({row, row->horizontalScrollBar()->value(), !row->isStylePaused()});
+        row->setStylePaused(true);
+    }
 }
 
 RowPause::~RowPause()
@@ -28,7 +32,10 @@ RowPause::~RowPause()
         layout->update();
     }
     for (const Place &place : std::as_const(m_places)) {
-        if (place.bar)
-            place.bar->setValue(place.value);
+        if (!place.row)
+            continue;
+        if (place.isPausedHere)
+            place.row->setStylePaused(false);
+        place.row->horizontalScrollBar()->setValue(place.value);
     }
 }

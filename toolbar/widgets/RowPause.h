@@ -6,13 +6,14 @@
 #include <QLayout>
 #include <QList>
 #include <QPointer>
-#include <QScrollBar>
 
+class MRScrollArea;
 class QWidget;
 
 /**
  * Keeps what is below a widget in its place while its style sheet is replaced: layouts wait until
- * the event loop runs again, and rows stay where they are scrolled to.
+ * the event loop runs again, rows stay where they are scrolled to, and their frames take over the
+ * last sheet only: without one in between they are wider, and Qt would measure the row for that.
  */
 class RowPause
 {
@@ -24,8 +25,9 @@ public:
 private:
     struct Place
     {
-        QPointer<QScrollBar> bar;
+        QPointer<MRScrollArea> row;
         int value;
+        bool isPausedHere;
     };
 
     QList<QPointer<QLayout>> m_layouts;
