@@ -47,8 +47,9 @@ bool AltKey::eventFilter(QObject *watched, QEvent *event)
     switch (event->type()) {
     case QEvent::KeyPress:
         notePress(*static_cast<QKeyEvent *>(event));
-        if (watched == m_window->window() && static_cast<QKeyEvent *>(event)->key() == Qt::Key_F10
-            && static_cast<QKeyEvent *>(event)->modifiers() == Qt::NoModifier && isForWindow()) {
+        if (static_cast<QKeyEvent *>(event)->key() == Qt::Key_F10
+            && static_cast<QKeyEvent *>(event)->modifiers() == Qt::NoModifier && isForWindow()
+            && watched == m_window->window()) {
             Q_EMIT pressed();
             return true;
         }
@@ -94,6 +95,6 @@ void AltKey::noteRelease(const QKeyEvent &key)
 
 bool AltKey::isForWindow() const
 {
-    return QApplication::activeWindow() == m_window->window() && !QApplication::activePopupWidget()
-           && !QApplication::activeModalWidget();
+    return m_window && QApplication::activeWindow() == m_window->window()
+           && !QApplication::activePopupWidget() && !QApplication::activeModalWidget();
 }

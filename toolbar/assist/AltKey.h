@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 
 class QKeyEvent;
 class QWidget;
@@ -35,7 +36,7 @@ private:
     void noteRelease(const QKeyEvent &key);
     bool isForWindow() const;
 
-    QWidget *m_window;
+    QPointer<QWidget> m_window;
     bool m_isAltAlone = false;
     bool m_isComposing = false;
 };
