@@ -193,7 +193,7 @@ private Q_SLOTS:
     void shouldOfferTheMenuToTheKeyboard()
     {
         TestHost host = TestHost::enabled(described());
-        QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint());
+        QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(), QPoint());
         QApplication::sendEvent(control(host, "plain"), &event);
         QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
         // The new button comes between those that there were and the one that customises the bar.
