@@ -3,6 +3,8 @@
 
 #include "toolbar/widgets/ToolTipCard.h"
 
+#include "toolbar/Latin1.h"
+
 #include <QAction>
 #include <QStringList>
 #include <QWidget>
@@ -12,6 +14,14 @@
 namespace {
 
 constexpr int lineLength = 10;
+
+// The missing blank in "<pstyle" and the order of the closing tags are part of the format.
+constexpr QLatin1String cardStart =
+    latin1("<html><head/><body><p><span style=\"font-weight:600;\">");
+constexpr QLatin1String titleEnd = latin1("</span></p>");
+constexpr QLatin1String lineStart = latin1("<pstyle=\"line-height:16px\">");
+constexpr QLatin1String lineEnd = latin1("</p>");
+constexpr QLatin1String cardEnd = latin1("</body></head></html>");
 
 /** Whether a line may end beside the character, as beside ideographs and their punctuation. */
 bool isIdeographic(QChar character)
@@ -59,15 +69,23 @@ QString toolTipCard(const QString &tip, CardLines lines)
     const QString &title = parts.at(0);
     const QString &description = parts.at(1);
 
-    QString card =
-        QStringLiteral("<html><head/><body><p><span style=\"font-weight:600;\">%1</span></p>")
-            .arg(title);
     const QStringList texts = linesOf(description, lines);
+
+    // Every command has a card: strings that grow would have as much room again.
+    QString card;
+    card.reserve(cardStart.size() + title.size() + titleEnd.size()
+                 + texts.size() * (lineStart.size() + lineEnd.size()) + description.size()
+                 + cardEnd.size());
+    card += cardStart;
+    card += title;
+    card += titleEnd;
     for (const QString &text : texts) {
-        // The missing blank in "<pstyle" and the order of the closing tags are part of the format.
-        card += QStringLiteral("<pstyle=\"line-height:16px\">%1</p>").arg(text);
+        card += lineStart;
+        card += text;
+        card += lineEnd;
     }
-    return card + QStringLiteral("</body></head></html>");
+    card += cardEnd;
+    return card;
 }
 
 void setToolTipCard(QObject *target, const QString &tip, CardLines lines)
