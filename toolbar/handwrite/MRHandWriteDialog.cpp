@@ -7,6 +7,7 @@
 #include "toolbar/handwrite/InkPictures.h"
 #include "toolbar/skin/Appearance.h"
 #include "toolbar/skin/SchemePalette.h"
+#include "toolbar/skin/StaticResources.h"
 #include "ui_HandWriteDialog.h"
 
 #include <QGuiApplication>
@@ -82,6 +83,7 @@ MRHandWriteDialog::MRHandWriteDialog(QWidget *parent)
     : QDialog(parent)
     , m_ui(std::make_unique<Ui::HandWriteDialog>())
 {
+    keepStaticResources();
     m_ui->setupUi(this);
     // The hint alone would leave no window type, and lay a dialog with a parent into that parent.
     setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);

@@ -4,6 +4,7 @@
 #include "toolbar/skin/Skin.h"
 
 #include "toolbar/Latin1.h"
+#include "toolbar/skin/StaticResources.h"
 
 namespace {
 
@@ -49,6 +50,7 @@ void insertIfAbsent(SkinMap &map, const QString &key, const QString &value)
 
 void Skin::followSelector(const int *selector)
 {
+    keepStaticResources();
     chosenSkin = selector;
 }
 

@@ -3,6 +3,7 @@
 
 // Prints the findings about descriptions, because the library ignores mistakes without a message.
 
+#include "toolbar/skin/StaticResources.h"
 #include "tools/check/Catalogue.h"
 #include "tools/check/DescribedTexts.h"
 #include "tools/check/DescriptionCheck.h"
@@ -264,6 +265,7 @@ QString faultOf(const QCommandLineParser &parser)
 
 int main(int argc, char *argv[])
 {
+    keepStaticResources();
     QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("mrtoolbar-check"));
     QCoreApplication::setApplicationVersion(QStringLiteral(MRTOOLBAR_VERSION));
