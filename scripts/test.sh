@@ -9,7 +9,8 @@ source "$(dirname -- "${BASH_SOURCE[0]}")/common.sh"
 
 suppressions=$root/tests/support/lsan.supp
 versions=(5 6)
-settings=(MRTOOLBAR_WERROR=ON)
+# With the prefix of packages, whose paths CMake chooses by it.
+settings=(MRTOOLBAR_WERROR=ON CMAKE_INSTALL_PREFIX=/usr)
 suffix=
 result=0
 
@@ -69,7 +70,8 @@ run_tests()
 }
 
 read_options "$@"
-needed+=(xvfb python3 libxml2-utils pkg-config clang-format)
+needed+=(xvfb python3 libxml2-utils pkg-config clang-format
+    dpkg-dev file lintian appstream desktop-file-utils)
 for version in "${versions[@]}"; do
     need_qt "$version"
 done

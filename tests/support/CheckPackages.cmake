@@ -1,71 +1,99 @@
 # SPDX-FileCopyrightText: The MRToolBar authors
 # SPDX-License-Identifier: MIT
 
-# Makes the Debian packages, and installs and removes them in a root directory of their own.
-#
-#   cmake -DCPACK=... -DDPKG=... -DBUILD=... -DROOT=... -P CheckPackages.cmake
-
-function(run)
-    execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output
-        ERROR_VARIABLE output)
-    if(NOT result EQUAL 0)
-        list(JOIN ARGN " " command)
-        message(FATAL_ERROR "${command}\n${output}")
-    endif()
-endfunction()
+# Makes the Debian packages of BUILD, checks them with the tools of Debian that are there, installs
+# them in a root directory of their own, together with those that OTHER has for the other version of
+# Qt, builds hosts with them, and removes them. SOURCE is the source tree, ROOT the folder to work in.
+include(${CMAKE_CURRENT_LIST_DIR}/Run.cmake)
+set_configure_host(${GENERATOR})
+set(root ${ROOT}/root)
+set(usr ${root}/usr)
+math(EXPR other "11 - ${QT}")
 
 # dpkg_in_root(WORD...): does not touch the packages of the machine and needs no root rights.
 function(dpkg_in_root)
-    run(${DPKG} --root=${ROOT} --force-not-root --force-script-chrootless --force-depends
+    run(${DPKG} --root=${root} --force-not-root --force-script-chrootless --force-depends
         --log=/dev/null ${ARGN})
 endfunction()
 
-function(expect_files)
-    foreach(file IN LISTS ARGN)
-        if(NOT EXISTS ${ROOT}/usr/${file})
-            message(SEND_ERROR "No package has ${file}")
-        endif()
-    endforeach()
+# check_with(<tool> <word>...): if the machine has the tool.
+function(check_with tool)
+    find_program(${tool}_program ${tool})
+    if(${tool}_program)
+        run(${${tool}_program} ${ARGN})
+    else()
+        message("Without ${tool}")
+    endif()
 endfunction()
 
 file(REMOVE_RECURSE ${ROOT} ${BUILD}/packages)
 foreach(folder IN ITEMS info updates triggers)
-    file(MAKE_DIRECTORY ${ROOT}/var/lib/dpkg/${folder})
+    file(MAKE_DIRECTORY ${root}/var/lib/dpkg/${folder})
 endforeach()
-file(TOUCH ${ROOT}/var/lib/dpkg/status)
+file(TOUCH ${root}/var/lib/dpkg/status)
 
-execute_process(COMMAND ${CPACK} -G DEB WORKING_DIRECTORY ${BUILD} RESULT_VARIABLE result
-    OUTPUT_VARIABLE output ERROR_VARIABLE output)
-file(GLOB runtime ${BUILD}/packages/libmrtoolbar[0-9]*.deb)
-file(GLOB development ${BUILD}/packages/libmrtoolbar-dev*.deb)
-if(NOT result EQUAL 0 OR NOT runtime OR NOT development)
-    message(FATAL_ERROR "There are no two packages\n${output}")
-endif()
+run(${CMAKE_COMMAND} -E chdir ${BUILD} ${CPACK} -G DEB)
+set(library libmrtoolbar-qt${QT}-1)
+set(names ${library} libmrtoolbar-qt${QT}-dev mrtoolbar-check ofd-reader-mrtoolbar)
+set(packages "")
+foreach(name IN LISTS names)
+    file(GLOB package ${BUILD}/packages/${name}_*.deb)
+    if(NOT package)
+        message(FATAL_ERROR "There is no package ${name}")
+    endif()
+    list(APPEND packages ${package})
+endforeach()
+check_with(lintian --allow-root --fail-on error,warning ${packages})
+check_with(desktop-file-validate ${SOURCE}/packaging/reader/mrtoolbar-reader.desktop)
+check_with(appstreamcli validate --no-net ${SOURCE}/packaging/reader/mrtoolbar-reader.metainfo.xml)
 
+# The library alone has all that a program needs, and nothing for developers.
+list(GET packages 0 runtime)
 dpkg_in_root(--install ${runtime})
-file(GLOB libraries ${ROOT}/usr/lib/libmrtoolbar.so.*)
-if(NOT libraries OR EXISTS ${ROOT}/usr/include)
-    message(SEND_ERROR "The package for programs has no library, or has headers")
+if(EXISTS ${usr}/include OR EXISTS ${usr}/bin)
+    message(SEND_ERROR "The library's package has headers or programs")
 endif()
-expect_files(share/mrtoolbar/translations/mrtoolbar_en.qm)
-
-dpkg_in_root(--install ${development})
-expect_files(include/mrtoolbar/toolbar/MRToolBar.h lib/libmrtoolbar.so bin/mrtoolbar-check
-    lib/cmake/MRToolBar/MRToolBarConfig.cmake lib/pkgconfig/mrtoolbar.pc)
-file(GLOB licences ${ROOT}/usr/share/doc/*/copyright)
-list(LENGTH licences count)
-if(NOT count EQUAL 2)
-    message(SEND_ERROR "Not each of the two packages has its licence: ${licences}")
+file(STRINGS ${root}/var/lib/dpkg/info/${library}.shlibs shlibs)
+if(NOT shlibs STREQUAL "libmrtoolbar-qt${QT} 1 ${library} (>= ${VERSION})")
+    message(SEND_ERROR "Programs would not get a dependency: ${shlibs}")
 endif()
 
-file(GLOB_RECURSE lists ${ROOT}/var/lib/dpkg/info/libmrtoolbar*.list)
-set(names)
-foreach(list IN LISTS lists)
-    get_filename_component(name ${list} NAME_WE)
-    list(APPEND names ${name})
+file(GLOB others ${OTHER}/packages/*.deb)
+set(versions ${QT})
+if(others)
+    dpkg_in_root(--install ${others})
+    list(APPEND versions ${other})
+    list(APPEND names libmrtoolbar-qt${other}-1 libmrtoolbar-qt${other}-dev)
+endif()
+# The programs are now those of this build.
+dpkg_in_root(--install ${packages})
+foreach(file IN ITEMS
+        share/mrtoolbar-qt${QT}/translations/mrtoolbar_en.qm share/mrtoolbar/uiconfig.xsd
+        share/doc/libmrtoolbar-qt${QT}-dev/host-guide.md
+        share/applications/mrtoolbar-reader.desktop share/man/man1/mrtoolbar-reader.1.gz
+        share/bash-completion/completions/mrtoolbar-check)
+    if(NOT EXISTS ${usr}/${file})
+        message(SEND_ERROR "No package has ${file}")
+    endif()
 endforeach()
+
+set(ENV{LD_LIBRARY_PATH} ${usr}/lib/${ARCHITECTURE}:${usr}/lib)
+foreach(version IN LISTS versions)
+    run(${configure_host} -B ${ROOT}/qt${version} -DCMAKE_PREFIX_PATH=${usr}
+        -DMRTOOLBAR_QT_MAJOR=${version} -DEXPECTED_QT=${version})
+    run(${CMAKE_COMMAND} --build ${ROOT}/qt${version} --target cmake_host)
+    run_hosts(${ROOT}/qt${version})
+endforeach()
+run(${CMAKE_COMMAND} -G ${GENERATOR} -B ${ROOT}/examples -DCMAKE_PREFIX_PATH=${usr}
+    -DMRTOOLBAR_QT_MAJOR=${QT} -S ${usr}/share/doc/libmrtoolbar-qt${QT}-dev/examples)
+run(${CMAKE_COMMAND} --build ${ROOT}/examples)
+foreach(program IN ITEMS mrtoolbar-reader mrtoolbar-check)
+    run(${usr}/bin/${program} --version)
+endforeach()
+run(${usr}/bin/mrtoolbar-check ${SOURCE}/Resources/lum/mr_toolbar.release.xml)
+
 dpkg_in_root(--purge ${names})
-if(EXISTS ${ROOT}/usr)
-    file(GLOB_RECURSE left ${ROOT}/usr/*)
+if(EXISTS ${usr})
+    file(GLOB_RECURSE left ${usr}/*)
     message(SEND_ERROR "The packages have left something behind: ${left}")
 endif()

@@ -16,10 +16,6 @@ macro(set_configure_host generator)
     set(configure_host ${CMAKE_COMMAND} -G ${generator} -S ${CMAKE_CURRENT_LIST_DIR}/../package
         -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG=-O0
         -DSMALLEST=${CMAKE_CURRENT_LIST_DIR}/../../examples/minimal/main.cpp)
-    find_program(CCACHE ccache)
-    if(CCACHE)
-        list(APPEND configure_host -DCMAKE_CXX_COMPILER_LAUNCHER=${CCACHE})
-    endif()
 endmacro()
 
 # run_hosts(<folder>): every host in it, without a display.
