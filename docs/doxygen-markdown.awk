@@ -2,8 +2,9 @@
 # SPDX-License-Identifier: MIT
 
 # Converts a guide for Doxygen: headings get the anchors that links between the guides use, with the
-# file name as a prefix; fences of code blocks keep only the language; and a link to a page that is not
-# an input of Doxygen becomes its text.
+# file name as a prefix; fences of code blocks keep only the language; a picture is named without its
+# folder; the text of a link has no backticks, which Doxygen would print; and a link to a page that is
+# not an input of Doxygen becomes its text.
 
 FNR == 1 {
     guide = FILENAME
@@ -28,9 +29,9 @@ FNR == 1 {
 
 !inCode {
     gsub(/\]\(#/, "](#" guide "-")
-    gsub(/\]\(host-guide\.md#/, "](#host-guide-")
-    gsub(/\]\(description-format\.md#/, "](#description-format-")
-    gsub(/\]\(skins\.md#/, "](#skins-")
+    gsub(/\]\((docs\/)?host-guide\.md#/, "](#host-guide-")
+    gsub(/\]\((docs\/)?description-format\.md#/, "](#description-format-")
+    gsub(/\]\((docs\/)?skins\.md#/, "](#skins-")
 }
 
 !inCode {
@@ -40,6 +41,20 @@ FNR == 1 {
         sub(/\].*/, "", text)
         $0 = substr($0, 1, RSTART - 1) text substr($0, RSTART + RLENGTH)
     }
+}
+
+!inCode {
+    line = ""
+    while (match($0, /\[[^]]*\]\([^)]*\)/)) {
+        link = substr($0, RSTART, RLENGTH)
+        if (RSTART > 1 && substr($0, RSTART - 1, 1) == "!")
+            sub(/\(.*\//, "(", link)
+        else
+            gsub(/`/, "", link)
+        line = line substr($0, 1, RSTART - 1) link
+        $0 = substr($0, RSTART + RLENGTH)
+    }
+    $0 = line $0
 }
 
 { print }
