@@ -1,13 +1,13 @@
 # SPDX-FileCopyrightText: The MRToolBar authors
 # SPDX-License-Identifier: MIT
 
-# install_program(<target> <component>): the program, which finds the library beside itself wherever
-# the installed tree is, with its manual page and its bash completion in packaging/.
+# install_program(<target> <component> [EXPORT <export>]): the program, which finds the library beside
+# itself wherever the installed tree is, with its manual page and its bash completion in packaging/.
 function(install_program target component)
     file(RELATIVE_PATH library_from_program
         ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR})
     set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN/${library_from_program}")
-    install(TARGETS ${target}
+    install(TARGETS ${target} ${ARGN}
         RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
         COMPONENT ${component})
     set(source ${PROJECT_SOURCE_DIR}/packaging)

@@ -35,7 +35,9 @@ FNR == 1 {
 }
 
 !inCode {
-    other = "\\[[^]]*\\]\\((docs/(architecture|quality)\\.md|(CONTRIBUTING|CHANGELOG)\\.md|LICENSE)\\)"
+    pages = "docs/(architecture|quality)\\.md|(CONTRIBUTING|CHANGELOG)\\.md|LICENSE"
+    files = "(docs/)?uiconfig\\.xsd|toolbar/MRToolBar\\.h|(\\.\\./)?examples/[a-z]+"
+    other = "\\[[^]]*\\]\\((" pages "|" files ")\\)"
     while (match($0, other)) {
         text = substr($0, RSTART + 1, RLENGTH)
         sub(/\].*/, "", text)

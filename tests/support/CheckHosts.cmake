@@ -2,15 +2,15 @@
 # SPDX-License-Identifier: MIT
 
 # Hosts are built with the installed library, and with those for both versions of Qt side by side if
-# the other one is built, too. ROOT is the folder to work in, QT the version of BUILD, and OTHER the
-# folder where a library for the other version may have been built.
+# the other one is built, too. ROOT is the folder to work in, where a moved copy of INSTALLED is used,
+# QT its version, and OTHER the folder where a library for the other version may have been built.
 include(${CMAKE_CURRENT_LIST_DIR}/Run.cmake)
 set_configure_host(${GENERATOR})
 list(APPEND configure_host -DCMAKE_PREFIX_PATH=${ROOT}/prefix)
 file(REMOVE_RECURSE ${ROOT})
 set(ENV{LD_LIBRARY_PATH} "${ROOT}/prefix/lib:${ROOT}/prefix/lib/${ARCHITECTURE}")
 
-run(${CMAKE_COMMAND} --install ${BUILD} --prefix ${ROOT}/prefix)
+file(COPY ${INSTALLED}/ DESTINATION ${ROOT}/prefix)
 set(versions ${QT})
 math(EXPR other "11 - ${QT}")
 file(GLOB library ${OTHER}/lib/libmrtoolbar-qt${other}.so.*)
