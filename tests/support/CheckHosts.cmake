@@ -24,19 +24,19 @@ foreach(version IN LISTS versions)
         -DEXPECTED_QT=${version})
     run(${CMAKE_COMMAND} --build ${ROOT}/qt${version})
     run_hosts(${ROOT}/qt${version})
-    run(${configure_host} -B ${ROOT}/own -DOWN_QT=${version} -DEXPECTED_QT=${version})
+    run(${configure_host} -B ${ROOT}/own -DCHOICE_ONLY=ON -DOWN_QT=${version} -DEXPECTED_QT=${version})
 endforeach()
 
 list(SORT versions)
 list(GET versions 0 default)
-run(${configure_host} -B ${ROOT}/default -DEXPECTED_QT=${default})
+run(${configure_host} -B ${ROOT}/default -DCHOICE_ONLY=ON -DEXPECTED_QT=${default})
 if(versions STREQUAL "5;6")
     # A build folder may change its mind.
-    run(${configure_host} -B ${ROOT}/default -DMRTOOLBAR_QT_MAJOR=6 -DEXPECTED_QT=6)
+    run(${configure_host} -B ${ROOT}/default -DCHOICE_ONLY=ON -DMRTOOLBAR_QT_MAJOR=6 -DEXPECTED_QT=6)
     file(REMOVE_RECURSE ${ROOT}/prefix/lib/cmake/MRToolBar-qt${other}
         ${ROOT}/prefix/lib/${ARCHITECTURE}/cmake/MRToolBar-qt${other})
 endif()
-execute_process(COMMAND ${configure_host} -B ${ROOT}/missing -DMRTOOLBAR_QT_MAJOR=${other}
+execute_process(COMMAND ${configure_host} -B ${ROOT}/missing -DCHOICE_ONLY=ON -DMRTOOLBAR_QT_MAJOR=${other}
     RESULT_VARIABLE result OUTPUT_QUIET ERROR_VARIABLE error)
 if(result EQUAL 0 OR NOT error MATCHES "for Qt ${QT}, but[ \n]+MRTOOLBAR_QT_MAJOR[ \n]+is[ \n]+${other}")
     message(FATAL_ERROR "The error does not name the missing version of Qt:\n${error}")
