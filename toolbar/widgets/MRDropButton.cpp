@@ -9,6 +9,7 @@
 #include "toolbar/skin/Skin.h"
 #include "toolbar/widgets/ExtendMenuOwner.h"
 #include "toolbar/widgets/HoverSheets.h"
+#include "toolbar/widgets/Mnemonic.h"
 
 #include <QMenu>
 
@@ -38,6 +39,13 @@ QString menuCopySheet(double scale, const SchemeColours *colours)
     return HoverSheets::filled(sheet, isLum, colours);
 }
 
+/** The name for those who cannot see the text is it without the room for the arrow. */
+void showText(QToolButton *button, const QString &text)
+{
+    button->setText(text);
+    button->setAccessibleName(withoutMnemonic(text).trimmed());
+}
+
 } // namespace
 
 MRDropButton::MRDropButton(QWidget *, QWidget *parent, QString text, QString iconPath, QString,
@@ -45,7 +53,7 @@ MRDropButton::MRDropButton(QWidget *, QWidget *parent, QString text, QString ico
     : SplitButton(parent)
     , m_owner(parent)
 {
-    setText(text);
+    showText(this, text);
     setIcon(QIcon(iconPath));
     setAutoRaise(false);
     connect(this, &QToolButton::clicked, this, [this] {
@@ -72,7 +80,7 @@ void MRDropButton::takeFace(QAction *action)
         setIcon(action->icon());
 
     m_previousText = text();
-    setText(faceText(action));
+    showText(this, faceText(action));
     setCheckable(true);
     m_currentAction = action;
 }
@@ -93,7 +101,7 @@ void MRDropButton::showFaceAgain(const QString &ownText, const QIcon &ownIcon)
     QString shownText = text();
     QIcon shownIcon = icon();
     show(m_face, shownText, shownIcon);
-    setText(shownText);
+    showText(this, shownText);
     if (shownIcon.cacheKey() != icon().cacheKey())
         setIcon(shownIcon);
 }
@@ -142,7 +150,7 @@ void MRDropButton::Reset()
     if (!m_previousIcon.isNull())
         setIcon(m_previousIcon);
     if (!m_previousText.isEmpty())
-        setText(m_previousText);
+        showText(this, m_previousText);
     m_face = m_previousFace;
     m_currentAction = nullptr;
     Q_EMIT currentActionChanged();

@@ -85,6 +85,7 @@ void MRDropButtonAction::setUpRowButton(MRDropButton *button)
     button->setProperty(Property::position, "toolbar");
     button->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     button->setText(m_text);
+    button->setAccessibleName(m_text.trimmed());
     button->SetAction(m_defaultAction);
     button->setVisible(m_visible);
     button->setEnabled(m_enabled);
