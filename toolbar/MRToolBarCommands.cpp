@@ -28,6 +28,14 @@ MRToolBarCommands::NamedCondition withoutName(const MRToolBarCommands::Condition
                      : MRToolBarCommands::NamedCondition();
 }
 
+/** By value: the host may set another function in this one. */
+template <typename Function, typename Argument>
+void call(const Function function, const Argument &argument)
+{
+    if (function)
+        function(argument);
+}
+
 } // namespace
 
 MRToolBarCommands::Command::Command(std::shared_ptr<Entry> entry)
@@ -115,30 +123,28 @@ void MRToolBarCommands::setToolBar(MRToolBar *toolBar)
 void MRToolBarCommands::connectFields()
 {
     connect(d->toolBar, &MRToolBar::DoGotoPage, this,
-            [this](int page) { choose(d->goToPage, page, pagesValue); });
+            [this](int page) { choose([this, page] { call(d->goToPage, page); }, pagesValue); });
     connect(d->toolBar, &MRToolBar::DoSetZoomMode, this, [this](const QString &mode) {
         // The box that shows a reported mode reports it, too.
         if (!d->isTellingZoom)
-            choose(d->chooseZoom, mode, zoomValue);
+            choose([this, mode] { call(d->chooseZoom, mode); }, zoomValue);
     });
-    connect(d->toolBar, &MRToolBar::DoSearchContent, this,
-            [this](const SearchOption &option) { choose(d->search, option, {}); });
-    connect(d->toolBar, &MRToolBar::DoSetBackground, this,
-            [this](BackgroundStyle style) { choose(d->chooseBackground, style, backgroundValue); });
-    connect(d->toolBar, &MRToolBar::DoOpenFile, this,
-            [this](const QString &fileName) { choose(d->openRecent, fileName, {}); });
+    connect(d->toolBar, &MRToolBar::DoSearchContent, this, [this](const SearchOption &option) {
+        choose([this, option] { call(d->search, option); });
+    });
+    connect(d->toolBar, &MRToolBar::DoSetBackground, this, [this](BackgroundStyle style) {
+        choose([this, style] { call(d->chooseBackground, style); }, backgroundValue);
+    });
+    connect(d->toolBar, &MRToolBar::DoOpenFile, this, [this](const QString &fileName) {
+        choose([this, fileName] { call(d->openRecent, fileName); });
+    });
 }
 
-template <typename Function, typename Argument>
-void MRToolBarCommands::choose(const Function &function, const Argument &argument,
-                               QLatin1String value)
+void MRToolBarCommands::choose(const Run &choice, const QString &value)
 {
     const QPointer<MRToolBarCommands> self(this);
-    const std::shared_ptr<Private> keptAlive = d;
     d->forget(value);
-    // A copy, because the host may set another function in this one.
-    if (const Function run = function)
-        run(argument);
+    choice();
     if (self)
         refresh();
 }

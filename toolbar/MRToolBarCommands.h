@@ -137,6 +137,9 @@ public:
     void keepIn(QSettings *settings, const QString &group = QStringLiteral("toolbar"));
     /** Opens the recent file that the user has chosen; `f_clearhistory` is answered, too. */
     void setRecentFiles(const std::function<void(const QString &fileName)> &open, int limit = 10);
+    /** The same for a host that keeps the list itself. */
+    void setRecentFiles(const std::function<QStringList()> &files,
+                        const std::function<void(const QString &fileName)> &open);
     /** Puts a file at the start of the recent files, or moves it there. */
     void addRecentFile(const QString &fileName);
     void clearRecentFiles();
@@ -164,8 +167,7 @@ Q_SIGNALS:
 private:
     class Private;
 
-    template <typename Function, typename Argument>
-    void choose(const Function &function, const Argument &argument, QLatin1String value);
+    void choose(const Run &choice, const QString &value = {});
     void connectFields();
     void connectKept();
     void use(const QString &name);

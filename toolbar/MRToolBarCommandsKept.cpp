@@ -62,7 +62,7 @@ void MRToolBarCommands::keepIn(QSettings *settings, const QString &group)
     d->group = group;
     if (!settings)
         return;
-    d->recentFiles = settings->value(group + recentKey).toStringList().mid(0, d->recentLimit);
+    d->recentFiles = settings->value(group + recentKey).toStringList();
     if (d->toolBar)
         restore(*d->toolBar, settings->value(group + stateKey).toString());
     update();
@@ -71,15 +71,19 @@ void MRToolBarCommands::keepIn(QSettings *settings, const QString &group)
 void MRToolBarCommands::setRecentFiles(const std::function<void(const QString &fileName)> &open,
                                        int limit)
 {
-    d->openRecent = open;
     d->recentLimit = std::max(limit, 0);
-    d->recentFiles = d->recentFiles.mid(0, d->recentLimit);
-    Private *data = d.get();
-    d->setValue(recentValue, {[data] { return data->recentFiles; },
+    setRecentFiles([this] { return recentFiles(); }, open);
+    addDescribed(Name::clearHistory, [this] { clearRecentFiles(); }, {});
+}
+
+void MRToolBarCommands::setRecentFiles(const std::function<QStringList()> &files,
+                                       const std::function<void(const QString &fileName)> &open)
+{
+    d->openRecent = open;
+    d->setValue(recentValue, {[files] { return files ? files() : QStringList(); },
                               [](MRToolBar &toolBar, const QVariant &value) {
                                   toolBar.DoUpdateRecentFileSlot(value.toStringList());
                               }});
-    addDescribed(Name::clearHistory, [this] { clearRecentFiles(); }, {});
     update();
 }
 
@@ -102,7 +106,7 @@ void MRToolBarCommands::clearRecentFiles()
 
 QStringList MRToolBarCommands::recentFiles() const
 {
-    return d->recentFiles;
+    return d->recentFiles.mid(0, d->recentLimit);
 }
 
 void MRToolBarCommands::Private::storeRecentFiles() const
