@@ -3,11 +3,12 @@
 
 #include "commands/EditCommands.h"
 
-#include "commands/CommandTable.h"
 #include "document/Document.h"
 #include "document/PageGenerator.h"
 #include "pages/PageView.h"
 #include "panels/HandwritingSettings.h"
+
+#include <toolbar/MRToolBarCommands.h>
 
 #include <QInputDialog>
 #include <QMainWindow>
@@ -32,9 +33,10 @@ const QMap<QString, QString> &groupTools()
     return tools;
 }
 
-QStringList name(const char *text)
+/** Empty, which is the described tooltip, when there is nothing to tell. */
+QString tellingWhat(const QString &tip, const QString &what)
 {
-    return {QLatin1String(text)};
+    return what.isEmpty() ? QString() : tip.arg(what);
 }
 
 QPolygonF cornersOf(const QRectF &rect)
@@ -60,38 +62,49 @@ EditCommands::EditCommands(const ReaderParts &parts)
 {
 }
 
-void EditCommands::addTo(CommandTable &table)
+void EditCommands::addTo(MRToolBarCommands &commands)
 {
-    addTools(table);
-    addSelection(table);
-    addPages(table);
-    addStamps(table);
+    addTools(commands);
+    addSelection(commands);
+    addPages(commands);
+    addStamps(commands);
+    // Of descriptions with tabs for the text that is selected.
+    commands.setContext("text", [view = m_parts.view] { return !view->selection().isEmpty(); });
 }
 
-void EditCommands::addTools(CommandTable &table)
+void EditCommands::addTools(MRToolBarCommands &commands)
 {
-    table.add(PageTool::names(), Needs::Document, [this](const QString &tool) { useTool(tool); });
-    table.add(groupTools().keys(), Needs::Document,
-              [this](const QString &group) { useTool(groupTools().value(group)); });
+    m_parts
+        .addForDocument(commands, PageTool::names(), [this](const QString &tool) { useTool(tool); })
+        .checkedWhen(
+            [view = m_parts.view](const QString &tool) { return view->tool().name == tool; });
+    m_parts.addForDocument(commands, groupTools().keys(),
+                           [this](const QString &group) { useTool(groupTools().value(group)); });
 }
 
-void EditCommands::addSelection(CommandTable &table)
+void EditCommands::addSelection(MRToolBarCommands &commands)
 {
     Document *document = m_parts.document;
-    table.add(name("e_undo"), Needs::UndoStep,
-              [document](const QString &) { document->undoStack().undo(); });
-    table.add(name("e_redo"), Needs::RedoStep,
-              [document](const QString &) { document->undoStack().redo(); });
-    table.add(name("e_selectpage"), Needs::Document, [this](const QString &) {
+    commands.add("e_undo", [document] { document->undoStack().undo(); })
+        .usableWhen([document] { return document->undoStack().canUndo(); })
+        .withToolTip([document] {
+            return tellingWhat(tr("撤销：%1 (Ctrl+Z)"), document->undoStack().undoText());
+        });
+    commands.add("e_redo", [document] { document->undoStack().redo(); })
+        .usableWhen([document] { return document->undoStack().canRedo(); })
+        .withToolTip([document] {
+            return tellingWhat(tr("恢复：%1 (Ctrl+Y)"), document->undoStack().redoText());
+        });
+    m_parts.addForDocument(commands, "e_selectpage", [this] {
         selectPages(m_parts.view->currentPage(), m_parts.view->currentPage());
     });
-    table.add(name("e_selectall"), Needs::Document,
-              [this](const QString &) { selectPages(0, m_parts.document->pageCount() - 1); });
-    table.add(name("e_unselect"), Needs::Selection,
-              [this](const QString &) { m_parts.view->setSelection({}); });
+    m_parts.addForDocument(commands, "e_selectall",
+                           [this] { selectPages(0, m_parts.document->pageCount() - 1); });
+    commands.add("e_unselect", [this] { m_parts.view->setSelection({}); })
+        .usableWhen([view = m_parts.view] { return !view->selection().isEmpty(); });
 }
 
-void EditCommands::addPages(CommandTable &table)
+void EditCommands::addPages(MRToolBarCommands &commands)
 {
     const auto insert = [this](const Page &page, const QString &what) {
         const int index = m_parts.view->currentPage() + 1;
@@ -99,42 +112,41 @@ void EditCommands::addPages(CommandTable &table)
         m_parts.view->setCurrentPage(index);
         m_parts.say(tr("%1：第 %2 页").arg(what).arg(index + 1));
     };
-    table.add(name("d_insertblankpage"), Needs::Document, [insert](const QString &) {
+    m_parts.addForDocument(commands, "d_insertblankpage", [insert] {
         Page blank;
         blank.heading = tr("空白页");
         insert(blank, tr("插入空白页"));
     });
-    table.add(name("d_insertpage"), Needs::Document, [this, insert](const QString &) {
+    m_parts.addForDocument(commands, "d_insertpage", [this, insert] {
         const int number = m_parts.document->pageCount() + 1;
         insert(PageGenerator::page(insertedPageSeed, number), tr("插入页面"));
     });
 }
 
-void EditCommands::addStamps(CommandTable &table)
+void EditCommands::addStamps(MRToolBarCommands &commands)
 {
     // Not translated: the text becomes a part of the document.
-    table.add(name("t_sealsign"), Needs::Document, [this](const QString &) {
+    m_parts.addForDocument(commands, "t_sealsign", [this] {
         place(MarkKind::RoundSeal, QRectF(520, 830, 170, 170), QStringLiteral("示例单位专用章"));
     });
-    table.add(name("t_pageseal"), Needs::Document, [this](const QString &) {
+    m_parts.addForDocument(commands, "t_pageseal", [this] {
         const QSizeF size = m_parts.document->sizeOf(m_parts.view->currentPage());
         const QRectF overEdge(size.width() - 60, 480, 120, 120);
         placeOnEveryPage(MarkKind::EdgeSeal, overEdge, QStringLiteral("骑缝专用章"));
     });
-    table.add(name("ti_chapter"), Needs::Document, [this](const QString &) {
+    m_parts.addForDocument(commands, "ti_chapter", [this] {
         place(MarkKind::SquareSeal, QRectF(110, 850, 120, 120), QStringLiteral("示例之印"));
     });
-    table.add(name("t_sealmark"), Needs::Document, [this](const QString &) {
+    m_parts.addForDocument(commands, "t_sealmark", [this] {
         place(MarkKind::SealPlace, QRectF(330, 840, 140, 140), QStringLiteral("此处盖章"));
     });
-    table.add(name("ti_stamp"), Needs::Document, [this](const QString &) {
+    m_parts.addForDocument(commands, "ti_stamp", [this] {
         place(MarkKind::Stamp, QRectF(500, 90, 160, 64), QStringLiteral("已　阅"));
     });
-    table.add(name("ti_affix"), Needs::Document, [this](const QString &) {
+    m_parts.addForDocument(commands, "ti_affix", [this] {
         place(MarkKind::Picture, QRectF(280, 420, 240, 150), QString());
     });
-    table.add(name("tw_watermark_add"), Needs::Document,
-              [this](const QString &) { addWatermark(); });
+    m_parts.addForDocument(commands, "tw_watermark_add", [this] { addWatermark(); });
 }
 
 void EditCommands::useTool(const QString &name)

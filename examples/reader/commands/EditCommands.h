@@ -8,7 +8,7 @@
 
 #include <QCoreApplication>
 
-class CommandTable;
+class MRToolBarCommands;
 class QString;
 
 /** The commands that change the document: tools, stamps, pages, undo and redo. */
@@ -19,7 +19,7 @@ class EditCommands
 public:
     explicit EditCommands(const ReaderParts &parts);
 
-    void addTo(CommandTable &table);
+    void addTo(MRToolBarCommands &commands);
 
     void useTool(const QString &name);
     void editHandwriting();
@@ -27,10 +27,10 @@ public:
     void addDrawn(Mark mark);
 
 private:
-    void addTools(CommandTable &table);
-    void addSelection(CommandTable &table);
-    void addPages(CommandTable &table);
-    void addStamps(CommandTable &table);
+    void addTools(MRToolBarCommands &commands);
+    void addSelection(MRToolBarCommands &commands);
+    void addPages(MRToolBarCommands &commands);
+    void addStamps(MRToolBarCommands &commands);
     void place(MarkKind kind, const QRectF &rect, const QString &text);
     void placeOnEveryPage(MarkKind kind, const QRectF &rect, const QString &text);
     void addWatermark();

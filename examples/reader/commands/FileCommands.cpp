@@ -3,13 +3,14 @@
 
 #include "commands/FileCommands.h"
 
-#include "commands/CommandTable.h"
 #include "commands/RecentFiles.h"
 #include "document/Document.h"
 #include "pages/Export.h"
 #include "pages/PageView.h"
 #include "pages/Printing.h"
 #include "panels/PropertiesDialog.h"
+
+#include <toolbar/MRToolBarCommands.h>
 
 #include <QDir>
 #include <QFileDialog>
@@ -46,27 +47,26 @@ FileCommands::FileCommands(const ReaderParts &parts)
 {
 }
 
-void FileCommands::addTo(CommandTable &table)
+void FileCommands::addTo(MRToolBarCommands &commands)
 {
-    const auto name = [](const char *text) { return QStringList{QLatin1String(text)}; };
-    table.add({QStringLiteral("f_open"), QStringLiteral("lum_open")}, Needs::Nothing,
-              [this](const QString &) { askAndOpen(); });
-    table.add(name("f_close"), Needs::Document, [this](const QString &) { close(); });
-    table.add(name("f_save"), Needs::Changes, [this](const QString &) { save(); });
-    table.add({QStringLiteral("f_saveas"), QStringLiteral("lum_saveas")}, Needs::Document,
-              [this](const QString &) { saveAs(); });
-    table.add(name("f_print"), Needs::Document, [this](const QString &) { print(); });
-    table.add(name("f_property"), Needs::Document, [this](const QString &) { showProperties(); });
-    table.add(name("f_exit"), Needs::Nothing, [this](const QString &) { m_parts.window->close(); });
-    table.add(name("f_clearhistory"), Needs::Nothing,
-              [this](const QString &) { m_parts.recentFiles->clearRecentFiles(); });
-    table.add(name("f_saveenv"), Needs::Document,
-              [this](const QString &) { m_parts.say(tr("保存信封：示例不生成数字信封")); });
-    table.add(name("e_preference"), Needs::Nothing, [this](const QString &) { showPreferences(); });
-    table.add({QStringLiteral("h_productinfo"), QStringLiteral("h_software")}, Needs::Nothing,
-              [this](const QString &) { showAbout(); });
-    table.add(name("h_softupdate"), Needs::Nothing,
-              [this](const QString &) { m_parts.say(tr("检查更新：示例不连接网络")); });
+    commands.add({"f_open", "lum_open"}, [this](const QString &) { askAndOpen(); });
+    m_parts.addForDocument(commands, "f_close", [this] { close(); });
+    commands.add("f_save", [this] { save(); }).usableWhen([document = m_parts.document] {
+        return document->isModified();
+    });
+    m_parts.addForDocument(commands, {"f_saveas", "lum_saveas"},
+                           [this](const QString &) { saveAs(); });
+    m_parts.addForDocument(commands, "f_print", [this] { print(); });
+    m_parts.addForDocument(commands, "f_property", [this] { showProperties(); });
+    commands.add("f_exit", [this] { m_parts.window->close(); });
+    commands.add("f_clearhistory", [this] { m_parts.recentFiles->clearRecentFiles(); });
+    commands.setRecentFiles([recent = m_parts.recentFiles] { return recent->recentFiles(); },
+                            [this](const QString &fileName) { open(fileName); });
+    m_parts.addForDocument(commands, "f_saveenv",
+                           [this] { m_parts.say(tr("保存信封：示例不生成数字信封")); });
+    commands.add("e_preference", [this] { showPreferences(); });
+    commands.add({"h_productinfo", "h_software"}, [this](const QString &) { showAbout(); });
+    commands.add("h_softupdate", [this] { m_parts.say(tr("检查更新：示例不连接网络")); });
 }
 
 void FileCommands::open(const QString &fileName, QString *refusal)

@@ -8,7 +8,7 @@
 #include <QCoreApplication>
 #include <QString>
 
-class CommandTable;
+class MRToolBarCommands;
 
 /** The commands for files, for settings and for information about the reader. */
 class FileCommands
@@ -18,7 +18,7 @@ class FileCommands
 public:
     explicit FileCommands(const ReaderParts &parts);
 
-    void addTo(CommandTable &table);
+    void addTo(MRToolBarCommands &commands);
 
     /**
      * Opens a file and adds it to the recent files, unless mayLeaveDocument() returns false. A file

@@ -3,6 +3,8 @@
 
 #include "commands/ReaderParts.h"
 
+#include "document/Document.h"
+
 #include <QMainWindow>
 #include <QStatusBar>
 
@@ -11,6 +13,20 @@ namespace {
 constexpr int messageTime = 6000;
 
 } // namespace
+
+MRToolBarCommands::Command ReaderParts::addForDocument(MRToolBarCommands &commands,
+                                                       const QString &name,
+                                                       const MRToolBarCommands::Run &run) const
+{
+    return commands.add(name, run).usableWhen([open = document] { return open->isOpen(); });
+}
+
+MRToolBarCommands::Command ReaderParts::addForDocument(MRToolBarCommands &commands,
+                                                       const QStringList &names,
+                                                       const MRToolBarCommands::RunNamed &run) const
+{
+    return commands.add(names, run).usableWhen([open = document] { return open->isOpen(); });
+}
 
 void ReaderParts::say(const QString &message) const
 {

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <toolbar/MRToolBarCommands.h>
+
 #include <functional>
 
 class Document;
@@ -26,6 +28,12 @@ struct ReaderParts
     RecentFiles *recentFiles = nullptr;
     /** Focuses a control of the toolbar; returns false if it is not visible. */
     std::function<bool(const QString &name)> focusControl;
+
+    /** Adds what is usable while a document is open. */
+    MRToolBarCommands::Command addForDocument(MRToolBarCommands &commands, const QString &name,
+                                              const MRToolBarCommands::Run &run) const;
+    MRToolBarCommands::Command addForDocument(MRToolBarCommands &commands, const QStringList &names,
+                                              const MRToolBarCommands::RunNamed &run) const;
 
     /** Shows a line in the status bar for a while. */
     void say(const QString &message) const;

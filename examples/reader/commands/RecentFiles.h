@@ -3,9 +3,7 @@
 
 #pragma once
 
-#include <QtGlobal>
-
-class QString;
+#include <QStringList>
 
 /** The operations on the recent files that commands use. */
 class RecentFiles
@@ -15,6 +13,7 @@ public:
     virtual ~RecentFiles() = default;
     Q_DISABLE_COPY(RecentFiles)
 
+    virtual QStringList recentFiles() const = 0;
     /** Puts a file at the start of the list, without duplicates. */
     virtual void addRecentFile(const QString &fileName) = 0;
     virtual void clearRecentFiles() = 0;

@@ -3,11 +3,12 @@
 
 #include "commands/ViewCommands.h"
 
-#include "commands/CommandTable.h"
 #include "document/Document.h"
 #include "pages/PageView.h"
 #include "panels/NavigationPanel.h"
 #include "panels/SearchPanel.h"
+
+#include <toolbar/MRToolBarCommands.h>
 
 #include <QMainWindow>
 #include <QMap>
@@ -27,11 +28,6 @@ const QMap<QString, LayoutMode> &layouts()
     return layouts;
 }
 
-QStringList name(const char *text)
-{
-    return {QLatin1String(text)};
-}
-
 } // namespace
 
 ViewCommands::ViewCommands(const ReaderParts &parts)
@@ -39,75 +35,80 @@ ViewCommands::ViewCommands(const ReaderParts &parts)
 {
 }
 
-QString ViewCommands::nameOf(LayoutMode mode)
+void ViewCommands::addTo(MRToolBarCommands &commands)
 {
-    return layouts().key(mode);
+    addPages(commands);
+    addZoom(commands);
+    addLayouts(commands);
+    addPanels(commands);
 }
 
-void ViewCommands::addTo(CommandTable &table)
-{
-    addPages(table);
-    addZoom(table);
-    addLayouts(table);
-    addPanels(table);
-}
-
-void ViewCommands::addPages(CommandTable &table)
+void ViewCommands::addPages(MRToolBarCommands &commands)
 {
     PageView *view = m_parts.view;
-    table.add(name("d_firstpage"), Needs::EarlierPage,
-              [view](const QString &) { view->setCurrentPage(0); });
-    table.add(name("d_prevpage"), Needs::EarlierPage, [this](const QString &) { turnPages(-1); });
-    table.add(name("d_nextpage"), Needs::LaterPage, [this](const QString &) { turnPages(1); });
-    table.add(name("d_lastpage"), Needs::LaterPage, [this](const QString &) {
-        m_parts.view->setCurrentPage(m_parts.document->pageCount() - 1);
+    const auto page = [this] {
+        return m_parts.document->isOpen() ? m_parts.view->currentPage() + 1 : 0;
+    };
+    const auto count = [document = m_parts.document] { return document->pageCount(); };
+    commands.setPages(page, count, [view](int number) {
+        view->setCurrentPage(number - 1);
+        view->setFocus();
     });
-    // The names of the page field in the shipped descriptions.
-    table.addControl({QStringLiteral("d_gotopage"), QStringLiteral("d_gotopageinput")},
-                     Needs::Document);
+    // Those that keep the focus where it is, and turn over two pages where two are side by side.
+    const auto hasEarlier = [page] { return page() > 1; };
+    const auto hasLater = [page, count] { return page() < count(); };
+    commands.add("d_firstpage", [view] { view->setCurrentPage(0); }).usableWhen(hasEarlier);
+    commands.add("d_prevpage", [this] { turnPages(-1); }).usableWhen(hasEarlier);
+    commands.add("d_nextpage", [this] { turnPages(1); }).usableWhen(hasLater);
+    commands
+        .add("d_lastpage",
+             [this] { m_parts.view->setCurrentPage(m_parts.document->pageCount() - 1); })
+        .usableWhen(hasLater);
 }
 
-void ViewCommands::addZoom(CommandTable &table)
+void ViewCommands::addZoom(MRToolBarCommands &commands)
 {
-    PageView *view = m_parts.view;
-    table.add({QStringLiteral("vzmode_original"), QStringLiteral("vzmode_fitwidth"),
-               QStringLiteral("vzmode_fitheight"), QStringLiteral("vzmode_fitpage")},
-              Needs::Document,
-              [view](const QString &mode) { view->setZoomMode(ZoomMode::fromName(mode)); });
-    table.add(name("v_zoomin"), Needs::Document, [this](const QString &) { stepZoom(true); });
-    table.add(name("v_zoomout"), Needs::Document, [this](const QString &) { stepZoom(false); });
-    table.addControl({QStringLiteral("v_zoom"), QStringLiteral("v_zoomlist")}, Needs::Document);
+    m_parts.addForDocument(commands, "v_zoomin", [this] { stepZoom(true); });
+    m_parts.addForDocument(commands, "v_zoomout", [this] { stepZoom(false); });
     Document *document = m_parts.document;
-    table.add(name("v_rotateclock"), Needs::Document,
-              [document](const QString &) { document->turn(1, tr("顺时针旋转")); });
-    table.add(name("v_rotateanti"), Needs::Document,
-              [document](const QString &) { document->turn(-1, tr("逆时针旋转")); });
+    m_parts.addForDocument(commands, "v_rotateclock",
+                           [document] { document->turn(1, tr("顺时针旋转")); });
+    m_parts.addForDocument(commands, "v_rotateanti",
+                           [document] { document->turn(-1, tr("逆时针旋转")); });
 }
 
-void ViewCommands::addLayouts(CommandTable &table)
+void ViewCommands::addLayouts(MRToolBarCommands &commands)
 {
-    table.add(layouts().keys(), Needs::Document, [this](const QString &layout) {
+    auto modes = m_parts.addForDocument(commands, layouts().keys(), [this](const QString &layout) {
         m_parts.view->setLayoutMode(layouts().value(layout));
     });
-    table.add(name("v_fullscreen"), Needs::Nothing,
-              [this](const QString &) { toggleFullScreen(); });
-    table.addControl({QStringLiteral("v_foreground"), QStringLiteral("background_default"),
-                      QStringLiteral("background_daytime"), QStringLiteral("background_nighttime"),
-                      QStringLiteral("background_eyeguard"),
-                      QStringLiteral("background_parchment")},
-                     Needs::Document);
-    table.add(name("v_revision"), Needs::Document, [this](const QString &) { showRevisions(); });
-    table.add(name("v_trackinfo"), Needs::Document, [this](const QString &) { showInk(); });
+    modes.checkedWhen([view = m_parts.view](const QString &layout) {
+        return view->layoutMode() == layouts().value(layout);
+    });
+    commands.add("v_fullscreen", [this] { toggleFullScreen(); }).withText([this] {
+        return m_parts.window->isFullScreen() ? tr("退出全屏") : QString();
+    });
+    m_parts.addForDocument(commands, "v_foreground", {});
+    commands.addPrefix("background_", {}).usableWhen([document = m_parts.document] {
+        return document->isOpen();
+    });
+    commands.setBackground(
+        [view = m_parts.view] { return view->background(); },
+        [view = m_parts.view](BackgroundStyle style) { view->setBackground(style); });
+    m_parts.addForDocument(commands, "v_revision", [this] { showRevisions(); });
+    m_parts.addForDocument(commands, "v_trackinfo", [this] { showInk(); });
 }
 
-void ViewCommands::addPanels(CommandTable &table)
+void ViewCommands::addPanels(MRToolBarCommands &commands)
 {
-    table.add(NavigationPanel::names(), Needs::Document,
-              [this](const QString &panel) { m_parts.navigation->toggle(panel); });
-    table.add(name("e_find"), Needs::Document, [this](const QString &) { findInToolBar(); });
-    table.add(name("e_search"), Needs::Document,
-              [this](const QString &) { m_parts.search->open(); });
-    table.addControl({QStringLiteral("toolbar_searchbar")}, Needs::Document);
+    m_parts
+        .addForDocument(commands, NavigationPanel::names(),
+                        [this](const QString &panel) { m_parts.navigation->toggle(panel); })
+        .checkedWhen(
+            [this](const QString &panel) { return m_parts.navigation->shownPanel() == panel; });
+    m_parts.addForDocument(commands, "e_find", [this] { findInToolBar(); });
+    m_parts.addForDocument(commands, "e_search", [this] { m_parts.search->open(); });
+    m_parts.addForDocument(commands, "toolbar_searchbar", {});
 }
 
 void ViewCommands::turnPages(int direction)

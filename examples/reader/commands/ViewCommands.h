@@ -8,7 +8,7 @@
 
 #include <QCoreApplication>
 
-class CommandTable;
+class MRToolBarCommands;
 class QString;
 
 /** The commands for pages, zoom, layout, panels and search. */
@@ -19,19 +19,16 @@ class ViewCommands
 public:
     explicit ViewCommands(const ReaderParts &parts);
 
-    void addTo(CommandTable &table);
+    void addTo(MRToolBarCommands &commands);
 
     void stepZoom(bool larger);
     void toggleFullScreen();
 
-    /** The object name of the control for a layout. */
-    static QString nameOf(LayoutMode mode);
-
 private:
-    void addPages(CommandTable &table);
-    void addZoom(CommandTable &table);
-    void addLayouts(CommandTable &table);
-    void addPanels(CommandTable &table);
+    void addPages(MRToolBarCommands &commands);
+    void addZoom(MRToolBarCommands &commands);
+    void addLayouts(MRToolBarCommands &commands);
+    void addPanels(MRToolBarCommands &commands);
     void turnPages(int direction);
     void showRevisions();
     void showInk() const;

@@ -14,7 +14,7 @@ class ReaderSettings : public RecentFiles
 public:
     ReaderSettings();
 
-    QStringList recentFiles() const;
+    QStringList recentFiles() const override;
     void addRecentFile(const QString &fileName) override;
     void clearRecentFiles() override;
 

@@ -71,7 +71,7 @@ ReaderWindow::ReaderWindow(const QDomDocument &description, const QString &skin)
     connectParts();
     updateTitle();
     setScheme(m_scheme);
-    m_report->tellAll(state());
+    m_commands.refreshAll();
     setAcceptDrops(true);
     resize(windowSize * logicalDpiX() / referenceDpi);
     m_view->setFocus();
@@ -128,7 +128,7 @@ void ReaderWindow::createToolBar(const QDomDocument &description)
     m_description = description;
     QDomNode root = m_description.documentElement();
     m_toolBar = std::make_unique<MRToolBar>(this, root, skin, ToolBarLeft);
-    m_report.emplace(*m_toolBar, m_commands);
+    m_commands.setToolBar(m_toolBar.get());
     m_log->listenTo(*m_toolBar);
 }
 
@@ -147,7 +147,7 @@ void ReaderWindow::setDescription(QDomDocument description)
     removeToolBar();
     createToolBar(description);
     connectToolBar();
-    m_report->tellAll(state());
+    m_commands.refreshAll();
 }
 
 void ReaderWindow::removeToolBar()
@@ -155,7 +155,6 @@ void ReaderWindow::removeToolBar()
     QToolBar *bar = ToolBarReach::toolBarOf(*this);
     if (bar->isAncestorOf(focusWidget()))
         m_view->setFocus();
-    m_report.reset();
     m_toolBar.reset();
     // Not deleteLater(): the next toolbar has the same object names, so this one must not exist.
     delete bar;
@@ -166,17 +165,25 @@ void ReaderWindow::createCommands()
     m_fileCommands.addTo(m_commands);
     m_viewCommands.addTo(m_commands);
     m_editCommands.addTo(m_commands);
-    m_commands.add(Language::commands(), Needs::Nothing, &Language::choose);
+    m_commands.add(Language::commands(), &Language::choose);
+    m_commands.setZoom([this] { return m_document.isOpen() ? shownZoom().name() : QString(); },
+                       [this](const QString &name) {
+                           const ZoomMode mode = ZoomMode::fromName(name);
+                           if (m_document.isOpen() && mode.isValid())
+                               m_view->setZoomMode(mode);
+                       });
+    m_commands.setSearch([this](const SearchOption &option) { m_search->search(option); });
+    connect(&m_commands, &MRToolBarCommands::triggered, this, &ReaderWindow::stateChanged);
+    connect(&m_commands, &MRToolBarCommands::unhandled, this,
+            [this](const QString &name) { parts().say(tr("没有实现的命令：%1").arg(name)); });
 }
 
 void ReaderWindow::connectKeys()
 {
     const auto *keys =
         new KeyboardReach(this, [this](const QString &name) { return focusControl(name); });
-    connect(keys, &KeyboardReach::commandAsked, this, [this](const QString &name) {
-        if (m_commands.isUsable(name, state()))
-            runCommand(name);
-    });
+    connect(keys, &KeyboardReach::commandAsked, this,
+            [this](const QString &name) { m_commands.run(name); });
     connect(keys, &KeyboardReach::finderAsked, this, [this] { m_toolBar->DoFindCommandSlot(); });
     connect(keys, &KeyboardReach::escapePressed, this, &ReaderWindow::returnToPages);
 }
@@ -188,42 +195,24 @@ void ReaderWindow::returnToPages()
     // The close button of a dock cannot be reached by the keyboard.
     if (m_search->isAncestorOf(focusWidget()))
         m_search->hide();
-    m_report->tellFields();
+    // What is typed into a field is discarded.
+    m_commands.refreshAll();
     m_view->setFocus();
 }
 
 void ReaderWindow::connectToolBar()
 {
     const MRToolBar *toolBar = m_toolBar.get();
-    connect(toolBar, &MRToolBar::DoActive, this, &ReaderWindow::runCommand);
     connect(toolBar, &MRToolBar::DoStateChanged, this, [this] {
         if (!m_skin.isEmpty())
             m_settings.setToolBarState(m_skin, m_toolBar->GetToolBarState());
     });
-    connect(toolBar, &MRToolBar::DoGotoPage, this, [this](int page) {
-        m_view->setCurrentPage(page - 1);
-        m_view->setFocus();
-        stateChanged();
-    });
-    connect(toolBar, &MRToolBar::DoOpenFile, this, &ReaderWindow::open);
-    connect(toolBar, &MRToolBar::DoSetZoomMode, this, [this](const QString &mode) {
-        if (m_document.isOpen())
-            m_view->setZoomMode(ZoomMode::fromName(mode));
-    });
-    connect(toolBar, &MRToolBar::DoSearchContent, m_search, &SearchPanel::search);
-    connect(toolBar, &MRToolBar::DoSetBackground, this, [this](BackgroundStyle style) {
-        m_view->setBackground(style);
-        stateChanged();
-    });
-    connect(toolBar, &MRToolBar::DoRequestAuthority, this, &ReaderWindow::answerRequest);
+    connect(toolBar, &MRToolBar::DoRequestAuthority, this, &ReaderWindow::followZoomBox);
     followZoomBox();
 }
 
 void ReaderWindow::connectParts()
 {
-    m_updateTimer.setSingleShot(true);
-    connect(&m_updateTimer, &QTimer::timeout, this, &ReaderWindow::updateToolBar);
-
     connect(&m_document, &Document::pagesChanged, this, &ReaderWindow::stateChanged);
     connect(&m_document.undoStack(), &QUndoStack::indexChanged, this, &ReaderWindow::stateChanged);
     connect(&m_document.undoStack(), &QUndoStack::cleanChanged, this, &ReaderWindow::stateChanged);
@@ -260,19 +249,6 @@ void ReaderWindow::connectParts()
         m_editCommands.editHandwriting();
         stateChanged();
     });
-}
-
-void ReaderWindow::runCommand(const QString &name)
-{
-    if (!m_commands.run(name))
-        parts().say(tr("没有实现的命令：%1").arg(name));
-    stateChanged();
-}
-
-void ReaderWindow::answerRequest()
-{
-    m_report->tellAll(state());
-    followZoomBox();
 }
 
 void ReaderWindow::followZoomBox()
@@ -315,37 +291,9 @@ ZoomMode ReaderWindow::shownZoom() const
                : mode;
 }
 
-ReaderState ReaderWindow::state() const
-{
-    ReaderState state;
-    state.isOpen = m_document.isOpen();
-    state.isModified = m_document.isModified();
-    state.canUndo = m_document.undoStack().canUndo();
-    state.canRedo = m_document.undoStack().canRedo();
-    state.undoText = m_document.undoStack().undoText();
-    state.redoText = m_document.undoStack().redoText();
-    state.isFullScreen = isFullScreen();
-    state.hasSelection = !m_view->selection().isEmpty();
-    state.page = m_document.isOpen() ? m_view->currentPage() + 1 : 0;
-    state.pageCount = m_document.pageCount();
-    state.zoomMode = shownZoom().name();
-    state.layoutMode = ViewCommands::nameOf(m_view->layoutMode());
-    state.tool = m_view->tool().name;
-    state.panel = m_navigation->shownPanel();
-    state.background = m_view->background();
-    state.recentFiles = m_settings.recentFiles();
-    return state;
-}
-
 void ReaderWindow::stateChanged()
 {
-    // A command may change several things, which are reported to the toolbar together.
-    m_updateTimer.start(0);
-}
-
-void ReaderWindow::updateToolBar()
-{
-    m_report->tellChanges(state());
+    m_commands.update();
     updateTitle();
 }
 
@@ -395,6 +343,6 @@ void ReaderWindow::changeEvent(QEvent *event)
     if (event->type() == QEvent::WindowStateChange)
         stateChanged();
     if (event->type() == QEvent::LanguageChange)
-        updateTitle();
+        stateChanged();
     QMainWindow::changeEvent(event);
 }

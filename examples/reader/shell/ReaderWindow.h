@@ -3,21 +3,19 @@
 
 #pragma once
 
-#include "commands/CommandTable.h"
 #include "commands/EditCommands.h"
 #include "commands/FileCommands.h"
 #include "commands/ViewCommands.h"
 #include "document/Document.h"
 #include "pages/ZoomMode.h"
 #include "shell/ReaderSettings.h"
-#include "shell/ToolBarReport.h"
+
+#include <toolbar/MRToolBarCommands.h>
 
 #include <QDomDocument>
 #include <QMainWindow>
-#include <QTimer>
 
 #include <memory>
-#include <optional>
 
 class HostPanel;
 class MRToolBar;
@@ -70,13 +68,9 @@ private:
     void returnToPages();
     void connectToolBar();
     void connectParts();
-    void runCommand(const QString &name);
-    void answerRequest();
     void followZoomBox();
     void readZoomBox(int index);
-    ReaderState state() const;
     void stateChanged();
-    void updateToolBar();
     void updateTitle();
 
     const QString m_skin;
@@ -93,11 +87,9 @@ private:
     SignalLog *m_log;
     QLabel *m_place;
 
-    CommandTable m_commands;
+    MRToolBarCommands m_commands{nullptr};
     FileCommands m_fileCommands;
     ViewCommands m_viewCommands;
     EditCommands m_editCommands;
     std::unique_ptr<MRToolBar> m_toolBar;
-    std::optional<ToolBarReport> m_report;
-    QTimer m_updateTimer;
 };

@@ -15,6 +15,14 @@
 <context>
     <name>EditCommands</name>
     <message>
+        <source>撤销：%1 (Ctrl+Z)</source>
+        <translation>Undo: %1 (Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>恢复：%1 (Ctrl+Y)</source>
+        <translation>Redo: %1 (Ctrl+Y)</translation>
+    </message>
+    <message>
         <source>%1：第 %2 页</source>
         <translation>%1: page %2</translation>
     </message>
@@ -875,22 +883,11 @@ Press Ctrl+O to open a file</translation>
     </message>
 </context>
 <context>
-    <name>ToolBarReport</name>
-    <message>
-        <source>撤销：%1 (Ctrl+Z)</source>
-        <translation>Undo: %1 (Ctrl+Z)</translation>
-    </message>
-    <message>
-        <source>恢复：%1 (Ctrl+Y)</source>
-        <translation>Redo: %1 (Ctrl+Y)</translation>
-    </message>
+    <name>ViewCommands</name>
     <message>
         <source>退出全屏</source>
         <translation>Leave full screen</translation>
     </message>
-</context>
-<context>
-    <name>ViewCommands</name>
     <message>
         <source>顺时针旋转</source>
         <translation>Rotate clockwise</translation>
