@@ -87,9 +87,8 @@ void ViewerWindow::setDark(bool isDark)
 
 void ViewerWindow::setEnglish(bool isEnglish)
 {
-    m_isEnglish = isEnglish;
-    m_english[0].load(":/mr_toolbar/translations/mrtoolbar_en.qm");
-    m_english[1].load(":/imageviewer/translations/imageviewer_en.qm");
+    m_isEnglish = isEnglish && m_english[0].load(":/mr_toolbar/translations/mrtoolbar_en.qm")
+                  && m_english[1].load(":/imageviewer/translations/imageviewer_en.qm");
     for (QTranslator &translator : m_english)
-        isEnglish ? qApp->installTranslator(&translator) : qApp->removeTranslator(&translator);
+        m_isEnglish ? qApp->installTranslator(&translator) : qApp->removeTranslator(&translator);
 }
