@@ -178,7 +178,7 @@ private Q_SLOTS:
         QFETCH(int, style);
         NewToolBar::uiStyle = style;
         Reader reader(QTest::currentDataTag());
-        Reader::press(Qt::Key_F10);
+        Reader::press(Qt::Key_F6);
         QVERIFY(reader.isInToolBar());
         QSet<QWidget *> stops;
         for (QWidget *now = QApplication::focusWidget(); !stops.contains(now);

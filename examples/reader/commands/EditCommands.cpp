@@ -159,9 +159,11 @@ void EditCommands::useTool(const QString &name)
     if (tool.gesture != PageTool::MarkText || view->selection().isEmpty())
         return;
 
-    // A tool for text marks the current selection at once.
+    // A tool for text marks the current selection at once. The tab of a selection that shows the
+    // tool goes with the selection, so what is active then is on show.
     const QList<Mark> marks = view->marksOnSelection();
     view->setSelection({});
+    view->setTool(PageTool::of(QStringLiteral("t_textselect")));
     for (const Mark &mark : marks)
         addDrawn(mark);
 }

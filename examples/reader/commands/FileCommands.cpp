@@ -209,8 +209,9 @@ void FileCommands::showPreferences()
 void FileCommands::showAbout() const
 {
     const QString version = QLatin1String(qVersion());
-    const QString keys = tr("F10：工具栏\nEsc：回到页面\nCtrl+F：查找\nCtrl+G：页码框\n"
-                            "Ctrl+M：缩放框\nF11：全屏");
+    const QString keys =
+        tr("Alt、F10：按键提示\nF6：工具栏\nEsc：回到页面\nCtrl+F：查找\nCtrl+G：页码框\n"
+           "Ctrl+M：缩放框\nF11：全屏");
     QMessageBox::about(m_parts.window, tr("关于OFD阅读器"),
                        tr("工具栏的示例阅读器，可打开 OFD 文件。\n\nQt %1").arg(version)
                            + QStringLiteral("\n\n") + keys);

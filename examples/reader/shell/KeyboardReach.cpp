@@ -65,7 +65,7 @@ void KeyboardReach::addCommandKeys()
 
 void KeyboardReach::addPlaceKeys()
 {
-    addKey(QStringLiteral("F10"), [this] { m_focusControl(QString()); });
+    addKey(QStringLiteral("F6"), [this] { m_focusControl(QString()); });
     addKey(QStringLiteral("Ctrl+Shift+P"), [this] { Q_EMIT finderAsked(); });
     // The names of the page field and the zoom box in the shipped descriptions.
     addPlaceKey(QStringLiteral("Ctrl+G"),

@@ -170,13 +170,15 @@ Qt %1</source>
 Qt %1</translation>
     </message>
     <message>
-        <source>F10：工具栏
+        <source>Alt、F10：按键提示
+F6：工具栏
 Esc：回到页面
 Ctrl+F：查找
 Ctrl+G：页码框
 Ctrl+M：缩放框
 F11：全屏</source>
-        <translation>F10: toolbar
+        <translation>Alt, F10: key tips
+F6: toolbar
 Esc: back to the pages
 Ctrl+F: find
 Ctrl+G: page field
