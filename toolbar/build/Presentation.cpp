@@ -17,9 +17,21 @@
 #include <QApplication>
 #include <QFile>
 #include <QFontMetrics>
+#include <QImageReader>
 #include <QMenu>
 
 #include <algorithm>
+
+namespace {
+
+/** A resource of the host may be anything. */
+bool isPicture(const QString &file)
+{
+    return file.endsWith(QLatin1String(".svg")) ? QFile::exists(file)
+                                                : !QImageReader::imageFormat(file).isEmpty();
+}
+
+} // namespace
 
 Presentation::Presentation(const QString &directory, Appearance &appearance, const Scale &scale)
     : m_directory(directory)
@@ -197,7 +209,9 @@ QIcon Presentation::icon(const Controller &record) const
 
 QString Presentation::iconFile(const QString &name) const
 {
-    return name.startsWith(Prefix::resource) ? name : skinIconFile(m_directory, name);
+    if (!name.startsWith(Prefix::resource))
+        return skinIconFile(m_directory, name);
+    return isPicture(name) ? name : QString();
 }
 
 QIcon Presentation::themeIcon(const QString &name) const
