@@ -14,6 +14,7 @@ set(documented
     docs/description-format.md
     docs/skins.md
     toolbar/MRToolBar.h
+    toolbar/MRToolBarCommands.h
     toolbar/MRToolBarExport.h
     toolbar/NamedList.h
     toolbar/NewToolBar.h

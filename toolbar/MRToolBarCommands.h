@@ -42,11 +42,15 @@ class MRTOOLBAR_EXPORT MRToolBarCommands : public QObject
     Q_OBJECT
 
 public:
+    /** What a command does. */
     using Run = std::function<void()>;
     /** For several commands that share a function: with the name of the one that was used. */
     using RunNamed = std::function<void(const QString &name)>;
+    /** Whether something holds now; it is asked often. */
     using Condition = std::function<bool()>;
+    /** For several commands that share a condition: with the name of the one in question. */
     using NamedCondition = std::function<bool(const QString &name)>;
+    /** A text for now. */
     using Text = std::function<QString()>;
 
     struct Entry;
@@ -57,14 +61,17 @@ public:
     public:
         /** Always usable without it. */
         Command &usableWhen(const Condition &condition);
+        /** The same for commands that share a condition; it gets the name of each. */
         Command &usableWhen(const NamedCondition &condition);
         /** Without it the toolbar checks and unchecks the control as it is described. */
         Command &checkedWhen(const Condition &condition);
+        /** The same for commands that share a condition; it gets the name of each. */
         Command &checkedWhen(const NamedCondition &condition);
         /** Without it the control is shown or hidden as it is described. */
         Command &visibleWhen(const Condition &condition);
-        /** Another text or tooltip than is described, while it is not empty. */
+        /** Another text than is described, while it is not empty. */
         Command &withText(const Text &text);
+        /** Another tooltip than is described, while it is not empty. */
         Command &withToolTip(const Text &tip);
         /** Of a control that is described with `doubleclick`. */
         Command &onDoubleClick(const Run &run);
@@ -76,7 +83,10 @@ public:
         std::shared_ptr<Entry> m_entry;
     };
 
-    /** @param toolBar may be null, and may be deleted earlier than this */
+    /**
+     * @param toolBar may be null, and may be deleted earlier than this
+     * @param parent  the owner, or null
+     */
     explicit MRToolBarCommands(MRToolBar *toolBar, QObject *parent = nullptr);
     ~MRToolBarCommands() override;
 
@@ -88,6 +98,7 @@ public:
      * name has the new meaning.
      */
     Command add(const QString &name, const Run &run = {});
+    /** Adds several commands that share a function. */
     Command add(const QStringList &names, const RunNamed &run);
     /**
      * Every command of the description whose name begins with @p prefix and that is not added by
@@ -108,20 +119,25 @@ public:
      * `d_lastpage`, as far as they are described.
      * @param page  the current page, counted from 1
      * @param count 0 without a document
+     * @param goTo  gets a page from 1 to the count
      */
     void setPages(const std::function<int()> &page, const std::function<int()> &count,
                   const std::function<void(int page)> &goTo);
     /**
      * Connects the zoom box and the buttons with `vzmode_` in their names: a mode is a text such as
      * "vzmode_fitpage" or "vzmode_125p".
-     * @param mode what the box shows; empty without a document, which disables the box
+     * @param mode   what the box shows; empty without a document, which disables the box
+     * @param choose gets the mode that the user has chosen or typed
      */
     void setZoom(const Text &mode, const std::function<void(const QString &mode)> &choose);
     /** The percentage of a zoom mode; 0 for one that is none. */
     static double zoomPercent(const QString &mode);
+    /** The zoom mode of a percentage, such as "vzmode_125p" for 125. */
     static QString zoomMode(double percent);
 
+    /** Connects the search bar and the search fields of rows. */
     void setSearch(const std::function<void(const SearchOption &option)> &search);
+    /** Connects the menu of page backgrounds. */
     void setBackground(const std::function<BackgroundStyle()> &style,
                        const std::function<void(BackgroundStyle style)> &choose);
     /** Shows the tabs of a context while the condition is true. */
@@ -148,6 +164,7 @@ public:
 
     /** Runs the command as a click does, if it is usable; for keys of the host. */
     bool run(const QString &name);
+    /** Whether a command of that name was added and its condition is true. */
     bool isUsable(const QString &name) const;
 
 public Q_SLOTS:
