@@ -15,7 +15,8 @@ ViewerWindow::ViewerWindow(const QString &fileName)
     if (file.open(QIODevice::ReadOnly))
         description.setContent(file.readAll());
     QDomElement root = description.documentElement();
-    auto *toolBar = MRToolBar::InitToolBar(this, root, {{"keytips", "true"}}, ToolBarLeft);
+    const QMap<QString, QString> skin{{"keytips", "true"}, {"tooltipwords", "true"}};
+    auto *toolBar = MRToolBar::InitToolBar(this, root, skin, ToolBarLeft);
     toolBar->setParent(this);
     setCentralWidget(m_view);
     addCommands();
@@ -31,14 +32,11 @@ void ViewerWindow::addCommands()
     MRToolBarCommands &add = m_commands;
     PictureView *view = m_view;
     const auto isOpen = [view] { return view->isOpen(); };
-    auto *copy = new QAction(this);
-    connect(copy, &QAction::triggered, [view] { qApp->clipboard()->setImage(view->picture()); });
-    connect(view, &PictureView::changed, [=] { copy->setEnabled(view->isOpen()); });
-    copy->setEnabled(false);
 
     add.add("f_open", [this] { open(QFileDialog::getOpenFileName(this)); });
     add.add("f_exit", [this] { close(); });
-    add.add("e_copy", copy);
+    auto copy = add.add("e_copy", [view] { qApp->clipboard()->setImage(view->picture()); });
+    copy.usableWhen(isOpen);
     add.add("v_zoomin", [view] { view->zoomBy(1.25); }).usableWhen(isOpen);
     add.add("v_zoomout", [view] { view->zoomBy(0.8); }).usableWhen(isOpen);
     add.add("v_turnleft", [view] { view->turn(-90); }).usableWhen(isOpen);
@@ -46,7 +44,7 @@ void ViewerWindow::addCommands()
     auto mirror = add.add("v_mirror", [view] { view->mirror(); });
     mirror.usableWhen(isOpen).checkedWhen([view] { return view->isMirrored(); });
     auto full =
-        add.add("v_fullscreen", [this] { setWindowState(windowState() ^ Qt::WindowFullScreen); });
+        add.add("v_fullscreen", [this] { isFullScreen() ? showNormal() : showFullScreen(); });
     full.checkedWhen([this] { return isFullScreen(); });
     auto dark = add.add("a_dark", [this] { setDark(!isDark()); });
     dark.checkedWhen([this] { return isDark(); });
