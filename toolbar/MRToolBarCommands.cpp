@@ -116,8 +116,8 @@ void MRToolBarCommands::setToolBar(MRToolBar *toolBar)
     });
     connect(toolBar, &MRToolBar::DoRequestAuthority, this, &MRToolBarCommands::refreshAll);
     connectFields();
-    connectKept();
     update();
+    connectKept();
 }
 
 void MRToolBarCommands::connectFields()

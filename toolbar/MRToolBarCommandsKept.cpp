@@ -13,12 +13,6 @@ constexpr QLatin1String stateKey = latin1("/state");
 constexpr QLatin1String recentKey = latin1("/recentfiles");
 constexpr QLatin1String recentValue = latin1("recent files");
 
-void restore(MRToolBar &toolBar, const QString &state)
-{
-    if (!state.isEmpty())
-        toolBar.DoSetSkinStyleSlot({{SkinKey::toolBarState, state}});
-}
-
 } // namespace
 
 void MRToolBarCommands::Private::add(const QString &name, const EntryPointer &entry)
@@ -52,8 +46,7 @@ void MRToolBarCommands::connectKept()
         if (d->settings && d->toolBar)
             d->settings->setValue(d->group + stateKey, d->toolBar->GetToolBarState());
     });
-    if (d->settings)
-        restore(*d->toolBar, d->settings->value(d->group + stateKey).toString());
+    d->restore();
 }
 
 void MRToolBarCommands::keepIn(QSettings *settings, const QString &group)
@@ -63,9 +56,9 @@ void MRToolBarCommands::keepIn(QSettings *settings, const QString &group)
     if (!settings)
         return;
     d->recentFiles = settings->value(group + recentKey).toStringList();
-    if (d->toolBar)
-        restore(*d->toolBar, settings->value(group + stateKey).toString());
     update();
+    // Last, as it opens a tab and asks the host for states.
+    d->restore();
 }
 
 void MRToolBarCommands::setRecentFiles(const std::function<void(const QString &fileName)> &open,
@@ -107,6 +100,14 @@ void MRToolBarCommands::clearRecentFiles()
 QStringList MRToolBarCommands::recentFiles() const
 {
     return d->recentFiles.mid(0, d->recentLimit);
+}
+
+void MRToolBarCommands::Private::restore() const
+{
+    const QString state =
+        settings && toolBar ? settings->value(group + stateKey).toString() : QString();
+    if (!state.isEmpty())
+        toolBar->DoSetSkinStyleSlot({{SkinKey::toolBarState, state}});
 }
 
 void MRToolBarCommands::Private::storeRecentFiles() const

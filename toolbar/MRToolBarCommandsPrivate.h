@@ -68,6 +68,8 @@ public:
     /** Does not trust the checked states and the value of that name, which the user has changed. */
     void forget(const QString &value = {});
     void storeRecentFiles() const;
+    /** The kept state of the toolbar. */
+    void restore() const;
     void stop();
 
     QPointer<MRToolBarCommands> owner;

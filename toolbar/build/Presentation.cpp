@@ -3,11 +3,13 @@
 
 #include "toolbar/build/Presentation.h"
 
+#include "toolbar/description/CommandPlaces.h"
 #include "toolbar/description/Controller.h"
 #include "toolbar/description/DescriptionLog.h"
 #include "toolbar/description/Names.h"
 #include "toolbar/skin/Appearance.h"
 #include "toolbar/skin/GivenIcon.h"
+#include "toolbar/skin/IconColours.h"
 #include "toolbar/skin/Scale.h"
 #include "toolbar/skin/ScreenDensity.h"
 #include "toolbar/skin/SkinIcon.h"
@@ -27,8 +29,8 @@ namespace {
 /** A resource of the host may be anything. */
 bool isPicture(const QString &file)
 {
-    return file.endsWith(QLatin1String(".svg")) ? QFile::exists(file)
-                                                : !QImageReader::imageFormat(file).isEmpty();
+    return IconColours::isSvg(file) ? QFile::exists(file)
+                                    : !QImageReader::imageFormat(file).isEmpty();
 }
 
 } // namespace
@@ -121,7 +123,7 @@ void Presentation::findNames()
 
 void Presentation::fileUnder(const Controller &record, qsizetype position, Shows shows)
 {
-    for (const QString &name : {record.name, TextsByName::commandOf(record.name)}) {
+    for (const QString &name : {record.name, commandOf(record.name)}) {
         QList<qsizetype> &positions = m_positions[name];
         if (positions.isEmpty() || positions.last() != position)
             positions.append(position);

@@ -3,8 +3,8 @@
 
 #include "toolbar/build/TextsByName.h"
 
+#include "toolbar/description/CommandPlaces.h"
 #include "toolbar/description/Controller.h"
-#include "toolbar/description/Names.h"
 
 namespace {
 
@@ -22,7 +22,7 @@ const Value *lookUpCommand(const QHash<QString, Value> &values, const QString &n
     if (values.isEmpty())
         return nullptr;
     const Value *own = lookUp(values, name);
-    return own ? own : lookUp(values, TextsByName::commandOf(name));
+    return own ? own : lookUp(values, commandOf(name));
 }
 
 /** No control is found by an empty name, though many may have none. */
@@ -80,13 +80,4 @@ const QString *TextsByName::textAsToolTip(const Controller &record) const
 const QIcon *TextsByName::icon(const Controller &record) const
 {
     return lookUpCommand(m_icons, record.name);
-}
-
-QString TextsByName::commandOf(const QString &name)
-{
-    for (const QLatin1String prefix : {Prefix::menu, Prefix::quick}) {
-        if (name.startsWith(prefix))
-            return name.mid(prefix.size());
-    }
-    return name;
 }

@@ -32,9 +32,6 @@ public:
     const QString *ownToolTip(const Controller &record) const;
     const QIcon *icon(const Controller &record) const;
 
-    /** The command that a name with one of the prefixes stands for, or else the name. */
-    static QString commandOf(const QString &name);
-
 private:
     const QString *textAsToolTip(const Controller &record) const;
 

@@ -28,6 +28,15 @@ bool holdsCommands(const Controller &record)
 
 } // namespace
 
+QString commandOf(const QString &name)
+{
+    for (const QLatin1String prefix : {Prefix::menu, Prefix::quick}) {
+        if (name.startsWith(prefix))
+            return name.mid(prefix.size());
+    }
+    return name;
+}
+
 CommandPlaces::CommandPlaces(const QList<Controller *> &records)
 {
     const QList<Controller *> appButtons = appButtonRecords(records);

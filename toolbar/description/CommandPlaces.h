@@ -9,6 +9,9 @@
 
 struct Controller;
 
+/** The command that a name with "menu_" or "qbar_" before it stands for, or else the name. */
+QString commandOf(const QString &name);
+
 /** Where a command of a description stands, whether it has been made yet or not. */
 struct CommandPlace
 {

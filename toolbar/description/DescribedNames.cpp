@@ -3,21 +3,13 @@
 
 #include "toolbar/description/DescribedNames.h"
 
+#include "toolbar/description/CommandPlaces.h"
 #include "toolbar/description/Controller.h"
 #include "toolbar/description/Names.h"
 
 #include <algorithm>
 
 namespace {
-
-QString reportedName(const QString &name)
-{
-    for (const QLatin1String prefix : {Prefix::menu, Prefix::quick}) {
-        if (name.startsWith(prefix))
-            return name.mid(prefix.size());
-    }
-    return name;
-}
 
 bool isArea(const QString &name)
 {
@@ -48,7 +40,7 @@ void DescribedNames::add(const QList<Controller *> &records)
 {
     for (const Controller *record : records) {
         if (!record->name.isEmpty()) {
-            const QString name = reportedName(record->name);
+            const QString name = commandOf(record->name);
             m_names.append(record->name);
             if (!m_shortcuts.contains(name))
                 m_reported.append(name);
@@ -67,7 +59,7 @@ bool DescribedNames::reach(const QString &name) const
                || (name.startsWith(Section::quickAccessBar)
                    && (quickEntry == Area::quickAccessSet || hasPart(quickEntry)));
     }
-    return m_shortcuts.contains(reportedName(name)) || isReserved(name) || hasPart(name);
+    return m_shortcuts.contains(commandOf(name)) || isReserved(name) || hasPart(name);
 }
 
 bool DescribedNames::hasPart(const QString &part) const

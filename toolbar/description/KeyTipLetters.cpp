@@ -43,7 +43,7 @@ void appendLetters(QString &letters, const QString &text)
 }
 
 /** The name without the short words before it, which tell the area of the host. */
-QString commandOf(const QString &name)
+QString withoutArea(const QString &name)
 {
     QStringList words = name.split(QLatin1Char('_'));
     if (words.size() > 1)
@@ -58,7 +58,7 @@ QString ownLetters(const Controller &record)
 {
     QString letters;
     appendLetters(letters, record.text);
-    appendLetters(letters, commandOf(record.name));
+    appendLetters(letters, withoutArea(record.name));
     const QString file = record.icon.section(QLatin1Char('/'), -1);
     appendLetters(letters, file.section(QLatin1Char('.'), 0, 0));
     return letters;

@@ -13,15 +13,6 @@
 
 namespace {
 
-QString withoutPrefix(const QString &name)
-{
-    for (const QLatin1String prefix : {Prefix::menu, Prefix::quick}) {
-        if (name.startsWith(prefix))
-            return name.mid(prefix.size());
-    }
-    return name;
-}
-
 /** What is in the description of a section, but is no command to be found. */
 bool isPassedOver(const Controller &record)
 {
@@ -81,7 +72,7 @@ void CommandIndex::addPlaces(const CommandPlaces &places)
     for (const CommandPlace &place : places.all()) {
         if (isPassedOver(*place.record))
             continue;
-        const QString name = withoutPrefix(place.record->name);
+        const QString name = commandOf(place.record->name);
         const auto known = positions.constFind(name);
         if (known == positions.cend()) {
             positions.insert(name, m_commands.size());

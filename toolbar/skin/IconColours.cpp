@@ -69,11 +69,6 @@ bool isWhiteAllOver(const QString &svg)
     return true;
 }
 
-bool isSvgFile(const QString &path)
-{
-    return path.endsWith(QLatin1String(".svg"));
-}
-
 QImage recolouredPixels(QImage image, const SchemeColours &colours)
 {
     image = image.convertToFormat(QImage::Format_ARGB32);
@@ -143,7 +138,7 @@ private:
         QFile file(m_path);
         if (!file.open(QIODevice::ReadOnly))
             return QImage();
-        const bool isSvg = isSvgFile(m_path);
+        const bool isSvg = IconColours::isSvg(m_path);
         QByteArray content = file.readAll();
         if (isSvg && m_colours)
             content = IconColours::recoloured(content, m_colours(m_look));
@@ -172,6 +167,11 @@ QColor IconColours::recoloured(const QColor &colour, const SchemeColours &colour
     return isGrey ? fromGrey(colour.lightnessF(), colours) : fromHue(colour, colours);
 }
 
+bool IconColours::isSvg(const QString &path)
+{
+    return path.endsWith(QLatin1String(".svg"));
+}
+
 QByteArray IconColours::recoloured(const QByteArray &svg, const SchemeColours &colours)
 {
     const QString text = QString::fromUtf8(svg);
@@ -193,7 +193,7 @@ QIcon IconColours::drawing(const QString &path, const SchemeLook &look)
 {
     if (!look.isLight())
         return QIcon(new DrawingEngine(path, look, &schemeColours));
-    return isSvgFile(path) ? QIcon(new DrawingEngine(path, look, nullptr)) : QIcon(path);
+    return isSvg(path) ? QIcon(new DrawingEngine(path, look, nullptr)) : QIcon(path);
 }
 
 QIcon IconColours::stripDrawing(const QString &path, const QColor &strip)

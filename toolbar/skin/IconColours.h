@@ -23,6 +23,9 @@ QColor recoloured(const QColor &colour, const SchemeColours &colours);
  */
 QByteArray recoloured(const QByteArray &svg, const SchemeColours &colours);
 
+/** Whether the file is a drawing by its name; others have pixels. */
+bool isSvg(const QString &path);
+
 /** The icon of a file; recoloured, unless @p look is light. */
 QIcon drawing(const QString &path, const SchemeLook &look);
 
