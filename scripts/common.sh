@@ -43,17 +43,18 @@ require_one_of()
 
 # need_qt VERSION: adds the headers of Qt, the plug-in for SVG icons, the library that the example
 # reader opens files with, the tools for translations and the translations of Qt; also what tells
-# whether an X server composes its windows, and what spells Chinese texts.
+# whether an X server composes its windows, what spells Chinese texts, and what the reader needs for
+# kinds of pictures that Qt does not decode and for signatures.
 need_qt()
 {
-    needed+=(pkg-config libxcb1-dev libicu-dev)
+    needed+=(pkg-config libxcb1-dev libicu-dev libopenjp2-7-dev libjbig2dec0-dev libssl-dev)
     case $1 in
         5)
-            needed+=(qtbase5-dev libqt5svg5 libquazip1-qt5-dev
+            needed+=(qtbase5-dev libqt5svg5 libquazip1-qt5-dev qt5-image-formats-plugins
                 qttools5-dev qttranslations5-l10n)
             ;;
         6)
-            needed+=(qt6-base-dev libqt6svg6 libquazip1-qt6-dev
+            needed+=(qt6-base-dev libqt6svg6 libquazip1-qt6-dev qt6-image-formats-plugins
                 qt6-tools-dev qt6-l10n-tools qt6-translations-l10n)
             ;;
     esac

@@ -30,11 +30,23 @@ struct Resources
     QHash<QString, std::shared_ptr<const Objects>> composites;
 };
 
+/** A mark on a page that is kept apart from its content. */
+struct Annotation
+{
+    QString id;
+    QString type; ///< As the file names it, such as "Link" or "Highlight".
+    QString creator;
+    QString remark; ///< What it says, as plain text.
+    bool isVisible = true;
+    Object appearance;
+};
+
 struct Page
 {
     QRectF area; ///< The sheet, in the coordinates of the page.
     /** From back to front; pages share the objects of their templates. */
     QVector<std::shared_ptr<const Objects>> layers;
+    QVector<Annotation> annotations; ///< Above the layers.
 };
 
 /** An entry of the outline or a bookmark. */

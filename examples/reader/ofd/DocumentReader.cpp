@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The MRToolBar authors
 // SPDX-License-Identifier: MIT
 
+#include "ofd/Annotations.h"
 #include "ofd/Document.h"
 #include "ofd/Expansion.h"
 #include "ofd/Extras.h"
@@ -60,7 +61,7 @@ private:
         m_pages->readCommon(common, path);
         readPages(root, path);
         Extras::readTargets(root, m_pageIndexes, *m_document);
-        Extras::readAnnotations(root, path, m_pageIndexes, *m_document, m_resources->objects());
+        readAnnotations(root, path);
         Extras::readAttachments(root, path, *m_document);
     }
 
@@ -74,6 +75,17 @@ private:
         for (const XmlElement &page : list->children) {
             m_pageIndexes.insert(page.attribute("ID"), int(m_document->pages.size()));
             m_document->pages.append(m_pages->read(page, path));
+        }
+    }
+
+    void readAnnotations(const XmlElement &root, const QString &path)
+    {
+        const Package &package = *m_document->package;
+        const QHash<int, QString> lists = Annotations::lists(package, root, path, m_pageIndexes);
+        for (auto list = lists.cbegin(); list != lists.cend(); ++list) {
+            const XmlElement element = XmlElement::parse(package.read(*list), *list);
+            m_document->pages[list.key()].annotations =
+                Annotations::read(element, m_resources->objects());
         }
     }
 

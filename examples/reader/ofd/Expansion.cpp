@@ -92,6 +92,8 @@ void checkExpansion(const Document &document)
                 counts.insert(layer.get(), counter.count(*layer));
             total += counts.value(layer.get());
         }
+        for (const Annotation &annotation : page.annotations)
+            total += counter.count({annotation.appearance});
         all += total;
         if (total > Limits::marksPerPage || all > Limits::marks)
             throw Fault{Wording::tr("文档的内容展开后过多，无法显示。")};

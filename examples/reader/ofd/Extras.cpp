@@ -16,16 +16,6 @@ void add(Document &document, const QString &name, const QString &value)
         document.information.append({name, value});
 }
 
-/** Parses the file that a child of the element names; nothing if there is no such file. */
-std::optional<XmlElement> fileOf(const Document &document, const XmlElement &parent,
-                                 const char *name, const QString &from, QString *path)
-{
-    *path = document.package->find(from, parent.childText(name));
-    if (path->isEmpty())
-        return std::nullopt;
-    return XmlElement::parse(document.package->read(*path), *path);
-}
-
 /** The first destination among the descendants; nullptr if there is none. */
 const XmlElement *destinationOf(const XmlElement &element)
 {
@@ -57,23 +47,16 @@ void readOutline(const XmlElement &parent, int depth, const QHash<QString, int> 
     }
 }
 
-Objects appearancesOf(const XmlElement &list, ObjectReader &objects)
-{
-    Objects groups;
-    for (const XmlElement &annotation : list.children) {
-        const XmlElement *appearance = annotation.child("Appearance");
-        if (!appearance || !annotation.flag("Visible", true))
-            continue;
-        Object group;
-        group.boundary = Values::box(appearance->attribute("Boundary"));
-        const Objects inside = objects.readAll(*appearance, Style());
-        group.content = Group{std::make_shared<const Objects>(inside)};
-        groups.append(group);
-    }
-    return groups;
-}
-
 } // namespace
+
+std::optional<XmlElement> Extras::namedFile(const Package &package, const XmlElement &parent,
+                                            const char *name, const QString &from, QString *path)
+{
+    *path = package.find(from, parent.childText(name));
+    if (path->isEmpty())
+        return std::nullopt;
+    return XmlElement::parse(package.read(*path), *path);
+}
 
 void Extras::readInformation(const XmlElement &information, Document &document)
 {
@@ -116,29 +99,11 @@ void Extras::readTargets(const XmlElement &root, const QHash<QString, int> &page
         document.bookmarks.append({bookmark.attribute("Name"), 0, pageOf(bookmark, pages)});
 }
 
-void Extras::readAnnotations(const XmlElement &root, const QString &from,
-                             const QHash<QString, int> &pages, Document &document,
-                             ObjectReader &objects)
-{
-    QString path;
-    const std::optional<XmlElement> index = fileOf(document, root, "Annotations", from, &path);
-    if (!index)
-        return;
-    for (const XmlElement &entry : index->children) {
-        const int page = pages.value(entry.attribute("PageID"), -1);
-        QString listPath;
-        const std::optional<XmlElement> list = fileOf(document, entry, "FileLoc", path, &listPath);
-        if (page < 0 || !list)
-            continue;
-        document.pages[page].layers.append(
-            std::make_shared<const Objects>(appearancesOf(*list, objects)));
-    }
-}
-
 void Extras::readAttachments(const XmlElement &root, const QString &from, Document &document)
 {
     QString path;
-    const std::optional<XmlElement> list = fileOf(document, root, "Attachments", from, &path);
+    const std::optional<XmlElement> list =
+        namedFile(*document.package, root, "Attachments", from, &path);
     if (!list)
         return;
     for (const XmlElement &attachment : list->children) {
@@ -150,7 +115,8 @@ void Extras::readAttachments(const XmlElement &root, const QString &from, Docume
 void Extras::countSeals(const XmlElement &body, const QString &from, Document &document)
 {
     QString path;
-    const std::optional<XmlElement> list = fileOf(document, body, "Signatures", from, &path);
+    const std::optional<XmlElement> list =
+        namedFile(*document.package, body, "Signatures", from, &path);
     if (!list)
         return;
     for (const XmlElement &signature : list->children) {

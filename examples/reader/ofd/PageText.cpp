@@ -131,6 +131,10 @@ PageText textOf(const Document &document, int page, FontSet &fonts)
     const QTransform toSheet = QTransform::fromTranslate(-source.area.left(), -source.area.top());
     for (const auto &layer : source.layers)
         collector.addAll(*layer, toSheet);
+    for (const Annotation &annotation : source.annotations) {
+        if (annotation.isVisible)
+            collector.addAll({annotation.appearance}, toSheet);
+    }
     return collector.take();
 }
 

@@ -134,9 +134,14 @@ void Painter::paint(QPainter &painter, int page)
 {
     painter.save();
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    painter.translate(-m_document->pages.at(page).area.topLeft());
-    for (const auto &layer : m_document->pages.at(page).layers)
+    const Page &shown = m_document->pages.at(page);
+    painter.translate(-shown.area.topLeft());
+    for (const auto &layer : shown.layers)
         paintAll(painter, *layer);
+    for (const Annotation &annotation : shown.annotations) {
+        if (annotation.isVisible)
+            paintAll(painter, {annotation.appearance});
+    }
     painter.restore();
 }
 

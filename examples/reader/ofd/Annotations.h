@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "ofd/ResourceReader.h"
+
+/** Annotations, which are drawn above the content of their pages. */
+namespace Ofd::Annotations {
+
+/** The lists of annotations of a document: their entries in the package by the index of the page.
+ */
+QHash<int, QString> lists(const Package &package, const XmlElement &root, const QString &from,
+                          const QHash<QString, int> &pages);
+
+/** Reads one of those lists. */
+QVector<Annotation> read(const XmlElement &list, ObjectReader &objects);
+
+} // namespace Ofd::Annotations

@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "ofd/Document.h"
+
+#include <QImage>
+#include <QString>
+
+/** The OFD files of the tests, which make_ofd.py makes from the folder features/. */
+namespace OfdFiles {
+
+constexpr int pixelsPerMillimetre = 4;
+
+/** The made file of that name. */
+QString path(const QString &name);
+
+/** Opens the file of that name; a test that gets nothing has failed and says why. */
+std::shared_ptr<const Ofd::Document> opened(const QString &name);
+
+QImage painted(const std::shared_ptr<const Ofd::Document> &document, int page = 0);
+
+/**
+ * How the picture differs from the kept one of that name; empty if it looks the same. With
+ * OFD_KEEP_PICTURES in the environment the picture is kept instead.
+ */
+QString difference(const QImage &picture, const QString &name);
+
+} // namespace OfdFiles
