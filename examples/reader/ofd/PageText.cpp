@@ -3,6 +3,7 @@
 
 #include "ofd/PageText.h"
 
+#include "ofd/ReadingOrder.h"
 #include "ofd/TextLayout.h"
 
 #include <algorithm>
@@ -21,55 +22,77 @@ constexpr qreal columnGap = 3;
 constexpr qreal sameLineOverlap = 0.5;
 constexpr char16_t firstEastAsian = 0x2E80;
 
-/** Joins consecutive runs of one line, because writers split lines at any place. */
-class TextCollector
+struct Character
+{
+    QString text;
+    QRectF box;
+};
+
+/** Characters side by side, or one below the other in a vertical run. */
+struct Piece
+{
+    QVector<Character> characters;
+    QRectF rect;
+    bool isLevel = true; ///< Not turned, as a watermark is.
+
+    void append(const Character &character)
+    {
+        characters.append(character);
+        rect |= character.box;
+    }
+};
+
+bool isOnLineOf(const QRectF &before, const QRectF &box)
+{
+    const qreal overlap =
+        std::min(before.bottom(), box.bottom()) - std::max(before.top(), box.top());
+    const qreal height = std::min(before.height(), box.height());
+    const qreal gap = box.left() - before.right();
+    return overlap > sameLineOverlap * height && gap > -before.width() - height / 2
+           && gap < columnGap * height;
+}
+
+bool isVertical(const QVector<Character> &run)
+{
+    const QPointF way = run.last().box.center() - run.first().box.center();
+    return std::abs(way.y()) > std::abs(way.x());
+}
+
+/** Puts the characters into the order of reading and joins them to lines. */
+class LineMaker
 {
 public:
-    TextCollector(const Document &document, FontSet &fonts)
-        : m_document(document)
-        , m_fonts(fonts)
+    void addAll(const QVector<Piece> &pieces)
     {
-    }
-
-    void addAll(const Objects &objects, const QTransform &toPage)
-    {
-        for (const Object &object : objects) {
-            const QTransform place = object.placement() * toPage;
-            if (const auto *text = std::get_if<Text>(&object.content))
-                addText(*text, place);
-            else if (const auto *group = std::get_if<Group>(&object.content))
-                addAll(*group->objects, place);
-            else if (const auto *composite = std::get_if<Composite>(&object.content))
-                addComposite(composite->resource, place);
+        QVector<int> level;
+        QVector<int> turned;
+        QVector<QRectF> rects;
+        for (int i = 0; i < pieces.size(); ++i) {
+            (pieces.at(i).isLevel ? level : turned).append(i);
+            if (pieces.at(i).isLevel)
+                rects.append(pieces.at(i).rect);
         }
+        const QVector<int> order = readingOrder(rects);
+        for (const int index : order)
+            add(pieces.at(level.at(index)));
+        // Lines across the page would separate what belongs together.
+        for (const int index : std::as_const(turned))
+            add(pieces.at(index));
     }
 
     PageText take() { return std::move(m_result); }
 
 private:
-    void addComposite(const QString &resource, const QTransform &place)
+    void add(const Piece &piece)
     {
-        if (const auto objects = m_document.resources.composites.value(resource))
-            addAll(*objects, place);
+        for (const Character &character : piece.characters)
+            add(character.text, character.box);
     }
 
-    void addText(const Text &text, const QTransform &place)
-    {
-        Face &face = m_fonts.faceOf(text);
-        for (const TextRun &run : text.runs) {
-            const QVector<PlacedGlyph> glyphs = layOut(text, run, face);
-            for (const PlacedGlyph &glyph : glyphs) {
-                const QRectF em(0, -ascent, glyph.width, ascent + descent);
-                if (!glyph.text.isEmpty() && glyph.text.at(0) >= QChar(u' '))
-                    addCharacter(glyph.text, (glyph.place * place).mapRect(em));
-            }
-        }
-    }
-
-    void addCharacter(const QString &character, const QRectF &box)
+    void add(const QString &character, const QRectF &box)
     {
         const bool isFirst = m_result.lines.isEmpty();
-        if (isFirst || !continues(box)) {
+        if (isFirst || !isOnLineOf(m_result.boxes.last(), box)) {
             if (!isFirst)
                 append(QStringLiteral("\n"), QRectF());
             m_result.lines.append({int(m_result.text.size()), 0, box});
@@ -92,17 +115,6 @@ private:
             m_result.boxes.append(box);
     }
 
-    bool continues(const QRectF &box) const
-    {
-        const QRectF &before = m_result.boxes.last();
-        const qreal overlap =
-            std::min(before.bottom(), box.bottom()) - std::max(before.top(), box.top());
-        const qreal height = std::min(before.height(), box.height());
-        const qreal gap = box.left() - before.right();
-        return overlap > sameLineOverlap * height && gap > -before.width() - height / 2
-               && gap < columnGap * height;
-    }
-
     bool isApart(const QRectF &box) const
     {
         const QRectF &before = m_result.boxes.last();
@@ -117,9 +129,82 @@ private:
                && (before.unicode() < firstEastAsian || next.unicode() < firstEastAsian);
     }
 
+    PageText m_result;
+};
+
+/** Collects the pieces of a page; writers split lines at any place, so runs are joined. */
+class TextCollector
+{
+public:
+    TextCollector(const Document &document, FontSet &fonts)
+        : m_document(document)
+        , m_fonts(fonts)
+    {
+    }
+
+    void addAll(const Objects &objects, const QTransform &toPage)
+    {
+        for (const Object &object : objects) {
+            const QTransform place = object.placement() * toPage;
+            if (const auto *text = std::get_if<Text>(&object.content))
+                addText(*text, place);
+            else if (const auto *group = std::get_if<Group>(&object.content))
+                addAll(*group->objects, place);
+            else if (const auto *composite = std::get_if<Composite>(&object.content))
+                addComposite(composite->resource, place);
+        }
+    }
+
+    const QVector<Piece> &pieces() const { return m_pieces; }
+
+private:
+    void addComposite(const QString &resource, const QTransform &place)
+    {
+        if (const auto objects = m_document.resources.composites.value(resource))
+            addAll(*objects, place);
+    }
+
+    void addText(const Text &text, const QTransform &place)
+    {
+        Face &face = m_fonts.faceOf(text);
+        const bool isLevel = qFuzzyIsNull(place.m12()) || qFuzzyIsNull(place.m11());
+        for (const TextRun &run : text.runs) {
+            QVector<Character> characters;
+            const QVector<PlacedGlyph> glyphs = layOut(text, run, face);
+            for (const PlacedGlyph &glyph : glyphs) {
+                const QRectF em(0, -ascent, glyph.width, ascent + descent);
+                if (!glyph.text.isEmpty() && glyph.text.at(0) >= QChar(u' '))
+                    characters.append({glyph.text, (glyph.place * place).mapRect(em)});
+            }
+            if (!characters.isEmpty())
+                addRun(characters, isLevel);
+        }
+    }
+
+    void addRun(const QVector<Character> &run, bool isLevel)
+    {
+        const bool isDown = isVertical(run);
+        bool mustBegin = isDown;
+        for (const Character &character : run) {
+            if (mustBegin || !continuesLast(character.box, isLevel, isDown)) {
+                m_pieces.append(Piece());
+                m_pieces.last().isLevel = isLevel;
+            }
+            mustBegin = false;
+            m_pieces.last().append(character);
+        }
+    }
+
+    bool continuesLast(const QRectF &box, bool isLevel, bool isDown) const
+    {
+        if (m_pieces.isEmpty() || m_pieces.last().isLevel != isLevel)
+            return false;
+        return isDown || isOnLineOf(m_pieces.last().characters.last().box, box);
+    }
+
     const Document &m_document;
     FontSet &m_fonts;
-    PageText m_result;
+    QVector<Piece> m_pieces;
 };
 
 } // namespace
@@ -135,7 +220,9 @@ PageText textOf(const Document &document, int page, FontSet &fonts)
         if (annotation.isVisible)
             collector.addAll({annotation.appearance}, toSheet);
     }
-    return collector.take();
+    LineMaker lines;
+    lines.addAll(collector.pieces());
+    return lines.take();
 }
 
 } // namespace Ofd

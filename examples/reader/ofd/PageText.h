@@ -15,7 +15,7 @@ struct TextSpan
     QRectF rect;
 };
 
-/** The text of a page in the order of the file, with the rectangle of each character. */
+/** The text of a page in the order of reading, with the rectangle of each character. */
 struct PageText
 {
     QString text;
