@@ -232,7 +232,7 @@ private Q_SLOTS:
             {"text", 2, {148, 105}, "版式文档示例"},
             {"paths", 1, {210, 297}, ""},
             {"image", 1, {210, 297}, ""},
-            {"template", 2, {210, 297}, "块中之块\n模板在前\n批注外观"}};
+            {"template", 2, {210, 297}, "模板在前\n块中之块\n批注外观"}};
         for (const auto &[name, pages, lastSize, text] : rows) {
             const auto document = sample(name);
             QVERIFY2(document, qPrintable(name));

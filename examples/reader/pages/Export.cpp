@@ -5,6 +5,7 @@
 
 #include "document/Document.h"
 #include "pages/PagePainter.h"
+#include "pages/PdfText.h"
 
 #include <QPainter>
 #include <QPdfWriter>
@@ -35,6 +36,7 @@ bool writePdf(const Document &document, QSaveFile &file)
         painter.save();
         painter.scale(writer.width() / size.width(), writer.width() / size.width());
         paintPage(painter, document, page, colours, PageDecoration());
+        addHiddenText(painter, document.page(page));
         painter.restore();
     }
     return painter.end();
