@@ -40,6 +40,11 @@ QString textFilter()
     return FileCommands::tr("文本文件 (*.txt)");
 }
 
+QString pictureFilter()
+{
+    return FileCommands::tr("PNG 图片，每页一个 (*.png)");
+}
+
 } // namespace
 
 FileCommands::FileCommands(const ReaderParts &parts)
@@ -176,8 +181,9 @@ QString FileCommands::askFileToWrite() const
 {
     const QMap<QString, QString> suffixes = {{ofdFilter(), QStringLiteral(".ofd")},
                                              {pdfFilter(), QStringLiteral(".pdf")},
-                                             {textFilter(), QStringLiteral(".txt")}};
-    QStringList filters = {pdfFilter(), textFilter()};
+                                             {textFilter(), QStringLiteral(".txt")},
+                                             {pictureFilter(), QStringLiteral(".png")}};
+    QStringList filters = {pdfFilter(), textFilter(), pictureFilter()};
     // The OFD format comes first as long as it loses nothing: it copies the file without changes.
     if (!m_parts.document->isGenerated())
         filters.insert(m_parts.document->isModified() ? 1 : 0, ofdFilter());

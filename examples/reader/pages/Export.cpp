@@ -7,6 +7,7 @@
 #include "pages/PagePainter.h"
 #include "pages/PdfText.h"
 
+#include <QFile>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QSaveFile>
@@ -14,6 +15,9 @@
 namespace {
 
 constexpr qreal pointsPerPageUnit = 72.0 / 96.0;
+/** Pixels for a page unit: pictures have 192 dots an inch. */
+constexpr qreal pictureScale = 2;
+constexpr const char *pictureSuffix = ".png";
 
 bool hasSuffix(const QString &fileName, const char *suffix)
 {
@@ -51,10 +55,56 @@ bool writeText(const Document &document, QSaveFile &file)
     return true;
 }
 
+/** The file for a page: the name as it is for the only page, else with the number before the
+ * suffix. */
+QString pictureOf(const QString &fileName, int page, int pages)
+{
+    if (pages == 1)
+        return fileName;
+    const int digits = int(QString::number(pages).size());
+    const QString number = QString::number(page + 1).rightJustified(digits, QChar(u'0'));
+    return QString(fileName).insert(fileName.size() - int(qstrlen(pictureSuffix)),
+                                    QChar(u'-') + number);
+}
+
+bool writePicture(const Document &document, int page, const QString &fileName)
+{
+    const QSizeF size = document.sizeOf(page) * pictureScale;
+    QImage image(size.toSize(), QImage::Format_RGB32);
+    if (image.isNull())
+        return false;
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.scale(image.width() / document.sizeOf(page).width(),
+                  image.height() / document.sizeOf(page).height());
+    painter.setRenderHint(QPainter::Antialiasing);
+    paintPage(painter, document, page, PageColours::of(Background_Default), PageDecoration());
+    painter.end();
+    QSaveFile file(fileName);
+    return file.open(QIODevice::WriteOnly) && image.save(&file, "PNG") && file.commit();
+}
+
+bool writePictures(const Document &document, const QString &fileName)
+{
+    const int pages = document.pageCount();
+    // The dialog asked about the name itself only; nothing else may be overwritten.
+    for (int page = 0; pages > 1 && page < pages; ++page) {
+        if (QFile::exists(pictureOf(fileName, page, pages)))
+            return false;
+    }
+    for (int page = 0; page < pages; ++page) {
+        if (!writePicture(document, page, pictureOf(fileName, page, pages)))
+            return false;
+    }
+    return pages > 0;
+}
+
 } // namespace
 
 bool Export::write(const Document &document, const QString &fileName)
 {
+    if (hasSuffix(fileName, pictureSuffix))
+        return writePictures(document, fileName);
     QSaveFile file(fileName);
     if (!file.open(QIODevice::WriteOnly))
         return false;

@@ -11,8 +11,9 @@ class Document;
 namespace Export {
 
 /**
- * Writes the file; the suffix of the name selects the OFD file as it was opened, plain text, or
- * otherwise PDF. Returns false on failure.
+ * Writes the file; the suffix of the name selects the OFD file as it was opened, plain text, PNG,
+ * or otherwise PDF. PNG gives a picture of each page; those of several pages have numbers before
+ * the suffix and must not exist. Returns false on failure.
  */
 bool write(const Document &document, const QString &fileName);
 

@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFile>
 #include <QHash>
+#include <QImage>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
@@ -69,7 +70,7 @@ QString textOf(const QByteArray &pdf)
 
 } // namespace
 
-class TestPdfText : public QObject
+class TestExport : public QObject
 {
     Q_OBJECT
 
@@ -90,7 +91,21 @@ private Q_SLOTS:
             wanted += document.page(page).text;
         QCOMPARE(textOf(pdf), wanted.remove(QRegularExpression("\\s")));
     }
+
+    void shouldSaveAPictureForEachPage()
+    {
+        QTemporaryDir folder;
+        Document document;
+        QString error;
+        QVERIFY2(document.open(QDir(OFD_SAMPLES).filePath("text.ofd"), &error), qPrintable(error));
+        QVERIFY(Export::write(document, folder.filePath("a.png")));
+        QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList({"a-1.png", "a-2.png"}));
+        QVERIFY2(!Export::write(document, folder.filePath("a.png")), "It overwrote pictures");
+        const QImage second(folder.filePath("a-2.png"));
+        QCOMPARE(second.size(), (document.sizeOf(1) * 2).toSize());
+        QVERIFY2(second.convertToFormat(QImage::Format_Indexed8).colorCount() > 2, "It is blank");
+    }
 };
 
-QTEST_MAIN(TestPdfText)
-#include "tst_pdftext.moc"
+QTEST_MAIN(TestExport)
+#include "tst_export.moc"
