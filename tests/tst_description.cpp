@@ -51,8 +51,8 @@ private Q_SLOTS:
         QCOMPARE(parsed("<b index='-3'/>").index, -3);
         QCOMPARE(parsed("<b index='3rd'/>").index, 0);
         for (const QByteArray order : {"0", "10", "-1", "2nd", "\u0663", ""})
-            QCOMPARE(parsed("<b shrink='" + order + "'/>").shrink, 0);
-        QCOMPARE(parsed("<b shrink='9'/>").shrink, 9);
+            QCOMPARE(parsed("<b shrink='" + order + "'/>").optIn().shrink, 0);
+        QCOMPARE(parsed("<b shrink='9'/>").optIn().shrink, 9);
         const Controller &unknown = parsed("<b min_width='5' Name='x'/>");
         QCOMPARE(unknown.type + unknown.name, QString("b"));
     }
@@ -72,10 +72,10 @@ private Q_SLOTS:
                                  "peek='%1' quickadd='%1'/>";
         for (const QByteArray word : {"1", "True", "yes", "true"}) {
             const Controller &record = parsed(QByteArray(flags).replace("%1", word));
-            const QList<bool> read{record.checkable, record.checked,     record.check,
-                                   record.editable,  record.switchable,  record.withaction,
-                                   record.scalable,  record.doubleclick, record.peek,
-                                   record.quickadd};
+            const QList<bool> read{record.checkable,       record.checked,     record.check,
+                                   record.editable,        record.switchable,  record.withaction,
+                                   record.scalable,        record.doubleclick, record.optIn().peek,
+                                   record.optIn().quickadd};
             QVERIFY2(read.count(word == "true") == read.size(), word.constData());
         }
     }

@@ -76,7 +76,7 @@ QStringList lettersOf(const QStringList &controls)
         Controller record;
         record.text = control.section('|', 0, 0);
         record.name = control.section('|', 1, 1);
-        record.keytip = control.section('|', 2, 2);
+        record.changedOptIn().keytip = control.section('|', 2, 2);
         described.push_back(record);
     }
     QList<const Controller *> records;

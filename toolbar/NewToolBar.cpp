@@ -76,7 +76,7 @@ void giveStylesToMenus(const QList<CustomMenuStyle *> &styles, const NamedList<Q
 void giveWindowScope(const QList<Controller *> &records)
 {
     for (Controller *record : records) {
-        record->shortcutscope = Word::windowScope;
+        record->changedOptIn().shortcutscope = Word::windowScope;
         giveWindowScope(record->children);
     }
 }

@@ -81,7 +81,7 @@ void NewToolBar::createAddedCommands()
 {
     const QList<Controller *> records = sectionRecords(m_controllers, Section::quickAccessBar);
     const bool isWanted = std::any_of(records.begin(), records.end(), [](const Controller *record) {
-        return record->name == Name::customise && record->quickadd;
+        return record->name == Name::customise && record->optIn().quickadd;
     });
     if (!isWanted || !m_quickAccessBar || !m_quickAccessSetButton)
         return;

@@ -40,7 +40,7 @@ QButtonGroup *NewToolBar::CreateTabBar(QList<bool> &visibleTabs)
         m_tabButtons.append(button);
         visibleTabs.append(tab.visible);
         // Without a checked tab the first one that is there from the beginning.
-        if (isOpen || (shownTab < 0 && tab.context.isEmpty()))
+        if (isOpen || (shownTab < 0 && tab.optIn().context.isEmpty()))
             shownTab = position;
 
         QWidget *page = TabMaker::addPage(m_toolRowStack);
@@ -69,7 +69,7 @@ int NewToolBar::keptTab(const QList<Controller *> &tabs) const
     const QString name = m_parts->keeper.expectedTab();
     const auto kept = std::find_if(tabs.begin(), tabs.end(), [&name](const Controller *tab) {
         // One that belongs to a selection waits for that.
-        return tab->name == name && tab->visible && tab->context.isEmpty();
+        return tab->name == name && tab->visible && tab->optIn().context.isEmpty();
     });
     return name.isEmpty() || kept == tabs.end() ? -1 : static_cast<int>(kept - tabs.begin());
 }

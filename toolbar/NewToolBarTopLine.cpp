@@ -180,7 +180,7 @@ QList<QWidget *> NewToolBar::CreateAddtionalControl()
         if (record->name == Name::fold) {
             m_foldButton = button;
             m_unfoldButton = take(maker.makeUnfoldButton(button, *record));
-            hasPeek = hasPeek || record->peek;
+            hasPeek = hasPeek || record->optIn().peek;
         }
     }
     if (hasPeek)

@@ -52,14 +52,37 @@ QStringList anchorsOf(const QString &name)
 /** All fields of a record that are read from attributes. */
 QVariantList valuesOf(const Controller &record)
 {
-    return {record.text,     record.name,          record.icon,        record.arrow,
-            record.layout,   record.output,        record.tooltip,     record.disabletip,
-            record.group,    record.shortcut,      record.dropicon,    record.index,
-            record.check,    record.checkable,     record.checked,     record.usable,
-            record.visible,  record.available,     record.editable,    record.switchable,
-            record.scalable, record.withaction,    record.doubleclick, record.keywords,
-            record.keytip,   record.shortcutscope, record.context,     record.contextcolour,
-            record.shrink,   record.peek,          record.quickadd};
+    return {record.text,
+            record.name,
+            record.icon,
+            record.arrow,
+            record.layout,
+            record.output,
+            record.tooltip,
+            record.disabletip,
+            record.group,
+            record.shortcut,
+            record.dropicon,
+            record.index,
+            record.check,
+            record.checkable,
+            record.checked,
+            record.usable,
+            record.visible,
+            record.available,
+            record.editable,
+            record.switchable,
+            record.scalable,
+            record.withaction,
+            record.doubleclick,
+            record.optIn().keywords,
+            record.optIn().keytip,
+            record.optIn().shortcutscope,
+            record.optIn().context,
+            record.optIn().contextcolour,
+            record.optIn().shrink,
+            record.optIn().peek,
+            record.optIn().quickadd};
 }
 
 /** Whether the parser stores an attribute: then one of these values changes a field's default. */

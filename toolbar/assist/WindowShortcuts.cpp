@@ -40,7 +40,7 @@ bool mayBeOf(const QKeySequence &sequence, const QKeyEvent &key)
 void collectWanted(const QList<Controller *> &records, QList<const Controller *> &wanted)
 {
     for (const Controller *record : records) {
-        if (record->shortcutscope == Word::windowScope && !record->shortcut.isEmpty())
+        if (record->optIn().shortcutscope == Word::windowScope && !record->shortcut.isEmpty())
             wanted.append(record);
         collectWanted(record->children, wanted);
     }

@@ -122,7 +122,7 @@ void MenuMaker::setShortcut(QAction *entry, const Controller &record)
     // whole window does so without the entry.
     const QKeySequence sequence(record.shortcut);
     const bool actsInWindow =
-        record.section == Section::tabBar && record.shortcutscope == Word::windowScope;
+        record.section == Section::tabBar && record.optIn().shortcutscope == Word::windowScope;
     if (record.section == Section::appButton || actsInWindow)
         m_shortcuts.show(entry, sequence);
     else

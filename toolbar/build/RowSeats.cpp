@@ -65,7 +65,7 @@ RowSeats::RowSeats(ControlFactory &factory)
 
 QWidget *RowSeats::addButton(QToolBar *row, QAction *command, const Controller &record)
 {
-    if (record.shrink == 0) {
+    if (record.optIn().shrink == 0) {
         row->addAction(command);
         return row->widgetForAction(command);
     }
@@ -74,13 +74,13 @@ QWidget *RowSeats::addButton(QToolBar *row, QAction *command, const Controller &
     QWidgetAction *place = addPlace(row, button, record.name);
     m_factory.presentation().fit<&fitBareButton>(button);
     addDisabledTip(command, record, m_factory.presentation());
-    fitOf(row)->add({place, command, {button}, record.shrink});
+    fitOf(row)->add({place, command, {button}, record.optIn().shrink});
     return button;
 }
 
 void RowSeats::addMenu(QToolBar *row, MRDropButtonAction *action, const Controller &record)
 {
-    if (record.shrink == 0) {
+    if (record.optIn().shrink == 0) {
         row->addAction(action);
         return;
     }
@@ -91,13 +91,13 @@ void RowSeats::addMenu(QToolBar *row, MRDropButtonAction *action, const Controll
     m_factory.presentation().fit<&fitBareButton>(static_cast<QToolButton *>(button));
     if (QMenu *menu = action->GetMenu())
         addDisabledTip(menu->menuAction(), record, m_factory.presentation());
-    fitOf(row)->add({place, action, {button}, record.shrink});
+    fitOf(row)->add({place, action, {button}, record.optIn().shrink});
 }
 
 void RowSeats::addGroup(QToolBar *row, MRButtonGroup *action, const Controller &record)
 {
     row->addAction(action);
-    if (record.shrink == 0)
+    if (record.optIn().shrink == 0)
         return;
     const QList<QToolButton *> buttons = action->defaultWidget()->findChildren<QToolButton *>();
     for (QToolButton *button : buttons) {
@@ -109,7 +109,7 @@ void RowSeats::addGroup(QToolBar *row, MRButtonGroup *action, const Controller &
         if (command)
             addDisabledTip(command, *child, m_factory.presentation());
     }
-    fitOf(row)->add({action, nullptr, buttons, record.shrink});
+    fitOf(row)->add({action, nullptr, buttons, record.optIn().shrink});
 }
 
 RowFit *RowSeats::fitOf(QToolBar *row)

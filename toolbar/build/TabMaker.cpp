@@ -35,12 +35,13 @@ Qt::Alignment rowAlignment(ToolBarAlignment alignment)
 TabButton *makeBareButton(const Controller &tab, const TabButton::Page &page,
                           const Appearance &appearance)
 {
-    if (tab.context.isEmpty())
+    if (tab.optIn().context.isEmpty())
         return new TabButton(page);
     // As it is described; a colour by another notation is none.
-    const bool isColour = tab.contextcolour.size() == 7 && tab.contextcolour.startsWith('#');
-    const QColor colour = isColour ? QColor(tab.contextcolour) : QColor();
-    return new ContextTab(page, tab.context, colour, appearance);
+    const bool isColour =
+        tab.optIn().contextcolour.size() == 7 && tab.optIn().contextcolour.startsWith('#');
+    const QColor colour = isColour ? QColor(tab.optIn().contextcolour) : QColor();
+    return new ContextTab(page, tab.optIn().context, colour, appearance);
 }
 
 void showTab(QPushButton *button, const Controller &tab, const Presentation &how)
@@ -70,7 +71,7 @@ TabMaker::TabMaker(const ControlFactory &factory, ToolBarAlignment alignment)
 
 bool TabMaker::isOpenAtFirst(const Controller &tab)
 {
-    return tab.checked && tab.context.isEmpty();
+    return tab.checked && tab.optIn().context.isEmpty();
 }
 
 QPushButton *TabMaker::makeButton(const Controller &tab, const TabButton::Page &page,

@@ -33,11 +33,6 @@ const QHash<QString, TextField> &textFields()
         {QStringLiteral("group"), &Controller::group},
         {QStringLiteral("arrow"), &Controller::arrow},
         {QStringLiteral("dropicon"), &Controller::dropicon},
-        {QStringLiteral("keywords"), &Controller::keywords},
-        {QStringLiteral("keytip"), &Controller::keytip},
-        {QStringLiteral("shortcutscope"), &Controller::shortcutscope},
-        {QStringLiteral("context"), &Controller::context},
-        {QStringLiteral("contextcolour"), &Controller::contextcolour},
     };
     return fields;
 }
@@ -56,8 +51,18 @@ const QHash<QString, BoolField> &boolFields()
         {QStringLiteral("scalable"), &Controller::scalable},
         {QStringLiteral("check"), &Controller::check},
         {QStringLiteral("checked"), &Controller::checked},
-        {QStringLiteral("peek"), &Controller::peek},
-        {QStringLiteral("quickadd"), &Controller::quickadd},
+    };
+    return fields;
+}
+
+const QHash<QString, QString OptInAttributes::*> &optInTexts()
+{
+    static const QHash<QString, QString OptInAttributes::*> fields{
+        {QStringLiteral("keywords"), &OptInAttributes::keywords},
+        {QStringLiteral("keytip"), &OptInAttributes::keytip},
+        {QStringLiteral("shortcutscope"), &OptInAttributes::shortcutscope},
+        {QStringLiteral("context"), &OptInAttributes::context},
+        {QStringLiteral("contextcolour"), &OptInAttributes::contextcolour},
     };
     return fields;
 }
@@ -80,6 +85,18 @@ qint32 shrinkOrder(const QString &value)
     return isOrder ? value.toInt() : 0;
 }
 
+void storeOptIn(Controller *target, const QString &name, const QString &value)
+{
+    if (const auto text = optInTexts().value(name, nullptr))
+        target->changedOptIn().*text = value;
+    else if (name == QLatin1String("shrink"))
+        target->changedOptIn().shrink = shrinkOrder(value);
+    else if (name == QLatin1String("peek"))
+        leaveDefault(target->changedOptIn().peek, false, value);
+    else if (name == QLatin1String("quickadd"))
+        leaveDefault(target->changedOptIn().quickadd, false, value);
+}
+
 void storeAttribute(Controller *target, const QString &name, const QString &value)
 {
     static const Controller defaults;
@@ -92,8 +109,8 @@ void storeAttribute(Controller *target, const QString &name, const QString &valu
         leaveDefault(target->*flag, defaults.*flag, value);
     } else if (name == QLatin1String("index")) {
         target->index = value.toInt();
-    } else if (name == QLatin1String("shrink")) {
-        target->shrink = shrinkOrder(value);
+    } else {
+        storeOptIn(target, name, value);
     }
 }
 

@@ -139,7 +139,7 @@ private:
 
 QString KeyTipLetters::described(const Controller &record)
 {
-    const QString letters = record.keytip.toUpper();
+    const QString letters = record.optIn().keytip.toUpper();
     const bool canBeTyped = std::all_of(letters.begin(), letters.end(), [](QChar character) {
         return isLetter(character)
                || (character >= QLatin1Char('0') && character <= QLatin1Char('9'));

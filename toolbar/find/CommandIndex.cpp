@@ -56,7 +56,7 @@ CommandIndex::CommandIndex(const CommandPlaces &places, const TextsOf &textsOf)
             const CommandTexts texts = textsOf(place);
             appendNew(m_texts[i], texts.text);
             appendNew(toolTips, texts.toolTip);
-            appendNew(keywords, place.record->keywords);
+            appendNew(keywords, place.record->optIn().keywords);
         }
         SearchTexts &searched = m_searched[i];
         searched[Text] = joined(m_texts[i]);

@@ -29,7 +29,7 @@ void Rules::checkKeyTips(const SourceDocument &document, Findings &findings)
     // Those of the top line are shown together, and those of each row.
     QHash<const SourceElement *, QVector<const SourceElement *>> shownTogether;
     for (const SourceElement &element : document.elements) {
-        if (element.record.keytip.isEmpty()
+        if (element.record.optIn().keytip.isEmpty()
             || !Vocabulary::usesAttribute(element.role, QStringLiteral("keytip")))
             continue;
 
@@ -39,7 +39,7 @@ void Rules::checkKeyTips(const SourceDocument &document, Findings &findings)
             findings.warn("keytip-letters", position,
                           QStringLiteral("'%1' cannot be typed as a key tip and is ignored; only "
                                          "Latin letters and digits can")
-                              .arg(element.record.keytip));
+                              .arg(element.record.optIn().keytip));
             continue;
         }
         QVector<const SourceElement *> &others = shownTogether[tabOf(document, element)];

@@ -29,7 +29,7 @@ QString spelledOut(const QString &shortcut)
 bool actsInWindow(const SourceDocument &document, const SourceElement &element)
 {
     const SourceAttribute *ofRoot = document.at(0).find("shortcutscope");
-    const bool isAsked = element.record.shortcutscope == Word::windowScope
+    const bool isAsked = element.record.optIn().shortcutscope == Word::windowScope
                          || (ofRoot && ofRoot->value == Word::windowScope);
     return isAsked && !document.isBelow(element, Role::SearchSet);
 }

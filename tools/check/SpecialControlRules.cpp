@@ -80,7 +80,7 @@ void checkTabs(const SourceDocument &document, Findings &findings)
     const Elements tabs =
         chosen(document, [](const SourceElement &one) { return one.role == Role::Tab; });
     const Elements checked = chosen(document, [](const SourceElement &one) {
-        return one.role == Role::Tab && one.record.checked && one.record.context.isEmpty();
+        return one.role == Role::Tab && one.record.checked && one.record.optIn().context.isEmpty();
     });
     if (!tabs.isEmpty() && checked.isEmpty())
         findings.warn("no-checked-tab", tabs.first()->position,
@@ -104,12 +104,12 @@ bool isColour(const QString &text)
 
 void checkContext(const SourceElement &tab, Findings &findings)
 {
-    const QString &colour = tab.record.contextcolour;
-    if (tab.record.checked && !tab.record.context.isEmpty())
+    const QString &colour = tab.record.optIn().contextcolour;
+    if (tab.record.checked && !tab.record.optIn().context.isEmpty())
         findings.warn("context-checked", tab.positionOf("checked"),
                       QStringLiteral("'checked' does nothing on the tab of a context, which is "
                                      "hidden at first; check another tab"));
-    if (!colour.isEmpty() && tab.record.context.isEmpty())
+    if (!colour.isEmpty() && tab.record.optIn().context.isEmpty())
         findings.warn("contextcolour-without-context", tab.positionOf("contextcolour"),
                       QStringLiteral("without 'context' a tab is not tinted"));
     else if (!colour.isEmpty() && !isColour(colour))
@@ -122,7 +122,7 @@ void checkContext(const SourceElement &tab, Findings &findings)
 
 void checkPeek(const SourceElement &button, Findings &findings)
 {
-    if (button.record.peek && button.record.name != QLatin1String("t_fold"))
+    if (button.record.optIn().peek && button.record.name != QLatin1String("t_fold"))
         findings.warn("peek-without-fold", button.positionOf("peek"),
                       QStringLiteral("'peek' does something on 't_fold' only"));
 }

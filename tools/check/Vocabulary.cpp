@@ -122,11 +122,11 @@ const Place &placeBelow(Role parent)
     return found == table.end() ? nothing : *found;
 }
 
-bool anySet(const Controller &record, std::initializer_list<QString Controller::*> fields)
+template <typename Record>
+bool anySet(const Record &record, std::initializer_list<QString Record::*> fields)
 {
-    return std::any_of(fields.begin(), fields.end(), [&record](QString Controller::*field) {
-        return !(record.*field).isEmpty();
-    });
+    return std::any_of(fields.begin(), fields.end(),
+                       [&record](QString Record::*field) { return !(record.*field).isEmpty(); });
 }
 
 /** Whether any switch of the record differs from its default. */
@@ -134,8 +134,8 @@ bool anySwitched(const Controller &record)
 {
     return !record.usable || !record.available || !record.visible || record.checkable
            || record.checked || record.check || record.editable || record.switchable
-           || record.withaction || record.scalable || record.doubleclick || record.peek
-           || record.quickadd;
+           || record.withaction || record.scalable || record.doubleclick || record.optIn().peek
+           || record.optIn().quickadd;
 }
 
 Controller parsed(const QString &attribute, const QString &value)
@@ -152,14 +152,18 @@ Vocabulary::AttributeKind kindByParsing(const QString &name)
 {
     using Kind = Vocabulary::AttributeKind;
     const Controller numbered = parsed(name, QStringLiteral("7"));
-    if (numbered.index != 0 || numbered.shrink != 0)
+    if (numbered.index != 0 || numbered.optIn().shrink != 0)
         return Kind::Number;
-    if (anySet(numbered,
-               {&Controller::text, &Controller::name, &Controller::icon, &Controller::arrow,
-                &Controller::layout, &Controller::output, &Controller::tooltip,
-                &Controller::disabletip, &Controller::group, &Controller::shortcut,
-                &Controller::dropicon, &Controller::keywords, &Controller::keytip,
-                &Controller::shortcutscope, &Controller::context, &Controller::contextcolour}))
+    const bool isText = anySet<Controller>(
+        numbered,
+        {&Controller::text, &Controller::name, &Controller::icon, &Controller::arrow,
+         &Controller::layout, &Controller::output, &Controller::tooltip, &Controller::disabletip,
+         &Controller::group, &Controller::shortcut, &Controller::dropicon});
+    if (isText
+        || anySet<OptInAttributes>(numbered.optIn(),
+                                   {&OptInAttributes::keywords, &OptInAttributes::keytip,
+                                    &OptInAttributes::shortcutscope, &OptInAttributes::context,
+                                    &OptInAttributes::contextcolour}))
         return Kind::Text;
     if (anySwitched(parsed(name, QStringLiteral("true"))))
         return Kind::TrueOnly;
