@@ -28,7 +28,7 @@ private Q_SLOTS:
         QFETCH(QString, name);
         const auto document = OfdFiles::opened(name);
         QVERIFY(document);
-        for (int page = 0; page < document->pages.size(); ++page) {
+        for (int page = 0; page < document->pageCount(); ++page) {
             const QString picture =
                 page == 0 ? name : QStringLiteral("%1-%2").arg(name).arg(page + 1);
             const QString difference =

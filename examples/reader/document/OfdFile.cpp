@@ -69,7 +69,7 @@ QList<NamedPlace> placesOf(const QVector<Ofd::Target> &targets)
 QString leftOutOf(const Ofd::Painter &painter)
 {
     QMap<QString, int> counts = painter.unpaintable();
-    const QMap<QString, int> &unsupported = painter.document().unsupported;
+    const QHash<QString, int> unsupported = painter.document().unsupported.all();
     for (auto kind = unsupported.cbegin(); kind != unsupported.cend(); ++kind)
         counts[kind.key()] += kind.value();
     QStringList parts;
@@ -88,9 +88,9 @@ bool OfdFile::read(const QString &fileName, QList<Page> *pages, QString *error)
         return false;
     const auto painter = std::make_shared<Ofd::Painter>(document);
     pages->clear();
-    for (int i = 0; i < document->pages.size(); ++i) {
+    for (int i = 0; i < document->pageCount(); ++i) {
         Page page;
-        page.size = document->pages.at(i).area.size() * unitsPerMillimetre;
+        page.size = document->page(i)->area.size() * unitsPerMillimetre;
         page.heading = tr("第 %1 页").arg(i + 1);
         page.content = std::make_shared<OfdPageContent>(painter, i);
         page.isTextRead = false;

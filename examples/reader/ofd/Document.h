@@ -3,10 +3,10 @@
 
 #pragma once
 
-#include "ofd/Objects.h"
 #include "ofd/Package.h"
+#include "ofd/PageStore.h"
+#include "ofd/Table.h"
 
-#include <QMap>
 #include <QPair>
 #include <QStringList>
 
@@ -25,28 +25,9 @@ struct Font
 /** The resources that pages refer to by identifiers, which are unique in the document. */
 struct Resources
 {
-    QHash<QString, Font> fonts;
-    QHash<QString, QString> images; ///< Their entries in the package.
+    Table<Font> fonts;
+    Table<QString> images; ///< Their entries in the package.
     QHash<QString, std::shared_ptr<const Objects>> composites;
-};
-
-/** A mark on a page that is kept apart from its content. */
-struct Annotation
-{
-    QString id;
-    QString type; ///< As the file names it, such as "Link" or "Highlight".
-    QString creator;
-    QString remark; ///< What it says, as plain text.
-    bool isVisible = true;
-    Object appearance;
-};
-
-struct Page
-{
-    QRectF area; ///< The sheet, in the coordinates of the page.
-    /** From back to front; pages share the objects of their templates. */
-    QVector<std::shared_ptr<const Objects>> layers;
-    QVector<Annotation> annotations; ///< Above the layers.
 };
 
 /** An entry of the outline or a bookmark. */
@@ -57,20 +38,36 @@ struct Target
     int page = -1; ///< Counted from 0; -1 without a target.
 };
 
+/** A document, whose pages are read when they are asked for. Threads may share it. */
 struct Document
 {
+    int pageCount() const { return pages->count(); }
+    QRectF area(int page) const { return pages->area(page); }
+    std::shared_ptr<const Page> page(int index) const { return pages->page(index); }
+    /** The objects of a composite on that page; null if there is none. */
+    std::shared_ptr<const Objects> composite(const QString &id, const Page &page) const
+    {
+        return page.composites.value(id, resources.composites.value(id));
+    }
+
     std::shared_ptr<Package> package;
     QVector<QPair<QString, QString>> information; ///< Names and values.
     QString title;
+    QStringList bodies; ///< The names of all documents in the package, of which this is one.
+    int body = 0;       ///< Which one it is.
     Resources resources;
-    QVector<Page> pages;
+    std::unique_ptr<PageStore> pages;
     QVector<Target> outline;
     QVector<Target> bookmarks;
     QStringList attachments;
-    QMap<QString, int> unsupported; ///< The number of left out parts by kind.
+    Table<int> unsupported; ///< The number of left out parts by kind, in what was read so far.
 };
 
-/** Reads a document; on failure returns null and sets @p error to one sentence. */
-std::shared_ptr<const Document> read(const QString &fileName, QString *error);
+/**
+ * Reads one of the documents of a file; on failure returns null and sets @p error to one sentence.
+ *
+ * The pages are read later, and one that cannot be read costs itself only.
+ */
+std::shared_ptr<const Document> read(const QString &fileName, QString *error, int body = 0);
 
 } // namespace Ofd

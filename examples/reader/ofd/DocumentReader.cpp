@@ -10,107 +10,173 @@
 #include "ofd/PageReader.h"
 #include "ofd/Wording.h"
 
+#include <QBitArray>
+
 namespace Ofd {
 
 namespace {
 
 const QString entryPoint = QStringLiteral("OFD.xml");
 
-/** Reads a document from its entry point to its pages. */
+/** Reads a document up to the list of its pages, and later each page. The document owns it. */
 class DocumentReader
 {
 public:
-    explicit DocumentReader(const QString &fileName)
-        : m_document(std::make_shared<Document>())
+    explicit DocumentReader(Document &document)
+        : m_document(document)
     {
-        m_document->package = std::make_shared<Package>(fileName);
-        m_resources.emplace(*m_document->package, m_document->resources, m_document->unsupported);
-        m_pages.emplace(*m_document->package, *m_resources, m_document->unsupported);
     }
 
-    std::shared_ptr<const Document> read()
+    void read(int body)
     {
-        const Package &package = *m_document->package;
+        const Package &package = *m_document.package;
         if (!package.has(entryPoint))
             throw Fault{Wording::tr("这不是 OFD 文件：包内没有 OFD.xml。")};
         const XmlElement root = XmlElement::parse(package.read(entryPoint), entryPoint);
-        const XmlElement *body = root.child("DocBody");
+        const XmlElement *chosen = chooseBody(root, body);
         const QString path =
-            body ? package.find(entryPoint, body->childText("DocRoot")) : QString();
+            chosen ? package.find(entryPoint, chosen->childText("DocRoot")) : QString();
         if (path.isEmpty())
             throw Fault{Wording::tr("文件不完整：没有文档入口 Document.xml。")};
-        if (const XmlElement *information = body->child("DocInfo"))
-            Extras::readInformation(*information, *m_document);
-        Extras::countSeals(*body, entryPoint, *m_document);
+        if (const XmlElement *information = chosen->child("DocInfo"))
+            Extras::readInformation(*information, m_document);
+        Extras::countSeals(*chosen, entryPoint, m_document);
         readDocument(XmlElement::parse(package.read(path), path), path);
-        countOtherBodies(root);
-        checkExpansion(*m_document);
-        return m_document;
+        addCounts();
+    }
+
+    int pageCount() const { return int(m_locations.size()); }
+    QRectF commonArea() const { return m_pages.commonArea(); }
+
+    /** A page; one that cannot be read costs itself only. */
+    Page page(int index)
+    {
+        m_counts.clear();
+        m_resources.objects().restartCount();
+        Page page;
+        try {
+            page = readPage(index);
+        } catch (const Fault &fault) {
+            page = Page();
+            page.area = commonArea();
+            page.fault = fault.message;
+            ++m_counts[Wording::tr("无法显示的页面")];
+        }
+        // The store forgets pages, and the same parts are left out when one is read again.
+        if (!m_isCounted.testBit(index))
+            addCounts();
+        m_isCounted.setBit(index);
+        return page;
     }
 
 private:
+    const XmlElement *chooseBody(const XmlElement &root, int wanted)
+    {
+        const XmlElement *chosen = nullptr;
+        for (const XmlElement &child : root.children) {
+            if (!child.is("DocBody"))
+                continue;
+            const int number = int(m_document.bodies.size());
+            const XmlElement *information = child.child("DocInfo");
+            const QString title = information ? information->childText("Title") : QString();
+            m_document.bodies.append(title.isEmpty() ? Wording::tr("文档 %1").arg(number + 1)
+                                                     : title);
+            if (number == wanted)
+                chosen = &child;
+        }
+        m_document.body = wanted;
+        return chosen;
+    }
+
     void readDocument(const XmlElement &root, const QString &path)
     {
         const XmlElement nothing;
         const XmlElement *data = root.child("CommonData");
         const XmlElement &common = data ? *data : nothing;
-        m_resources->colours().setDefaultSpace(common.childText("DefaultCS"));
-        m_resources->addLists(common, "PublicRes", path);
-        m_resources->addLists(common, "DocumentRes", path);
-        m_resources->finish();
-        m_pages->readCommon(common, path);
-        readPages(root, path);
-        Extras::readTargets(root, m_pageIndexes, *m_document);
-        readAnnotations(root, path);
-        Extras::readAttachments(root, path, *m_document);
+        m_resources.colours().setDefaultSpace(common.childText("DefaultCS"));
+        m_resources.addLists(common, "PublicRes", path);
+        m_resources.addLists(common, "DocumentRes", path);
+        m_resources.finish(&m_document.resources.composites);
+        m_pages.readCommon(common, path);
+        const QHash<QString, int> indexes = listPages(root, path);
+        Extras::readTargets(root, indexes, m_document);
+        m_annotations = Annotations::lists(*m_document.package, root, path, indexes);
+        Extras::readAttachments(root, path, m_document);
     }
 
-    void readPages(const XmlElement &root, const QString &path)
+    QHash<QString, int> listPages(const XmlElement &root, const QString &path)
     {
         const XmlElement *list = root.child("Pages");
         if (!list || list->children.empty())
             throw Fault{Wording::tr("文档没有页面。")};
         if (list->children.size() > Limits::pages)
             throw Fault{Wording::tr("文档的页面过多，超过 %1 页。").arg(Limits::pages)};
+        m_path = path;
+        QHash<QString, int> indexes;
         for (const XmlElement &page : list->children) {
-            m_pageIndexes.insert(page.attribute("ID"), int(m_document->pages.size()));
-            m_document->pages.append(m_pages->read(page, path));
+            indexes.insert(page.attribute("ID"), pageCount());
+            m_locations.append(page.attribute("BaseLoc"));
+        }
+        m_isCounted.resize(pageCount());
+        return indexes;
+    }
+
+    Page readPage(int index)
+    {
+        const QString path = m_document.package->find(m_path, m_locations.at(index));
+        if (path.isEmpty())
+            throw Fault{Wording::tr("包内没有这一页的文件。")};
+        Page page = m_pages.read(path);
+        readAnnotations(index, &page);
+        checkExpansion(page, m_document);
+        return page;
+    }
+
+    /** A damaged list of annotations leaves the page without them. */
+    void readAnnotations(int index, Page *page)
+    {
+        const QString list = m_annotations.value(index);
+        if (list.isEmpty())
+            return;
+        try {
+            const XmlElement element = XmlElement::parse(m_document.package->read(list), list);
+            page->annotations = Annotations::read(element, m_resources.objects());
+        } catch (const Fault &) {
+            ++m_counts[Wording::tr("无法读取的注释")];
         }
     }
 
-    void readAnnotations(const XmlElement &root, const QString &path)
+    void addCounts()
     {
-        const Package &package = *m_document->package;
-        const QHash<int, QString> lists = Annotations::lists(package, root, path, m_pageIndexes);
-        for (auto list = lists.cbegin(); list != lists.cend(); ++list) {
-            const XmlElement element = XmlElement::parse(package.read(*list), *list);
-            m_document->pages[list.key()].annotations =
-                Annotations::read(element, m_resources->objects());
-        }
+        for (auto count = m_counts.cbegin(); count != m_counts.cend(); ++count)
+            m_document.unsupported.add(count.key(), count.value());
+        m_counts.clear();
     }
 
-    void countOtherBodies(const XmlElement &root)
-    {
-        int bodies = 0;
-        for (const XmlElement &child : root.children)
-            bodies += child.is("DocBody") ? 1 : 0;
-        if (bodies > 1)
-            m_document->unsupported[Wording::tr("同一文件中的其他文档")] = bodies - 1;
-    }
-
-    std::shared_ptr<Document> m_document;
-    std::optional<ResourceReader> m_resources;
-    std::optional<PageReader> m_pages;
-    QHash<QString, int> m_pageIndexes;
+    Document &m_document;
+    QMap<QString, int> m_counts; ///< What was left out since addCounts() was called.
+    ResourceReader m_resources{*m_document.package, m_document.resources, m_counts};
+    PageReader m_pages{*m_document.package, m_resources, m_counts};
+    QString m_path;
+    QStringList m_locations; ///< Of the pages, as the file m_path gives them.
+    QHash<int, QString> m_annotations;
+    QBitArray m_isCounted;
 };
 
 } // namespace
 
-std::shared_ptr<const Document> read(const QString &fileName, QString *error)
+std::shared_ptr<const Document> read(const QString &fileName, QString *error, int body)
 {
     error->clear();
     try {
-        return DocumentReader(fileName).read();
+        const auto document = std::make_shared<Document>();
+        document->package = std::make_shared<Package>(fileName);
+        const auto reader = std::make_shared<DocumentReader>(*document);
+        reader->read(body);
+        const QVector<QRectF> areas(reader->pageCount(), reader->commonArea());
+        document->pages =
+            std::make_unique<PageStore>(areas, [reader](int index) { return reader->page(index); });
+        return document;
     } catch (const Fault &fault) {
         *error = fault.message;
         return nullptr;

@@ -31,8 +31,9 @@ qint64 ownCount(const Object &object)
 class Counter
 {
 public:
-    explicit Counter(const Resources &resources)
-        : m_resources(resources)
+    Counter(const Document &document, const Page &page)
+        : m_document(document)
+        , m_page(page)
     {
     }
 
@@ -57,7 +58,7 @@ public:
             return m_counts.value(composite);
         if (m_open.contains(composite))
             throw Fault{Wording::tr("复合图元“%1”循环引用。").arg(composite)};
-        const auto objects = m_resources.composites.value(composite);
+        const auto objects = m_document.composite(composite, m_page);
         if (!objects)
             return 0;
         if (m_open.size() >= Limits::xmlDepth)
@@ -70,34 +71,24 @@ public:
     }
 
 private:
-    const Resources &m_resources;
+    const Document &m_document;
+    const Page &m_page;
     QHash<QString, qint64> m_counts;
     QSet<QString> m_open;
 };
 
 } // namespace
 
-void checkExpansion(const Document &document)
+void checkExpansion(const Page &page, const Document &document)
 {
-    Counter counter(document.resources);
-    const QStringList composites = document.resources.composites.keys();
-    for (const QString &composite : composites)
-        counter.countOf(composite);
-    QHash<const Objects *, qint64> counts;
-    qint64 all = 0;
-    for (const Page &page : document.pages) {
-        qint64 total = 0;
-        for (const auto &layer : page.layers) {
-            if (!counts.contains(layer.get()))
-                counts.insert(layer.get(), counter.count(*layer));
-            total += counts.value(layer.get());
-        }
-        for (const Annotation &annotation : page.annotations)
-            total += counter.count({annotation.appearance});
-        all += total;
-        if (total > Limits::marksPerPage || all > Limits::marks)
-            throw Fault{Wording::tr("文档的内容展开后过多，无法显示。")};
-    }
+    Counter counter(document, page);
+    qint64 total = 0;
+    for (const auto &layer : page.layers)
+        total += counter.count(*layer);
+    for (const Annotation &annotation : page.annotations)
+        total += counter.count({annotation.appearance});
+    if (total > Limits::marksPerPage)
+        throw Fault{Wording::tr("页面的内容展开后过多，无法显示。")};
 }
 
 } // namespace Ofd

@@ -8,9 +8,9 @@
 namespace Ofd {
 
 /**
- * Throws a Fault if composites contain each other in a circle, or if a page has more marks than
- * Limits::marksPerPage after the expansion of all composites.
+ * Throws a Fault if composites on a page contain each other in a circle, or if it has more marks
+ * than Limits::marksPerPage after the expansion of all composites.
  */
-void checkExpansion(const Document &document);
+void checkExpansion(const Page &page, const Document &document);
 
 } // namespace Ofd

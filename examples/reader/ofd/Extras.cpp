@@ -121,7 +121,7 @@ void Extras::countSeals(const XmlElement &body, const QString &from, Document &d
         return;
     for (const XmlElement &signature : list->children) {
         if (signature.is("Signature"))
-            ++document.unsupported[Wording::tr("电子签章")];
+            document.unsupported.add(Wording::tr("电子签章"), 1);
     }
 }
 

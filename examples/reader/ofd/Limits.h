@@ -20,10 +20,12 @@ constexpr qint64 harmlessBytes = 1LL << 20;
 constexpr int xmlDepth = 64;
 constexpr int xmlElements = 4000000;
 constexpr int pages = 20000;
+/** Objects that are read for one page, or for all pages in common. */
 constexpr qint64 objects = 2000000;
 /** Characters and points of paths, with every composite and template expanded. */
 constexpr qint64 marksPerPage = 3000000;
-constexpr qint64 marks = 30000000;
+/** Objects of templates that are kept for further pages. */
+constexpr qint64 templateObjects = 200000;
 
 constexpr qreal number = 1e7;
 constexpr qreal pageSide = 10000;

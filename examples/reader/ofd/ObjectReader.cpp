@@ -71,7 +71,7 @@ void ObjectReader::readOne(Objects &objects, const XmlElement &element, const St
     if (!element.name.endsWith(QLatin1String("Object")) || !element.flag("Visible", true))
         return;
     if (++m_count > Limits::objects)
-        throw Fault{Wording::tr("文档中的图元过多，超过 %1 个。").arg(Limits::objects)};
+        throw Fault{Wording::tr("页面的图元过多，超过 %1 个。").arg(Limits::objects)};
     Object object = common(element, wider);
     if (element.is("TextObject"))
         object.content = textOf(element);

@@ -20,6 +20,9 @@ public:
     /** All objects inside, also in nested blocks. Throws a Fault for values above the limits. */
     Objects readAll(const XmlElement &parent, const Style &wider);
 
+    /** Counts the objects from 0 again; the limit is for what is read for one page. */
+    void restartCount() { m_count = 0; }
+
 private:
     void readInto(Objects &objects, const XmlElement &parent, const Style &wider);
     void readOne(Objects &objects, const XmlElement &element, const Style &wider);

@@ -89,6 +89,7 @@ QByteArray Package::read(const QString &path) const
 {
     const Fault damage{Wording::tr("包内文件“%1”缺失或已损坏。").arg(path)};
     const qint64 size = m_sizes.value(path, -1);
+    const QMutexLocker guard(&m_lock);
     if (size < 0 || !m_zip.setCurrentFile(path, QuaZip::csSensitive))
         throw damage;
     QuaZipFile file(&m_zip);

@@ -6,13 +6,17 @@
 #include <QBuffer>
 #include <QByteArray>
 #include <QHash>
+#include <QMutex>
 #include <QString>
 
 #include <quazip/quazip.h>
 
 namespace Ofd {
 
-/** The archive of a document. It is kept in memory, so changes of the file have no effect. */
+/**
+ * The archive of a document. It is kept in memory, so changes of the file have no effect. Threads
+ * may share it.
+ */
 class Package
 {
 public:
@@ -41,6 +45,7 @@ private:
     void check(const QuaZipFileInfo64 &entry) const;
 
     QByteArray m_archive;
+    mutable QMutex m_lock; ///< Of the two that follow.
     mutable QBuffer m_buffer;
     mutable QuaZip m_zip;
     QHash<QString, qint64> m_sizes; ///< By path, without folders.

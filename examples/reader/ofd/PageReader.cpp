@@ -57,33 +57,41 @@ void PageReader::readCommon(const XmlElement &data, const QString &from)
     }
 }
 
-Page PageReader::read(const XmlElement &element, const QString &from)
+Page PageReader::read(const QString &path)
 {
+    m_openTemplates.clear();
+    if (m_templateObjects > Limits::templateObjects)
+        forgetTemplates();
+    const XmlElement content = XmlElement::parse(m_package.read(path), path);
     Page page;
     page.area = m_commonArea;
-    const QString path = m_package.find(from, element.attribute("BaseLoc"));
-    if (path.isEmpty()) {
-        ++m_unsupported[Wording::tr("缺失的页面")];
-        return page;
-    }
-    if (m_read.contains(path))
-        return m_read.value(path);
-    const XmlElement content = XmlElement::parse(m_package.read(path), path);
     if (const XmlElement *area = content.child("Area")) {
         const QRectF own = sheetOf(*area);
         page.area = own.isNull() ? m_commonArea : own;
     }
-    m_resources.addLists(content, "PageRes", path);
-    m_resources.finish();
-    page.layers = layersOf(content);
-    m_read.insert(path, page);
+    page.layers = layersOf(content, path, &page.composites);
     return page;
 }
 
-PageReader::Layers PageReader::layersOf(const XmlElement &page)
+/** Pages that are kept share the objects of their templates, which stay as long as they do. */
+void PageReader::forgetTemplates()
 {
-    const Layers layers = templatesOf(page, backgroundOrder) + templatesOf(page, bodyOrder)
-                          + ownLayersOf(page) + templatesOf(page, foregroundOrder);
+    for (Template &page : m_templates) {
+        page.layers.clear();
+        page.composites.clear();
+        page.isRead = false;
+    }
+    m_templateObjects = 0;
+}
+
+PageReader::Layers PageReader::layersOf(const XmlElement &page, const QString &path,
+                                        Composites *composites)
+{
+    m_resources.addLists(page, "PageRes", path);
+    m_resources.finish(composites);
+    const Layers layers = templatesOf(page, backgroundOrder, composites)
+                          + templatesOf(page, bodyOrder, composites) + ownLayersOf(page)
+                          + templatesOf(page, foregroundOrder, composites);
     if (layers.size() > mostLayers)
         throw Fault{Wording::tr("页面的图层过多，超过 %1 个。").arg(mostLayers)};
     return layers;
@@ -107,7 +115,8 @@ PageReader::Layers PageReader::ownLayersOf(const XmlElement &page)
     return layers;
 }
 
-PageReader::Layers PageReader::templatesOf(const XmlElement &page, const char *order)
+PageReader::Layers PageReader::templatesOf(const XmlElement &page, const char *order,
+                                           Composites *composites)
 {
     Layers layers;
     for (const XmlElement &element : page.children) {
@@ -119,35 +128,37 @@ PageReader::Layers PageReader::templatesOf(const XmlElement &page, const char *o
             wanted = m_templates.value(id).order;
         if (wanted.isEmpty())
             wanted = QLatin1String(backgroundOrder);
-        if (wanted == QLatin1String(order))
-            layers += layersOfTemplate(id);
+        if (wanted != QLatin1String(order))
+            continue;
+        const Template &used = templateOf(id);
+        layers += used.layers;
+        for (auto own = used.composites.cbegin(); own != used.composites.cend(); ++own)
+            composites->insert(own.key(), *own);
     }
     return layers;
 }
 
-const PageReader::Layers &PageReader::layersOfTemplate(const QString &id)
+const PageReader::Template &PageReader::templateOf(const QString &id)
 {
-    Template &page = m_templates[id];
-    if (page.isRead)
-        return page.layers;
-    if (page.isBegun)
+    Template &known = m_templates[id];
+    if (known.isRead)
+        return known;
+    if (m_openTemplates.contains(id))
         throw Fault{Wording::tr("模板页“%1”循环引用。").arg(id)};
-    if (page.path.isEmpty()) {
+    if (known.path.isEmpty()) {
         ++m_unsupported[Wording::tr("缺失的模板页")];
-        page.isRead = true;
-        return page.layers;
+        return known;
     }
-    page.isBegun = true;
-    const QString path = page.path;
-    const XmlElement content = XmlElement::parse(m_package.read(path), path);
-    m_resources.addLists(content, "PageRes", path);
-    m_resources.finish();
-    const Layers layers = layersOf(content);
+    m_openTemplates.insert(id);
+    Template read = known;
+    const XmlElement content = XmlElement::parse(m_package.read(read.path), read.path);
+    read.layers = layersOf(content, read.path, &read.composites);
+    read.isRead = true;
+    m_openTemplates.remove(id);
+    for (const auto &layer : std::as_const(read.layers))
+        m_templateObjects += layer->size();
     // Reading may have inserted other templates, which invalidates references into the hash.
-    Template &done = m_templates[id];
-    done.layers = layers;
-    done.isRead = true;
-    return done.layers;
+    return *m_templates.insert(id, read);
 }
 
 } // namespace Ofd

@@ -5,6 +5,8 @@
 
 #include "ofd/ResourceReader.h"
 
+#include <QSet>
+
 namespace Ofd {
 
 /** Reads pages with the templates below and above them. */
@@ -20,32 +22,37 @@ public:
 
     /** Reads the settings for all pages from the common data in the file @p from. */
     void readCommon(const XmlElement &data, const QString &from);
-    /** Reads the page that an element of the list of pages in the file @p from refers to. */
-    Page read(const XmlElement &element, const QString &from);
+    /** The sheet of pages that have none of their own. */
+    QRectF commonArea() const { return m_commonArea; }
+    /** Reads the content of a page from an entry of the package. */
+    Page read(const QString &path);
 
 private:
     using Layers = QVector<std::shared_ptr<const Objects>>;
+    using Composites = QHash<QString, std::shared_ptr<const Objects>>;
 
     struct Template
     {
         QString path;
         QString order;
         Layers layers;
+        Composites composites;
         bool isRead = false;
-        bool isBegun = false; ///< Reading has begun or is done.
     };
 
-    Layers layersOf(const XmlElement &page);
+    Layers layersOf(const XmlElement &page, const QString &path, Composites *composites);
     Layers ownLayersOf(const XmlElement &page);
-    Layers templatesOf(const XmlElement &page, const char *order);
-    const Layers &layersOfTemplate(const QString &id);
+    Layers templatesOf(const XmlElement &page, const char *order, Composites *composites);
+    const Template &templateOf(const QString &id);
+    void forgetTemplates();
 
     const Package &m_package;
     ResourceReader &m_resources;
     QMap<QString, int> &m_unsupported;
     QRectF m_commonArea;
     QHash<QString, Template> m_templates;
-    QHash<QString, Page> m_read; ///< By path, so that a file shared by pages is read once.
+    QSet<QString> m_openTemplates; ///< Those that are being read, to find circles.
+    qint64 m_templateObjects = 0;  ///< How many objects templates keep.
 };
 
 } // namespace Ofd

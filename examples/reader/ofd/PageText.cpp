@@ -136,8 +136,9 @@ private:
 class TextCollector
 {
 public:
-    TextCollector(const Document &document, FontSet &fonts)
+    TextCollector(const Document &document, const Page &page, FontSet &fonts)
         : m_document(document)
+        , m_page(page)
         , m_fonts(fonts)
     {
     }
@@ -160,7 +161,7 @@ public:
 private:
     void addComposite(const QString &resource, const QTransform &place)
     {
-        if (const auto objects = m_document.resources.composites.value(resource))
+        if (const auto objects = m_document.composite(resource, m_page))
             addAll(*objects, place);
     }
 
@@ -203,6 +204,7 @@ private:
     }
 
     const Document &m_document;
+    const Page &m_page;
     FontSet &m_fonts;
     QVector<Piece> m_pieces;
 };
@@ -211,12 +213,12 @@ private:
 
 PageText textOf(const Document &document, int page, FontSet &fonts)
 {
-    TextCollector collector(document, fonts);
-    const Page &source = document.pages.at(page);
-    const QTransform toSheet = QTransform::fromTranslate(-source.area.left(), -source.area.top());
-    for (const auto &layer : source.layers)
+    const auto source = document.page(page);
+    TextCollector collector(document, *source, fonts);
+    const QTransform toSheet = QTransform::fromTranslate(-source->area.left(), -source->area.top());
+    for (const auto &layer : source->layers)
         collector.addAll(*layer, toSheet);
-    for (const Annotation &annotation : source.annotations) {
+    for (const Annotation &annotation : source->annotations) {
         if (annotation.isVisible)
             collector.addAll({annotation.appearance}, toSheet);
     }

@@ -123,9 +123,9 @@ QMap<QString, int> Painter::unpaintable() const
             ++counts[kind];
         }
     };
-    for (const Font &font : m_document->resources.fonts)
+    for (const Font &font : m_document->resources.fonts.all())
         test(font.file, Wording::tr("嵌入字体"), Face::isReadable);
-    for (const QString &file : m_document->resources.images)
+    for (const QString &file : m_document->resources.images.all())
         test(file, Wording::tr("图像"), ImageStore::isReadable);
     return counts;
 }
@@ -134,14 +134,15 @@ void Painter::paint(QPainter &painter, int page)
 {
     painter.save();
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    const Page &shown = m_document->pages.at(page);
-    painter.translate(-shown.area.topLeft());
-    for (const auto &layer : shown.layers)
+    m_shown = m_document->page(page);
+    painter.translate(-m_shown->area.topLeft());
+    for (const auto &layer : m_shown->layers)
         paintAll(painter, *layer);
-    for (const Annotation &annotation : shown.annotations) {
+    for (const Annotation &annotation : m_shown->annotations) {
         if (annotation.isVisible)
             paintAll(painter, {annotation.appearance});
     }
+    m_shown.reset();
     painter.restore();
 }
 
@@ -229,7 +230,7 @@ void Painter::paintContent(QPainter &painter, const Object &object, const Image 
 
 void Painter::paintContent(QPainter &painter, const Object &, const Composite &composite)
 {
-    if (const auto objects = m_document->resources.composites.value(composite.resource))
+    if (const auto objects = m_document->composite(composite.resource, *m_shown))
         paintAll(painter, *objects);
 }
 

@@ -10,7 +10,7 @@ class QPainter;
 
 namespace Ofd {
 
-/** Paints the pages of one document. */
+/** Paints the pages of one document. Each thread needs its own, because of the fonts. */
 class Painter
 {
 public:
@@ -36,6 +36,7 @@ private:
     void paintContent(QPainter &painter, const Object &object, const Group &group);
 
     std::shared_ptr<const Document> m_document;
+    std::shared_ptr<const Page> m_shown; ///< The page that is being painted.
     FontSet m_fonts;
     ImageStore m_images;
 };

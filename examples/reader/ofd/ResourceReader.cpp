@@ -5,6 +5,8 @@
 
 #include "ofd/Wording.h"
 
+#include <utility>
+
 namespace Ofd {
 
 namespace {
@@ -86,17 +88,17 @@ void ResourceReader::addMedia(const XmlElement &element, const QString &folder)
     m_resources.images.insert(element.attribute("ID"), file);
 }
 
-void ResourceReader::finish()
+void ResourceReader::finish(QHash<QString, std::shared_ptr<const Objects>> *composites)
 {
     m_styles.resolve();
-    for (const XmlElement &element : m_composites) {
+    // Taken first, so that a composite that cannot be read does not stay for the next page.
+    const std::vector<XmlElement> elements = std::exchange(m_composites, {});
+    for (const XmlElement &element : elements) {
         Objects objects;
         if (const XmlElement *content = element.child("Content"))
             objects = m_objects.readAll(*content, Style());
-        m_resources.composites.insert(element.attribute("ID"),
-                                      std::make_shared<const Objects>(objects));
+        composites->insert(element.attribute("ID"), std::make_shared<const Objects>(objects));
     }
-    m_composites.clear();
 }
 
 } // namespace Ofd

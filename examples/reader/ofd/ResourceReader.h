@@ -22,7 +22,7 @@ public:
     /** Reads the lists that children of @p parent, in the file @p from, with that name refer to. */
     void addLists(const XmlElement &parent, const char *name, const QString &from);
     /** Resolves references between resources. Call it after all lists have been read. */
-    void finish();
+    void finish(QHash<QString, std::shared_ptr<const Objects>> *composites);
 
     ColourReader &colours() { return m_colours; }
     const StyleReader &styles() const { return m_styles; }

@@ -11,6 +11,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <utility>
 
 namespace Ofd {
 
@@ -63,20 +64,24 @@ std::optional<QVector<qreal>> dashes(const QString &text)
 
 void StyleReader::addParameters(const XmlElement &parameters)
 {
-    m_parameters.insert(parameters.attribute("ID"),
-                        {own(parameters), parameters.attribute("Relative")});
+    const QString id = parameters.attribute("ID");
+    m_parameters.insert(id, {own(parameters), parameters.attribute("Relative")});
+    m_unresolved.append(id);
 }
 
 void StyleReader::resolve()
 {
-    for (auto parameters = m_parameters.begin(); parameters != m_parameters.end(); ++parameters) {
-        QSet<QString> visited = {parameters.key()};
-        for (QString &next = parameters->relative; m_parameters.contains(next);) {
+    // Taken first, so that a circle on one page does not stay for the next one.
+    const QStringList ids = std::exchange(m_unresolved, {});
+    for (const QString &id : ids) {
+        Parameters &parameters = m_parameters[id];
+        QSet<QString> visited = {id};
+        for (QString &next = parameters.relative; m_parameters.contains(next);) {
             if (visited.contains(next))
                 throw Fault{Wording::tr("绘制参数“%1”循环引用。").arg(next)};
             visited.insert(next);
             const Parameters wider = m_parameters.value(next);
-            parameters->style = parameters->style.over(wider.style);
+            parameters.style = parameters.style.over(wider.style);
             next = wider.relative;
         }
     }

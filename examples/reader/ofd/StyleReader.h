@@ -7,6 +7,7 @@
 #include "ofd/Objects.h"
 
 #include <QHash>
+#include <QStringList>
 
 namespace Ofd {
 
@@ -37,6 +38,7 @@ private:
 
     const ColourReader &m_colours;
     QHash<QString, Parameters> m_parameters;
+    QStringList m_unresolved; ///< Those that were added since resolve() was called.
 };
 
 } // namespace Ofd

@@ -4,7 +4,8 @@
 
 """Writes the sample documents next to this script; --check only tests if they are up to date.
 
-The names of documents that the reader must refuse begin with "broken-".
+The names of documents that the reader must refuse begin with "broken-", and those of documents with
+a page that cannot be read begin with "damaged-".
 """
 
 import argparse
@@ -342,15 +343,17 @@ def broken_samples():
         "broken-location": archive({**plain, "Doc_0/Document.xml":
                                     plain["Doc_0/Document.xml"].replace("PublicRes.xml",
                                                                         "../../PublicRes.xml")}),
-        "broken-composite-loop": with_page("", loop.format(31, 32) + loop.format(32, 31)),
-        "broken-template-loop": archive(package(
+        "damaged-composite-loop": with_page(
+            '<ofd:CompositeObject ID="70" Boundary="0 0 9 9" ResourceID="31"/>',
+            loop.format(31, 32) + loop.format(32, 31)),
+        "damaged-template-loop": archive(package(
             "损坏的示例", [template], "", {"Doc_0/Tpl.xml": template},
             common='<ofd:TemplatePage ID="41" BaseLoc="Tpl.xml"/>')),
         "broken-parameter-loop": with_page("", parameters),
-        "broken-depth": with_page(deep),
+        "damaged-depth": with_page(deep),
         "broken-page-size": archive(package("损坏的示例", [page("")], box="0 0 1e6 1e6")),
-        "broken-font-size": with_page(text("0 0 9 9", 1, 100000, code("大"))),
-        "broken-dashes": with_page(path("0 0 9 9", "M 0 0 L 9 9", ' DashPattern="1e-9 1e-9"')),
+        "damaged-font-size": with_page(text("0 0 9 9", 1, 100000, code("大"))),
+        "damaged-dashes": with_page(path("0 0 9 9", "M 0 0 L 9 9", ' DashPattern="1e-9 1e-9"')),
     }
 
 
