@@ -87,7 +87,7 @@ Ofd::Object filled(const QString &data, Qt::FillRule rule)
 
 Ofd::Object clippedBy(Ofd::Object object, const QString &data)
 {
-    object.clips.append(Ofd::pathFromData(data));
+    object.clips.append({Ofd::pathFromData(data), {}});
     return object;
 }
 
@@ -152,8 +152,8 @@ QImage expected(const Ofd::Object &object)
     painter.scale(pixelsPerMillimetre, pixelsPerMillimetre);
     painter.setOpacity(object.alpha);
     painter.setTransform(object.placement(), true);
-    for (const QPainterPath &clip : object.clips)
-        painter.setClipPath(clip, Qt::IntersectClip);
+    for (const Ofd::Clip &clip : object.clips)
+        painter.setClipPath(clip.path, Qt::IntersectClip);
     const auto &path = std::get<Ofd::Path>(object.content);
     if (path.isFilled)
         painter.fillPath(path.path, object.style.fillBrush());

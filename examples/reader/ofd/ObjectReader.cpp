@@ -95,7 +95,7 @@ Object ObjectReader::common(const XmlElement &element, const Style &wider)
     object.matrix = Values::matrix(element.attribute("CTM"));
     object.style = m_styles.read(element, wider);
     object.alpha = std::clamp(Values::number(element.attribute("Alpha"), 255) / 255, 0.0, 1.0);
-    object.clips = clipsOf(element);
+    object.clips = clipsOf(element, object.placement());
     return object;
 }
 
@@ -138,33 +138,37 @@ Path ObjectReader::pathOf(const XmlElement &element) const
     return path;
 }
 
-QVector<QPainterPath> ObjectReader::clipsOf(const XmlElement &element)
+QVector<Clip> ObjectReader::clipsOf(const XmlElement &element, const QTransform &placement)
 {
-    QVector<QPainterPath> clips;
+    QVector<Clip> clips;
     const XmlElement *all = element.child("Clips");
     if (!all)
         return clips;
+    // Clips that are not transformed with the object are in the coordinates of its page or group.
+    const QTransform toParent = all->flag("TransFlag", true) ? placement : QTransform();
     for (const XmlElement &clip : all->children) {
-        QPainterPath joined;
-        joined.setFillRule(Qt::WindingFill);
-        bool isKnown = false;
+        Clip areas;
+        bool hasArea = false;
         for (const XmlElement &area : clip.children) {
-            const XmlElement *shape = area.child("Path");
-            if (!shape) {
-                ++m_unsupported[Wording::tr("文字裁剪")];
-                continue;
-            }
-            const QRectF boundary = Values::box(shape->attribute("Boundary"));
-            const QTransform place = Values::matrix(shape->attribute("CTM"))
-                                     * QTransform::fromTranslate(boundary.x(), boundary.y())
-                                     * Values::matrix(area.attribute("CTM"));
-            joined.addPath(place.map(pathOf(*shape).path));
-            isKnown = true;
+            for (const XmlElement &shape : area.children)
+                addArea(areas, shape, Values::matrix(area.attribute("CTM")) * toParent);
+            hasArea = hasArea || !area.children.empty();
         }
-        if (isKnown)
-            clips.append(joined);
+        if (hasArea)
+            clips.append(areas);
     }
     return clips;
+}
+
+void ObjectReader::addArea(Clip &clip, const XmlElement &shape, const QTransform &toParent)
+{
+    const QRectF boundary = Values::box(shape.attribute("Boundary"));
+    const QTransform place = Values::matrix(shape.attribute("CTM"))
+                             * QTransform::fromTranslate(boundary.x(), boundary.y()) * toParent;
+    if (shape.is("Text"))
+        clip.texts.append({textOf(shape), place});
+    else if (shape.is("Path"))
+        clip.path = united(clip.path, place.map(pathOf(shape).path));
 }
 
 } // namespace Ofd

@@ -29,7 +29,8 @@ private:
     Object common(const XmlElement &element, const Style &wider);
     Text textOf(const XmlElement &element);
     Path pathOf(const XmlElement &element) const;
-    QVector<QPainterPath> clipsOf(const XmlElement &element);
+    QVector<Clip> clipsOf(const XmlElement &element, const QTransform &placement);
+    void addArea(Clip &clip, const XmlElement &shape, const QTransform &toParent);
 
     const StyleReader &m_styles;
     QMap<QString, int> &m_unsupported;

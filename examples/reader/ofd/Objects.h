@@ -94,13 +94,26 @@ struct Group
     std::shared_ptr<const Objects> objects;
 };
 
+/** One region that content is clipped to: the union of its areas, which are paths or text. */
+struct Clip
+{
+    struct TextArea
+    {
+        Text text;
+        QTransform place; ///< To the coordinates of the page or group.
+    };
+
+    QPainterPath path; ///< The union of the paths, in the coordinates of the page or group.
+    QVector<TextArea> texts;
+};
+
 struct Object
 {
     QRectF boundary;
     QTransform matrix; ///< From object coordinates to those of the boundary.
     Style style;
     qreal alpha = 1;
-    QVector<QPainterPath> clips; ///< In object coordinates; their intersection is visible.
+    QVector<Clip> clips; ///< Their intersection is visible.
     std::variant<Path, Text, Image, Composite, Group> content;
 
     /** From the coordinates of the object to those of its page or group. */

@@ -6,6 +6,7 @@
 #include "ofd/DensePath.h"
 #include "ofd/Fault.h"
 #include "ofd/Limits.h"
+#include "ofd/PathData.h"
 #include "ofd/TextLayout.h"
 #include "ofd/Wording.h"
 
@@ -158,7 +159,6 @@ void Painter::paintOne(QPainter &painter, const Object &object)
 {
     painter.save();
     painter.setOpacity(painter.opacity() * object.alpha);
-    painter.setTransform(object.placement(), true);
     paintClipped(painter, object, 0);
     painter.restore();
 }
@@ -166,7 +166,7 @@ void Painter::paintOne(QPainter &painter, const Object &object)
 void Painter::paintClipped(QPainter &painter, const Object &object, int firstClip)
 {
     for (int i = firstClip; i < object.clips.size(); ++i) {
-        const QPainterPath &clip = object.clips.at(i);
+        const QPainterPath clip = outlineOf(object.clips.at(i));
         if (DensePath::isDense(painter, clip)) {
             DensePath::paintInside(painter, clip,
                                    [&](QPainter &inside) { paintClipped(inside, object, i + 1); });
@@ -174,8 +174,20 @@ void Painter::paintClipped(QPainter &painter, const Object &object, int firstCli
         }
         painter.setClipPath(clip, Qt::IntersectClip);
     }
+    painter.setTransform(object.placement(), true);
     std::visit([&](const auto &content) { paintContent(painter, object, content); },
                object.content);
+}
+
+QPainterPath Painter::outlineOf(const Clip &clip)
+{
+    QPainterPath outline = clip.path;
+    for (const Clip::TextArea &area : clip.texts) {
+        Face &face = m_fonts.faceOf(area.text);
+        for (const TextRun &run : area.text.runs)
+            outline = united(outline, area.place.map(outlinesOf(layOut(area.text, run, face))));
+    }
+    return outline;
 }
 
 void Painter::paintContent(QPainter &painter, const Object &object, const Path &path)

@@ -29,6 +29,7 @@ private:
     void paintAll(QPainter &painter, const Objects &objects);
     void paintOne(QPainter &painter, const Object &object);
     void paintClipped(QPainter &painter, const Object &object, int firstClip);
+    QPainterPath outlineOf(const Clip &clip);
     void paintContent(QPainter &painter, const Object &object, const Path &path);
     void paintContent(QPainter &painter, const Object &object, const Text &text);
     void paintContent(QPainter &painter, const Object &object, const Image &image);

@@ -36,6 +36,9 @@ int countOfNumbers(QChar command)
     }
 }
 
+/** Uniting takes time that grows with the number of crossings. */
+constexpr int mostUnitedPoints = 4000;
+
 struct Arc
 {
     qreal rx = 0;
@@ -144,6 +147,17 @@ QPainterPath pathFromData(const QString &data)
         append(path, command, values);
     }
     return path;
+}
+
+QPainterPath united(const QPainterPath &one, const QPainterPath &other)
+{
+    if (one.isEmpty() || other.isEmpty())
+        return one.isEmpty() ? other : one;
+    if (one.elementCount() + other.elementCount() <= mostUnitedPoints)
+        return one.united(other);
+    QPainterPath both = one;
+    both.addPath(other);
+    return both;
 }
 
 } // namespace Ofd

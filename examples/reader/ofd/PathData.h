@@ -13,4 +13,7 @@ namespace Ofd {
  */
 QPainterPath pathFromData(const QString &data);
 
+/** What is inside of any of the two; very long paths are joined by a faster and coarser rule. */
+QPainterPath united(const QPainterPath &one, const QPainterPath &other);
+
 } // namespace Ofd
