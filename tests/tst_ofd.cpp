@@ -81,6 +81,7 @@ Ofd::Object filled(const QString &data, Qt::FillRule rule)
     Ofd::Path path{Ofd::pathFromData(data), true, false};
     path.path.setFillRule(rule);
     Ofd::Object object;
+    object.style.fill = QBrush(Qt::black);
     object.content = path;
     return object;
 }

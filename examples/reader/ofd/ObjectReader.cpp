@@ -23,6 +23,11 @@ int quarterTurns(const XmlElement &element, const char *name)
     return int(std::lround(Values::number(element.attribute(name), 0) / 90)) % 4 * 90;
 }
 
+qreal alphaOf(const XmlElement &element)
+{
+    return std::clamp(Values::number(element.attribute("Alpha"), 255) / 255, 0.0, 1.0);
+}
+
 GlyphRange glyphRangeOf(const XmlElement &element)
 {
     GlyphRange range;
@@ -59,7 +64,9 @@ Objects ObjectReader::readAll(const XmlElement &parent, const Style &wider)
 void ObjectReader::readInto(Objects &objects, const XmlElement &parent, const Style &wider)
 {
     for (const XmlElement &element : parent.children) {
-        if (element.is("Layer") || element.is("PageBlock"))
+        if (element.is("PageBlock") && !element.attribute("Alpha").isEmpty())
+            objects.append(blockOf(element, wider));
+        else if (element.is("Layer") || element.is("PageBlock"))
             readInto(objects, element, m_styles.read(element, wider));
         else
             readOne(objects, element, wider);
@@ -68,7 +75,7 @@ void ObjectReader::readInto(Objects &objects, const XmlElement &parent, const St
 
 void ObjectReader::readOne(Objects &objects, const XmlElement &element, const Style &wider)
 {
-    if (!element.name.endsWith(QLatin1String("Object")) || !element.flag("Visible", true))
+    if (!element.flag("Visible", true))
         return;
     if (++m_count > Limits::objects)
         throw Fault{Wording::tr("页面的图元过多，超过 %1 个。").arg(Limits::objects)};
@@ -82,10 +89,23 @@ void ObjectReader::readOne(Objects &objects, const XmlElement &element, const St
     else if (element.is("CompositeObject"))
         object.content = Composite{element.attribute("ResourceID")};
     else
-        ++m_unsupported[element.name];
-    if (element.is("ImageObject") && !element.attribute("ImageMask").isEmpty())
-        ++m_unsupported[Wording::tr("图像蒙版")];
+        return countUnknown(element);
     objects.append(object);
+}
+
+void ObjectReader::countUnknown(const XmlElement &element)
+{
+    const bool isVideo = element.is("VideoObject");
+    ++m_unsupported[isVideo ? Wording::tr("音频和视频") : Wording::tr("未知的图元")];
+}
+
+Object ObjectReader::blockOf(const XmlElement &element, const Style &wider)
+{
+    Object object;
+    object.alpha = alphaOf(element);
+    const Objects inside = readAll(element, m_styles.read(element, wider));
+    object.content = Group{std::make_shared<const Objects>(inside)};
+    return object;
 }
 
 Object ObjectReader::common(const XmlElement &element, const Style &wider)
@@ -94,7 +114,7 @@ Object ObjectReader::common(const XmlElement &element, const Style &wider)
     object.boundary = Values::box(element.attribute("Boundary"));
     object.matrix = Values::matrix(element.attribute("CTM"));
     object.style = m_styles.read(element, wider);
-    object.alpha = std::clamp(Values::number(element.attribute("Alpha"), 255) / 255, 0.0, 1.0);
+    object.alpha = alphaOf(element);
     object.clips = clipsOf(element, object.placement());
     return object;
 }

@@ -26,6 +26,8 @@ public:
 private:
     void readInto(Objects &objects, const XmlElement &parent, const Style &wider);
     void readOne(Objects &objects, const XmlElement &element, const Style &wider);
+    void countUnknown(const XmlElement &element);
+    Object blockOf(const XmlElement &element, const Style &wider);
     Object common(const XmlElement &element, const Style &wider);
     Text textOf(const XmlElement &element);
     Path pathOf(const XmlElement &element) const;

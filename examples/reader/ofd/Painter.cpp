@@ -6,6 +6,7 @@
 #include "ofd/DensePath.h"
 #include "ofd/Fault.h"
 #include "ofd/Limits.h"
+#include "ofd/PaintLayer.h"
 #include "ofd/PathData.h"
 #include "ofd/TextLayout.h"
 #include "ofd/Wording.h"
@@ -23,19 +24,37 @@ namespace {
 constexpr qreal leastLineWidth = 0.7;
 /** As a share of an em, on each side of an outline that must look bold. */
 constexpr qreal boldStroke = 0.03;
+/** As a share of an em, how far the glyphs of a replaced font may exceed the boundary. */
+constexpr qreal replacedMargin = 0.25;
 
 qreal scaleOf(const QPainter &painter)
 {
     return std::sqrt(std::abs(painter.deviceTransform().determinant()));
 }
 
+QRectF deviceRect(const QPainter &painter)
+{
+    return QRectF(0, 0, painter.device()->width() * painter.device()->devicePixelRatioF(),
+                  painter.device()->height() * painter.device()->devicePixelRatioF());
+}
+
 bool isOnDevice(const QPainter &painter, const QRectF &rect)
 {
-    const QRectF device(0, 0, painter.device()->width() * painter.device()->devicePixelRatioF(),
-                        painter.device()->height() * painter.device()->devicePixelRatioF());
     // The rectangle of a straight line has no area and would intersect nothing.
     const QRectF mapped = painter.deviceTransform().mapRect(rect).adjusted(-1, -1, 1, 1);
-    return mapped.intersects(device);
+    return mapped.intersects(deviceRect(painter));
+}
+
+/**
+ * Clips to a rectangle that is extended to whole pixels, so that what ends at its edges stays as it
+ * is. A turned one cannot be extended.
+ */
+void clipTo(QPainter &painter, const QRectF &rect)
+{
+    const QTransform toDevice = painter.deviceTransform();
+    const bool isTurned = toDevice.type() > QTransform::TxScale;
+    const QRectF pixels((toDevice.mapRect(rect) & deviceRect(painter)).toAlignedRect());
+    painter.setClipRect(isTurned ? rect : toDevice.inverted().mapRect(pixels), Qt::IntersectClip);
 }
 
 QPen visiblePen(const QPainter &painter, const Style &style, const QPainterPath &path)
@@ -157,10 +176,47 @@ void Painter::paintAll(QPainter &painter, const Objects &objects)
 
 void Painter::paintOne(QPainter &painter, const Object &object)
 {
+    const QRectF area = areaOf(painter, object);
+    if (!area.isNull() && !isOnDevice(painter, area))
+        return;
     painter.save();
     painter.setOpacity(painter.opacity() * object.alpha);
-    paintClipped(painter, object, 0);
+    if (!area.isNull())
+        clipTo(painter, area);
+    if (object.alpha < 1 && hasParts(object))
+        PaintLayer::paint(painter, [&](QPainter &layer) { paintClipped(layer, object, 0); });
+    else
+        paintClipped(painter, object, 0);
     painter.restore();
+}
+
+bool Painter::hasParts(const Object &object)
+{
+    if (const auto *path = std::get_if<Path>(&object.content))
+        return path->isFilled && path->isStroked && object.style.fill;
+    if (const auto *text = std::get_if<Text>(&object.content))
+        return (text->isStroked && object.style.stroke) || m_fonts.faceOf(*text).lacksBold();
+    return !std::holds_alternative<Image>(object.content);
+}
+
+QRectF Painter::areaOf(const QPainter &painter, const Object &object)
+{
+    // Nothing fits into an empty boundary, but writers give lines such ones.
+    if (object.boundary.isEmpty())
+        return QRectF();
+    const qreal scale = std::sqrt(std::abs(object.matrix.determinant()));
+    qreal margin = 0;
+    if (const auto *path = std::get_if<Path>(&object.content)) {
+        // Many writers leave the width of lines out of the boundary.
+        const qreal visible = leastLineWidth / std::max(scaleOf(painter), 1 / Limits::number);
+        if (path->isStroked)
+            margin = std::max(object.style.pen().widthF() * scale, visible) / 2;
+    } else if (const auto *text = std::get_if<Text>(&object.content)) {
+        // The boundary is that of other glyphs if the font is replaced.
+        if (!m_fonts.faceOf(*text).isEmbedded())
+            margin = text->size * scale * replacedMargin;
+    }
+    return object.boundary.adjusted(-margin, -margin, margin, margin);
 }
 
 void Painter::paintClipped(QPainter &painter, const Object &object, int firstClip)
@@ -197,7 +253,7 @@ void Painter::paintContent(QPainter &painter, const Object &object, const Path &
     const QRectF bounds = path.path.controlPointRect();
     if (!isOnDevice(painter, bounds.adjusted(-margin, -margin, margin, margin)))
         return;
-    if (path.isFilled)
+    if (path.isFilled && object.style.fill)
         fillPath(painter, path.path, object.style.fillBrush());
     if (path.isStroked)
         strokePath(painter, path.path, pen);
@@ -209,11 +265,13 @@ void Painter::paintContent(QPainter &painter, const Object &object, const Text &
     const QBrush fill = object.style.fillBrush();
     const bool mustThicken = text.isFilled && face.lacksBold();
     const bool isPlain = text.isFilled && fill.style() == Qt::SolidPattern;
+    // Unlike a path, letters have no outline without a colour for it.
+    const bool isStroked = text.isStroked && object.style.stroke;
     for (const TextRun &run : text.runs) {
         const QVector<PlacedGlyph> glyphs = layOut(text, run, face);
         if (isPlain)
             fillGlyphs(painter, glyphs, fill);
-        if (isPlain && !mustThicken && !text.isStroked)
+        if (isPlain && !mustThicken && !isStroked)
             continue;
         const QPainterPath outlines = outlinesOf(glyphs);
         if (!isOnDevice(painter, outlines.controlPointRect()))
@@ -222,7 +280,7 @@ void Painter::paintContent(QPainter &painter, const Object &object, const Text &
             fillPath(painter, outlines, fill);
         if (mustThicken)
             strokePath(painter, outlines, QPen(fill, text.size * boldStroke));
-        if (text.isStroked)
+        if (isStroked)
             strokePath(painter, outlines, visiblePen(painter, object.style, outlines));
     }
 }

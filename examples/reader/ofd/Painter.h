@@ -30,6 +30,10 @@ private:
     void paintOne(QPainter &painter, const Object &object);
     void paintClipped(QPainter &painter, const Object &object, int firstClip);
     QPainterPath outlineOf(const Clip &clip);
+    /** Whether the parts of an object would shine through each other if each was transparent. */
+    bool hasParts(const Object &object);
+    /** What the boundary lets through, in the coordinates of the painter; null for everything. */
+    QRectF areaOf(const QPainter &painter, const Object &object);
     void paintContent(QPainter &painter, const Object &object, const Path &path);
     void paintContent(QPainter &painter, const Object &object, const Text &text);
     void paintContent(QPainter &painter, const Object &object, const Image &image);

@@ -267,7 +267,7 @@ def image_sample():
     content = page("".join([
         image("20 20 80 60", ' CTM="80 0 0 60 0 0"'),
         image("120 20 40 30", ""),
-        image("120 60 40 40", ' CTM="28 28 -21 21 21 0"'),
+        image("120 60 49 49", ' CTM="28 28 -21 21 21 0"'),
         image("20 100 40 30", ' CTM="40 0 0 30 0 0"', ' Alpha="100"'),
     ]))
     return package("图像示例", [content], media, {"Doc_0/Res/picture.png": picture()})
@@ -280,9 +280,9 @@ def template_sample():
     blocks = text("20 30 100 8", 2, 5, code("块中之块", 0, 5, ' DeltaX="g 3 5"'))
     for _ in range(4):
         blocks = f'<ofd:PageBlock ID="900">{blocks}</ofd:PageBlock>'
-    use = ('<ofd:CompositeObject ID="901" ResourceID="31" Boundary="{} 50 30 30"'
-           ' CTM="{} 0 0 {} 0 0"/>')
-    first = page(blocks + use.format(20, 1, 1) + use.format(60, 2, 2),
+    use = ('<ofd:CompositeObject ID="901" ResourceID="31" Boundary="{0} 50 {1} {1}"'
+           ' CTM="{2} 0 0 {2} 0 0"/>')
+    first = page(blocks + use.format(20, 30, 1) + use.format(60, 60, 2),
                  '<ofd:Template TemplateID="41" ZOrder="Background"/>'
                  '<ofd:Template TemplateID="42" ZOrder="Foreground"/>')
     second = page(path("20 40 50 20", "M 0 0 L 50 0 L 50 20 L 0 20 C",
