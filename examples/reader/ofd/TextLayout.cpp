@@ -12,7 +12,6 @@ namespace {
 
 /** The smallest factor by which letters of a replacement font are narrowed. */
 constexpr qreal mostSqueeze = 0.5;
-constexpr uint firstWide = 0x2000; // Characters from here on may be a full em wide.
 
 bool isShown(uint character)
 {
@@ -79,6 +78,8 @@ public:
         , m_origin(run.start)
     {
         m_forward.rotate(text.readDirection);
+        // Along the height of the letters the next one follows after an em.
+        m_isAlongLetters = (text.readDirection - text.charDirection) % 180 == 0;
     }
 
     QVector<PlacedGlyph> walk()
@@ -95,9 +96,9 @@ private:
         const QVector<const Glyph *> glyphs = glyphsOf(m_run, index, code, m_face);
         const qreal advance = glyphs.isEmpty() ? 0 : glyphs.first()->advance;
         const QPointF step = stepAt(index, advance * m_em);
-        const qreal room = roomFor(code, step, hasNext);
-        const bool mayTouch = !m_areStepsGiven || m_face.isEmbedded() || step.y() != 0;
-        const qreal squeeze = mayTouch ? 1 : squeezeFor(advance * m_em, room);
+        // The last character has no next one, so that its glyph gives its width.
+        const qreal room = hasNext ? std::hypot(step.x(), step.y()) : 0;
+        const qreal squeeze = mustFit(step) ? squeezeFor(advance * m_em, room) : 1;
         PlacedGlyph next;
         next.text = QString::fromUcs4(reinterpret_cast<const char32_t *>(&code), 1);
         next.place = placeOf(m_text, m_origin, squeeze);
@@ -111,19 +112,15 @@ private:
     QPointF stepAt(int index, qreal advance) const
     {
         if (!m_areStepsGiven)
-            return m_forward.map(QPointF(advance, 0));
+            return m_forward.map(QPointF(m_isAlongLetters ? advance : m_text.size, 0));
         return QPointF(distanceAt(m_run.deltaX, index), distanceAt(m_run.deltaY, index));
     }
 
-    /** The width for a character. The last one has no distance to the next: it gets a default. */
-    qreal roomFor(uint code, QPointF step, bool hasNext)
+    /** Whether an upright letter of a replaced font could reach into the one to its right. */
+    bool mustFit(QPointF step) const
     {
-        const qreal length = std::hypot(step.x(), step.y());
-        if (code >= firstWide)
-            return hasNext ? length : 0;
-        if (hasNext)
-            m_letterRoom = m_letterRoom > 0 ? std::min(m_letterRoom, length) : length;
-        return hasNext ? length : m_letterRoom;
+        return m_areStepsGiven && !m_face.isEmbedded() && m_text.charDirection == 0 && step.x() > 0
+               && step.y() == 0;
     }
 
     void append(PlacedGlyph next, const QVector<const Glyph *> &glyphs)
@@ -143,9 +140,9 @@ private:
     Face &m_face;
     bool m_areStepsGiven;
     QTransform m_forward;
+    bool m_isAlongLetters = true;
     qreal m_em;
     QPointF m_origin;
-    qreal m_letterRoom = 0;
     QVector<PlacedGlyph> m_placed;
 };
 
