@@ -92,7 +92,7 @@ need_display()
 
 open_example()
 {
-    local arguments=(--skin "$skin" --language "$language")
+    local arguments=(--sample --skin "$skin" --language "$language")
     if needs_own_display; then
         : "${screenshot:=$build/$example-$skin-${dpi:-96}dpi.png}"
         start_xvfb "${dpi:-96}"

@@ -98,7 +98,7 @@ take_reader()
     local skin
     cd -- "$root"
     for skin in marodi lum; do
-        "$build/bin/mrtoolbar-reader" --skin "$skin" --screenshot "$folder/reader-$skin.png" \
+        "$build/bin/mrtoolbar-reader" --skin "$skin" --language zh_CN --screenshot "$folder/reader-$skin.png" \
             examples/reader/samples/text.ofd
     done
 }

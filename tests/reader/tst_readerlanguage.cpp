@@ -95,6 +95,7 @@ private Q_SLOTS:
     {
         QString error;
         ReaderWindow window(Description::read("release", "marodi", &error), QString());
+        window.addHostPanel();
         QCOMPARE(window.windowTitle(), QString("OFD Reader"));
         QVERIFY(window.findChildren<QDockWidget *>().size() >= 3);
         QCOMPARE(chineseTexts(window, window.findChild<QToolBar *>("mrtoolbar")), QStringList());
@@ -126,6 +127,7 @@ private Q_SLOTS:
             Description::read(OFD_SAMPLES "/../showcase.xml", QTest::currentDataTag(), &error);
         Language::addTo(description);
         ReaderWindow window(description, QString());
+        window.addHostPanel();
         auto *toolBar = use(window);
         auto *field = toolBar->findChild<QLineEdit *>("st_input");
         const auto picture = [toolBar] {

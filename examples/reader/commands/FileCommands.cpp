@@ -12,6 +12,7 @@
 
 #include <toolbar/MRToolBarCommands.h>
 
+#include <QApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -63,10 +64,11 @@ void FileCommands::addTo(MRToolBarCommands &commands)
                            [this](const QString &) { saveAs(); });
     m_parts.addForDocument(commands, "f_print", [this] { print(); });
     m_parts.addForDocument(commands, "f_property", [this] { showProperties(); });
-    commands.add("f_exit", [this] { m_parts.window->close(); });
+    // Each window asks for itself; those that are left stay if one of them does.
+    commands.add("f_exit", &QApplication::closeAllWindows);
     commands.add("f_clearhistory", [this] { m_parts.recentFiles->clearRecentFiles(); });
     commands.setRecentFiles([recent = m_parts.recentFiles] { return recent->recentFiles(); },
-                            [this](const QString &fileName) { open(fileName); });
+                            [this](const QString &fileName) { openRecent(fileName); });
     m_parts.addForDocument(commands, "f_saveenv",
                            [this] { m_parts.say(tr("保存信封：示例不生成数字信封")); });
     commands.add("e_preference", [this] { showPreferences(); });
@@ -74,18 +76,19 @@ void FileCommands::addTo(MRToolBarCommands &commands)
     commands.add("h_softupdate", [this] { m_parts.say(tr("检查更新：示例不连接网络")); });
 }
 
-void FileCommands::open(const QString &fileName, QString *refusal)
+bool FileCommands::open(const QString &fileName, QString *refusal)
 {
     if (!mayLeaveDocument())
-        return;
+        return false;
+    m_parts.keepPlace();
     QString error;
     if (!m_parts.document->open(fileName, &error)) {
-        const QString sentence = tr("无法打开“%1”：%2").arg(QFileInfo(fileName).fileName(), error);
+        const QString sentence = refusalOf(fileName, error);
         if (refusal)
             *refusal = sentence;
         else
             showRefusal(sentence);
-        return;
+        return false;
     }
     m_savedFile.clear();
     m_parts.recentFiles->addRecentFile(fileName);
@@ -94,6 +97,21 @@ void FileCommands::open(const QString &fileName, QString *refusal)
     const QString leftOut = m_parts.document->file().leftOut;
     m_parts.say(leftOut.isEmpty() ? tr("已打开：%1").arg(QDir::toNativeSeparators(fileName))
                                   : leftOut);
+    return true;
+}
+
+void FileCommands::openRecent(const QString &fileName)
+{
+    if (QFileInfo::exists(fileName))
+        return m_parts.openFiles({fileName});
+    m_parts.recentFiles->removeRecentFile(fileName);
+    showRefusal(
+        tr("“%1”已不存在，已从最近打开的文件中移除。").arg(QDir::toNativeSeparators(fileName)));
+}
+
+QString FileCommands::refusalOf(const QString &fileName, const QString &error)
+{
+    return tr("无法打开“%1”：%2").arg(QFileInfo(fileName).fileName(), error);
 }
 
 void FileCommands::showRefusal(const QString &sentence) const
@@ -129,17 +147,28 @@ bool FileCommands::mayLeaveDocument()
 
 void FileCommands::askAndOpen()
 {
-    const QString fileName =
-        QFileDialog::getOpenFileName(m_parts.window, tr("打开"), QString(),
-                                     ofdFilter() + QStringLiteral(";;") + tr("所有文件 (*)"));
-    if (!fileName.isEmpty())
-        open(fileName);
+    const QStringList fileNames =
+        QFileDialog::getOpenFileNames(m_parts.window, tr("打开"), folder(),
+                                      ofdFilter() + QStringLiteral(";;") + tr("所有文件 (*)"));
+    if (!fileNames.isEmpty())
+        m_parts.openFiles(fileNames);
+}
+
+QString FileCommands::folder() const
+{
+    const Document &document = *m_parts.document;
+    const QString last = document.isOpen() && !document.isGenerated()
+                             ? QFileInfo(document.fileName()).absolutePath()
+                             : m_parts.recentFiles->lastFolder();
+    return QFileInfo(last).isDir() ? last : QDir::homePath();
 }
 
 void FileCommands::close()
 {
-    if (mayLeaveDocument())
-        m_parts.document->close();
+    if (!mayLeaveDocument())
+        return;
+    m_parts.keepPlace();
+    m_parts.document->close();
 }
 
 bool FileCommands::save()
@@ -190,11 +219,32 @@ QString FileCommands::askFileToWrite() const
     const QFileInfo file(m_parts.document->fileName());
     QString chosen = filters.first();
     QString fileName = QFileDialog::getSaveFileName(
-        m_parts.window, tr("另存为"), file.completeBaseName() + suffixes.value(chosen),
+        m_parts.window, tr("另存为"),
+        QDir(folder()).filePath(file.completeBaseName() + suffixes.value(chosen)),
         filters.join(QStringLiteral(";;")), &chosen);
-    if (!fileName.isEmpty() && QFileInfo(fileName).suffix().isEmpty())
-        fileName += suffixes.value(chosen);
-    return fileName;
+    // The suffix decides the format; one that means none is a part of the name, such as "1.2".
+    const QString suffix = QChar(u'.') + QFileInfo(fileName).suffix().toLower();
+    if (fileName.isEmpty() || suffixes.values().contains(suffix))
+        return fileName;
+    fileName += suffixes.value(chosen);
+    return mayReplace(fileName) ? fileName : QString();
+}
+
+bool FileCommands::mayReplace(const QString &fileName) const
+{
+    // The dialog has asked for the name without the suffix only.
+    if (!QFileInfo::exists(fileName))
+        return true;
+    QMessageBox box(QMessageBox::Warning, tr("另存为"),
+                    tr("“%1”已存在，要替换吗？").arg(QFileInfo(fileName).fileName()),
+                    QMessageBox::NoButton, m_parts.window);
+    box.setTextFormat(Qt::PlainText);
+    const QPushButton *replacing = box.addButton(tr("替换"), QMessageBox::DestructiveRole);
+    QPushButton *cancelling = box.addButton(tr("取消"), QMessageBox::RejectRole);
+    box.setDefaultButton(cancelling);
+    box.setEscapeButton(cancelling);
+    box.exec();
+    return box.clickedButton() == replacing;
 }
 
 void FileCommands::showProperties() const

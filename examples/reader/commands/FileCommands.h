@@ -25,7 +25,12 @@ public:
      * that cannot be opened does not change the open document; one message tells why, or refusal
      * does if it is given.
      */
-    void open(const QString &fileName, QString *refusal = nullptr);
+    bool open(const QString &fileName, QString *refusal = nullptr);
+    /** Opens a file of the list of recent ones, or takes it off if it is gone, and says so. */
+    void openRecent(const QString &fileName);
+    /** The sentence about a file that cannot be opened. */
+    static QString refusalOf(const QString &fileName, const QString &error);
+    void showRefusal(const QString &sentence) const;
     /**
      * Whether the open document may be replaced or closed: it is unchanged, or the user was asked
      * and has saved or discarded the changes. After an incomplete save it may not.
@@ -40,11 +45,12 @@ private:
     bool saveAs();
     bool saveTo(const QString &fileName);
     void print();
-    void showRefusal(const QString &sentence) const;
     void showProperties() const;
     void showPreferences();
     void showAbout() const;
+    QString folder() const;
     QString askFileToWrite() const;
+    bool mayReplace(const QString &fileName) const;
 
     ReaderParts m_parts;
     QString m_savedFile; ///< Where the open document was saved last.

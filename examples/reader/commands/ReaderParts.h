@@ -28,6 +28,10 @@ struct ReaderParts
     RecentFiles *recentFiles = nullptr;
     /** Focuses a control of the toolbar; returns false if it is not visible. */
     std::function<bool(const QString &name)> focusControl;
+    /** Opens files where they belong: in this window or in others. */
+    std::function<void(const QStringList &fileNames)> openFiles;
+    /** Keeps the place in the document; called before that is left. */
+    std::function<void()> keepPlace;
 
     /** Adds what is usable while a document is open. */
     MRToolBarCommands::Command addForDocument(MRToolBarCommands &commands, const QString &name,

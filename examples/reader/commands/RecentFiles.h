@@ -16,7 +16,11 @@ public:
     virtual QStringList recentFiles() const = 0;
     /** Puts a file at the start of the list, without duplicates. */
     virtual void addRecentFile(const QString &fileName) = 0;
+    virtual void removeRecentFile(const QString &fileName) = 0;
     virtual void clearRecentFiles() = 0;
+
+    /** Where files were opened last; empty before the first one. */
+    virtual QString lastFolder() const = 0;
 
     virtual int recentLimit() const = 0;
     virtual void setRecentLimit(int limit) = 0;

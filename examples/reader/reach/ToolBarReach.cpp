@@ -7,6 +7,7 @@
 
 #include <QComboBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMainWindow>
 #include <QPushButton>
 #include <QSlider>
@@ -62,6 +63,23 @@ QList<QComboBox *> ToolBarReach::zoomBoxes(const QMainWindow &window)
             boxes.append(box);
     }
     return boxes;
+}
+
+QStringList ToolBarReach::pageFieldNames()
+{
+    return {QStringLiteral("d_gotopage"), QStringLiteral("d_gotopageinput")};
+}
+
+// There is no signal for a page that the field refuses.
+QList<QLineEdit *> ToolBarReach::pageFields(const QMainWindow &window)
+{
+    QList<QLineEdit *> fields;
+    const QStringList names = pageFieldNames();
+    for (const QString &name : names) {
+        if (auto *field = window.findChild<QLineEdit *>(name))
+            fields.append(field);
+    }
+    return fields;
 }
 
 // The dialog neither writes into the tracks nor reports changes of the user. For the link and the

@@ -9,6 +9,7 @@
 class MRHandWriteDialog;
 class QComboBox;
 class QLabel;
+class QLineEdit;
 class QMainWindow;
 class QPushButton;
 class QSlider;
@@ -40,6 +41,9 @@ QString shownTab(const QMainWindow &window);
 /** The names of the zoom boxes in the shipped descriptions. */
 QStringList zoomBoxNames();
 QList<QComboBox *> zoomBoxes(const QMainWindow &window);
+/** The names of the page fields in the shipped descriptions. */
+QStringList pageFieldNames();
+QList<QLineEdit *> pageFields(const QMainWindow &window);
 
 HandwritingControls controlsOf(const MRHandWriteDialog &dialog);
 

@@ -12,6 +12,7 @@
 namespace {
 
 const QStringList shippedNames = {QStringLiteral("release"), QStringLiteral("debug")};
+const QString clearName = QStringLiteral("f_clearhistory");
 const QString ownName = QStringLiteral("reader");
 
 QString pathOf(const QString &name, const QString &skin)
@@ -106,8 +107,10 @@ void Description::addClearHistory(QDomDocument &description)
         QDomElement menu = menus.at(i).toElement();
         if (menu.attribute(QStringLiteral("name")) != QLatin1String("f_openrecent"))
             continue;
+        if (menu.lastChildElement().attribute(QStringLiteral("action")) == clearName)
+            continue;
         QDomElement entry = description.createElement(QStringLiteral("menuitem"));
-        entry.setAttribute(QStringLiteral("action"), QStringLiteral("f_clearhistory"));
+        entry.setAttribute(QStringLiteral("action"), clearName);
         entry.setAttribute(QStringLiteral("text"),
                            QCoreApplication::translate("Description", "清除历史记录"));
         menu.appendChild(entry);

@@ -41,7 +41,7 @@ void beginWithTab(QDomDocument &description, const QString &name);
 
 /**
  * Adds the entry that clears the recent files to the end of their menu. Without it the toolbar
- * lists no recent files, and the shipped descriptions lack it.
+ * lists no recent files, and the shipped descriptions lack it. No effect on one that has it.
  */
 void addClearHistory(QDomDocument &description);
 

@@ -67,9 +67,7 @@ void KeyboardReach::addPlaceKeys()
 {
     addKey(QStringLiteral("F6"), [this] { m_focusControl(QString()); });
     addKey(QStringLiteral("Ctrl+Shift+P"), [this] { Q_EMIT finderAsked(); });
-    // The names of the page field and the zoom box in the shipped descriptions.
-    addPlaceKey(QStringLiteral("Ctrl+G"),
-                {QStringLiteral("d_gotopage"), QStringLiteral("d_gotopageinput")},
+    addPlaceKey(QStringLiteral("Ctrl+G"), ToolBarReach::pageFieldNames(),
                 tr("工具栏现在没有可用的页码框"));
     addPlaceKey(QStringLiteral("Ctrl+M"), ToolBarReach::zoomBoxNames(),
                 tr("工具栏现在没有可用的缩放框"));

@@ -3,6 +3,8 @@
 
 #include "shell/Language.h"
 
+#include "shell/ReaderSettings.h"
+
 #include <QCoreApplication>
 #include <QDomDocument>
 #include <QLibraryInfo>
@@ -50,12 +52,16 @@ QDomElement entryOf(QDomDocument &description, const QString &command, const QSt
     entry.setAttribute(QStringLiteral("text"), text);
     entry.setAttribute(QStringLiteral("group"), QStringLiteral("language"));
     entry.setAttribute(QStringLiteral("checkable"), QStringLiteral("true"));
-    if (command == prefix + QLocale().name() || command == prefix + QLocale().name().left(2))
-        entry.setAttribute(QStringLiteral("checked"), QStringLiteral("true"));
     return entry;
 }
 
 } // namespace
+
+QString Language::ofSystem()
+{
+    const QString first = QLocale::system().uiLanguages().value(0);
+    return first.startsWith(QLatin1String("zh")) ? QStringLiteral("zh_CN") : QStringLiteral("en");
+}
 
 void Language::install(const QString &name)
 {
@@ -75,7 +81,14 @@ QStringList Language::commands()
 
 void Language::choose(const QString &command)
 {
-    install(command.mid(prefix.size()));
+    const QString name = command.mid(prefix.size());
+    ReaderSettings::shared()->setLanguage(name);
+    install(name);
+}
+
+bool Language::isChosen(const QString &command)
+{
+    return QLocale().name().startsWith(command.mid(prefix.size()));
 }
 
 void Language::addTo(QDomDocument &description)

@@ -8,6 +8,7 @@
 
 namespace {
 
+const QString prefix = QStringLiteral("r_scheme_");
 const QString dark = QStringLiteral("dark");
 const QString contrast = QStringLiteral("contrast");
 
@@ -31,6 +32,19 @@ QPalette darkPalette(const QColor &window, const QColor &base)
 QStringList ReaderScheme::names()
 {
     return {QStringLiteral("light"), dark, contrast, QStringLiteral("system")};
+}
+
+QStringList ReaderScheme::commands()
+{
+    QStringList commands = names();
+    for (QString &command : commands)
+        command.prepend(prefix);
+    return commands;
+}
+
+QString ReaderScheme::ofCommand(const QString &command)
+{
+    return command.mid(prefix.size());
 }
 
 void ReaderScheme::applyPalette(const QString &name)

@@ -6,42 +6,45 @@
 #include "pages/PageView.h"
 #include "panels/HandwritingSettings.h"
 #include "panels/HostPanel.h"
-#include "panels/LanguageFollower.h"
 #include "panels/NavigationPanel.h"
 #include "panels/SearchPanel.h"
-#include "panels/SignalLog.h"
 #include "reach/ToolBarReach.h"
 #include "shell/Description.h"
+#include "shell/HostDock.h"
 #include "shell/KeyboardReach.h"
 #include "shell/Language.h"
+#include "shell/PageFieldWatcher.h"
 #include "shell/ReaderScheme.h"
+#include "shell/StartPage.h"
 
 #include <toolbar/MRToolBar.h>
 
 #include <QCloseEvent>
-#include <QComboBox>
 #include <QDropEvent>
 #include <QLabel>
 #include <QMimeData>
+#include <QStackedWidget>
 #include <QStatusBar>
 #include <QToolBar>
 #include <QUrl>
-#include <QVBoxLayout>
 
 namespace {
 
 const QString toolBarStateKey = QStringLiteral("toolbarstate");
 const QString schemeKey = QStringLiteral("scheme");
-const QString sampleName = QStringLiteral("示例文档.ofd");
-constexpr int logWidth = 300;
 constexpr QSize windowSize(1280, 800);
 constexpr int referenceDpi = 96;
 
-/** The local file that is dragged; empty unless it is exactly one. */
-QString droppedFile(const QMimeData &data)
+/** The local files that are dragged. */
+QStringList droppedFiles(const QMimeData &data)
 {
+    QStringList files;
     const QList<QUrl> urls = data.urls();
-    return urls.size() == 1 ? urls.first().toLocalFile() : QString();
+    for (const QUrl &url : urls) {
+        if (url.isLocalFile())
+            files.append(url.toLocalFile());
+    }
+    return files;
 }
 
 } // namespace
@@ -49,32 +52,39 @@ QString droppedFile(const QMimeData &data)
 ReaderWindow::ReaderWindow(const QDomDocument &description, const QString &skin)
     : m_skin(skin)
     , m_colours(HostPanel::firstSkin())
-    , m_scheme(m_settings.scheme())
     , m_view(new PageView(m_document, this))
+    , m_start(new StartPage)
+    , m_centre(new QStackedWidget)
     , m_navigation(new NavigationPanel(m_document, this))
     , m_search(new SearchPanel(m_document, *m_view, this))
     , m_handwriting(new HandwritingSettings(this))
-    , m_hostPanel(new HostPanel)
-    , m_log(new SignalLog)
+    , m_pageField(new PageFieldWatcher(this))
     , m_place(new QLabel)
+    , m_session({*this, m_document, *m_view, *m_navigation, *m_search}, *m_settings)
     , m_fileCommands(parts())
     , m_viewCommands(parts())
     , m_editCommands(parts())
 {
-    setCentralWidget(m_view);
-    statusBar()->addPermanentWidget(m_place);
-    createDocks();
+    createCentre();
+    addDockWidget(Qt::LeftDockWidgetArea, m_navigation);
+    addDockWidget(Qt::LeftDockWidgetArea, m_search);
     createToolBar(description);
     createCommands();
     connectKeys();
     connectToolBar();
     connectParts();
+    connectView();
+    connectStartPage();
+    connectPageField();
     updateTitle();
-    setScheme(m_scheme);
+    ReaderScheme::applyPalette(m_settings->scheme());
     m_commands.refreshAll();
     setAcceptDrops(true);
     resize(windowSize * logicalDpiX() / referenceDpi);
-    m_view->setFocus();
+    if (m_skin.isEmpty())
+        m_session.turnOff();
+    m_session.restoreWindow();
+    m_centre->setFocus();
 }
 
 ReaderWindow::~ReaderWindow()
@@ -87,10 +97,16 @@ ReaderWindow::~ReaderWindow()
 
 ReaderParts ReaderWindow::parts()
 {
-    return {this,        &m_document,
-            m_view,      m_navigation,
-            m_search,    m_handwriting,
-            &m_settings, [this](const QString &name) { return focusControl(name); }};
+    return {this,
+            &m_document,
+            m_view,
+            m_navigation,
+            m_search,
+            m_handwriting,
+            m_settings.get(),
+            [this](const QString &name) { return focusControl(name); },
+            [this](const QStringList &fileNames) { openFiles(fileNames); },
+            [this] { m_session.keepPlace(); }};
 }
 
 bool ReaderWindow::focusControl(const QString &name)
@@ -99,29 +115,21 @@ bool ReaderWindow::focusControl(const QString &name)
     return m_toolBar->DoSetFocusSlot(name);
 }
 
-void ReaderWindow::createDocks()
+void ReaderWindow::createCentre()
 {
-    addDockWidget(Qt::LeftDockWidgetArea, m_navigation);
-    addDockWidget(Qt::LeftDockWidgetArea, m_search);
-
-    auto *content = new QWidget;
-    auto *layout = new QVBoxLayout(content);
-    layout->addWidget(m_hostPanel);
-    layout->addWidget(m_log);
-    content->setMinimumWidth(logWidth * logicalDpiX() / referenceDpi);
-    auto *dock = new QDockWidget(this);
-    LanguageFollower::attach(dock, [dock] { dock->setWindowTitle(tr("宿主")); });
-    dock->setObjectName(QStringLiteral("host"));
-    dock->setWidget(content);
-    addDockWidget(Qt::RightDockWidgetArea, dock);
+    m_centre->addWidget(m_start);
+    m_centre->addWidget(m_view);
+    m_centre->setFocusProxy(m_start);
+    setCentralWidget(m_centre);
+    statusBar()->addPermanentWidget(m_place);
 }
 
 void ReaderWindow::createToolBar(const QDomDocument &description)
 {
     ToolBarSkinStyle skin = m_colours;
     if (!m_skin.isEmpty())
-        skin.insert(toolBarStateKey, m_settings.toolBarState(m_skin));
-    skin.insert(schemeKey, m_scheme);
+        skin.insert(toolBarStateKey, m_settings->toolBarState(m_skin));
+    skin.insert(schemeKey, m_settings->scheme());
     // In English the tips would break within words otherwise.
     skin.insert(QStringLiteral("tooltipwords"), QStringLiteral("true"));
     skin.insert(QStringLiteral("keytips"), QStringLiteral("true"));
@@ -129,16 +137,16 @@ void ReaderWindow::createToolBar(const QDomDocument &description)
     QDomNode root = m_description.documentElement();
     m_toolBar = std::make_unique<MRToolBar>(this, root, skin, ToolBarLeft);
     m_commands.setToolBar(m_toolBar.get());
-    m_log->listenTo(*m_toolBar);
+    if (m_host)
+        m_host->listenTo(*m_toolBar);
 }
 
 void ReaderWindow::setScheme(const QString &scheme)
 {
-    m_scheme = scheme;
     // A map without colours keeps those that there are.
     m_toolBar->DoSetSkinStyleSlot({{schemeKey, scheme}});
     ReaderScheme::applyPalette(scheme);
-    m_hostPanel->showScheme(scheme);
+    stateChanged();
 }
 
 void ReaderWindow::setDescription(QDomDocument description)
@@ -154,7 +162,7 @@ void ReaderWindow::removeToolBar()
 {
     QToolBar *bar = ToolBarReach::toolBarOf(*this);
     if (bar->isAncestorOf(focusWidget()))
-        m_view->setFocus();
+        m_centre->setFocus();
     m_toolBar.reset();
     // Not deleteLater(): the next toolbar has the same object names, so this one must not exist.
     delete bar;
@@ -165,7 +173,13 @@ void ReaderWindow::createCommands()
     m_fileCommands.addTo(m_commands);
     m_viewCommands.addTo(m_commands);
     m_editCommands.addTo(m_commands);
-    m_commands.add(Language::commands(), &Language::choose);
+    m_commands.add(Language::commands(), &Language::choose).checkedWhen(&Language::isChosen);
+    m_commands
+        .add(ReaderScheme::commands(),
+             [this](const QString &name) { m_settings->setScheme(ReaderScheme::ofCommand(name)); })
+        .checkedWhen([this](const QString &name) {
+            return m_settings->scheme() == ReaderScheme::ofCommand(name);
+        });
     m_commands.setZoom([this] { return m_document.isOpen() ? shownZoom().name() : QString(); },
                        [this](const QString &name) {
                            const ZoomMode mode = ZoomMode::fromName(name);
@@ -197,7 +211,7 @@ void ReaderWindow::returnToPages()
         m_search->hide();
     // What is typed into a field is discarded.
     m_commands.refreshAll();
-    m_view->setFocus();
+    m_centre->setFocus();
 }
 
 void ReaderWindow::connectToolBar()
@@ -205,79 +219,55 @@ void ReaderWindow::connectToolBar()
     const MRToolBar *toolBar = m_toolBar.get();
     connect(toolBar, &MRToolBar::DoStateChanged, this, [this] {
         if (!m_skin.isEmpty())
-            m_settings.setToolBarState(m_skin, m_toolBar->GetToolBarState());
+            m_settings->setToolBarState(m_skin, m_toolBar->GetToolBarState());
     });
     connect(toolBar, &MRToolBar::DoRequestAuthority, this, &ReaderWindow::followZoomBox);
+    connect(toolBar, &MRToolBar::DoRequestAuthority, m_pageField, &PageFieldWatcher::follow);
     followZoomBox();
+    m_pageField->follow();
 }
 
-void ReaderWindow::connectParts()
+void ReaderWindow::showPagesOrStart()
 {
-    connect(&m_document, &Document::pagesChanged, this, &ReaderWindow::stateChanged);
-    connect(&m_document.undoStack(), &QUndoStack::indexChanged, this, &ReaderWindow::stateChanged);
-    connect(&m_document.undoStack(), &QUndoStack::cleanChanged, this, &ReaderWindow::stateChanged);
-    connect(m_view, &PageView::currentPageChanged, m_navigation, &NavigationPanel::setCurrentPage);
-    connect(m_view, &PageView::currentPageChanged, this, &ReaderWindow::stateChanged);
-    connect(m_view, &PageView::zoomChanged, this, &ReaderWindow::stateChanged);
-    connect(m_view, &PageView::selectionChanged, this, &ReaderWindow::stateChanged);
-    connect(m_view, &PageView::zoomStepAsked, this, [this](bool larger) {
-        if (m_document.isOpen())
-            m_viewCommands.stepZoom(larger);
-    });
-    connect(m_view, &PageView::markDrawn, this,
-            [this](const Mark &mark) { m_editCommands.addDrawn(mark); });
-    connect(m_view, &PageView::inkRubbed, &m_document, &Document::eraseInk);
-
-    connect(m_navigation, &NavigationPanel::pageChosen, m_view, &PageView::setCurrentPage);
-    connect(m_navigation, &NavigationPanel::wordChosen, m_search, &SearchPanel::searchWord);
-    connect(m_navigation, &NavigationPanel::shownPanelChanged, this, &ReaderWindow::stateChanged);
-    connect(m_search, &SearchPanel::found, this,
-            [this](const QString &message) { parts().say(message); });
-
-    connect(m_hostPanel, &HostPanel::skinChosen, this, [this](const ToolBarSkinStyle &colours) {
-        m_colours = colours;
-        m_toolBar->DoSetSkinStyleSlot(colours);
-    });
-    connect(m_hostPanel, &HostPanel::scaleChosen, this, [this](const QString &scale) {
-        m_toolBar->DoSetSkinStyleSlot({{QStringLiteral("scalefactor"), scale}});
-    });
-    connect(m_hostPanel, &HostPanel::schemeChosen, this, [this](const QString &scheme) {
-        m_settings.setScheme(scheme);
-        setScheme(scheme);
-    });
-    connect(m_hostPanel, &HostPanel::handwritingAsked, this, [this] {
-        m_editCommands.editHandwriting();
-        stateChanged();
-    });
-}
-
-void ReaderWindow::followZoomBox()
-{
-    // DoSetZoomMode() does not report every choice in the zoom box.
-    const QList<QComboBox *> boxes = ToolBarReach::zoomBoxes(*this);
-    for (const QComboBox *box : boxes) {
-        connect(box, QOverload<int>::of(&QComboBox::activated), this, &ReaderWindow::readZoomBox,
-                Qt::UniqueConnection);
-    }
-}
-
-void ReaderWindow::readZoomBox(int index)
-{
-    const auto *box = qobject_cast<QComboBox *>(sender());
-    const ZoomMode mode = ZoomMode::fromName(box->itemData(index).toString());
-    if (m_document.isOpen() && mode.isValid())
-        m_view->setZoomMode(mode);
+    const bool isOpen = m_document.isOpen();
+    QWidget *shown = isOpen ? static_cast<QWidget *>(m_view) : m_start;
+    if (isOpen)
+        m_session.restorePanels();
+    else
+        m_session.hidePanels();
+    if (shown == m_centre->currentWidget())
+        return;
+    const bool hadFocus = m_centre->isAncestorOf(focusWidget());
+    m_centre->setCurrentWidget(shown);
+    m_centre->setFocusProxy(shown);
+    if (hadFocus)
+        m_centre->setFocus();
 }
 
 void ReaderWindow::openOrExplain(const QString &fileName, QString *refusal)
 {
-    m_fileCommands.open(fileName, refusal);
+    if (m_fileCommands.open(fileName, refusal))
+        m_session.restorePlace();
     stateChanged();
+}
+
+void ReaderWindow::openFiles(const QStringList &fileNames)
+{
+    if (m_opener)
+        return m_opener(fileNames);
+    for (const QString &fileName : fileNames)
+        open(fileName);
+}
+
+QString ReaderWindow::sampleName()
+{
+    // Not translated: the name decides what is generated.
+    return QStringLiteral("示例文档.ofd");
 }
 
 void ReaderWindow::openSample()
 {
-    m_document.openGenerated(sampleName);
+    m_document.openGenerated(sampleName());
     m_view->setCurrentPage(0);
 }
 
@@ -320,22 +310,24 @@ void ReaderWindow::closeEvent(QCloseEvent *event)
         event->ignore();
         return;
     }
+    m_session.keepPlace();
+    m_session.keepWindow();
     QMainWindow::closeEvent(event);
 }
 
 void ReaderWindow::dragEnterEvent(QDragEnterEvent *event)
 {
-    if (!droppedFile(*event->mimeData()).isEmpty())
+    if (!droppedFiles(*event->mimeData()).isEmpty())
         event->acceptProposedAction();
 }
 
 void ReaderWindow::dropEvent(QDropEvent *event)
 {
-    const QString fileName = droppedFile(*event->mimeData());
-    if (fileName.isEmpty())
+    const QStringList fileNames = droppedFiles(*event->mimeData());
+    if (fileNames.isEmpty())
         return;
     event->acceptProposedAction();
-    open(fileName);
+    openFiles(fileNames);
 }
 
 void ReaderWindow::changeEvent(QEvent *event)

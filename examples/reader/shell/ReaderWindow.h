@@ -9,21 +9,25 @@
 #include "document/Document.h"
 #include "pages/ZoomMode.h"
 #include "shell/ReaderSettings.h"
+#include "shell/Session.h"
 
 #include <toolbar/MRToolBarCommands.h>
 
 #include <QDomDocument>
 #include <QMainWindow>
 
+#include <functional>
 #include <memory>
 
-class HostPanel;
+class HostDock;
 class MRToolBar;
 class NavigationPanel;
 class PageView;
+class PageFieldWatcher;
 class QLabel;
+class QStackedWidget;
 class SearchPanel;
-class SignalLog;
+class StartPage;
 
 /** The main window of the reader: a toolbar made from a description, the pages, and docks. */
 class ReaderWindow : public QMainWindow
@@ -33,22 +37,30 @@ class ReaderWindow : public QMainWindow
 public:
     /**
      * @param skin The name under which the state of the toolbar is stored; empty to always begin
-     *             as the description says.
+     *             as the description says, and to keep nothing of the window.
      */
     ReaderWindow(const QDomDocument &description, const QString &skin);
     ~ReaderWindow() override;
 
+    /** Opens files that the user has chosen; without it they are opened in this window. */
+    using Opener = std::function<void(const QStringList &fileNames)>;
+    void setOpener(const Opener &opener) { m_opener = opener; }
+
+    /** Shows the panel for those who write hosts. */
+    void addHostPanel();
     /** Replaces the toolbar; the document and its view are not changed. */
     void setDescription(QDomDocument description);
 
-    /** Makes the window as light or dark as one of ReaderScheme::names(). */
-    void setScheme(const QString &scheme);
-
+    bool hasDocument() const { return m_document.isOpen(); }
+    QString fileName() const { return m_document.fileName(); }
     void open(const QString &fileName) { openOrExplain(fileName, nullptr); }
     /** The same, with what would be shown when a file cannot be opened in refusal instead. */
     void openOrExplain(const QString &fileName, QString *refusal);
     /** Opens a generated document, which is not added to the recent files. */
     void openSample();
+    static QString sampleName();
+    /** Shows why a file was not opened. */
+    void explain(const QString &refusal) { m_fileCommands.showRefusal(refusal); }
 
 protected:
     void closeEvent(QCloseEvent *event) override;
@@ -62,30 +74,41 @@ private:
     void createToolBar(const QDomDocument &description);
     void removeToolBar();
     bool focusControl(const QString &name);
+    void openFiles(const QStringList &fileNames);
+    void setScheme(const QString &scheme);
+    void createCentre();
     ZoomMode shownZoom() const;
     void createCommands();
     void connectKeys();
     void returnToPages();
     void connectToolBar();
     void connectParts();
+    void connectView();
+    void connectStartPage();
+    void connectPageField();
     void followZoomBox();
     void readZoomBox(int index);
     void stateChanged();
+    void showPagesOrStart();
+    void showPage() const;
     void updateTitle();
 
     const QString m_skin;
     ToolBarSkinStyle m_colours;
     QDomDocument m_description;
-    ReaderSettings m_settings;
-    QString m_scheme;
+    const std::shared_ptr<ReaderSettings> m_settings = ReaderSettings::shared();
+    Opener m_opener;
     Document m_document;
     PageView *m_view;
+    StartPage *m_start;
+    QStackedWidget *m_centre;
     NavigationPanel *m_navigation;
     SearchPanel *m_search;
     HandwritingSettings *m_handwriting;
-    HostPanel *m_hostPanel;
-    SignalLog *m_log;
+    HostDock *m_host = nullptr;
+    PageFieldWatcher *m_pageField;
     QLabel *m_place;
+    Session m_session;
 
     MRToolBarCommands m_commands{nullptr};
     FileCommands m_fileCommands;

@@ -3,7 +3,9 @@
 
 #include "shell/Screenshot.h"
 
+#include <QFileInfo>
 #include <QImageWriter>
+#include <QSaveFile>
 #include <QWidget>
 #include <QWindow>
 
@@ -40,9 +42,15 @@ void Screenshot::look()
         return;
     }
     m_timer.stop();
-    QImageWriter writer(m_fileName, "png");
-    if (writer.write(now))
-        Q_EMIT saved();
-    else
+    // The format follows from the suffix. A file is not left half-written.
+    QSaveFile file(m_fileName);
+    QImageWriter writer(&file, QFileInfo(m_fileName).suffix().toLatin1());
+    if (!file.open(QIODevice::WriteOnly))
+        Q_EMIT failed(QStringLiteral("%1: %2").arg(m_fileName, file.errorString()));
+    else if (!writer.write(now))
         Q_EMIT failed(QStringLiteral("%1: %2").arg(m_fileName, writer.errorString()));
+    else if (!file.commit())
+        Q_EMIT failed(QStringLiteral("%1: %2").arg(m_fileName, file.errorString()));
+    else
+        Q_EMIT saved();
 }

@@ -1,0 +1,118 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
+// How the parts of the window are connected with each other.
+
+#include "pages/PageView.h"
+#include "panels/HostPanel.h"
+#include "panels/NavigationPanel.h"
+#include "panels/SearchPanel.h"
+#include "reach/ToolBarReach.h"
+#include "shell/HostDock.h"
+#include "shell/PageFieldWatcher.h"
+#include "shell/ReaderWindow.h"
+#include "shell/StartPage.h"
+
+#include <toolbar/MRToolBar.h>
+
+#include <QComboBox>
+
+void ReaderWindow::addHostPanel()
+{
+    m_host = new HostDock(this);
+    addDockWidget(Qt::RightDockWidgetArea, m_host);
+    m_host->listenTo(*m_toolBar);
+    HostPanel *panel = m_host->panel();
+    panel->showScheme(m_settings->scheme());
+    connect(m_settings.get(), &ReaderSettings::schemeChanged, panel, &HostPanel::showScheme);
+    connect(panel, &HostPanel::schemeChosen, m_settings.get(), &ReaderSettings::setScheme);
+    connect(panel, &HostPanel::skinChosen, this, [this](const ToolBarSkinStyle &colours) {
+        m_colours = colours;
+        m_toolBar->DoSetSkinStyleSlot(colours);
+    });
+    connect(panel, &HostPanel::scaleChosen, this, [this](const QString &scale) {
+        m_toolBar->DoSetSkinStyleSlot({{QStringLiteral("scalefactor"), scale}});
+    });
+    connect(panel, &HostPanel::handwritingAsked, this, [this] {
+        m_editCommands.editHandwriting();
+        stateChanged();
+    });
+}
+
+void ReaderWindow::connectParts()
+{
+    connect(&m_document, &Document::pagesChanged, this, &ReaderWindow::showPagesOrStart);
+    connect(&m_document, &Document::pagesChanged, this, &ReaderWindow::stateChanged);
+    connect(&m_document.undoStack(), &QUndoStack::indexChanged, this, &ReaderWindow::stateChanged);
+    connect(&m_document.undoStack(), &QUndoStack::cleanChanged, this, &ReaderWindow::stateChanged);
+    connect(m_navigation, &NavigationPanel::pageChosen, m_view, &PageView::setCurrentPage);
+    connect(m_navigation, &NavigationPanel::wordChosen, m_search, &SearchPanel::searchWord);
+    connect(m_navigation, &NavigationPanel::shownPanelChanged, this, &ReaderWindow::stateChanged);
+    connect(m_search, &SearchPanel::found, this,
+            [this](const QString &message) { parts().say(message); });
+    connect(m_settings.get(), &ReaderSettings::schemeChanged, this, &ReaderWindow::setScheme);
+}
+
+void ReaderWindow::connectView()
+{
+    connect(m_view, &PageView::currentPageChanged, m_navigation, &NavigationPanel::setCurrentPage);
+    connect(m_view, &PageView::currentPageChanged, this, &ReaderWindow::stateChanged);
+    connect(m_view, &PageView::zoomChanged, this, &ReaderWindow::stateChanged);
+    connect(m_view, &PageView::selectionChanged, this, &ReaderWindow::stateChanged);
+    connect(m_view, &PageView::zoomStepAsked, this, [this](bool larger) {
+        if (m_document.isOpen())
+            m_viewCommands.stepZoom(larger);
+    });
+    connect(m_view, &PageView::markDrawn, this,
+            [this](const Mark &mark) { m_editCommands.addDrawn(mark); });
+    connect(m_view, &PageView::inkRubbed, &m_document, &Document::eraseInk);
+}
+
+void ReaderWindow::connectStartPage()
+{
+    const auto showFiles = [this] {
+        m_start->setFiles(m_settings->recentFiles());
+        stateChanged();
+    };
+    connect(m_settings.get(), &ReaderSettings::recentFilesChanged, m_start, showFiles);
+    connect(m_start, &StartPage::openAsked, this, [this] { m_commands.run("f_open"); });
+    connect(m_start, &StartPage::fileChosen, this,
+            [this](const QString &fileName) { m_fileCommands.openRecent(fileName); });
+    connect(m_start, &StartPage::removeAsked, m_settings.get(), &ReaderSettings::removeRecentFile);
+    showFiles();
+}
+
+void ReaderWindow::connectPageField()
+{
+    connect(m_pageField, &PageFieldWatcher::entered, this, [this](int page) {
+        if (m_document.isOpen() && (page < 1 || page > m_document.pageCount()))
+            parts().say(tr("没有这一页：共 %1 页").arg(m_document.pageCount()));
+    });
+    // Queued, because the field is left while the toolbar still answers what was typed.
+    connect(m_pageField, &PageFieldWatcher::left, this, &ReaderWindow::showPage,
+            Qt::QueuedConnection);
+}
+
+void ReaderWindow::showPage() const
+{
+    if (m_document.isOpen())
+        m_toolBar->DoSetPageInfoSlot(m_view->currentPage() + 1, m_document.pageCount());
+}
+
+void ReaderWindow::followZoomBox()
+{
+    // DoSetZoomMode() does not report every choice in the zoom box.
+    const QList<QComboBox *> boxes = ToolBarReach::zoomBoxes(*this);
+    for (const QComboBox *box : boxes) {
+        connect(box, QOverload<int>::of(&QComboBox::activated), this, &ReaderWindow::readZoomBox,
+                Qt::UniqueConnection);
+    }
+}
+
+void ReaderWindow::readZoomBox(int index)
+{
+    const auto *box = qobject_cast<QComboBox *>(sender());
+    const ZoomMode mode = ZoomMode::fromName(box->itemData(index).toString());
+    if (m_document.isOpen() && mode.isValid())
+        m_view->setZoomMode(mode);
+}
