@@ -9,9 +9,13 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QMutexLocker>
 #include <QStringList>
+#include <QUrl>
 
 #include <quazip/quazipfile.h>
+
+#include <algorithm>
 
 namespace Ofd {
 
@@ -33,10 +37,26 @@ QByteArray bytesOf(const QString &fileName)
     return file.readAll();
 }
 
-bool leavesArchive(const QString &name)
+/** Some writers separate folders as one operating system does. */
+QString withSlashes(QString path)
 {
-    return name.startsWith(QChar(u'/')) || name.contains(QChar(u'\\')) || name.contains(QChar(u':'))
-           || name.split(QChar(u'/')).contains(QStringLiteral(".."));
+    return path.replace(QChar(u'\\'), QChar(u'/'));
+}
+
+Fault damageOf(const QString &path)
+{
+    return Fault{Wording::tr("包内文件“%1”缺失或已损坏。").arg(path)};
+}
+
+bool hasDrive(const QString &path)
+{
+    return path.size() > 1 && path.at(1) == QChar(u':') && path.at(0).isLetter();
+}
+
+bool leavesArchive(const QString &path)
+{
+    return path.startsWith(QChar(u'/')) || hasDrive(path)
+           || path.split(QChar(u'/')).contains(QStringLiteral(".."));
 }
 
 } // namespace
@@ -53,28 +73,50 @@ Package::Package(const QString &fileName)
     list();
 }
 
+QList<QuaZipFileInfo64> Package::entries()
+{
+    const QList<QuaZipFileInfo64> found = m_zip.getFileInfoList64();
+    const bool isDecoded =
+        std::none_of(found.cbegin(), found.cend(), [](const QuaZipFileInfo64 &entry) {
+            return entry.name.contains(QChar(QChar::ReplacementCharacter));
+        });
+    if (isDecoded)
+        return found;
+    // Names that are not in UTF-8 are in the encoding that Chinese writers use without saying so.
+    m_zip.close();
+    m_zip.setFileNameCodec("GB18030");
+    m_zip.open(QuaZip::mdUnzip);
+    return m_zip.getFileInfoList64();
+}
+
 void Package::list()
 {
     if (m_zip.getEntriesCount() > Limits::entries)
         throw Fault{Wording::tr("包内文件过多，超过 %1 个。").arg(Limits::entries)};
-    const QList<QuaZipFileInfo64> entries = m_zip.getFileInfoList64();
-    if (entries.size() != m_zip.getEntriesCount())
+    const QList<QuaZipFileInfo64> all = entries();
+    if (all.size() != m_zip.getEntriesCount())
         throw Fault{Wording::tr("文件不完整：ZIP 包的目录缺失或已损坏。")};
     quint64 total = 0;
-    for (const QuaZipFileInfo64 &entry : entries) {
-        check(entry);
+    for (const QuaZipFileInfo64 &entry : all) {
+        const QString path = withSlashes(entry.name);
+        check(entry, path);
         total += entry.uncompressedSize;
         if (total > quint64(Limits::unpackedBytes))
             throw Fault{
                 Wording::tr("包内文件解压后过大，超过 %1 MB。").arg(Limits::unpackedBytes >> 20)};
-        if (!entry.name.endsWith(QChar(u'/')))
-            m_sizes.insert(entry.name, qint64(entry.uncompressedSize));
+        // Of entries with the same path, the archive gives the first one.
+        if (path.endsWith(QChar(u'/')) || m_entries.contains(path))
+            continue;
+        m_entries.insert(path, {entry.name, qint64(entry.uncompressedSize)});
+        const QString folded = path.toCaseFolded();
+        if (!m_folded.contains(folded))
+            m_folded.insert(folded, path);
     }
 }
 
-void Package::check(const QuaZipFileInfo64 &entry) const
+void Package::check(const QuaZipFileInfo64 &entry, const QString &path)
 {
-    if (leavesArchive(entry.name))
+    if (leavesArchive(path))
         throw Fault{Wording::tr("包内路径“%1”指向包外。").arg(entry.name)};
     if (entry.isEncrypted())
         throw Fault{Wording::tr("文件已加密，无法打开。")};
@@ -85,43 +127,71 @@ void Package::check(const QuaZipFileInfo64 &entry) const
         throw Fault{Wording::tr("包内文件“%1”解压后异常巨大。").arg(entry.name)};
 }
 
+QString Package::pathOf(const QString &path) const
+{
+    return m_entries.contains(path) ? path : m_folded.value(path.toCaseFolded());
+}
+
 QByteArray Package::read(const QString &path) const
 {
-    const Fault damage{Wording::tr("包内文件“%1”缺失或已损坏。").arg(path)};
-    const qint64 size = m_sizes.value(path, -1);
-    const QMutexLocker guard(&m_lock);
-    if (size < 0 || !m_zip.setCurrentFile(path, QuaZip::csSensitive))
-        throw damage;
+    const Entry entry = m_entries.value(pathOf(path));
+    // The size in the directory may be wrong, which one further byte shows.
+    const QByteArray bytes = unpack(path, entry.size + 1);
+    if (bytes.size() != entry.size)
+        throw damageOf(path);
+    return bytes;
+}
+
+QByteArray Package::head(const QString &path, qint64 most) const
+{
+    return unpack(path, most);
+}
+
+QByteArray Package::unpack(const QString &path, qint64 most) const
+{
+    const QMutexLocker locker(&m_mutex);
+    const Entry entry = m_entries.value(pathOf(path));
+    if (entry.size < 0 || !m_zip.setCurrentFile(entry.name, QuaZip::csSensitive))
+        throw damageOf(path);
     QuaZipFile file(&m_zip);
     if (!file.open(QIODevice::ReadOnly))
-        throw damage;
-    // The size in the directory may be wrong, which one further byte shows.
-    QByteArray bytes = file.read(size + 1);
+        throw damageOf(path);
+    const QByteArray bytes = file.read(most);
     file.close();
-    if (bytes.size() != size || file.getZipError() != UNZ_OK)
-        throw damage;
+    if (file.getZipError() != UNZ_OK)
+        throw damageOf(path);
     return bytes;
 }
 
 QString Package::find(const QString &from, const QString &location) const
 {
-    const QString trimmed = location.trimmed();
+    const QString trimmed = withSlashes(location.trimmed());
     if (trimmed.isEmpty())
         return QString();
+    const QString found = findPlain(from, trimmed);
+    if (!found.isEmpty() || !trimmed.contains(QChar(u'%')))
+        return found;
+    return findPlain(from, withSlashes(QUrl::fromPercentEncoding(trimmed.toUtf8())));
+}
+
+QString Package::findPlain(const QString &from, const QString &location) const
+{
     const QString folder = from.left(from.lastIndexOf(QChar(u'/')) + 1);
-    const bool isAbsolute = trimmed.startsWith(QChar(u'/'));
-    QString path = normalised(isAbsolute ? trimmed : folder + trimmed);
-    if (has(path))
+    const bool isAbsolute = location.startsWith(QChar(u'/'));
+    const bool isWhole = isAbsolute || hasDrive(location);
+    const QString path = pathOf(normalised(isWhole ? location : folder + location));
+    if (!path.isEmpty() || isAbsolute || location.startsWith(QLatin1String("..")))
         return path;
     // Some writers give locations relative to the root without a leading slash.
-    const QString fromRoot = isAbsolute ? path : normalised(trimmed);
-    return has(fromRoot) ? fromRoot : QString();
+    return pathOf(normalised(location));
 }
 
 QString Package::normalised(const QString &location)
 {
+    if (hasDrive(location))
+        throw Fault{Wording::tr("文档中的路径“%1”指向包外。").arg(location)};
     QStringList way;
-    const QStringList steps = location.split(QChar(u'/'), Qt::SkipEmptyParts);
+    const QStringList steps = withSlashes(location).split(QChar(u'/'), Qt::SkipEmptyParts);
     for (const QString &step : steps) {
         if (step == QLatin1String("."))
             continue;

@@ -6,6 +6,7 @@
 #include <QBuffer>
 #include <QByteArray>
 #include <QHash>
+#include <QList>
 #include <QMutex>
 #include <QString>
 
@@ -26,14 +27,18 @@ public:
     /** The whole archive as it was read. */
     const QByteArray &archive() const { return m_archive; }
 
-    bool has(const QString &path) const { return m_sizes.contains(path); }
-    /** Throws a Fault for an entry that is missing or damaged. */
+    /** Whether there is such an entry, by its exact name or else in any case. */
+    bool has(const QString &path) const { return !pathOf(path).isEmpty(); }
+    /** Throws a Fault for an entry that is missing or damaged. Any thread may read. */
     QByteArray read(const QString &path) const;
+    /** The first bytes of an entry, at most so many; damage behind them is not found. */
+    QByteArray head(const QString &path, qint64 most) const;
 
     /**
      * The entry for a location in the file @p from. A location is relative to the folder of that
      * file unless it is absolute. If there is no such entry, it is tried relative to the root.
-     * Empty if both fail. Throws a Fault for a location outside the archive.
+     * Backslashes, other cases and percent encoding lead to the entry as well. Empty if all fail.
+     * Throws a Fault for a location outside the archive.
      */
     QString find(const QString &from, const QString &location) const;
 
@@ -41,14 +46,25 @@ public:
     static QString normalised(const QString &location);
 
 private:
+    struct Entry
+    {
+        QString name; ///< As the archive has it, which may contain backslashes.
+        qint64 size = -1;
+    };
+
+    QList<QuaZipFileInfo64> entries();
     void list();
-    void check(const QuaZipFileInfo64 &entry) const;
+    static void check(const QuaZipFileInfo64 &entry, const QString &path);
+    QString pathOf(const QString &path) const;
+    QString findPlain(const QString &from, const QString &location) const;
+    QByteArray unpack(const QString &path, qint64 most) const;
 
     QByteArray m_archive;
-    mutable QMutex m_lock; ///< Of the two that follow.
     mutable QBuffer m_buffer;
     mutable QuaZip m_zip;
-    QHash<QString, qint64> m_sizes; ///< By path, without folders.
+    mutable QMutex m_mutex;
+    QHash<QString, Entry> m_entries;  ///< By path with slashes, without folders.
+    QHash<QString, QString> m_folded; ///< Paths by themselves without difference of case.
 };
 
 } // namespace Ofd
