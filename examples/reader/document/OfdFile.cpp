@@ -75,8 +75,14 @@ QString leftOutOf(const Ofd::Painter &painter)
     QStringList parts;
     for (auto kind = counts.cbegin(); kind != counts.cend(); ++kind)
         parts.append(OfdFile::tr("%1 %2 处").arg(kind.key()).arg(kind.value()));
-    return parts.isEmpty() ? QString()
-                           : OfdFile::tr("未显示：%1").arg(parts.join(OfdFile::tr("，")));
+    QStringList sentences;
+    if (!parts.isEmpty())
+        sentences.append(OfdFile::tr("未显示：%1").arg(parts.join(OfdFile::tr("，"))));
+    const QStringList fonts = Ofd::FontSet::missing(painter.document().resources);
+    if (!fonts.isEmpty())
+        sentences.append(
+            OfdFile::tr("缺少字体：%1，以替代字体显示").arg(fonts.join(OfdFile::tr("、"))));
+    return sentences.join(OfdFile::tr("；"));
 }
 
 } // namespace

@@ -29,7 +29,7 @@ public:
     QList<NamedPlace> outline;
     QList<NamedPlace> bookmarks;
     QStringList attachments;
-    QString leftOut; ///< One line about what cannot be shown; empty if all can.
+    QString leftOut; ///< One line about what is not shown as it should be; empty if all is.
 
     /** Reads a file; on failure changes nothing and sets @p error to one sentence. */
     bool read(const QString &fileName, QList<Page> *pages, QString *error);

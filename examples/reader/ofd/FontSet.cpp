@@ -4,10 +4,13 @@
 #include "ofd/FontSet.h"
 
 #include "ofd/Fault.h"
+#include "ofd/Wording.h"
 
 #include <QFont>
 #include <QFontDatabase>
 #include <QStringList>
+
+#include <algorithm>
 
 namespace Ofd {
 
@@ -57,6 +60,59 @@ QStringList substitutesFor(const Font &font)
     return hasSerifs ? chineseSerif + chineseSans : chineseSans + chineseSerif;
 }
 
+/** Fonts up to this size are tested as a whole. */
+constexpr int smallFont = 256 << 10;
+
+/** Whether the bytes begin as a font file does, with all entries of its directory. */
+bool hasFontHeader(const QByteArray &head)
+{
+    static const QByteArrayList signatures = {QByteArrayLiteral("\0\1\0\0"),
+                                              QByteArrayLiteral("OTTO"), QByteArrayLiteral("true"),
+                                              QByteArrayLiteral("ttcf")};
+    return signatures.contains(head.left(4)) && head.contains("cmap") && head.contains("head");
+}
+
+bool isUsable(const Package &package, const QString &file)
+{
+    try {
+        const QByteArray head = package.head(file, smallFont);
+        return head.size() < smallFont ? Face::isReadable(head) : hasFontHeader(head.left(1024));
+    } catch (const Fault &) {
+        return false;
+    }
+}
+
+QRawFont installed(const QString &family, bool isBold, bool isItalic)
+{
+    QFont wanted(family);
+    wanted.setPixelSize(rawSize);
+    wanted.setHintingPreference(QFont::PreferNoHinting);
+    wanted.setBold(isBold);
+    wanted.setItalic(isItalic);
+    const QRawFont found = QRawFont::fromFont(wanted);
+    // For an unknown family the system returns some other font.
+    return found.familyName().compare(family, Qt::CaseInsensitive) ? QRawFont() : found;
+}
+
+/** The names of a font, also the one in the other language, by which it may be installed. */
+QStringList familiesOf(const Font &font)
+{
+    static const QList<QStringList> sameFonts = {
+        {QStringLiteral("宋体"), QStringLiteral("SimSun")},
+        {QStringLiteral("黑体"), QStringLiteral("SimHei")},
+        {QStringLiteral("楷体"), QStringLiteral("KaiTi"), QStringLiteral("楷体_GB2312")},
+        {QStringLiteral("仿宋"), QStringLiteral("FangSong"), QStringLiteral("仿宋_GB2312")}};
+    QStringList families;
+    for (const QString &name : {font.family, font.name}) {
+        if (!name.isEmpty())
+            families.append(name);
+        for (const QStringList &names : sameFonts)
+            families += names.contains(name) ? names : QStringList();
+    }
+    families.removeDuplicates();
+    return families;
+}
+
 } // namespace
 
 Face::Face(const Font &font, const QByteArray &bytes, bool isBold, bool isItalic)
@@ -73,17 +129,10 @@ Face::Face(const Font &font, const QByteArray &bytes, bool isBold, bool isItalic
 
 void Face::addSystemFonts(const Font &font, bool isBold, bool isItalic)
 {
-    QStringList families = {font.family, font.name};
-    families += substitutesFor(font);
-    for (const QString &family : std::as_const(families)) {
-        QFont wanted(family);
-        wanted.setPixelSize(rawSize);
-        wanted.setHintingPreference(QFont::PreferNoHinting);
-        wanted.setBold(isBold);
-        wanted.setItalic(isItalic);
-        const QRawFont found = QRawFont::fromFont(wanted);
-        // For an unknown family the system returns some other font.
-        if (found.isValid() && !found.familyName().compare(family, Qt::CaseInsensitive))
+    const QStringList families = familiesOf(font) + substitutesFor(font);
+    for (const QString &family : families) {
+        const QRawFont found = installed(family, isBold, isItalic);
+        if (found.isValid())
             m_fonts.append(found);
     }
     QFont last;
@@ -159,6 +208,32 @@ Face &FontSet::faceOf(const Text &text)
         // Not reported here: a damaged font was reported on opening, and another one replaces it.
     }
     return m_faces.emplace(key, Face(font, bytes, isBold, isItalic)).first->second;
+}
+
+void FontSet::countFaults(const Document &document, QMap<QString, int> *counts)
+{
+    for (const Font &font : document.resources.fonts.all()) {
+        if (!font.file.isEmpty() && !isUsable(*document.package, font.file))
+            ++(*counts)[Wording::tr("嵌入字体“%1”").arg(font.name)];
+    }
+}
+
+QStringList FontSet::missing(const Resources &resources)
+{
+    QStringList names;
+    for (const Font &font : resources.fonts.all()) {
+        const QStringList families = familiesOf(font);
+        const bool isThere =
+            !font.file.isEmpty()
+            || std::any_of(families.cbegin(), families.cend(), [](const QString &family) {
+                   return installed(family, false, false).isValid();
+               });
+        if (!isThere && !families.isEmpty())
+            names.append(font.name.isEmpty() ? font.family : font.name);
+    }
+    names.removeDuplicates();
+    names.sort();
+    return names;
 }
 
 } // namespace Ofd

@@ -62,6 +62,12 @@ public:
 
     Face &faceOf(const Text &text);
 
+    /** Adds the embedded fonts that cannot be used; of large ones only the header is tested. */
+    static void countFaults(const Document &document, QMap<QString, int> *counts);
+
+    /** The names of the fonts that are neither embedded nor installed. */
+    static QStringList missing(const Resources &resources);
+
 private:
     const Document &m_document;
     std::map<QString, Face> m_faces;

@@ -4,10 +4,10 @@
 #include "ofd/ImageStore.h"
 
 #include "ofd/Fault.h"
-#include "ofd/Limits.h"
+#include "ofd/Picture.h"
+#include "ofd/Wording.h"
 
-#include <QBuffer>
-#include <QImageReader>
+#include <QPainter>
 
 #include <algorithm>
 
@@ -17,25 +17,34 @@ namespace {
 
 constexpr int mostKilobytes = 256 << 10;
 constexpr int mostHalvings = 8;
+/** The first bytes of a picture nearly always tell its size. */
+constexpr int usualHead = 64 << 10;
 
 int kilobytesOf(const QImage &image)
 {
     return 1 + int(image.sizeInBytes() >> 10);
 }
 
-bool hasSaneSize(const QSize &size)
+/** Scaled in stripes: as a whole a bilevel picture would first take 32 times its memory. */
+QImage halvedBy(const QImage &whole, int times)
 {
-    return size.isValid() && qint64(size.width()) * size.height() <= Limits::imagePixels;
-}
-
-QImage decode(QByteArray bytes)
-{
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::ReadOnly);
-    QImageReader reader(&buffer);
-    // The suffix of the file may be wrong.
-    reader.setDecideFormatFromContent(true);
-    return hasSaneSize(reader.size()) ? reader.read() : QImage();
+    constexpr int rows = 64;
+    const int step = rows << times;
+    const int width = std::max(1, whole.width() >> times);
+    QImage image(width, std::max(1, whole.height() >> times),
+                 whole.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
+                                         : QImage::Format_RGB32);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    for (int y = 0; y < whole.height(); y += step) {
+        const int height = std::min(step, whole.height() - y);
+        const QImage stripe = whole.copy(0, y, whole.width(), height);
+        painter.drawImage(0, y >> times,
+                          stripe.scaled(width, std::max(1, height >> times), Qt::IgnoreAspectRatio,
+                                        Qt::SmoothTransformation));
+    }
+    return image;
 }
 
 } // namespace
@@ -46,14 +55,22 @@ ImageStore::ImageStore(const Document &document)
 {
 }
 
-bool ImageStore::isReadable(const QByteArray &bytes)
+void ImageStore::countFaults(const Document &document, QMap<QString, int> *counts)
 {
-    QByteArray copy = bytes;
-    QBuffer buffer(&copy);
-    buffer.open(QIODevice::ReadOnly);
-    QImageReader reader(&buffer);
-    reader.setDecideFormatFromContent(true);
-    return reader.canRead() && hasSaneSize(reader.size());
+    for (const QString &file : document.resources.images.all()) {
+        if (file.isEmpty())
+            continue;
+        QString fault;
+        try {
+            fault = Picture::faultOf(document.package->head(file, usualHead));
+            if (!fault.isEmpty())
+                fault = Picture::faultOf(document.package->read(file));
+        } catch (const Fault &) {
+            fault = Wording::tr("图像");
+        }
+        if (!fault.isEmpty())
+            ++(*counts)[fault];
+    }
 }
 
 QImage ImageStore::image(const QString &resource, QSizeF target)
@@ -75,7 +92,7 @@ QImage ImageStore::decoded(const QString &resource)
     const QString file = m_document.resources.images.value(resource);
     try {
         if (!file.isEmpty())
-            image = decode(m_document.package->read(file));
+            image = Picture::decoded(m_document.package->read(file));
     } catch (const Fault &) {
         // Not reported here: a damaged picture was reported on opening. Nothing is painted.
     }
@@ -89,8 +106,7 @@ QImage ImageStore::halved(const QString &resource, int times)
     if (const QImage *known = m_cache.object(key))
         return *known;
     const QImage whole = decoded(resource);
-    const QSize size(std::max(1, whole.width() >> times), std::max(1, whole.height() >> times));
-    QImage image = whole.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    const QImage image = halvedBy(whole, times);
     m_cache.insert(key, new QImage(image), kilobytesOf(image));
     return image;
 }

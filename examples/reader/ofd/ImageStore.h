@@ -19,8 +19,8 @@ public:
     /** The picture, halved while it stays larger than @p target; null if it cannot be decoded. */
     QImage image(const QString &resource, QSizeF target);
 
-    /** Whether the bytes are a picture that can be decoded. */
-    static bool isReadable(const QByteArray &bytes);
+    /** Adds how many pictures of each format cannot be painted, as far as their headers tell. */
+    static void countFaults(const Document &document, QMap<QString, int> *counts);
 
 private:
     QImage decoded(const QString &resource);

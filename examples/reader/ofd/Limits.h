@@ -34,5 +34,9 @@ constexpr int dashes = 64;
 constexpr qreal dashPeriod = 0.01;
 constexpr qreal dashesPerPath = 50000;
 constexpr qint64 imagePixels = 100LL * 1000 * 1000;
+/** Of a decoded picture. */
+constexpr qint64 imageBytes = 192LL << 20;
+/** In pictures whose decoder needs four bytes for each, besides the bytes of the picture. */
+constexpr qint64 imageSamples = 40LL * 1000 * 1000;
 
 } // namespace Ofd::Limits

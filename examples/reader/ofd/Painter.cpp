@@ -4,12 +4,10 @@
 #include "ofd/Painter.h"
 
 #include "ofd/DensePath.h"
-#include "ofd/Fault.h"
 #include "ofd/Limits.h"
 #include "ofd/PaintLayer.h"
 #include "ofd/PathData.h"
 #include "ofd/TextLayout.h"
-#include "ofd/Wording.h"
 
 #include <QPainter>
 
@@ -135,18 +133,8 @@ Painter::Painter(std::shared_ptr<const Document> document)
 QMap<QString, int> Painter::unpaintable() const
 {
     QMap<QString, int> counts;
-    const auto test = [&](const QString &file, const QString &kind, auto isReadable) {
-        try {
-            if (!file.isEmpty() && !isReadable(m_document->package->read(file)))
-                ++counts[kind];
-        } catch (const Fault &) {
-            ++counts[kind];
-        }
-    };
-    for (const Font &font : m_document->resources.fonts.all())
-        test(font.file, Wording::tr("嵌入字体"), Face::isReadable);
-    for (const QString &file : m_document->resources.images.all())
-        test(file, Wording::tr("图像"), ImageStore::isReadable);
+    FontSet::countFaults(*m_document, &counts);
+    ImageStore::countFaults(*m_document, &counts);
     return counts;
 }
 
