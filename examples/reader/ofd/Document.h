@@ -30,6 +30,22 @@ struct Resources
     QHash<QString, std::shared_ptr<const Objects>> composites;
 };
 
+struct Document;
+
+/** The picture of a seal on a page, or the part of it that a seam over several pages has there. */
+struct Stamp
+{
+    int signature = 0; ///< Its index among the signatures.
+    Object object;     ///< Without content if the picture is a drawing.
+    std::shared_ptr<const Document> drawing;
+};
+
+struct SignatureList
+{
+    QString file;        ///< The entry with the list itself.
+    QStringList entries; ///< The descriptions of the signatures.
+};
+
 /** An entry of the outline or a bookmark. */
 struct Target
 {
@@ -60,6 +76,8 @@ struct Document
     QVector<Target> outline;
     QVector<Target> bookmarks;
     QStringList attachments;
+    SignatureList signatures;
+    QHash<int, QVector<Stamp>> stamps; ///< By page, above everything else.
     Table<int> unsupported; ///< The number of left out parts by kind, in what was read so far.
 };
 
@@ -69,5 +87,7 @@ struct Document
  * The pages are read later, and one that cannot be read costs itself only.
  */
 std::shared_ptr<const Document> read(const QString &fileName, QString *error, int body = 0);
+/** The same for one that lies inside of another document; its own signatures do not matter. */
+std::shared_ptr<const Document> read(const QByteArray &archive, QString *error);
 
 } // namespace Ofd

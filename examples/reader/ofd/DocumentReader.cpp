@@ -8,6 +8,7 @@
 #include "ofd/Fault.h"
 #include "ofd/Limits.h"
 #include "ofd/PageReader.h"
+#include "ofd/Signatures.h"
 #include "ofd/Wording.h"
 
 #include <QBitArray>
@@ -27,7 +28,7 @@ public:
     {
     }
 
-    void read(int body)
+    void read(int body, bool withSignatures)
     {
         const Package &package = *m_document.package;
         if (!package.has(entryPoint))
@@ -40,8 +41,10 @@ public:
             throw Fault{Wording::tr("文件不完整：没有文档入口 Document.xml。")};
         if (const XmlElement *information = chosen->child("DocInfo"))
             Extras::readInformation(*information, m_document);
-        Extras::countSeals(*chosen, entryPoint, m_document);
-        readDocument(XmlElement::parse(package.read(path), path), path);
+        const QHash<QString, int> pages =
+            readDocument(XmlElement::parse(package.read(path), path), path);
+        if (withSignatures)
+            Signatures::read(*chosen, entryPoint, pages, m_document);
         addCounts();
     }
 
@@ -88,7 +91,8 @@ private:
         return chosen;
     }
 
-    void readDocument(const XmlElement &root, const QString &path)
+    /** Returns the indexes of the pages by their identifiers. */
+    QHash<QString, int> readDocument(const XmlElement &root, const QString &path)
     {
         const XmlElement nothing;
         const XmlElement *data = root.child("CommonData");
@@ -102,6 +106,7 @@ private:
         Extras::readTargets(root, indexes, m_document);
         m_annotations = Annotations::lists(*m_document.package, root, path, indexes);
         Extras::readAttachments(root, path, m_document);
+        return indexes;
     }
 
     QHash<QString, int> listPages(const XmlElement &root, const QString &path)
@@ -163,16 +168,16 @@ private:
     QBitArray m_isCounted;
 };
 
-} // namespace
-
-std::shared_ptr<const Document> read(const QString &fileName, QString *error, int body)
+template <typename MakePackage>
+std::shared_ptr<const Document> readFrom(MakePackage makePackage, int body, bool withSignatures,
+                                         QString *error)
 {
     error->clear();
     try {
         const auto document = std::make_shared<Document>();
-        document->package = std::make_shared<Package>(fileName);
+        document->package = makePackage();
         const auto reader = std::make_shared<DocumentReader>(*document);
-        reader->read(body);
+        reader->read(body, withSignatures);
         const QVector<QRectF> areas(reader->pageCount(), reader->commonArea());
         document->pages =
             std::make_unique<PageStore>(areas, [reader](int index) { return reader->page(index); });
@@ -181,6 +186,19 @@ std::shared_ptr<const Document> read(const QString &fileName, QString *error, in
         *error = fault.message;
         return nullptr;
     }
+}
+
+} // namespace
+
+std::shared_ptr<const Document> read(const QString &fileName, QString *error, int body)
+{
+    return readFrom([&] { return std::make_shared<Package>(fileName); }, body, true, error);
+}
+
+std::shared_ptr<const Document> read(const QByteArray &archive, QString *error)
+{
+    // Without signatures, seals in drawings of seals cannot go on for ever.
+    return readFrom([&] { return std::make_shared<Package>(archive); }, 0, false, error);
 }
 
 } // namespace Ofd

@@ -112,17 +112,4 @@ void Extras::readAttachments(const XmlElement &root, const QString &from, Docume
     }
 }
 
-void Extras::countSeals(const XmlElement &body, const QString &from, Document &document)
-{
-    QString path;
-    const std::optional<XmlElement> list =
-        namedFile(*document.package, body, "Signatures", from, &path);
-    if (!list)
-        return;
-    for (const XmlElement &signature : list->children) {
-        if (signature.is("Signature"))
-            document.unsupported.add(Wording::tr("电子签章"), 1);
-    }
-}
-
 } // namespace Ofd

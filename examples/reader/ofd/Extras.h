@@ -21,7 +21,4 @@ void readTargets(const XmlElement &root, const QHash<QString, int> &pages, Docum
 /** Reads the names of the attached files. */
 void readAttachments(const XmlElement &root, const QString &from, Document &document);
 
-/** Counts the seals, which are not shown. */
-void countSeals(const XmlElement &body, const QString &from, Document &document);
-
 } // namespace Ofd::Extras

@@ -20,6 +20,9 @@ constexpr qint64 harmlessBytes = 1LL << 20;
 constexpr int xmlDepth = 64;
 constexpr int xmlElements = 4000000;
 constexpr int pages = 20000;
+constexpr int signatures = 1000;
+/** The pictures of all seals, and each of the further files of a signature. */
+constexpr qint64 sealBytes = 16LL << 20;
 /** Objects that are read for one page, or for all pages in common. */
 constexpr qint64 objects = 2000000;
 /** Characters and points of paths, with every composite and template expanded. */

@@ -62,7 +62,12 @@ bool leavesArchive(const QString &path)
 } // namespace
 
 Package::Package(const QString &fileName)
-    : m_archive(bytesOf(fileName))
+    : Package(bytesOf(fileName))
+{
+}
+
+Package::Package(const QByteArray &archive)
+    : m_archive(archive)
     , m_buffer(&m_archive)
     , m_zip(&m_buffer)
 {
@@ -73,7 +78,7 @@ Package::Package(const QString &fileName)
     list();
 }
 
-QList<QuaZipFileInfo64> Package::entries()
+QList<QuaZipFileInfo64> Package::listed()
 {
     const QList<QuaZipFileInfo64> found = m_zip.getFileInfoList64();
     const bool isDecoded =
@@ -93,7 +98,7 @@ void Package::list()
 {
     if (m_zip.getEntriesCount() > Limits::entries)
         throw Fault{Wording::tr("包内文件过多，超过 %1 个。").arg(Limits::entries)};
-    const QList<QuaZipFileInfo64> all = entries();
+    const QList<QuaZipFileInfo64> all = listed();
     if (all.size() != m_zip.getEntriesCount())
         throw Fault{Wording::tr("文件不完整：ZIP 包的目录缺失或已损坏。")};
     quint64 total = 0;
@@ -134,6 +139,8 @@ QString Package::pathOf(const QString &path) const
 
 QByteArray Package::read(const QString &path) const
 {
+    if (m_added.contains(path))
+        return m_added.value(path);
     const Entry entry = m_entries.value(pathOf(path));
     // The size in the directory may be wrong, which one further byte shows.
     const QByteArray bytes = unpack(path, entry.size + 1);

@@ -9,6 +9,7 @@
 #include <QList>
 #include <QMutex>
 #include <QString>
+#include <QStringList>
 
 #include <quazip/quazip.h>
 
@@ -23,12 +24,17 @@ class Package
 public:
     /** Throws a Fault for a file that is not an archive, is encrypted or unpacks to too much. */
     explicit Package(const QString &fileName);
+    explicit Package(const QByteArray &archive);
 
     /** The whole archive as it was read. */
     const QByteArray &archive() const { return m_archive; }
 
     /** Whether there is such an entry, by its exact name or else in any case. */
     bool has(const QString &path) const { return !pathOf(path).isEmpty(); }
+    QStringList entries() const { return m_entries.keys(); }
+    /** Lets read() find bytes that are no entry of the archive, under a name that is none either.
+     */
+    void add(const QString &name, const QByteArray &bytes) { m_added.insert(name, bytes); }
     /** Throws a Fault for an entry that is missing or damaged. Any thread may read. */
     QByteArray read(const QString &path) const;
     /** The first bytes of an entry, at most so many; damage behind them is not found. */
@@ -52,7 +58,7 @@ private:
         qint64 size = -1;
     };
 
-    QList<QuaZipFileInfo64> entries();
+    QList<QuaZipFileInfo64> listed();
     void list();
     static void check(const QuaZipFileInfo64 &entry, const QString &path);
     QString pathOf(const QString &path) const;
@@ -65,6 +71,7 @@ private:
     mutable QMutex m_mutex;
     QHash<QString, Entry> m_entries;  ///< By path with slashes, without folders.
     QHash<QString, QString> m_folded; ///< Paths by themselves without difference of case.
+    QHash<QString, QByteArray> m_added;
 };
 
 } // namespace Ofd

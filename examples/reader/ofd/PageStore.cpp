@@ -23,8 +23,8 @@ qint64 bytesOf(const Objects &objects)
         } else if (const auto *group = std::get_if<Group>(&object.content)) {
             bytes += bytesOf(*group->objects);
         }
-        for (const QPainterPath &clip : object.clips)
-            bytes += clip.elementCount() * qint64(sizeof(QPainterPath::Element));
+        for (const Clip &clip : object.clips)
+            bytes += clip.path.elementCount() * qint64(sizeof(QPainterPath::Element));
     }
     return bytes;
 }

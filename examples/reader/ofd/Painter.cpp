@@ -150,7 +150,30 @@ void Painter::paint(QPainter &painter, int page)
         if (annotation.isVisible)
             paintAll(painter, {annotation.appearance});
     }
+    for (const Stamp &stamp : m_document->stamps.value(page))
+        paintStamp(painter, stamp);
     m_shown.reset();
+    painter.restore();
+}
+
+void Painter::paintStamp(QPainter &painter, const Stamp &stamp)
+{
+    if (!stamp.drawing) {
+        paintOne(painter, stamp.object);
+        return;
+    }
+    std::unique_ptr<Painter> &drawing = m_drawings[stamp.drawing.get()];
+    if (!drawing)
+        drawing = std::make_unique<Painter>(stamp.drawing);
+    const QRectF sheet(QPointF(), stamp.drawing->area(0).size());
+    const QSizeF size = stamp.object.boundary.size();
+    painter.save();
+    for (const Clip &clip : stamp.object.clips)
+        painter.setClipPath(clip.path, Qt::IntersectClip);
+    painter.setTransform(stamp.object.placement(), true);
+    painter.scale(size.width() / sheet.width(), size.height() / sheet.height());
+    painter.setClipRect(sheet, Qt::IntersectClip);
+    drawing->paint(painter, 0);
     painter.restore();
 }
 

@@ -6,6 +6,8 @@
 #include "ofd/FontSet.h"
 #include "ofd/ImageStore.h"
 
+#include <map>
+
 class QPainter;
 
 namespace Ofd {
@@ -26,6 +28,7 @@ public:
     QMap<QString, int> unpaintable() const;
 
 private:
+    void paintStamp(QPainter &painter, const Stamp &stamp);
     void paintAll(QPainter &painter, const Objects &objects);
     void paintOne(QPainter &painter, const Object &object);
     void paintClipped(QPainter &painter, const Object &object, int firstClip);
@@ -44,6 +47,8 @@ private:
     std::shared_ptr<const Page> m_shown; ///< The page that is being painted.
     FontSet m_fonts;
     ImageStore m_images;
+    /** Of the seals that are documents themselves. */
+    std::map<const Document *, std::unique_ptr<Painter>> m_drawings;
 };
 
 } // namespace Ofd
