@@ -76,6 +76,12 @@ QVector<Der> Der::children() const
     return children;
 }
 
+QByteArray Der::octets() const
+{
+    expect(OctetString);
+    return content();
+}
+
 QByteArray Der::bits() const
 {
     expect(BitString);

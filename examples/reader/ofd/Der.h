@@ -40,6 +40,7 @@ public:
     QByteArray content() const { return m_bytes.mid(m_content, m_end - m_content); }
     QVector<Der> children() const;
 
+    QByteArray octets() const;
     /** The octets of a string of whole bits. */
     QByteArray bits() const;
     /** An object identifier with dots. */

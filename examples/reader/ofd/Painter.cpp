@@ -150,7 +150,8 @@ void Painter::paint(QPainter &painter, int page)
         if (annotation.isVisible)
             paintAll(painter, {annotation.appearance});
     }
-    for (const Stamp &stamp : m_document->stamps.value(page))
+    const QVector<Stamp> stamps = m_document->stamps.value(page);
+    for (const Stamp &stamp : stamps)
         paintStamp(painter, stamp);
     m_shown.reset();
     painter.restore();

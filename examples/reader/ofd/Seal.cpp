@@ -22,7 +22,7 @@ QVector<Der> partsOf(const Der &value, int least)
 SignedBytes signedBytes(const Der &bytes, const Der &certificate, const Der &algorithm,
                         const Der &signature)
 {
-    return {bytes.whole(), certificate.content(), algorithm.identifier(), signature.bits()};
+    return {bytes.whole(), certificate.octets(), algorithm.identifier(), signature.bits()};
 }
 
 void readProperties(const Der &properties, Seal &seal)
