@@ -17,7 +17,33 @@ QRectF toPageUnits(const QRectF &rect)
     return QRectF(rect.topLeft() * unitsPerMillimetre, rect.size() * unitsPerMillimetre);
 }
 
-/** One page of a document; all pages share a painter. */
+void paintInPageUnits(QPainter &painter, Ofd::Painter &pages, int index,
+                      const std::atomic_bool *isAbandoned)
+{
+    painter.save();
+    painter.scale(unitsPerMillimetre, unitsPerMillimetre);
+    pages.paint(painter, index, isAbandoned);
+    painter.restore();
+}
+
+class OfdContentPainter : public ContentPainter
+{
+public:
+    explicit OfdContentPainter(const std::shared_ptr<const Ofd::Document> &document)
+        : m_painter(document)
+    {
+    }
+
+    void paint(QPainter &painter, int index, const std::atomic_bool &isAbandoned) override
+    {
+        paintInPageUnits(painter, m_painter, index, &isAbandoned);
+    }
+
+private:
+    Ofd::Painter m_painter;
+};
+
+/** One page of a document; in the main thread all pages share a painter. */
 class OfdPageContent : public PageContent
 {
 public:
@@ -29,11 +55,18 @@ public:
 
     void paint(QPainter &painter) const override
     {
-        painter.save();
-        painter.scale(unitsPerMillimetre, unitsPerMillimetre);
-        m_painter->paint(painter, m_page);
-        painter.restore();
+        paintInPageUnits(painter, *m_painter, m_page, nullptr);
     }
+
+    MakeContentPainter painterMaker() const override
+    {
+        // Not this page: the last thread that has it deletes the fonts of the main thread.
+        return [document = m_painter->sharedDocument()] {
+            return std::make_unique<OfdContentPainter>(document);
+        };
+    }
+
+    int index() const override { return m_page; }
 
     void readText(Page &page) const override
     {

@@ -9,6 +9,8 @@
 #include <QString>
 #include <QVector>
 
+#include <atomic>
+#include <functional>
 #include <memory>
 
 class QPainter;
@@ -16,6 +18,23 @@ struct Page;
 
 /** Size of a generated page, in page units: pixels of an A4 sheet at 96 dpi. */
 constexpr QSizeF pageSize(794, 1123);
+
+/**
+ * Paints the pages of one file in the thread that made it, and must be deleted in that thread,
+ * because fonts belong to the thread that loads them.
+ */
+class ContentPainter
+{
+public:
+    ContentPainter() = default;
+    virtual ~ContentPainter() = default;
+    Q_DISABLE_COPY(ContentPainter)
+
+    /** Paints like PageContent::paint(), but ends early once @p isAbandoned is true. */
+    virtual void paint(QPainter &painter, int index, const std::atomic_bool &isAbandoned) = 0;
+};
+
+using MakeContentPainter = std::function<std::unique_ptr<ContentPainter>()>;
 
 /** The content of a page that was read from a file. */
 class PageContent
@@ -29,6 +48,11 @@ public:
     virtual void paint(QPainter &painter) const = 0;
     /** Sets the text, lines and boxes of the page. */
     virtual void readText(Page &page) const = 0;
+
+    /** Makes painters of the pages of the same file; can be called in any thread, and later. */
+    virtual MakeContentPainter painterMaker() const = 0;
+    /** The index of the page for such a painter. */
+    virtual int index() const = 0;
 };
 
 /** One laid-out line; `start` and `length` point into the text of its page. */

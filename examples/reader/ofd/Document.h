@@ -10,6 +10,8 @@
 #include <QPair>
 #include <QStringList>
 
+#include <mutex>
+
 namespace Ofd {
 
 struct Font
@@ -79,6 +81,8 @@ struct Document
     SignatureList signatures;
     QHash<int, QVector<Stamp>> stamps; ///< By page, above everything else.
     Table<int> unsupported; ///< The number of left out parts by kind, in what was read so far.
+    /** Held while painting: Qt keeps what it computes inside of paths and brushes, unprotected. */
+    mutable std::mutex painting;
 };
 
 /**

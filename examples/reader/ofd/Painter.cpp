@@ -138,11 +138,13 @@ QMap<QString, int> Painter::unpaintable() const
     return counts;
 }
 
-void Painter::paint(QPainter &painter, int page)
+void Painter::paint(QPainter &painter, int page, const std::atomic_bool *isAbandoned)
 {
     painter.save();
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     m_shown = m_document->page(page);
+    const std::lock_guard<std::mutex> lock(m_document->painting);
+    m_isAbandoned = isAbandoned;
     painter.translate(-m_shown->area.topLeft());
     for (const auto &layer : m_shown->layers)
         paintAll(painter, *layer);
@@ -181,6 +183,8 @@ void Painter::paintStamp(QPainter &painter, const Stamp &stamp)
 void Painter::paintAll(QPainter &painter, const Objects &objects)
 {
     for (const Object &object : objects) {
+        if (m_isAbandoned && *m_isAbandoned)
+            return;
         if (object.alpha > 0)
             paintOne(painter, object);
     }

@@ -6,23 +6,31 @@
 #include "ofd/FontSet.h"
 #include "ofd/ImageStore.h"
 
+#include <atomic>
 #include <map>
 
 class QPainter;
 
 namespace Ofd {
 
-/** Paints the pages of one document. Each thread needs its own, because of the fonts. */
+/**
+ * Paints the pages of one document. Every thread needs a painter of its own; painters of the same
+ * document wait for each other.
+ */
 class Painter
 {
 public:
     explicit Painter(std::shared_ptr<const Document> document);
 
     const Document &document() const { return *m_document; }
+    std::shared_ptr<const Document> sharedDocument() const { return m_document; }
     FontSet &fonts() { return m_fonts; }
 
-    /** Paints the content of a page, without paper, in millimetres from its top left corner. */
-    void paint(QPainter &painter, int page);
+    /**
+     * Paints the content of a page, without paper, in millimetres from its top left corner. Ends
+     * early once @p isAbandoned is true, which another thread may set.
+     */
+    void paint(QPainter &painter, int page, const std::atomic_bool *isAbandoned = nullptr);
 
     /** How many embedded files of each kind cannot be painted. */
     QMap<QString, int> unpaintable() const;
@@ -49,6 +57,7 @@ private:
     ImageStore m_images;
     /** Of the seals that are documents themselves. */
     std::map<const Document *, std::unique_ptr<Painter>> m_drawings;
+    const std::atomic_bool *m_isAbandoned = nullptr; ///< Valid during paint().
 };
 
 } // namespace Ofd

@@ -67,7 +67,10 @@ QTransform Values::matrix(const QString &text)
     const QVector<qreal> v = numbers(text);
     if (v.size() != 6)
         return QTransform();
-    return QTransform(v.at(0), v.at(1), v.at(2), v.at(3), v.at(4), v.at(5));
+    const QTransform matrix(v.at(0), v.at(1), v.at(2), v.at(3), v.at(4), v.at(5));
+    // Computed here, because Qt keeps it without protection and several threads read the matrix.
+    matrix.type();
+    return matrix;
 }
 
 QPointF Values::point(const QString &text, QPointF otherwise)

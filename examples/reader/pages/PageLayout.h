@@ -3,8 +3,10 @@
 
 #pragma once
 
-#include <QList>
 #include <QRectF>
+#include <QVector>
+
+#include <functional>
 
 enum class LayoutMode
 {
@@ -36,14 +38,20 @@ struct PageLayout
         QRectF rect;
     };
 
-    QList<Place> places;
-    QSizeF desk; ///< The scrolled surface; at least as large as the view.
+    QVector<Place> places; ///< In the order of the pages, none of which is left out.
+    QVector<qreal> tops;   ///< Of the rows.
+    int perRow = 1;        ///< The last row may have fewer pages.
+    QSizeF desk;           ///< The scrolled surface; at least as large as the view.
 
-    /** The layout of pages of these sizes; only those that the mode shows at once have a place. */
-    static PageLayout of(LayoutMode mode, const QList<QSizeF> &sizes, int currentPage, QSizeF view);
+    /** The layout of the pages that the mode shows at once; the size is asked only for these. */
+    static PageLayout of(LayoutMode mode, int pageCount,
+                         const std::function<QSizeF(int page)> &sizeOf, int currentPage,
+                         QSizeF view);
 
     /** The rectangle of a page; null if the layout does not show it. */
     QRectF rectOf(int page) const;
+    /** The places in the rows between two heights, and in one more row on each side. */
+    QVector<Place> placesAround(qreal top, qreal bottom) const;
     /** The page with the largest area inside a part of the surface; -1 if there is none. */
     int mainPageOf(const QRectF &part) const;
 };

@@ -3,9 +3,6 @@
 
 #include "pages/PageView.h"
 
-#include "pages/MarkPainter.h"
-
-#include <QPainter>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QStyle>
@@ -31,6 +28,7 @@ PageView::PageView(const Document &document, QWidget *parent)
     setTool(PageTool::of(QString()));
     connect(&document, &Document::pagesChanged, this, &PageView::documentChanged);
     connect(&document, &Document::turned, this, &PageView::documentTurned);
+    connect(&m_cache, &PageCache::changed, viewport(), QOverload<>::of(&QWidget::update));
     connect(&document, &Document::marksChanged, viewport(), QOverload<>::of(&QWidget::update));
 }
 
@@ -41,7 +39,9 @@ void PageView::setCurrentPage(int page)
     page = std::clamp(page, 0, m_document.pageCount() - 1);
     const bool isNew = page != m_currentPage;
     m_currentPage = page;
-    layOut();
+    // In a flow every page has its place already; there may be thousands.
+    if (!isFlow(m_layoutMode))
+        layOut();
     showTopOf(page);
     if (isNew)
         Q_EMIT currentPageChanged(page);
@@ -174,13 +174,12 @@ QSizeF PageView::turned(QSizeF size) const
     return m_document.quarters() % 2 ? size.transposed() : size;
 }
 
-QList<QSizeF> PageView::turnedSizes() const
+PageLayout PageView::layoutAround(int page, QSizeF view) const
 {
-    const qreal factor = scale();
-    QList<QSizeF> sizes;
-    for (int page = 0; page < m_document.pageCount(); ++page)
-        sizes.append(turned(m_document.sizeOf(page)) * factor);
-    return sizes;
+    const auto sizeOf = [this, factor = scale()](int index) {
+        return turned(m_document.sizeOf(index)) * factor;
+    };
+    return PageLayout::of(m_layoutMode, m_document.pageCount(), sizeOf, page, view);
 }
 
 /** The size that a fitting mode fits into the view: a row of pages without gaps, in page units. */
@@ -229,7 +228,8 @@ PageView::PagePoint PageView::pagePointAt(QPoint position) const
     const QPointF onDesk = QPointF(position) + scrollOffset();
     const PageLayout::Place *nearest = nullptr;
     qreal smallest = 0;
-    for (const PageLayout::Place &place : m_layout.places) {
+    const QVector<PageLayout::Place> places = m_layout.placesAround(onDesk.y(), onDesk.y());
+    for (const PageLayout::Place &place : places) {
         const QPointF away = place.rect.center() - onDesk;
         const qreal dx = std::max(0.0, std::abs(away.x()) - place.rect.width() / 2);
         const qreal dy = std::max(0.0, std::abs(away.y()) - place.rect.height() / 2);
@@ -251,20 +251,16 @@ QPoint PageView::scrollOffset() const
 void PageView::layOut()
 {
     const QScopedValueRollback<bool> guard(m_scrollsItself, true);
-    const QList<QSizeF> sizes = turnedSizes();
-    const auto layOutIn = [&](QSizeF view) {
-        m_layout = PageLayout::of(m_layoutMode, sizes, m_currentPage, view);
-    };
     const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
     // A fitted page may exceed the view by a rounding error.
     constexpr qreal hair = 0.5;
     QSizeF view = maximumViewportSize();
-    layOutIn(view);
+    m_layout = layoutAround(m_currentPage, view);
     if (m_layout.desk.height() > view.height() + hair)
         view.rwidth() -= bar;
     if (m_layout.desk.width() > view.width() + hair)
         view.rheight() -= bar;
-    layOutIn(view);
+    m_layout = layoutAround(m_currentPage, view);
     horizontalScrollBar()->setPageStep(int(view.width()));
     verticalScrollBar()->setPageStep(int(view.height()));
     horizontalScrollBar()->setRange(0, int(m_layout.desk.width() - view.width()));
@@ -338,61 +334,4 @@ void PageView::scrollContentsBy(int, int)
         m_currentPage = page;
         Q_EMIT currentPageChanged(page);
     }
-}
-
-void PageView::paintEvent(QPaintEvent *)
-{
-    QPainter painter(viewport());
-    painter.fillRect(viewport()->rect(), colours().desk);
-    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
-    if (!m_document.isOpen()) {
-        paintHint(painter);
-        return;
-    }
-    const QRectF visible(scrollOffset(), viewport()->size());
-    for (const PageLayout::Place &place : m_layout.places) {
-        if (place.rect.intersects(visible))
-            paintPlace(painter, place);
-    }
-}
-
-PageColours PageView::colours() const
-{
-    PageColours colours = PageColours::of(m_background);
-    // A light desk would blind beside dark panels; a chosen background stays what it is.
-    const QColor window = palette().color(QPalette::Window);
-    if (m_background == Background_Default && window.lightness() < 128)
-        colours.desk = window.darker(150);
-    return colours;
-}
-
-void PageView::paintPlace(QPainter &painter, const PageLayout::Place &place)
-{
-    painter.save();
-    const QRectF sheet = place.rect.translated(-QPointF(scrollOffset()));
-    painter.fillRect(sheet.translated(2, 2), QColor(0, 0, 0, 50));
-    painter.setClipRect(sheet);
-    const PageColours colours = this->colours();
-    const PageContent *content = m_document.contentOf(place.page);
-    if (content)
-        m_cache.paint(painter,
-                      {content, m_document.sizeOf(place.page), scale(), m_document.quarters()},
-                      sheet, colours);
-    painter.setTransform(pageTransform(place), true);
-    if (!content)
-        paintSheet(painter, m_document, place.page, colours, m_decoration);
-    paintOver(painter, m_document, place.page, colours, m_decoration);
-    if (m_drag.isActive && m_drag.start.page == place.page && !m_drag.mark.points.isEmpty())
-        paintMark(painter, m_drag.mark);
-    painter.restore();
-}
-
-void PageView::paintHint(QPainter &painter)
-{
-    QFont font = painter.font();
-    font.setPointSizeF(font.pointSizeF() * 1.4);
-    painter.setFont(font);
-    painter.setPen(colours().desk.lightness() < 128 ? QColor(Qt::white) : colours().ink);
-    painter.drawText(viewport()->rect(), Qt::AlignCenter,
-                     tr("没有打开的文档\n按 Ctrl+O 打开一个文件"));
 }

@@ -54,6 +54,9 @@ public:
     bool areRevisionsVisible() const { return m_decoration.revisionsVisible; }
     void setRevisionsVisible(bool visible);
 
+    /** Whether the pages were painted in full quality; otherwise they will be soon. */
+    bool isSharp() const { return m_cache.isSharp(); }
+
 Q_SIGNALS:
     void currentPageChanged(int page);
     /** The zoom mode or its percentage has changed. */
@@ -97,7 +100,7 @@ private:
     qreal scale() const { return percent() / 100 * screenFactor(); }
     QSizeF turned(QSizeF size) const;
     QSizeF fittedSize() const;
-    QList<QSizeF> turnedSizes() const;
+    PageLayout layoutAround(int page, QSizeF view) const;
     QSizeF fittingArea() const;
     QTransform pageTransform(const PageLayout::Place &place) const;
     PagePoint pagePointAt(QPoint position) const;
@@ -109,6 +112,8 @@ private:
     void documentChanged();
     void documentTurned();
     void paintPlace(QPainter &painter, const PageLayout::Place &place);
+    void prepareNext(const QRectF &visible);
+    PageCache::Sheet sheetOf(int page) const;
     void paintHint(QPainter &painter);
     PageColours colours() const;
 

@@ -3,6 +3,8 @@
 
 #include "shell/Screenshot.h"
 
+#include "pages/PageView.h"
+
 #include <QFileInfo>
 #include <QImageWriter>
 #include <QSaveFile>
@@ -37,7 +39,8 @@ void Screenshot::look()
         Q_EMIT failed(QStringLiteral("the window does not settle"));
         return;
     }
-    if (now.isNull() || now != m_last) {
+    const auto *view = m_window->findChild<PageView *>();
+    if (now.isNull() || now != m_last || (view && !view->isSharp())) {
         m_last = now;
         return;
     }

@@ -1,0 +1,295 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
+#include "document/Document.h"
+#include "pages/PageCache.h"
+#include "pages/PageView.h"
+
+#include <QPainter>
+#include <QScrollBar>
+#include <QSemaphore>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <ctime>
+
+namespace {
+
+constexpr qreal zoom = 2;
+constexpr QSizeF sheetSize(600, 800);
+
+/** What a painter in another thread was asked for, and how far it may go. */
+struct Work
+{
+    QMutex mutex;
+    QVector<QPair<int, QSize>> begun; ///< Page and size of the picture.
+    QSemaphore permits{1 << 20};
+    std::atomic_bool mustWaitForTheEnd{false};
+    std::atomic_int abandoned{0};
+
+    QVector<QPair<int, QSize>> all()
+    {
+        const QMutexLocker lock(&mutex);
+        return begun;
+    }
+};
+
+void paintLetters(QPainter &painter, int index)
+{
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(QColor::fromHsv(index * 40 % 360, 200, 200));
+    for (int i = 0; i < 20; ++i)
+        painter.drawEllipse(QPointF(30 + i * 28.3, 40 + i * 37.7), 20 + i, 11);
+}
+
+class TestPainter : public ContentPainter
+{
+public:
+    explicit TestPainter(Work &work)
+        : m_work(work)
+    {
+    }
+
+    void paint(QPainter &painter, int index, const std::atomic_bool &isAbandoned) override
+    {
+        {
+            const QMutexLocker lock(&m_work.mutex);
+            m_work.begun.append(
+                {index, QSize(painter.device()->width(), painter.device()->height())});
+        }
+        m_work.permits.acquire();
+        while (m_work.mustWaitForTheEnd && !isAbandoned)
+            QThread::msleep(1);
+        m_work.abandoned += isAbandoned ? 1 : 0;
+        paintLetters(painter, index);
+    }
+
+private:
+    Work &m_work;
+};
+
+class TestContent : public PageContent
+{
+public:
+    TestContent(Work &work, int index)
+        : m_work(work)
+        , m_index(index)
+    {
+    }
+
+    void paint(QPainter &painter) const override { paintLetters(painter, m_index); }
+    void readText(Page &) const override {}
+    MakeContentPainter painterMaker() const override
+    {
+        return [&work = m_work] { return std::make_unique<TestPainter>(work); };
+    }
+    int index() const override { return m_index; }
+
+private:
+    Work &m_work;
+    int m_index;
+};
+
+/** A page in a cache, as a view would draw it. */
+struct Desk
+{
+    explicit Desk(Work &work)
+        : work(work)
+    {
+    }
+
+    QImage draw(int page, qreal scale = zoom)
+    {
+        const TestContent content(work, page);
+        QImage image((sheetSize * scale).toSize(), QImage::Format_RGB32);
+        image.fill(Qt::gray);
+        QPainter painter(&image);
+        painter.setClipRect(image.rect());
+        const PageColours colours = PageColours::of(Background_Default);
+        cache.draw(painter, {&content, sheetSize, scale, 0, 1, colours}, image.rect());
+        cache.request();
+        return image;
+    }
+
+    static QImage direct(int page, qreal scale = zoom)
+    {
+        QImage image((sheetSize * scale).toSize(), QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        painter.scale(scale, scale);
+        paintLetters(painter, page);
+        return image;
+    }
+
+    Work &work;
+    PageCache cache;
+};
+
+/** The mean difference of the channels; a blurred picture is near, and an empty one is far. */
+qreal distance(const QImage &a, const QImage &b)
+{
+    qint64 sum = 0;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x)
+            sum += qAbs(qGreen(a.pixel(x, y)) - qGreen(b.pixel(x, y)));
+    }
+    return qreal(sum) / a.width() / a.height();
+}
+
+QImage paper(qreal scale = zoom)
+{
+    QImage image((sheetSize * scale).toSize(), QImage::Format_RGB32);
+    image.fill(Qt::white);
+    return image;
+}
+
+/** Processor time of this thread in milliseconds, which other programs do not lengthen. */
+qreal threadTime()
+{
+    timespec now;
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+    return now.tv_sec * 1e3 + now.tv_nsec / 1e6;
+}
+
+} // namespace
+
+/** Pages that are painted in another thread while the view shows what it has. */
+class PaintingTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void shouldShowASmallPictureAndThenTheDirectPainting()
+    {
+        Work work;
+        Desk desk(work);
+        work.permits.acquire(work.permits.available() - 1);
+        QSignalSpy changed(&desk.cache, &PageCache::changed);
+        QCOMPARE(desk.draw(1), paper());
+        QTRY_COMPARE(changed.size(), 1);
+        const QImage wanted = Desk::direct(1);
+        const QImage blurred = desk.draw(1);
+        QVERIFY(!desk.cache.isSharp());
+        QVERIFY(blurred != wanted);
+        QVERIFY(distance(blurred, wanted) < distance(paper(), wanted) / 4);
+
+        work.permits.release(1 << 10);
+        QTRY_VERIFY((desk.draw(1), desk.cache.isSharp()));
+        QCOMPARE(desk.draw(1), wanted);
+    }
+
+    void shouldShowTheEarlierScaleUntilTheNewOneIsPainted()
+    {
+        Work work;
+        Desk desk(work);
+        QTRY_VERIFY((desk.draw(1), desk.cache.isSharp()));
+        work.permits.acquire(work.permits.available());
+        const QImage wanted = Desk::direct(1, 1.5 * zoom);
+        const QImage scaled = desk.draw(1, 1.5 * zoom);
+        QVERIFY(!desk.cache.isSharp());
+        QVERIFY(distance(scaled, wanted) < distance(paper(1.5 * zoom), wanted) / 10);
+        work.permits.release(1 << 10);
+    }
+
+    void shouldNotPaintWhatWasScrolledAway()
+    {
+        Work work;
+        Desk desk(work);
+        work.mustWaitForTheEnd = true;
+        desk.draw(1);
+        QTRY_COMPARE(work.all().size(), 1);
+        desk.draw(2);
+        QTRY_COMPARE(work.abandoned.load(), 1);
+        work.mustWaitForTheEnd = false;
+        QTRY_VERIFY((desk.draw(2), desk.cache.isSharp()));
+        QCOMPARE(desk.draw(2), Desk::direct(2));
+        const auto begun = work.all();
+        for (int i = 1; i < begun.size(); ++i)
+            QCOMPARE(begun.at(i).first, 2);
+    }
+
+    void shouldPaintAnAbandonedTileAgainWhenItIsWantedAgain()
+    {
+        Work work;
+        Desk desk(work);
+        work.permits.acquire(work.permits.available());
+        desk.draw(1);
+        QTRY_COMPARE(work.all().size(), 1);
+        desk.draw(2);
+        desk.draw(1);
+        work.permits.release(1 << 10);
+        QTRY_VERIFY((desk.draw(1), desk.cache.isSharp()));
+        QCOMPARE(work.all().at(1), work.all().at(0));
+    }
+
+    void shouldUseNothingOfAClosedDocument()
+    {
+        Work work;
+        Desk desk(work);
+        work.mustWaitForTheEnd = true;
+        desk.draw(1);
+        QTRY_COMPARE(work.all().size(), 1);
+        const QPointer<TilePainter> painter = desk.cache.findChild<TilePainter *>();
+        QSignalSpy changed(&desk.cache, &PageCache::changed);
+        desk.cache.clear();
+        QTRY_VERIFY(!painter);
+        QCOMPARE(work.abandoned.load(), 1);
+        QVERIFY(changed.isEmpty());
+        work.permits.acquire(work.permits.available());
+        QCOMPARE(desk.draw(1), paper());
+        work.mustWaitForTheEnd = false;
+        work.permits.release(1 << 10);
+    }
+
+    void shouldEndWhilePainting()
+    {
+        Work work;
+        work.mustWaitForTheEnd = true;
+        {
+            Desk desk(work);
+            desk.draw(1);
+            QTRY_COMPARE(work.all().size(), 1);
+        }
+        QCOMPARE(work.abandoned.load(), 1);
+        QCOMPARE(work.all().size(), 1);
+    }
+
+    void shouldScrollThousandsOfPagesWithoutEffort()
+    {
+        constexpr int pages = 10000;
+        constexpr int steps = 300;
+        Work work;
+        Document document;
+        for (int i = 0; i < pages; ++i) {
+            Page page;
+            page.content = std::make_shared<TestContent>(work, i);
+            document.insertPage(i, page, QString());
+        }
+        PageView view(document);
+        view.resize(1200, 900);
+        view.setZoomMode(ZoomMode(100));
+        view.setLayoutMode(LayoutMode::SingleFlow);
+        view.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&view));
+        QTRY_VERIFY(view.isSharp());
+
+        qreal longest = 0;
+        qreal sum = 0;
+        for (int step = 0; step < steps; ++step) {
+            const qreal start = threadTime();
+            view.verticalScrollBar()->setValue(step * 4321 + step % 7 * 120);
+            QCoreApplication::processEvents();
+            const qreal spent = threadTime() - start;
+            longest = qMax(longest, spent);
+            sum += spent;
+        }
+        qInfo("a step takes %.2f ms, at most %.2f ms", sum / steps, longest);
+        QVERIFY(sum / steps < 16);
+        view.setCurrentPage(pages - 1);
+        QTRY_VERIFY(view.isSharp());
+        QCOMPARE(work.all().last().first, pages - 1);
+    }
+};
+
+QTEST_MAIN(PaintingTest)
+#include "tst_painting.moc"
