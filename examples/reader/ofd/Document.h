@@ -8,6 +8,7 @@
 #include "ofd/Table.h"
 
 #include <QPair>
+#include <QSet>
 #include <QStringList>
 
 #include <mutex>
@@ -30,6 +31,7 @@ struct Resources
     Table<Font> fonts;
     Table<QString> images; ///< Their entries in the package.
     QHash<QString, std::shared_ptr<const Objects>> composites;
+    QSet<QString> namedComposites; ///< Those of pages, too; used while a page is read.
 };
 
 struct Document;

@@ -85,9 +85,9 @@ void ObjectReader::readOne(Objects &objects, const XmlElement &element, const St
     else if (element.is("PathObject"))
         object.content = pathOf(element);
     else if (element.is("ImageObject"))
-        object.content = Image{element.attribute("ResourceID")};
+        object.content = imageOf(element);
     else if (element.is("CompositeObject"))
-        object.content = Composite{element.attribute("ResourceID")};
+        object.content = Composite{reference(element, "ResourceID", m_resources.namedComposites)};
     else
         return countUnknown(element);
     objects.append(object);
@@ -97,6 +97,15 @@ void ObjectReader::countUnknown(const XmlElement &element)
 {
     const bool isVideo = element.is("VideoObject");
     ++m_unsupported[isVideo ? Wording::tr("音频和视频") : Wording::tr("未知的图元")];
+}
+
+template <typename Table>
+QString ObjectReader::reference(const XmlElement &element, const char *name, const Table &table)
+{
+    const QString id = element.attribute(name);
+    if (!id.isEmpty() && !table.contains(id))
+        ++m_unsupported[Wording::tr("缺失的资源")];
+    return id;
 }
 
 Object ObjectReader::blockOf(const XmlElement &element, const Style &wider)
@@ -114,6 +123,7 @@ Object ObjectReader::common(const XmlElement &element, const Style &wider)
     object.boundary = Values::box(element.attribute("Boundary"));
     object.matrix = Values::matrix(element.attribute("CTM"));
     object.style = m_styles.read(element, wider);
+    reference(element, "DrawParam", m_styles);
     object.alpha = alphaOf(element);
     object.clips = clipsOf(element, object.placement());
     return object;
@@ -122,7 +132,7 @@ Object ObjectReader::common(const XmlElement &element, const Style &wider)
 Text ObjectReader::textOf(const XmlElement &element)
 {
     Text text;
-    text.font = element.attribute("Font");
+    text.font = reference(element, "Font", m_resources.fonts);
     text.size = Values::number(element.attribute("Size"), 0);
     if (text.size < 0 || text.size > Limits::fontSize)
         throw Fault{Wording::tr("字号 %1 超出范围。").arg(text.size)};
@@ -147,10 +157,31 @@ Text ObjectReader::textOf(const XmlElement &element)
     return text;
 }
 
-Path ObjectReader::pathOf(const XmlElement &element) const
+Image ObjectReader::imageOf(const XmlElement &element)
+{
+    Image image;
+    image.resource = reference(element, "ResourceID", m_resources.images);
+    image.substitute = reference(element, "Substitution", m_resources.images);
+    image.mask = reference(element, "ImageMask", m_resources.images);
+    const XmlElement *border = element.child("Border");
+    if (!border)
+        return image;
+    // The name without the "t" is that of the standard.
+    QString across = border->attribute("HorizonalCornerRadius");
+    if (across.isEmpty())
+        across = border->attribute("HorizontalCornerRadius");
+    const qreal down = Values::number(border->attribute("VerticalCornerRadius"), 0);
+    image.border = {m_styles.readBorder(*border), {Values::number(across, 0), down}};
+    return image;
+}
+
+Path ObjectReader::pathOf(const XmlElement &element)
 {
     Path path;
-    path.path = pathFromData(element.childText("AbbreviatedData"));
+    bool isWhole = true;
+    path.path = pathFromData(element.childText("AbbreviatedData"), &isWhole);
+    if (!isWhole)
+        ++m_unsupported[Wording::tr("残缺的图形")];
     const bool isEvenOdd = element.attribute("Rule") == QLatin1String("Even-Odd");
     path.path.setFillRule(isEvenOdd ? Qt::OddEvenFill : Qt::WindingFill);
     path.isFilled = element.flag("Fill", false);

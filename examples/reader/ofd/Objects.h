@@ -75,9 +75,19 @@ struct Path
     bool isStroked = true;
 };
 
+/** The frame of a picture, inside of its edges. */
+struct Border
+{
+    Style line;
+    QSizeF cornerRadii;
+};
+
 struct Image
 {
     QString resource;
+    QString substitute; ///< Painted instead of a resource that cannot be; empty if there is none.
+    QString mask;       ///< A picture that is white where this one is visible; may be empty.
+    std::optional<Border> border;
 };
 
 struct Composite

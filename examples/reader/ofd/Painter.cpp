@@ -4,6 +4,8 @@
 #include "ofd/Painter.h"
 
 #include "ofd/DensePath.h"
+#include "ofd/Fault.h"
+#include "ofd/ImageMask.h"
 #include "ofd/Limits.h"
 #include "ofd/PaintLayer.h"
 #include "ofd/PathData.h"
@@ -69,11 +71,21 @@ QPen visiblePen(const QPainter &painter, const Style &style, const QPainterPath 
     return pen;
 }
 
-/** Lengths of the sides of the unit square on the device. */
-QSizeF deviceSize(const QTransform &transform)
+/** Lengths of the sides of the unit square under a transform. */
+QSizeF sizeOf(const QTransform &transform)
 {
     return QSizeF(std::hypot(transform.m11(), transform.m12()),
                   std::hypot(transform.m21(), transform.m22()));
+}
+
+/** The shape of a picture of that size, inset on all sides. */
+QPainterPath frameOf(QSizeF size, const Border &border, qreal inset)
+{
+    const QRectF frame = QRectF(QPointF(), size).adjusted(inset, inset, -inset, -inset);
+    const QSizeF radii = border.cornerRadii - QSizeF(inset, inset);
+    QPainterPath path;
+    path.addRoundedRect(frame, std::max(0.0, radii.width()), std::max(0.0, radii.height()));
+    return path;
 }
 
 /**
@@ -108,6 +120,15 @@ void strokePath(QPainter &painter, const QPainterPath &path, const QPen &pen)
         DensePath::stroke(painter, path, pen);
     else
         painter.strokePath(path, pen);
+}
+
+void paintBorder(QPainter &painter, const Border &border, QSizeF size)
+{
+    const qreal width = border.line.pen().widthF();
+    if (width <= 0)
+        return;
+    const QPainterPath frame = frameOf(size, border, width / 2);
+    strokePath(painter, frame, visiblePen(painter, border.line, frame));
 }
 
 QPainterPath outlinesOf(const QVector<PlacedGlyph> &glyphs)
@@ -212,7 +233,8 @@ bool Painter::hasParts(const Object &object)
         return path->isFilled && path->isStroked && object.style.fill;
     if (const auto *text = std::get_if<Text>(&object.content))
         return (text->isStroked && object.style.stroke) || m_fonts.faceOf(*text).lacksBold();
-    return !std::holds_alternative<Image>(object.content);
+    const auto *image = std::get_if<Image>(&object.content);
+    return !image || image->border;
 }
 
 QRectF Painter::areaOf(const QPainter &painter, const Object &object)
@@ -304,14 +326,36 @@ void Painter::paintContent(QPainter &painter, const Object &object, const Text &
 void Painter::paintContent(QPainter &painter, const Object &object, const Image &image)
 {
     // Without a matrix the picture would be one millimetre wide; writers mean the whole boundary.
-    if (object.matrix.isIdentity())
-        painter.scale(object.boundary.width(), object.boundary.height());
+    const bool isWhole = object.matrix.isIdentity();
+    const QSizeF size = isWhole ? object.boundary.size() : sizeOf(object.matrix);
+    if (isWhole)
+        painter.scale(size.width(), size.height());
     const QRectF square(0, 0, 1, 1);
-    if (!isOnDevice(painter, square))
+    if (size.isEmpty() || !isOnDevice(painter, square))
         return;
-    const QImage picture = m_images.image(image.resource, deviceSize(painter.deviceTransform()));
+    const QImage picture = pictureOf(image, sizeOf(painter.deviceTransform()));
+    const QTransform toSquare = QTransform::fromScale(1 / size.width(), 1 / size.height());
+    painter.save();
+    if (image.border)
+        painter.setClipPath(toSquare.map(frameOf(size, *image.border, 0)), Qt::IntersectClip);
     if (!picture.isNull())
         painter.drawImage(square, picture);
+    painter.restore();
+    painter.setTransform(toSquare, true);
+    if (image.border)
+        paintBorder(painter, *image.border, size);
+}
+
+QImage Painter::pictureOf(const Image &image, QSizeF target)
+{
+    QImage picture = m_images.image(image.resource, target);
+    if (picture.isNull())
+        picture = m_images.image(image.substitute, target);
+    if (image.mask.isEmpty() || picture.isNull())
+        return picture;
+    // A picture would hide what is under it where its mask is missing.
+    const QImage mask = m_images.image(image.mask, target);
+    return mask.isNull() ? QImage() : masked(picture, mask);
 }
 
 void Painter::paintContent(QPainter &painter, const Object &, const Composite &composite)

@@ -40,6 +40,7 @@ private:
     void paintAll(QPainter &painter, const Objects &objects);
     void paintOne(QPainter &painter, const Object &object);
     void paintClipped(QPainter &painter, const Object &object, int firstClip);
+    QImage pictureOf(const Image &image, QSizeF target);
     QPainterPath outlineOf(const Clip &clip);
     /** Whether the parts of an object would shine through each other if each was transparent. */
     bool hasParts(const Object &object);

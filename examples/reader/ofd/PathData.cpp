@@ -123,7 +123,7 @@ void append(QPainterPath &path, QChar command, const QVector<qreal> &v)
 
 } // namespace
 
-QPainterPath pathFromData(const QString &data)
+QPainterPath pathFromData(const QString &data, bool *isWhole)
 {
     QPainterPath path;
     qsizetype at = 0;
@@ -142,7 +142,10 @@ QPainterPath pathFromData(const QString &data)
         skipTo(isCommand);
         const QVector<qreal> values = Values::numbers(QStringView(data).mid(from, at - from));
         const int wanted = countOfNumbers(command);
-        if (wanted < 0 || values.size() < wanted)
+        const bool isKnown = wanted >= 0 && values.size() >= wanted;
+        if (isWhole)
+            *isWhole = isKnown;
+        if (!isKnown)
             break;
         append(path, command, values);
     }

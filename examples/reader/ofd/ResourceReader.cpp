@@ -93,6 +93,9 @@ void ResourceReader::finish(QHash<QString, std::shared_ptr<const Objects>> *comp
     m_styles.resolve();
     // Taken first, so that a composite that cannot be read does not stay for the next page.
     const std::vector<XmlElement> elements = std::exchange(m_composites, {});
+    // Composites may refer to later ones.
+    for (const XmlElement &element : elements)
+        m_resources.namedComposites.insert(element.attribute("ID"));
     for (const XmlElement &element : elements) {
         Objects objects;
         if (const XmlElement *content = element.child("Content"))

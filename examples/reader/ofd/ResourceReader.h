@@ -39,7 +39,7 @@ private:
     QMap<QString, int> &m_unsupported;
     ColourReader m_colours{m_unsupported};
     StyleReader m_styles{m_colours};
-    ObjectReader m_objects{m_styles, m_unsupported};
+    ObjectReader m_objects{m_styles, m_resources, m_unsupported};
     std::vector<XmlElement> m_composites; ///< Read by finish().
 };
 

@@ -93,7 +93,7 @@ Style StyleReader::read(const XmlElement &element, const Style &wider) const
     return own(element).over(referred).over(wider);
 }
 
-Style StyleReader::own(const XmlElement &element) const
+Style StyleReader::own(const XmlElement &element, const char *stroke) const
 {
     Style style;
     style.lineWidth = length(element, "LineWidth");
@@ -103,7 +103,7 @@ Style StyleReader::own(const XmlElement &element) const
     style.dashOffset = length(element, "DashOffset");
     style.dashes = dashes(element.attribute("DashPattern"));
     style.fill = m_colours.read(element, "FillColor");
-    style.stroke = m_colours.read(element, "StrokeColor");
+    style.stroke = m_colours.read(element, stroke);
     return style;
 }
 

@@ -27,8 +27,12 @@ public:
     /** The parameters of the element, then those it refers to, then those of @p wider. */
     Style read(const XmlElement &element, const Style &wider) const;
 
+    /** The line of an element that describes the frame of a picture. */
+    Style readBorder(const XmlElement &border) const { return own(border, "BorderColor"); }
+    bool contains(const QString &parameters) const { return m_parameters.contains(parameters); }
+
 private:
-    Style own(const XmlElement &element) const;
+    Style own(const XmlElement &element, const char *stroke = "StrokeColor") const;
 
     struct Parameters
     {
