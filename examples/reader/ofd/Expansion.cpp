@@ -15,12 +15,24 @@ namespace Ofd {
 
 namespace {
 
+qint64 charactersOf(const Text &text)
+{
+    qint64 count = 0;
+    for (const TextRun &run : text.runs)
+        count += run.text.size();
+    return count;
+}
+
 qint64 ownCount(const Object &object)
 {
     qint64 count = 1;
+    for (const Clip &clip : object.clips) {
+        count += clip.path.elementCount();
+        for (const Clip::TextArea &area : clip.texts)
+            count += charactersOf(area.text);
+    }
     if (const auto *text = std::get_if<Text>(&object.content)) {
-        for (const TextRun &run : text->runs)
-            count += run.text.size();
+        count += charactersOf(*text);
     } else if (const auto *path = std::get_if<Path>(&object.content)) {
         count += path->path.elementCount();
     }

@@ -36,6 +36,8 @@ constexpr qreal fontSize = 2000;
 constexpr int dashes = 64;
 constexpr qreal dashPeriod = 0.01;
 constexpr qreal dashesPerPath = 50000;
+/** Further objects on the page are blended part by part. */
+constexpr int layersPerPage = 1000;
 constexpr qint64 imagePixels = 100LL * 1000 * 1000;
 /** Of a decoded picture. */
 constexpr qint64 imageBytes = 192LL << 20;

@@ -219,7 +219,7 @@ void ObjectReader::addArea(Clip &clip, const XmlElement &shape, const QTransform
     if (shape.is("Text"))
         clip.texts.append({textOf(shape), place});
     else if (shape.is("Path"))
-        clip.path = united(clip.path, place.map(pathOf(shape).path));
+        unite(clip.path, place.map(pathOf(shape).path));
 }
 
 } // namespace Ofd

@@ -53,6 +53,8 @@ void PaintLayer::paint(QPainter &painter, const std::function<void(QPainter &)> 
 
     const qreal ratio = painter.device()->devicePixelRatioF();
     painter.save();
+    // Without it a PDF file would contain a JPEG.
+    painter.setRenderHint(QPainter::LosslessImageRendering);
     painter.setWorldTransform(QTransform());
     painter.drawImage(QRectF(QPointF(area.topLeft()) / ratio, QSizeF(area.size()) / ratio), layer);
     painter.restore();

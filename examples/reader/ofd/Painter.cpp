@@ -4,7 +4,6 @@
 #include "ofd/Painter.h"
 
 #include "ofd/DensePath.h"
-#include "ofd/Fault.h"
 #include "ofd/ImageMask.h"
 #include "ofd/Limits.h"
 #include "ofd/PaintLayer.h"
@@ -26,6 +25,7 @@ constexpr qreal leastLineWidth = 0.7;
 constexpr qreal boldStroke = 0.03;
 /** As a share of an em, how far the glyphs of a replaced font may exceed the boundary. */
 constexpr qreal replacedMargin = 0.25;
+constexpr int mostMaskedKilobytes = 64 << 10;
 
 qreal scaleOf(const QPainter &painter)
 {
@@ -148,6 +148,7 @@ Painter::Painter(std::shared_ptr<const Document> document)
     : m_document(std::move(document))
     , m_fonts(*m_document)
     , m_images(*m_document)
+    , m_masked(mostMaskedKilobytes)
 {
 }
 
@@ -161,6 +162,7 @@ QMap<QString, int> Painter::unpaintable() const
 
 void Painter::paint(QPainter &painter, int page, const std::atomic_bool *isAbandoned)
 {
+    m_layers = 0;
     painter.save();
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     m_shown = m_document->page(page);
@@ -220,7 +222,7 @@ void Painter::paintOne(QPainter &painter, const Object &object)
     painter.setOpacity(painter.opacity() * object.alpha);
     if (!area.isNull())
         clipTo(painter, area);
-    if (object.alpha < 1 && hasParts(object))
+    if (painter.opacity() < 1 && hasParts(object) && ++m_layers <= Limits::layersPerPage)
         PaintLayer::paint(painter, [&](QPainter &layer) { paintClipped(layer, object, 0); });
     else
         paintClipped(painter, object, 0);
@@ -233,8 +235,11 @@ bool Painter::hasParts(const Object &object)
         return path->isFilled && path->isStroked && object.style.fill;
     if (const auto *text = std::get_if<Text>(&object.content))
         return (text->isStroked && object.style.stroke) || m_fonts.faceOf(*text).lacksBold();
-    const auto *image = std::get_if<Image>(&object.content);
-    return !image || image->border;
+    if (const auto *image = std::get_if<Image>(&object.content))
+        return image->border.has_value();
+    if (const auto *group = std::get_if<Group>(&object.content))
+        return group->objects->size() > 1;
+    return true;
 }
 
 QRectF Painter::areaOf(const QPainter &painter, const Object &object)
@@ -279,7 +284,7 @@ QPainterPath Painter::outlineOf(const Clip &clip)
     for (const Clip::TextArea &area : clip.texts) {
         Face &face = m_fonts.faceOf(area.text);
         for (const TextRun &run : area.text.runs)
-            outline = united(outline, area.place.map(outlinesOf(layOut(area.text, run, face))));
+            unite(outline, area.place.map(outlinesOf(layOut(area.text, run, face))));
     }
     return outline;
 }
@@ -355,7 +360,14 @@ QImage Painter::pictureOf(const Image &image, QSizeF target)
         return picture;
     // A picture would hide what is under it where its mask is missing.
     const QImage mask = m_images.image(image.mask, target);
-    return mask.isNull() ? QImage() : masked(picture, mask);
+    if (mask.isNull())
+        return QImage();
+    const QPair<qint64, qint64> key(picture.cacheKey(), mask.cacheKey());
+    if (const QImage *known = m_masked.object(key))
+        return *known;
+    const QImage result = masked(picture, mask);
+    m_masked.insert(key, new QImage(result), 1 + int(result.sizeInBytes() >> 10));
+    return result;
 }
 
 void Painter::paintContent(QPainter &painter, const Object &, const Composite &composite)

@@ -59,6 +59,8 @@ private:
     /** Of the seals that are documents themselves. */
     std::map<const Document *, std::unique_ptr<Painter>> m_drawings;
     const std::atomic_bool *m_isAbandoned = nullptr; ///< Valid during paint().
+    QCache<QPair<qint64, qint64>, QImage> m_masked; ///< By the keys of the picture and its mask.
+    int m_layers = 0;                               ///< That the page needed so far.
 };
 
 } // namespace Ofd

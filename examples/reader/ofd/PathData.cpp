@@ -36,9 +36,6 @@ int countOfNumbers(QChar command)
     }
 }
 
-/** Uniting takes time that grows with the number of crossings. */
-constexpr int mostUnitedPoints = 4000;
-
 struct Arc
 {
     qreal rx = 0;
@@ -48,6 +45,28 @@ struct Arc
     bool isClockwise = false;
     QPointF end;
 };
+
+/** Twice the area inside of the control points; negative for an anticlockwise path. */
+qreal signedArea(const QPainterPath &path)
+{
+    qreal area = 0;
+    QPointF start;
+    QPointF last;
+    const auto goTo = [&](QPointF next) {
+        area += last.x() * next.y() - last.y() * next.x();
+        last = next;
+    };
+    for (int i = 0; i < path.elementCount(); ++i) {
+        const QPainterPath::Element element = path.elementAt(i);
+        if (element.isMoveTo()) {
+            goTo(start);
+            start = last = element;
+        }
+        goTo(element);
+    }
+    goTo(start);
+    return area;
+}
 
 /** The centre of the unit circle through two points, on the side that the flags select. */
 QPointF centreBetween(QPointF from, QPointF to, bool isLarge, bool isClockwise)
@@ -152,15 +171,16 @@ QPainterPath pathFromData(const QString &data, bool *isWhole)
     return path;
 }
 
-QPainterPath united(const QPainterPath &one, const QPainterPath &other)
+void unite(QPainterPath &path, const QPainterPath &other)
 {
-    if (one.isEmpty() || other.isEmpty())
-        return one.isEmpty() ? other : one;
-    if (one.elementCount() + other.elementCount() <= mostUnitedPoints)
-        return one.united(other);
-    QPainterPath both = one;
-    both.addPath(other);
-    return both;
+    const QPainterPath clockwise = signedArea(other) < 0 ? other.toReversed() : other;
+    if (path.isEmpty()) {
+        path = clockwise;
+        path.setFillRule(other.fillRule());
+        return;
+    }
+    path.setFillRule(Qt::WindingFill);
+    path.addPath(clockwise);
 }
 
 } // namespace Ofd

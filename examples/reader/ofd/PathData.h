@@ -15,7 +15,10 @@ namespace Ofd {
  */
 QPainterPath pathFromData(const QString &data, bool *isWhole = nullptr);
 
-/** What is inside of any of the two; very long paths are joined by a faster and coarser rule. */
-QPainterPath united(const QPainterPath &one, const QPainterPath &other);
+/**
+ * Adds the inside of the other path. This takes far less time than QPainterPath::united(), but of
+ * two paths the holes by the rule Qt::OddEvenFill are filled.
+ */
+void unite(QPainterPath &path, const QPainterPath &other);
 
 } // namespace Ofd
