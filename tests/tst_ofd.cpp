@@ -157,7 +157,7 @@ QImage expected(const Ofd::Object &object)
         painter.setClipPath(clip.path, Qt::IntersectClip);
     const auto &path = std::get<Ofd::Path>(object.content);
     if (path.isFilled)
-        painter.fillPath(path.path, object.style.fillBrush());
+        painter.fillPath(path.path, std::get<QBrush>(object.style.fillPaint()));
     if (path.isStroked)
         painter.strokePath(path.path, object.style.pen());
     return image;

@@ -3,6 +3,9 @@
 
 #include "ofd/ColourReader.h"
 
+#include "ofd/Limits.h"
+#include "ofd/Pattern.h"
+#include "ofd/ShadingReader.h"
 #include "ofd/Values.h"
 #include "ofd/Wording.h"
 
@@ -15,11 +18,9 @@ namespace {
 
 constexpr int mostBits = 16;
 
-QGradient::Spread spreadOf(const QString &mapType)
+qreal alphaOf(const XmlElement &colour)
 {
-    if (mapType == QLatin1String("Repeat"))
-        return QGradient::RepeatSpread;
-    return mapType == QLatin1String("Reflect") ? QGradient::ReflectSpread : QGradient::PadSpread;
+    return std::clamp(Values::number(colour.attribute("Alpha"), 255) / 255, 0.0, 1.0);
 }
 
 } // namespace
@@ -39,23 +40,62 @@ void ColourReader::addSpace(const XmlElement &element)
     m_spaces.insert(element.attribute("ID"), space);
 }
 
-std::optional<QBrush> ColourReader::read(const XmlElement &parent, const char *name) const
+std::optional<Paint> ColourReader::read(const XmlElement &parent, const char *name) const
 {
     const XmlElement *colour = parent.child(name);
     if (!colour)
         return std::nullopt;
-    if (const XmlElement *shade = colour->child("AxialShd"))
-        return gradientOf(*shade, false);
-    if (const XmlElement *shade = colour->child("RadialShd"))
-        return gradientOf(*shade, true);
-    if (!colour->children.empty()) {
-        const QString kind =
-            colour->child("Pattern") ? Wording::tr("图案填充") : Wording::tr("网格渐变");
-        ++m_unsupported[kind];
-        if (colour->attribute("Value").isEmpty())
-            return QBrush(Qt::NoBrush);
-    }
-    return QBrush(colourOf(*colour));
+    if (colour->children.empty())
+        return flat(*colour);
+    return colour->child("Pattern") ? patternOf(*colour) : shadingOf(*colour);
+}
+
+Paint ColourReader::flat(const XmlElement &colour) const
+{
+    return QBrush(colourOf(colour));
+}
+
+Paint ColourReader::shadingOf(const XmlElement &colour) const
+{
+    const qreal alpha = alphaOf(colour);
+    const auto basic = [&](const XmlElement &element) {
+        QColor part = colourOf(element);
+        part.setAlphaF(float(part.alphaF() * alpha));
+        return part;
+    };
+    if (const auto shading = ShadingReader::read(colour.children.front(), basic))
+        return shading;
+    return without(colour, Wording::tr("无法绘制的渐变"));
+}
+
+Paint ColourReader::patternOf(const XmlElement &colour) const
+{
+    const XmlElement &element = *colour.child("Pattern");
+    auto pattern = std::make_shared<Pattern>();
+    pattern->size = QSizeF(Values::number(element.attribute("Width"), 0),
+                           Values::number(element.attribute("Height"), 0));
+    const XmlElement *content = element.child("CellContent");
+    if (!content || !m_readCell || pattern->size.width() < Limits::patternSide
+        || pattern->size.height() < Limits::patternSide)
+        return without(colour, Wording::tr("无法绘制的底纹"));
+    const QSizeF step(Values::number(element.attribute("XStep"), 0),
+                      Values::number(element.attribute("YStep"), 0));
+    pattern->step = step.expandedTo(pattern->size);
+    const QString method = element.attribute("ReflectMethod");
+    const bool isBoth = method == QLatin1String("RowAndColumn");
+    pattern->mirrorsColumns = isBoth || method == QLatin1String("Row");
+    pattern->mirrorsRows = isBoth || method == QLatin1String("Column");
+    pattern->isRelativeToPage = element.attribute("RelativeTo") == QLatin1String("Page");
+    pattern->matrix = Values::matrix(element.attribute("CTM"));
+    pattern->alpha = alphaOf(colour);
+    pattern->cell = m_readCell(*content);
+    return std::shared_ptr<const Pattern>(pattern);
+}
+
+Paint ColourReader::without(const XmlElement &colour, const QString &kind) const
+{
+    ++m_unsupported[kind];
+    return colour.attribute("Value").isEmpty() ? Paint(QBrush(Qt::NoBrush)) : flat(colour);
 }
 
 QColor ColourReader::colourOf(const XmlElement &element) const
@@ -69,8 +109,7 @@ QColor ColourReader::colourOf(const XmlElement &element) const
     if (values.isEmpty() && !index.isEmpty())
         values = space.palette.value(int(Values::number(index, 0)));
     QColor colour = colourOf(values, space);
-    const qreal alpha = Values::number(element.attribute("Alpha"), 255);
-    colour.setAlphaF(float(std::clamp(alpha / 255, 0.0, 1.0)));
+    colour.setAlphaF(float(alphaOf(element)));
     return colour;
 }
 
@@ -84,38 +123,6 @@ QColor ColourReader::colourOf(const QVector<qreal> &values, const Space &space) 
     if (values.size() == 4)
         return QColor::fromCmykF(part(0), part(1), part(2), part(3)).toRgb();
     return QColor::fromRgbF(part(0), part(1), part(2));
-}
-
-QBrush ColourReader::gradientOf(const XmlElement &shade, bool isRadial) const
-{
-    const QPointF start = Values::point(shade.attribute("StartPoint"), QPointF());
-    const QPointF end = Values::point(shade.attribute("EndPoint"), start);
-    if (!isRadial) {
-        QLinearGradient gradient(start, end);
-        addStops(gradient, shade);
-        return gradient;
-    }
-    const qreal startRadius = Values::number(shade.attribute("StartRadius"), 0);
-    const qreal endRadius = Values::number(shade.attribute("EndRadius"), 0);
-    QRadialGradient gradient(end, std::max(0.0, endRadius), start, std::max(0.0, startRadius));
-    addStops(gradient, shade);
-    return gradient;
-}
-
-void ColourReader::addStops(QGradient &gradient, const XmlElement &shade) const
-{
-    gradient.setSpread(spreadOf(shade.attribute("MapType")));
-    QVector<const XmlElement *> segments;
-    for (const XmlElement &segment : shade.children) {
-        if (segment.is("Segment") && segment.child("Color"))
-            segments.append(&segment);
-    }
-    const qreal steps = std::max(1, int(segments.size()) - 1);
-    for (int i = 0; i < segments.size(); ++i) {
-        const qreal position = Values::number(segments.at(i)->attribute("Position"), i / steps);
-        gradient.setColorAt(std::clamp(position, 0.0, 1.0),
-                            colourOf(*segments.at(i)->child("Color")));
-    }
 }
 
 } // namespace Ofd

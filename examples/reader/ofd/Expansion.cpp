@@ -5,6 +5,7 @@
 
 #include "ofd/Fault.h"
 #include "ofd/Limits.h"
+#include "ofd/Pattern.h"
 #include "ofd/Wording.h"
 
 #include <QSet>
@@ -54,6 +55,9 @@ public:
         qint64 total = 0;
         for (const Object &object : objects) {
             total += ownCount(object);
+            if (std::holds_alternative<Path>(object.content)
+                || std::holds_alternative<Text>(object.content))
+                total += countOf(object.style.fill) + countOf(object.style.stroke);
             if (const auto *composite = std::get_if<Composite>(&object.content))
                 total += countOf(composite->resource);
             else if (const auto *group = std::get_if<Group>(&object.content))
@@ -83,10 +87,27 @@ public:
     }
 
 private:
+    qint64 countOf(const std::optional<Paint> &paint)
+    {
+        if (!paint || !std::holds_alternative<std::shared_ptr<const Pattern>>(*paint))
+            return 0;
+        const Pattern *pattern = std::get<std::shared_ptr<const Pattern>>(*paint).get();
+        if (m_patternCounts.contains(pattern))
+            return m_patternCounts.value(pattern);
+        if (++m_openPatterns > Limits::patternDepth)
+            throw Fault{Wording::tr("底纹嵌套过深。")};
+        const qint64 total = count(pattern->cell);
+        --m_openPatterns;
+        m_patternCounts.insert(pattern, total);
+        return total;
+    }
+
     const Document &m_document;
     const Page &m_page;
     QHash<QString, qint64> m_counts;
     QSet<QString> m_open;
+    QHash<const Pattern *, qint64> m_patternCounts;
+    int m_openPatterns = 0;
 };
 
 } // namespace

@@ -5,6 +5,8 @@
 
 #include <QtGlobal>
 
+#include <cstddef>
+
 /** The limits of what a file may contain. Ordinary documents stay far below all of them. */
 namespace Ofd::Limits {
 
@@ -38,6 +40,13 @@ constexpr qreal dashPeriod = 0.01;
 constexpr qreal dashesPerPath = 50000;
 /** Further objects on the page are blended part by part. */
 constexpr int layersPerPage = 1000;
+constexpr int gradientStops = 4096;
+constexpr std::size_t meshPoints = 300000;
+/** Of a picture that is computed for a shading or a pattern. */
+constexpr qreal shadingPixels = 4e6;
+/** In millimetres; cells of a smaller width or height are no pattern. */
+constexpr qreal patternSide = 1e-3;
+constexpr int patternDepth = 8;
 constexpr qint64 imagePixels = 100LL * 1000 * 1000;
 /** Of a decoded picture. */
 constexpr qint64 imageBytes = 192LL << 20;

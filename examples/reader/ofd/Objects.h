@@ -3,7 +3,8 @@
 
 #pragma once
 
-#include <QBrush>
+#include "ofd/Paint.h"
+
 #include <QPainterPath>
 #include <QPen>
 #include <QRectF>
@@ -27,12 +28,14 @@ struct Style
     std::optional<qreal> miterLimit;
     std::optional<qreal> dashOffset;
     std::optional<QVector<qreal>> dashes;
-    std::optional<QBrush> fill;
-    std::optional<QBrush> stroke;
+    std::optional<Paint> fill;
+    std::optional<Paint> stroke;
 
     /** These parameters, with unset ones taken from @p wider. */
     Style over(const Style &wider) const;
-    QBrush fillBrush() const { return fill.value_or(QBrush(Qt::black)); }
+    Paint fillPaint() const { return fill.value_or(QBrush(Qt::black)); }
+    Paint strokePaint() const { return stroke.value_or(QBrush(Qt::black)); }
+    /** Black, whatever strokePaint() is. */
     QPen pen() const;
 };
 

@@ -4,89 +4,28 @@
 #include "ofd/Painter.h"
 
 #include "ofd/DensePath.h"
-#include "ofd/ImageMask.h"
+#include "ofd/DeviceDrawing.h"
 #include "ofd/Limits.h"
 #include "ofd/PaintLayer.h"
 #include "ofd/PathData.h"
+#include "ofd/Pattern.h"
 #include "ofd/TextLayout.h"
 
 #include <QPainter>
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace Ofd {
 
 namespace {
 
-/** In device pixels; thinner lines would be visible at some zooms only. */
-constexpr qreal leastLineWidth = 0.7;
 /** As a share of an em, on each side of an outline that must look bold. */
 constexpr qreal boldStroke = 0.03;
 /** As a share of an em, how far the glyphs of a replaced font may exceed the boundary. */
 constexpr qreal replacedMargin = 0.25;
 constexpr int mostMaskedKilobytes = 64 << 10;
-
-qreal scaleOf(const QPainter &painter)
-{
-    return std::sqrt(std::abs(painter.deviceTransform().determinant()));
-}
-
-QRectF deviceRect(const QPainter &painter)
-{
-    return QRectF(0, 0, painter.device()->width() * painter.device()->devicePixelRatioF(),
-                  painter.device()->height() * painter.device()->devicePixelRatioF());
-}
-
-bool isOnDevice(const QPainter &painter, const QRectF &rect)
-{
-    // The rectangle of a straight line has no area and would intersect nothing.
-    const QRectF mapped = painter.deviceTransform().mapRect(rect).adjusted(-1, -1, 1, 1);
-    return mapped.intersects(deviceRect(painter));
-}
-
-/**
- * Clips to a rectangle that is extended to whole pixels, so that what ends at its edges stays as it
- * is. A turned one cannot be extended.
- */
-void clipTo(QPainter &painter, const QRectF &rect)
-{
-    const QTransform toDevice = painter.deviceTransform();
-    const bool isTurned = toDevice.type() > QTransform::TxScale;
-    const QRectF pixels((toDevice.mapRect(rect) & deviceRect(painter)).toAlignedRect());
-    painter.setClipRect(isTurned ? rect : toDevice.inverted().mapRect(pixels), Qt::IntersectClip);
-}
-
-QPen visiblePen(const QPainter &painter, const Style &style, const QPainterPath &path)
-{
-    QPen pen = style.pen();
-    const qreal scale = scaleOf(painter);
-    qreal period = 0;
-    for (const qreal length : style.dashes.value_or(QVector<qreal>()))
-        period += length;
-    if (period > 0 && path.length() / period > Limits::dashesPerPath)
-        pen.setStyle(Qt::SolidLine);
-    else if (scale > 0 && pen.widthF() * scale < leastLineWidth && period <= 0)
-        pen.setWidthF(leastLineWidth / scale);
-    return pen;
-}
-
-/** Lengths of the sides of the unit square under a transform. */
-QSizeF sizeOf(const QTransform &transform)
-{
-    return QSizeF(std::hypot(transform.m11(), transform.m12()),
-                  std::hypot(transform.m21(), transform.m22()));
-}
-
-/** The shape of a picture of that size, inset on all sides. */
-QPainterPath frameOf(QSizeF size, const Border &border, qreal inset)
-{
-    const QRectF frame = QRectF(QPointF(), size).adjusted(inset, inset, -inset, -inset);
-    const QSizeF radii = border.cornerRadii - QSizeF(inset, inset);
-    QPainterPath path;
-    path.addRoundedRect(frame, std::max(0.0, radii.width()), std::max(0.0, radii.height()));
-    return path;
-}
 
 /**
  * Fills each glyph separately in device coordinates, which takes Qt a tenth of the time for one
@@ -106,29 +45,10 @@ void fillGlyphs(QPainter &painter, const QVector<PlacedGlyph> &glyphs, const QBr
     painter.setWorldTransform(toWorld);
 }
 
-void fillPath(QPainter &painter, const QPainterPath &path, const QBrush &brush)
+/** By how much lines may exceed the path. */
+qreal marginOf(const QPen &pen)
 {
-    if (DensePath::isDense(painter, path))
-        DensePath::fill(painter, path, brush);
-    else
-        painter.fillPath(path, brush);
-}
-
-void strokePath(QPainter &painter, const QPainterPath &path, const QPen &pen)
-{
-    if (DensePath::isDense(painter, path))
-        DensePath::stroke(painter, path, pen);
-    else
-        painter.strokePath(path, pen);
-}
-
-void paintBorder(QPainter &painter, const Border &border, QSizeF size)
-{
-    const qreal width = border.line.pen().widthF();
-    if (width <= 0)
-        return;
-    const QPainterPath frame = frameOf(size, border, width / 2);
-    strokePath(painter, frame, visiblePen(painter, border.line, frame));
+    return pen.widthF() * std::max(1.0, pen.miterLimit());
 }
 
 QPainterPath outlinesOf(const QVector<PlacedGlyph> &glyphs)
@@ -179,27 +99,6 @@ void Painter::paint(QPainter &painter, int page, const std::atomic_bool *isAband
     for (const Stamp &stamp : stamps)
         paintStamp(painter, stamp);
     m_shown.reset();
-    painter.restore();
-}
-
-void Painter::paintStamp(QPainter &painter, const Stamp &stamp)
-{
-    if (!stamp.drawing) {
-        paintOne(painter, stamp.object);
-        return;
-    }
-    std::unique_ptr<Painter> &drawing = m_drawings[stamp.drawing.get()];
-    if (!drawing)
-        drawing = std::make_unique<Painter>(stamp.drawing);
-    const QRectF sheet(QPointF(), stamp.drawing->area(0).size());
-    const QSizeF size = stamp.object.boundary.size();
-    painter.save();
-    for (const Clip &clip : stamp.object.clips)
-        painter.setClipPath(clip.path, Qt::IntersectClip);
-    painter.setTransform(stamp.object.placement(), true);
-    painter.scale(size.width() / sheet.width(), size.height() / sheet.height());
-    painter.setClipRect(sheet, Qt::IntersectClip);
-    drawing->paint(painter, 0);
     painter.restore();
 }
 
@@ -274,8 +173,10 @@ void Painter::paintClipped(QPainter &painter, const Object &object, int firstCli
         painter.setClipPath(clip, Qt::IntersectClip);
     }
     painter.setTransform(object.placement(), true);
+    const QTransform outer = std::exchange(m_toPage, object.placement() * m_toPage);
     std::visit([&](const auto &content) { paintContent(painter, object, content); },
                object.content);
+    m_toPage = outer;
 }
 
 QPainterPath Painter::outlineOf(const Clip &clip)
@@ -289,85 +190,93 @@ QPainterPath Painter::outlineOf(const Clip &clip)
     return outline;
 }
 
+void Painter::fill(QPainter &painter, const QPainterPath &path, const Paint &paint)
+{
+    const Ink ink = inkOf(painter, path.controlPointRect(), paint);
+    painter.save();
+    if (!ink.extent.isEmpty())
+        painter.setClipPath(ink.extent, Qt::IntersectClip);
+    fillPath(painter, path, ink.brush);
+    painter.restore();
+}
+
+void Painter::stroke(QPainter &painter, const QPainterPath &path, QPen pen, const Paint &paint)
+{
+    const qreal margin = marginOf(pen);
+    const QRectF bounds = path.controlPointRect().adjusted(-margin, -margin, margin, margin);
+    const Ink ink = inkOf(painter, bounds, paint);
+    pen.setBrush(ink.brush);
+    painter.save();
+    if (!ink.extent.isEmpty())
+        painter.setClipPath(ink.extent, Qt::IntersectClip);
+    strokePath(painter, path, pen);
+    painter.restore();
+}
+
+Ink Painter::inkOf(const QPainter &painter, const QRectF &bounds, const Paint &paint)
+{
+    if (const auto *brush = std::get_if<QBrush>(&paint))
+        return {*brush, {}};
+    if (const auto *shading = std::get_if<std::shared_ptr<const Shading>>(&paint))
+        return (*shading)->ink(painter, bounds);
+    return inkOf(painter, bounds, *std::get<std::shared_ptr<const Pattern>>(paint));
+}
+
+Ink Painter::inkOf(const QPainter &painter, const QRectF &bounds, const Pattern &pattern)
+{
+    const QTransform toObject = pattern.isRelativeToPage ? m_toPage.inverted() : QTransform();
+    const auto paintCell = [&](QPainter &cell) {
+        const QTransform outer = std::exchange(m_toPage, pattern.matrix * toObject * m_toPage);
+        ++m_openPatterns;
+        paintAll(cell, pattern.cell);
+        --m_openPatterns;
+        m_toPage = outer;
+    };
+    const PatternPainter cells(pattern, toObject, paintCell);
+    // Several cells for each one of an outer pattern would multiply.
+    const std::optional<Ink> few =
+        m_openPatterns == 0 ? cells.fewCells(painter, bounds) : std::nullopt;
+    return few ? *few : cells.tiles(painter, bounds);
+}
+
 void Painter::paintContent(QPainter &painter, const Object &object, const Path &path)
 {
     const QPen pen = visiblePen(painter, object.style, path.path);
-    const qreal margin = pen.widthF() * std::max(1.0, pen.miterLimit());
+    const qreal margin = marginOf(pen);
     const QRectF bounds = path.path.controlPointRect();
     if (!isOnDevice(painter, bounds.adjusted(-margin, -margin, margin, margin)))
         return;
     if (path.isFilled && object.style.fill)
-        fillPath(painter, path.path, object.style.fillBrush());
+        fill(painter, path.path, object.style.fillPaint());
     if (path.isStroked)
-        strokePath(painter, path.path, pen);
+        stroke(painter, path.path, pen, object.style.strokePaint());
 }
 
 void Painter::paintContent(QPainter &painter, const Object &object, const Text &text)
 {
     Face &face = m_fonts.faceOf(text);
-    const QBrush fill = object.style.fillBrush();
+    const Paint paint = object.style.fillPaint();
+    const QBrush *plain = text.isFilled ? std::get_if<QBrush>(&paint) : nullptr;
     const bool mustThicken = text.isFilled && face.lacksBold();
-    const bool isPlain = text.isFilled && fill.style() == Qt::SolidPattern;
     // Unlike a path, letters have no outline without a colour for it.
     const bool isStroked = text.isStroked && object.style.stroke;
     for (const TextRun &run : text.runs) {
         const QVector<PlacedGlyph> glyphs = layOut(text, run, face);
-        if (isPlain)
-            fillGlyphs(painter, glyphs, fill);
-        if (isPlain && !mustThicken && !isStroked)
+        if (plain)
+            fillGlyphs(painter, glyphs, *plain);
+        if (plain && !mustThicken && !isStroked)
             continue;
         const QPainterPath outlines = outlinesOf(glyphs);
         if (!isOnDevice(painter, outlines.controlPointRect()))
             continue;
-        if (text.isFilled && !isPlain)
-            fillPath(painter, outlines, fill);
+        if (text.isFilled && !plain)
+            fill(painter, outlines, paint);
         if (mustThicken)
-            strokePath(painter, outlines, QPen(fill, text.size * boldStroke));
+            stroke(painter, outlines, QPen(Qt::black, text.size * boldStroke), paint);
         if (isStroked)
-            strokePath(painter, outlines, visiblePen(painter, object.style, outlines));
+            stroke(painter, outlines, visiblePen(painter, object.style, outlines),
+                   object.style.strokePaint());
     }
-}
-
-void Painter::paintContent(QPainter &painter, const Object &object, const Image &image)
-{
-    // Without a matrix the picture would be one millimetre wide; writers mean the whole boundary.
-    const bool isWhole = object.matrix.isIdentity();
-    const QSizeF size = isWhole ? object.boundary.size() : sizeOf(object.matrix);
-    if (isWhole)
-        painter.scale(size.width(), size.height());
-    const QRectF square(0, 0, 1, 1);
-    if (size.isEmpty() || !isOnDevice(painter, square))
-        return;
-    const QImage picture = pictureOf(image, sizeOf(painter.deviceTransform()));
-    const QTransform toSquare = QTransform::fromScale(1 / size.width(), 1 / size.height());
-    painter.save();
-    if (image.border)
-        painter.setClipPath(toSquare.map(frameOf(size, *image.border, 0)), Qt::IntersectClip);
-    if (!picture.isNull())
-        painter.drawImage(square, picture);
-    painter.restore();
-    painter.setTransform(toSquare, true);
-    if (image.border)
-        paintBorder(painter, *image.border, size);
-}
-
-QImage Painter::pictureOf(const Image &image, QSizeF target)
-{
-    QImage picture = m_images.image(image.resource, target);
-    if (picture.isNull())
-        picture = m_images.image(image.substitute, target);
-    if (image.mask.isEmpty() || picture.isNull())
-        return picture;
-    // A picture would hide what is under it where its mask is missing.
-    const QImage mask = m_images.image(image.mask, target);
-    if (mask.isNull())
-        return QImage();
-    const QPair<qint64, qint64> key(picture.cacheKey(), mask.cacheKey());
-    if (const QImage *known = m_masked.object(key))
-        return *known;
-    const QImage result = masked(picture, mask);
-    m_masked.insert(key, new QImage(result), 1 + int(result.sizeInBytes() >> 10));
-    return result;
 }
 
 void Painter::paintContent(QPainter &painter, const Object &, const Composite &composite)

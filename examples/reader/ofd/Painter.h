@@ -13,6 +13,8 @@ class QPainter;
 
 namespace Ofd {
 
+struct Ink;
+
 /**
  * Paints the pages of one document. Every thread needs a painter of its own; painters of the same
  * document wait for each other.
@@ -46,6 +48,10 @@ private:
     bool hasParts(const Object &object);
     /** What the boundary lets through, in the coordinates of the painter; null for everything. */
     QRectF areaOf(const QPainter &painter, const Object &object);
+    void fill(QPainter &painter, const QPainterPath &path, const Paint &paint);
+    void stroke(QPainter &painter, const QPainterPath &path, QPen pen, const Paint &paint);
+    Ink inkOf(const QPainter &painter, const QRectF &bounds, const Paint &paint);
+    Ink inkOf(const QPainter &painter, const QRectF &bounds, const Pattern &pattern);
     void paintContent(QPainter &painter, const Object &object, const Path &path);
     void paintContent(QPainter &painter, const Object &object, const Text &text);
     void paintContent(QPainter &painter, const Object &object, const Image &image);
@@ -59,8 +65,10 @@ private:
     /** Of the seals that are documents themselves. */
     std::map<const Document *, std::unique_ptr<Painter>> m_drawings;
     const std::atomic_bool *m_isAbandoned = nullptr; ///< Valid during paint().
-    QCache<QPair<qint64, qint64>, QImage> m_masked; ///< By the keys of the picture and its mask.
-    int m_layers = 0;                               ///< That the page needed so far.
+    QCache<QPair<qint64, qint64>, QImage> m_masked;  ///< By the keys of the picture and its mask.
+    int m_layers = 0;                                ///< That the page needed so far.
+    QTransform m_toPage; ///< From the coordinates of the object that is painted.
+    int m_openPatterns = 0;
 };
 
 } // namespace Ofd

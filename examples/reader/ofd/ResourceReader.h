@@ -17,6 +17,8 @@ public:
         , m_resources(resources)
         , m_unsupported(unsupported)
     {
+        m_colours.setCellReader(
+            [this](const XmlElement &cell) { return m_objects.readAll(cell, Style()); });
     }
 
     /** Reads the lists that children of @p parent, in the file @p from, with that name refer to. */

@@ -81,7 +81,9 @@ private:
         const QString name = QStringLiteral("seal:%1").arg(stamp.signature);
         m_document.package->add(name, picture);
         m_document.resources.images.insert(name, name);
-        stamp.object.content = Image{name};
+        Image image;
+        image.resource = name;
+        stamp.object.content = image;
     }
 
     void place(const XmlElement &annotation, Stamp stamp)

@@ -42,7 +42,7 @@ Style Style::over(const Style &wider) const
 QPen Style::pen() const
 {
     const qreal width = lineWidth.value_or(usualLineWidth);
-    QPen pen(stroke.value_or(QBrush(Qt::black)), width, Qt::SolidLine, cap.value_or(Qt::FlatCap),
+    QPen pen(QBrush(Qt::black), width, Qt::SolidLine, cap.value_or(Qt::FlatCap),
              join.value_or(Qt::SvgMiterJoin));
     pen.setMiterLimit(miterLimit.value_or(usualMiterLimit));
     if (!dashes || dashes->isEmpty())

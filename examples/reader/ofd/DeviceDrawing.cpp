@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
+#include "ofd/DeviceDrawing.h"
+
+#include "ofd/DensePath.h"
+#include "ofd/Limits.h"
+
+#include <QPainter>
+
+#include <cmath>
+
+namespace Ofd {
+
+namespace {
+
+QRectF deviceRect(const QPainter &painter)
+{
+    return QRectF(0, 0, painter.device()->width() * painter.device()->devicePixelRatioF(),
+                  painter.device()->height() * painter.device()->devicePixelRatioF());
+}
+
+} // namespace
+
+qreal scaleOf(const QPainter &painter)
+{
+    return std::sqrt(std::abs(painter.deviceTransform().determinant()));
+}
+
+bool isOnDevice(const QPainter &painter, const QRectF &rect)
+{
+    // The rectangle of a straight line has no area and would intersect nothing.
+    const QRectF mapped = painter.deviceTransform().mapRect(rect).adjusted(-1, -1, 1, 1);
+    return mapped.intersects(deviceRect(painter));
+}
+
+void clipTo(QPainter &painter, const QRectF &rect)
+{
+    const QTransform toDevice = painter.deviceTransform();
+    const bool isTurned = toDevice.type() > QTransform::TxScale;
+    const QRectF pixels((toDevice.mapRect(rect) & deviceRect(painter)).toAlignedRect());
+    painter.setClipRect(isTurned ? rect : toDevice.inverted().mapRect(pixels), Qt::IntersectClip);
+}
+
+QPen visiblePen(const QPainter &painter, const Style &style, const QPainterPath &path)
+{
+    QPen pen = style.pen();
+    const qreal scale = scaleOf(painter);
+    qreal period = 0;
+    for (const qreal length : style.dashes.value_or(QVector<qreal>()))
+        period += length;
+    if (period > 0 && path.length() / period > Limits::dashesPerPath)
+        pen.setStyle(Qt::SolidLine);
+    else if (scale > 0 && pen.widthF() * scale < leastLineWidth && period <= 0)
+        pen.setWidthF(leastLineWidth / scale);
+    return pen;
+}
+
+QSizeF sizeOf(const QTransform &transform)
+{
+    return QSizeF(std::hypot(transform.m11(), transform.m12()),
+                  std::hypot(transform.m21(), transform.m22()));
+}
+
+void fillPath(QPainter &painter, const QPainterPath &path, const QBrush &brush)
+{
+    if (DensePath::isDense(painter, path))
+        DensePath::fill(painter, path, brush);
+    else
+        painter.fillPath(path, brush);
+}
+
+void strokePath(QPainter &painter, const QPainterPath &path, const QPen &pen)
+{
+    if (DensePath::isDense(painter, path))
+        DensePath::stroke(painter, path, pen);
+    else
+        painter.strokePath(path, pen);
+}
+
+} // namespace Ofd
