@@ -120,7 +120,8 @@ QColor ColourReader::colourOf(const QVector<qreal> &values, const Space &space) 
     // A value with another number of components than its space is read by that number.
     if (values.size() == 1 && (space.type == QLatin1String("GRAY") || space.palette.isEmpty()))
         return QColor::fromRgbF(part(0), part(0), part(0));
-    if (values.size() == 4)
+    const bool isCmyk = values.isEmpty() && space.type == QLatin1String("CMYK");
+    if (values.size() == 4 || isCmyk)
         return QColor::fromCmykF(part(0), part(1), part(2), part(3)).toRgb();
     return QColor::fromRgbF(part(0), part(1), part(2));
 }

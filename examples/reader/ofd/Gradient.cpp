@@ -155,12 +155,12 @@ Ink RadialGradient::inkOfNested(const QRectF &bounds) const
     return ink;
 }
 
-void RadialGradient::draw(QImage &picture, const QTransform &toPicture) const
+void RadialGradient::draw(QImage &image, const QTransform &toImage) const
 {
-    const QTransform toCircles = (m_transform * toPicture).inverted();
-    for (int y = 0; y < picture.height(); ++y) {
-        QRgb *line = reinterpret_cast<QRgb *>(picture.scanLine(y));
-        for (int x = 0; x < picture.width(); ++x)
+    const QTransform toCircles = (m_transform * toImage).inverted();
+    for (int y = 0; y < image.height(); ++y) {
+        QRgb *line = reinterpret_cast<QRgb *>(image.scanLine(y));
+        for (int x = 0; x < image.width(); ++x)
             line[x] = colourAt(toCircles.map(QPointF(x + 0.5, y + 0.5)));
     }
 }

@@ -48,7 +48,7 @@ public:
     Ink ink(const QPainter &painter, const QRectF &bounds) const override;
 
 protected:
-    void draw(QImage &picture, const QTransform &toPicture) const override;
+    void draw(QImage &image, const QTransform &toImage) const override;
 
 private:
     QRgb colourAt(QPointF point) const;

@@ -14,6 +14,8 @@ namespace {
 
 /** So many layers of triangles cost as much as one pixel of the other shadings. */
 constexpr qreal cheapLayers = 8;
+/** In pixels: what it costs to find where a row of a triangle begins and ends. */
+constexpr qreal rowCost = 8;
 
 /** Red, green, blue, all multiplied by alpha, and alpha; from 0 to 255. */
 using Channels = std::array<qreal, 4>;
@@ -91,7 +93,7 @@ QRectF boundsOf(const std::array<QPointF, 3> &places)
     return QPolygonF({places[0], places[1], places[2]}).boundingRect();
 }
 
-void drawTriangle(QImage &picture, const std::array<Corner, 3> &corners)
+void drawTriangle(QImage &image, const std::array<Corner, 3> &corners)
 {
     const QPointF one = corners[1].place - corners[0].place;
     const QPointF two = corners[2].place - corners[0].place;
@@ -100,8 +102,8 @@ void drawTriangle(QImage &picture, const std::array<Corner, 3> &corners)
         return;
     const Plane plane = planeThrough(corners, area);
     const QRectF bounds = boundsOf({corners[0].place, corners[1].place, corners[2].place});
-    const int end = firstPixel(bounds.bottom(), picture.height());
-    for (int y = firstPixel(bounds.top(), picture.height()); y < end; ++y) {
+    const int end = firstPixel(bounds.bottom(), image.height());
+    for (int y = firstPixel(bounds.top(), image.height()); y < end; ++y) {
         qreal left = bounds.right();
         qreal right = bounds.left();
         for (std::size_t i = 0; i < 3; ++i) {
@@ -111,9 +113,9 @@ void drawTriangle(QImage &picture, const std::array<Corner, 3> &corners)
             left = std::min(left, x);
             right = std::max(right, x);
         }
-        QRgb *line = reinterpret_cast<QRgb *>(picture.scanLine(y));
-        const int last = firstPixel(right, picture.width());
-        for (int x = firstPixel(left, picture.width()); x < last; ++x)
+        QRgb *line = reinterpret_cast<QRgb *>(image.scanLine(y));
+        const int last = firstPixel(right, image.width());
+        for (int x = firstPixel(left, image.width()); x < last; ++x)
             line[x] = plane.at(x + 0.5, y + 0.5);
     }
 }
@@ -126,27 +128,27 @@ Mesh::Mesh(std::vector<MeshPoint> points, std::vector<Triangle> triangles)
 {
 }
 
-void Mesh::draw(QImage &picture, const QTransform &toPicture) const
+void Mesh::draw(QImage &image, const QTransform &toImage) const
 {
-    picture.fill(m_background);
+    image.fill(m_background);
     std::vector<Corner> corners;
     corners.reserve(m_points.size());
     for (const MeshPoint &point : m_points)
-        corners.push_back({toPicture.map(point.place), channelsOf(point.colour)});
+        corners.push_back({toImage.map(point.place), channelsOf(point.colour)});
     for (const Triangle &triangle : m_triangles)
-        drawTriangle(picture, {corners[std::size_t(triangle[0])], corners[std::size_t(triangle[1])],
-                               corners[std::size_t(triangle[2])]});
+        drawTriangle(image, {corners[std::size_t(triangle[0])], corners[std::size_t(triangle[1])],
+                             corners[std::size_t(triangle[2])]});
 }
 
-qreal Mesh::load(const QTransform &toArea, const QRectF &area) const
+qreal Mesh::load(const QTransform &toDevice, const QRectF &area) const
 {
     qreal drawn = 0;
     for (const Triangle &triangle : m_triangles) {
         std::array<QPointF, 3> places;
         for (std::size_t i = 0; i < 3; ++i)
-            places[i] = toArea.map(m_points[std::size_t(triangle[i])].place);
+            places[i] = toDevice.map(m_points[std::size_t(triangle[i])].place);
         const QRectF shown = boundsOf(places).intersected(area);
-        drawn += shown.width() * shown.height();
+        drawn += (shown.width() + rowCost) * shown.height();
     }
     return drawn / (area.width() * area.height()) / cheapLayers;
 }

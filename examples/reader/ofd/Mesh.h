@@ -28,8 +28,8 @@ public:
     void setBackground(const QColor &colour) { m_background = colour; }
 
 protected:
-    void draw(QImage &picture, const QTransform &toPicture) const override;
-    qreal load(const QTransform &toArea, const QRectF &area) const override;
+    void draw(QImage &image, const QTransform &toImage) const override;
+    qreal load(const QTransform &toDevice, const QRectF &area) const override;
 
 private:
     std::vector<MeshPoint> m_points;

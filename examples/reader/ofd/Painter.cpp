@@ -9,6 +9,7 @@
 #include "ofd/PaintLayer.h"
 #include "ofd/PathData.h"
 #include "ofd/Pattern.h"
+#include "ofd/Shading.h"
 #include "ofd/TextLayout.h"
 
 #include <QPainter>
@@ -192,25 +193,15 @@ QPainterPath Painter::outlineOf(const Clip &clip)
 
 void Painter::fill(QPainter &painter, const QPainterPath &path, const Paint &paint)
 {
-    const Ink ink = inkOf(painter, path.controlPointRect(), paint);
-    painter.save();
-    if (!ink.extent.isEmpty())
-        painter.setClipPath(ink.extent, Qt::IntersectClip);
-    fillPath(painter, path, ink.brush);
-    painter.restore();
+    inkOf(painter, path.controlPointRect(), paint).fill(painter, path);
 }
 
-void Painter::stroke(QPainter &painter, const QPainterPath &path, QPen pen, const Paint &paint)
+void Painter::stroke(QPainter &painter, const QPainterPath &path, const QPen &pen,
+                     const Paint &paint)
 {
     const qreal margin = marginOf(pen);
     const QRectF bounds = path.controlPointRect().adjusted(-margin, -margin, margin, margin);
-    const Ink ink = inkOf(painter, bounds, paint);
-    pen.setBrush(ink.brush);
-    painter.save();
-    if (!ink.extent.isEmpty())
-        painter.setClipPath(ink.extent, Qt::IntersectClip);
-    strokePath(painter, path, pen);
-    painter.restore();
+    inkOf(painter, bounds, paint).stroke(painter, path, pen);
 }
 
 Ink Painter::inkOf(const QPainter &painter, const QRectF &bounds, const Paint &paint)

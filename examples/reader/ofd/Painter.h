@@ -49,7 +49,7 @@ private:
     /** What the boundary lets through, in the coordinates of the painter; null for everything. */
     QRectF areaOf(const QPainter &painter, const Object &object);
     void fill(QPainter &painter, const QPainterPath &path, const Paint &paint);
-    void stroke(QPainter &painter, const QPainterPath &path, QPen pen, const Paint &paint);
+    void stroke(QPainter &painter, const QPainterPath &path, const QPen &pen, const Paint &paint);
     Ink inkOf(const QPainter &painter, const QRectF &bounds, const Paint &paint);
     Ink inkOf(const QPainter &painter, const QRectF &bounds, const Pattern &pattern);
     void paintContent(QPainter &painter, const Object &object, const Path &path);

@@ -3,6 +3,7 @@
 
 #include "ofd/Pattern.h"
 
+#include "ofd/AreaPicture.h"
 #include "ofd/Limits.h"
 
 #include <QPainter>
@@ -14,15 +15,12 @@ namespace Ofd {
 
 namespace {
 
-/** Pixels of a tile for each pixel of the device, in each direction; more would not be seen. */
-constexpr qreal density = 2;
 constexpr int longestSide = 16384;
 constexpr qreal mostCells = 4;
 
-/** The size in whole pixels of a picture for a cell that is so large on the device. */
-QSize pixelsOf(const QSizeF &onDevice, const QSize &period)
+/** The size of a cell in whole pixels. Too large ones become smaller. */
+QSize pixelsOf(const QSizeF &wanted, const QSize &period)
 {
-    const QSizeF wanted = onDevice * density;
     const qreal all = wanted.width() * wanted.height() * period.width() * period.height();
     const qreal scale = std::min(1.0, std::sqrt(Limits::shadingPixels / std::max(1.0, all)));
     const auto side = [&](qreal length) {
@@ -50,7 +48,7 @@ Ink PatternPainter::tiles(const QPainter &painter, const QRectF &bounds) const
     const QSizeF &step = m_pattern.step;
     const QSizeF onDevice(step.width() * std::hypot(toDevice.m11(), toDevice.m12()),
                           step.height() * std::hypot(toDevice.m21(), toDevice.m22()));
-    const QImage cell = cellImage(pixelsOf(onDevice, m_period), painter);
+    const QImage cell = cellImage(pixelsOf(onDevice * pictureDensity(painter), m_period), painter);
     QImage tile = m_period == QSize(1, 1) ? cell : mirrored(cell);
     fade(tile);
     QBrush brush(tile);
@@ -74,10 +72,10 @@ std::optional<Ink> PatternPainter::fewCells(const QPainter &painter, const QRect
                         std::floor(shown.top() / step.height()));
     if (columns * rows > mostCells || first.manhattanLength() > Limits::number)
         return std::nullopt;
-    QImage picture = pictureFor(area, 1);
-    QPainter inner(&picture);
+    AreaPicture picture(painter, area);
+    QPainter inner(&picture.image);
     inner.setRenderHints(painter.renderHints());
-    const QTransform toPixels = m_toObject * toPicture(painter, area, picture);
+    const QTransform toPixels = m_toObject * picture.toImage;
     for (int i = 0; i < columns * rows; ++i) {
         inner.save();
         inner.setTransform(
@@ -88,8 +86,8 @@ std::optional<Ink> PatternPainter::fewCells(const QPainter &painter, const QRect
         inner.restore();
     }
     inner.end();
-    fade(picture);
-    return Ink{brushOver(painter, area, picture), {}};
+    fade(picture.image);
+    return Ink{picture.brush(), {}};
 }
 
 /** From the coordinates of a cell to those of all cells. */

@@ -3,8 +3,8 @@
 
 #pragma once
 
+#include "ofd/Ink.h"
 #include "ofd/Objects.h"
-#include "ofd/Shading.h"
 
 #include <functional>
 
