@@ -9,9 +9,18 @@
 #include <QPaintEngine>
 #include <QPainter>
 
+#include <algorithm>
+#include <cmath>
+
 namespace Ofd {
 
 namespace {
+
+/** In device pixels. Thinner lines show no difference. */
+constexpr qreal leastWide = 3;
+/** In device pixels, between the border of a line and the exact curve. */
+constexpr qreal tolerance = 0.1;
+constexpr qreal leastScale = 1e-3;
 
 /** Qt ignores the transform of a texture in PDF files. */
 bool mustFlatten(const QPainter &painter, const QBrush &brush)
@@ -39,12 +48,36 @@ void fillFlattened(QPainter &painter, const QPainterPath &path, const QBrush &br
     painter.restore();
 }
 
-QPainterPath outlineOf(const QPainterPath &path, const QPen &pen)
+qreal scaleOf(const QPainter &painter)
 {
-    QPainterPathStroker stroker(pen);
-    // The curves are computed in millimetres.
-    stroker.setCurveThreshold(0.01);
-    return stroker.createStroke(path);
+    return std::sqrt(std::abs(painter.deviceTransform().determinant()));
+}
+
+/** Computed in the size on the device, as Qt's tolerances are constant. */
+QPainterPath outlineOf(const QPainter &painter, const QPainterPath &path, const QPen &pen)
+{
+    const qreal scale = std::max(scaleOf(painter), leastScale);
+    QPen onDevice = pen;
+    onDevice.setWidthF(pen.widthF() * scale);
+    QPainterPathStroker stroker(onDevice);
+    // Qt multiplies it by the width.
+    stroker.setCurveThreshold(tolerance / std::max(1.0, onDevice.widthF()));
+    const QPainterPath outline =
+        stroker.createStroke(QTransform::fromScale(scale, scale).map(path));
+    return QTransform::fromScale(1 / scale, 1 / scale).map(outline);
+}
+
+/** Whether Qt would compute the borders of the line too coarsely for the size of its pixels. */
+bool isWideCurve(const QPainter &painter, const QPainterPath &path, const QPen &pen)
+{
+    if (painter.paintEngine()->type() != QPaintEngine::Raster
+        || pen.widthF() * scaleOf(painter) < leastWide)
+        return false;
+    for (int i = 0; i < path.elementCount(); ++i) {
+        if (path.elementAt(i).isCurveTo())
+            return true;
+    }
+    return false;
 }
 
 } // namespace
@@ -67,9 +100,11 @@ void Ink::stroke(QPainter &painter, const QPainterPath &path, QPen pen) const
     if (!extent.isEmpty())
         paintInExtent(painter, [&](const Ink &inside) { inside.stroke(painter, path, pen); });
     else if (mustFlatten(painter, brush))
-        fillFlattened(painter, outlineOf(path, pen), brush);
+        fillFlattened(painter, outlineOf(painter, path, pen), brush);
     else if (DensePath::isDense(painter, path))
         DensePath::stroke(painter, path, pen);
+    else if (isWideCurve(painter, path, pen))
+        painter.fillPath(outlineOf(painter, path, pen), brush);
     else
         painter.strokePath(path, pen);
 }
