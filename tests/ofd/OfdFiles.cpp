@@ -39,7 +39,7 @@ std::shared_ptr<const Ofd::Document> OfdFiles::opened(const QString &name)
 
 QImage OfdFiles::painted(const std::shared_ptr<const Ofd::Document> &document, int page)
 {
-    const QSizeF size = document->page(page)->area.size() * pixelsPerMillimetre;
+    const QSizeF size = document->area(page).size() * pixelsPerMillimetre;
     QImage image(size.toSize(), QImage::Format_RGB32);
     image.fill(Qt::white);
     QPainter painter(&image);

@@ -1,18 +1,67 @@
 // SPDX-FileCopyrightText: The MRToolBar authors
 // SPDX-License-Identifier: MIT
 
-#include "tests/ofd/OfdFiles.h"
+#include "document/Document.h"
+#include "ofd/PageText.h"
+#include "ofd/Painter.h"
+#include "tests/ofd/PackageMaker.h"
 
 #include <QDir>
+#include <QElapsedTimer>
+#include <QImage>
+#include <QPainter>
+#include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 
-/** Reading the pages of a document one by one. */
+#include <atomic>
+#include <thread>
+#include <vector>
+
+namespace {
+
+QByteArray several(int count)
+{
+    QByteArray bodies;
+    for (int i = 0; i < count; ++i) {
+        const QByteArray title = i == 1 ? "<ofd:Title>Second</ofd:Title>" : "";
+        bodies += "<ofd:DocBody><ofd:DocInfo>" + title + "</ofd:DocInfo><ofd:DocRoot>Doc_"
+                  + QByteArray::number(i) + "/Document.xml</ofd:DocRoot></ofd:DocBody>";
+    }
+    return "<ofd:OFD xmlns:ofd=\"http://www.ofdspec.org/2016\">" + bodies + "</ofd:OFD>";
+}
+
+/** A page of this many objects, each of which takes about half a kilobyte. */
+Ofd::Page pageOf(int objects)
+{
+    Ofd::Page page;
+    page.layers.append(std::make_shared<const Ofd::Objects>(objects));
+    return page;
+}
+
+} // namespace
+
+/** Reading the pages of a document when they are asked for. */
 class TestOfdPages : public QObject
 {
     Q_OBJECT
 
+private:
+    std::shared_ptr<const Ofd::Document> opened(const PackageMaker::Entries &entries, int body = 0)
+    {
+        const QString file = m_folder.filePath("made.ofd");
+        QString error = "not written";
+        const auto document =
+            PackageMaker::write(file, entries) ? Ofd::read(file, &error, body) : nullptr;
+        if (!document)
+            qWarning("%s", qUtf8Printable(error));
+        return document;
+    }
+
+    QTemporaryDir m_folder;
+
 private Q_SLOTS:
-    void shouldShowAnEmptyPageForADamagedOne()
+    void shouldShowAnEmptyPageForADamagedSample()
     {
         for (const auto &[name, reason] : {std::pair{"damaged-composite-loop", "循环引用"},
                                            {"damaged-template-loop", "循环引用"},
@@ -28,6 +77,193 @@ private Q_SLOTS:
             QVERIFY2(page->fault.indexOf("。") == page->fault.size() - 1, qPrintable(page->fault));
             QCOMPARE(document->unsupported.value("无法显示的页面"), 1);
         }
+    }
+
+    void shouldLetADamagedPageCostOnlyItself_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QString>("reason");
+        const QByteArray whole = PackageMaker::pageOf("text");
+        const QByteArray area = "<ofd:Area><ofd:PhysicalBox>0 0 1e6 1</ofd:PhysicalBox></ofd:Area>";
+        QTest::newRow("missing") << QByteArray() << "没有这一页";
+        QTest::newRow("cut off") << whole.left(whole.size() / 2) << "不是正确的 XML";
+        QTest::newRow("of another kind") << QByteArray("PNG") << "不是正确的 XML";
+        QTest::newRow("too large")
+            << QByteArray(whole).replace("<ofd:Content>", area + "<ofd:Content>") << "页面尺寸";
+    }
+
+    void shouldLetADamagedPageCostOnlyItself()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(QString, reason);
+        PackageMaker::Entries entries = PackageMaker::documentOf(3);
+        entries.remove(PackageMaker::pagePath(1));
+        if (!content.isEmpty())
+            entries.insert(PackageMaker::pagePath(1), content);
+        const auto document = opened(entries);
+        QVERIFY(document);
+        // As long as nobody looks at the page, nothing is wrong.
+        for (const int page : {0, 2})
+            QVERIFY(document->page(page)->fault.isNull());
+        QVERIFY(document->unsupported.isEmpty() && document->pages->fault(1).isNull());
+        for (int time = 0; time < 2; ++time)
+            QVERIFY2(document->page(1)->fault.contains(reason),
+                     qPrintable(document->page(1)->fault));
+        QCOMPARE(document->pages->fault(1), document->page(1)->fault);
+        QCOMPARE(document->unsupported.value("无法显示的页面"), 1);
+        QCOMPARE(document->area(1), QRectF(0, 0, 210, 297));
+    }
+
+    void shouldPaintAndNameADamagedPage()
+    {
+        PackageMaker::Entries entries = PackageMaker::documentOf(2);
+        entries.remove(PackageMaker::pagePath(1));
+        QVERIFY(PackageMaker::write(m_folder.filePath("damaged.ofd"), entries));
+        Document document;
+        QString error;
+        QVERIFY2(document.open(m_folder.filePath("damaged.ofd"), &error), qPrintable(error));
+        QSignalSpy learnt(&document, &Document::learnt);
+        QVERIFY(document.faultOf(1).isEmpty() && document.file().leftOut().isEmpty());
+        QImage sheet(document.sizeOf(1).toSize(), QImage::Format_RGB32);
+        sheet.fill(Qt::white);
+        QPainter painter(&sheet);
+        document.contentOf(1)->paint(painter);
+        painter.end();
+        QVERIFY(sheet.convertToFormat(QImage::Format_Mono).colorCount() == 2);
+        QImage blank(sheet.size(), sheet.format());
+        blank.fill(Qt::white);
+        QVERIFY(sheet != blank);
+        QTRY_VERIFY(!learnt.isEmpty());
+        QVERIFY(document.faultOf(1).startsWith("第 2 页"));
+        QVERIFY(document.file().leftOut().contains("无法显示的页面"));
+        QVERIFY(document.page(1).text.isEmpty() && document.faultOf(0).isEmpty());
+    }
+
+    void shouldReadAnnotationsAndTemplatesWithTheirPageOnly()
+    {
+        PackageMaker::Entries entries = PackageMaker::documentOf(2);
+        QByteArray &root = entries["Doc_0/Document.xml"];
+        root.replace("</ofd:CommonData>",
+                     "<ofd:TemplatePage ID=\"80\" BaseLoc=\"T.xml\"/></ofd:CommonData>");
+        root.replace("</ofd:Document>", "<ofd:Annotations>A.xml</ofd:Annotations></ofd:Document>");
+        entries["Doc_0/A.xml"] = "<Annotations><Page PageID=\"1\"><FileLoc>B.xml</FileLoc></Page>"
+                                 "</Annotations>";
+        entries["Doc_0/B.xml"] = "damaged";
+        entries["Doc_0/T.xml"] = "damaged";
+        entries[PackageMaker::pagePath(1)].replace(
+            "<ofd:Content>", "<ofd:Template TemplateID=\"80\"/><ofd:Content>");
+        const auto document = opened(entries);
+        QVERIFY(document && document->unsupported.isEmpty());
+        QVERIFY(document->page(0)->fault.isNull() && !document->page(0)->layers.isEmpty());
+        QCOMPARE(document->unsupported.value("无法读取的注释"), 1);
+        // Twice, because reading must not mistake a damaged template for a circular one.
+        for (int page = 0; page < 2; ++page) {
+            const auto again = opened(entries);
+            QVERIFY(again->page(1)->fault.contains("T.xml"));
+        }
+    }
+
+    void shouldOpenEachDocumentOfAPackage()
+    {
+        PackageMaker::Entries entries = PackageMaker::documentOf(1);
+        entries["OFD.xml"] = several(3);
+        entries["Doc_1/Document.xml"] = entries["Doc_0/Document.xml"];
+        entries["Doc_1/Pages/Page_0/Content.xml"] = PackageMaker::pageOf("other", "0 0 70 50");
+        const auto first = opened(entries);
+        const auto second = opened(entries, 1);
+        QVERIFY(first && second);
+        QCOMPARE(first->bodies, QStringList({"文档 1", "Second", "文档 3"}));
+        QCOMPARE(first->area(0).width(), 210.0);
+        QCOMPARE(second->area(0).width(), 70.0);
+        QCOMPARE(second->body, 1);
+        QString error;
+        for (const int body : {2, 3, -1})
+            QVERIFY(!Ofd::read(m_folder.filePath("made.ofd"), &error, body) && !error.isEmpty());
+    }
+
+    void shouldLearnTheSizesOfAllPagesWithoutReadingThem()
+    {
+        constexpr int pages = 600;
+        PackageMaker::Entries entries = PackageMaker::documentOf(pages);
+        entries[PackageMaker::pagePath(0)] = PackageMaker::pageOf("early", "0 0 100 50");
+        entries[PackageMaker::pagePath(pages - 1)] = PackageMaker::pageOf("late", "0 0 300 50");
+        QVERIFY(PackageMaker::write(m_folder.filePath("sizes.ofd"), entries));
+        Document document;
+        QSignalSpy sizes(&document, &Document::sizesChanged);
+        QString error;
+        QVERIFY2(document.open(m_folder.filePath("sizes.ofd"), &error), qPrintable(error));
+        QCOMPARE(qRound(document.sizeOf(0).width()), 378);
+        QCOMPARE(qRound(document.largestSize().width()), 794);
+        QTRY_COMPARE(sizes.size(), 1);
+        QCOMPARE(qRound(document.sizeOf(pages - 1).width()), 1134);
+        QCOMPARE(document.largestSize().width(), document.sizeOf(pages - 1).width());
+        QCOMPARE(document.sizeOf(pages - 2), document.sizeOf(1));
+    }
+
+    void shouldForgetPagesBeyondItsLimit()
+    {
+        int reads = 0;
+        const Ofd::PageStore store(40, QRectF(), [&reads](int) {
+            ++reads;
+            return pageOf(10000);
+        });
+        const auto held = store.page(0);
+        for (int page = 0; page < 40; ++page)
+            store.page(page);
+        QCOMPARE(reads, 40);
+        store.page(39);
+        QCOMPARE(reads, 40);
+        // Forty pages take some 200 MB, which is more than the store keeps.
+        store.page(0);
+        QCOMPARE(reads, 41);
+        QCOMPARE(int(held->layers.first()->size()), 10000);
+    }
+
+    void shouldServeSeveralThreads()
+    {
+        constexpr int pages = 60;
+        const auto document = opened(PackageMaker::documentOf(pages));
+        QVERIFY(document);
+        std::atomic<int> faults{0};
+        std::vector<std::thread> threads;
+        for (int thread = 0; thread < 4; ++thread) {
+            threads.emplace_back([&, thread] {
+                Ofd::Painter painter(document);
+                for (int i = 0; i < pages; ++i) {
+                    // Two go the same way, one comes towards them, and one measures.
+                    const int page = thread == 2 ? pages - 1 - i : i;
+                    if (thread == 3) {
+                        document->pages->measure(page);
+                        faults += document->area(page).width() == 210 ? 0 : 1;
+                        continue;
+                    }
+                    const QString text = textOf(*document, page, painter.fonts()).text;
+                    const bool isRight =
+                        text.startsWith(QStringLiteral("Page number %1 of").arg(page + 1));
+                    faults += isRight ? 0 : 1;
+                }
+            });
+        }
+        for (std::thread &thread : threads)
+            thread.join();
+        QCOMPARE(int(faults), 0);
+        QVERIFY(document->unsupported.isEmpty());
+    }
+
+    void shouldOpenTenThousandPagesAtOnce()
+    {
+        constexpr int pages = 10000;
+        const QString file = m_folder.filePath("large.ofd");
+        QVERIFY(PackageMaker::write(file, PackageMaker::documentOf(pages)));
+        Document document;
+        QString error;
+        QElapsedTimer clock;
+        clock.start();
+        QVERIFY2(document.open(file, &error), qPrintable(error));
+        // Half a second without optimisation; more room for a loaded machine.
+        QVERIFY2(clock.elapsed() < 5000, qPrintable(QString::number(clock.elapsed())));
+        QCOMPARE(document.pageCount(), pages);
+        QVERIFY(document.page(pages - 1).text.startsWith("Page number 10000 of"));
     }
 };
 

@@ -94,7 +94,7 @@ bool FileCommands::open(const QString &fileName, QString *refusal)
     m_parts.recentFiles->addRecentFile(fileName);
     m_parts.view->setCurrentPage(0);
     m_parts.view->setFocus();
-    const QString leftOut = m_parts.document->file().leftOut;
+    const QString leftOut = m_parts.document->file().leftOut();
     m_parts.say(leftOut.isEmpty() ? tr("已打开：%1").arg(QDir::toNativeSeparators(fileName))
                                   : leftOut);
     return true;
@@ -112,6 +112,21 @@ void FileCommands::openRecent(const QString &fileName)
 QString FileCommands::refusalOf(const QString &fileName, const QString &error)
 {
     return tr("无法打开“%1”：%2").arg(QFileInfo(fileName).fileName(), error);
+}
+
+void FileCommands::openBody(int body)
+{
+    const QString fileName = m_parts.document->fileName();
+    QString error;
+    if (!mayLeaveDocument())
+        return;
+    if (!m_parts.document->open(fileName, &error, body)) {
+        showRefusal(refusalOf(fileName, error));
+        return;
+    }
+    m_savedFile.clear();
+    m_parts.view->setCurrentPage(0);
+    m_parts.view->setFocus();
 }
 
 void FileCommands::showRefusal(const QString &sentence) const

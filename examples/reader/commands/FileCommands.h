@@ -26,6 +26,8 @@ public:
      * does if it is given.
      */
     bool open(const QString &fileName, QString *refusal = nullptr);
+    /** Opens another document of the open file, with the same question and message. */
+    void openBody(int body);
     /** Opens a file of the list of recent ones, or takes it off if it is gone, and says so. */
     void openRecent(const QString &fileName);
     /** The sentence about a file that cannot be opened. */

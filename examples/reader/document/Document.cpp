@@ -13,6 +13,8 @@
 
 namespace {
 
+constexpr int mostKilobytes = 16 << 10; // Of texts.
+
 /** Not qHash(), whose values differ between runs and versions of Qt. */
 quint32 seedOf(const QString &name)
 {
@@ -48,14 +50,15 @@ bool passesNear(const Mark &ink, QPointF point, qreal radius)
 
 Document::Document(QObject *parent)
     : QObject(parent)
+    , m_texts(mostKilobytes)
 {
 }
 
-bool Document::open(const QString &fileName, QString *error)
+bool Document::open(const QString &fileName, QString *error, int body)
 {
     OfdFile file;
     QList<Page> pages;
-    if (!file.read(fileName, &pages, error))
+    if (!file.read(fileName, &pages, error, body))
         return false;
     replace(fileName, pages, file);
     return true;
@@ -77,6 +80,8 @@ void Document::close()
 
 void Document::replace(const QString &fileName, const QList<Page> &pages, const OfdFile &file)
 {
+    m_survey.reset();
+    m_texts.clear();
     m_fileName = fileName;
     m_file = file;
     m_undoStack.clear();
@@ -85,24 +90,60 @@ void Document::replace(const QString &fileName, const QList<Page> &pages, const 
     m_pages = pages;
     pagesReplaced();
     Q_EMIT marksChanged();
+    if (!m_file.document)
+        return;
+    m_survey = std::make_unique<PageSurvey>(m_file.document);
+    connect(m_survey.get(), &PageSurvey::learnt, this, &Document::learn);
 }
 
 void Document::pagesReplaced()
 {
-    m_largestSize = QSizeF();
-    for (const Page &page : std::as_const(m_pages))
-        m_largestSize = m_largestSize.expandedTo(page.size);
+    measureLargest();
     Q_EMIT pagesChanged();
 }
 
-const Page &Document::page(int index) const
+void Document::measureLargest()
 {
-    Page &page = m_pages[index];
-    if (!page.isTextRead) {
-        page.isTextRead = true;
-        page.content->readText(page);
+    m_largestSize = QSizeF();
+    for (const Page &page : std::as_const(m_pages))
+        m_largestSize = m_largestSize.expandedTo(page.size);
+}
+
+void Document::learn()
+{
+    bool isNew = false;
+    for (Page &page : m_pages) {
+        const QSizeF size = page.content ? page.content->size() : QSizeF();
+        if (size.isEmpty() || size == page.size)
+            continue;
+        page.size = size;
+        isNew = true;
     }
-    return page;
+    if (isNew) {
+        measureLargest();
+        Q_EMIT sizesChanged();
+    }
+    Q_EMIT learnt();
+}
+
+Page Document::page(int index) const
+{
+    const Page &page = m_pages.at(index);
+    if (page.isTextRead)
+        return page;
+    if (const Page *known = m_texts.object(page.content.get()))
+        return *known;
+    const Page read = page.withText();
+    const int bytes = int(read.text.size() * (sizeof(QChar) + sizeof(QRectF))
+                          + read.lines.size() * sizeof(TextLine));
+    m_texts.insert(page.content.get(), new Page(read), 1 + (bytes >> 10));
+    return read;
+}
+
+QString Document::faultOf(int page) const
+{
+    const PageContent *content = m_pages.at(page).content.get();
+    return content ? content->fault() : QString();
 }
 
 bool Document::isModified() const
@@ -139,16 +180,6 @@ QString Document::title() const
 bool Document::hasPageOf(const Mark &mark) const
 {
     return mark.page == everyPage || mark.page < pageCount();
-}
-
-int Document::characterCount() const
-{
-    int count = 0;
-    for (int i = 0; i < pageCount(); ++i) {
-        for (const TextLine &line : page(i).lines)
-            count += line.length;
-    }
-    return count;
 }
 
 void Document::addMark(Mark mark, const QString &what)

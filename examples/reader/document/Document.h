@@ -5,7 +5,9 @@
 
 #include "document/DocumentEdits.h"
 #include "document/OfdFile.h"
+#include "document/PageSurvey.h"
 
+#include <QCache>
 #include <QList>
 #include <QObject>
 #include <QUndoStack>
@@ -23,7 +25,7 @@ public:
     explicit Document(QObject *parent = nullptr);
 
     /** On failure changes nothing and sets @p error to one sentence. */
-    bool open(const QString &fileName, QString *error);
+    bool open(const QString &fileName, QString *error, int body = 0);
     /** Generates pages; the name is their seed, so that one name always gives the same text. */
     void openGenerated(const QString &name);
     void close();
@@ -36,16 +38,19 @@ public:
     bool isGenerated() const { return m_file.archive.isEmpty(); }
 
     int pageCount() const { return int(m_pages.size()); }
-    /** The page with its text, which takes time on the first call; sizeOf() does not need it. */
-    const Page &page(int index) const;
+    /** The page with its text, which takes time now and then; sizeOf() does not need it. */
+    Page page(int index) const;
+    /** All pages; those from a file have no text. Other threads may read it from their content. */
+    QList<Page> pages() const { return m_pages; }
     QSizeF sizeOf(int page) const { return m_pages.at(page).size; }
     /** The content that paints the page; nullptr for a generated page, painted from its lines. */
     const PageContent *contentOf(int page) const { return m_pages.at(page).content.get(); }
+    /** Why a page of a file is empty; an empty text also as long as it was not read. */
+    QString faultOf(int page) const;
     /** The width of the widest page and the height of the highest. */
     QSizeF largestSize() const { return m_largestSize; }
     const QList<Mark> &marks() const override { return m_marks; }
     bool hasPageOf(const Mark &mark) const;
-    int characterCount() const;
 
     QUndoStack &undoStack() { return m_undoStack; }
     const QUndoStack &undoStack() const { return m_undoStack; }
@@ -66,12 +71,18 @@ Q_SIGNALS:
     void marksChanged();
     /** Pages were added or removed; the pages of marks may have changed. */
     void pagesChanged();
+    /** The true sizes of pages became known. */
+    void sizesChanged();
+    /** More became known about the pages of a file: faultOf() or what is left out. */
+    void learnt();
     /** The rotation of the pages has changed. */
     void turned();
 
 private:
     void replace(const QString &fileName, const QList<Page> &pages, const OfdFile &file);
     void pagesReplaced();
+    void measureLargest();
+    void learn();
 
     void placeMark(int position, const Mark &mark) override;
     void removeMark(int id) override;
@@ -81,8 +92,9 @@ private:
 
     QString m_fileName;
     OfdFile m_file;
-    /** Mutable because the text of a page is read on the first request. */
-    mutable QList<Page> m_pages;
+    std::unique_ptr<PageSurvey> m_survey;
+    QList<Page> m_pages;
+    mutable QCache<const PageContent *, Page> m_texts; ///< Costs are in kilobytes.
     QSizeF m_largestSize;
     QList<Mark> m_marks;
     QUndoStack m_undoStack;

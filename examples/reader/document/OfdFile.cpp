@@ -3,18 +3,33 @@
 
 #include "document/OfdFile.h"
 
+#include "document/OfdPainters.h"
 #include "ofd/PageText.h"
-#include "ofd/Painter.h"
 
 #include <QPainter>
+
+#include <utility>
 
 namespace {
 
 constexpr qreal unitsPerMillimetre = 96 / 25.4;
+constexpr int faultPixels = 20;
 
 QRectF toPageUnits(const QRectF &rect)
 {
     return QRectF(rect.topLeft() * unitsPerMillimetre, rect.size() * unitsPerMillimetre);
+}
+
+/** Tells on a page that nothing else can be shown there. */
+void paintFault(QPainter &painter, const QSizeF &size, const QString &sentence)
+{
+    QFont font;
+    font.setPixelSize(faultPixels);
+    painter.setFont(font);
+    painter.setPen(Qt::darkGray);
+    const QRectF sheet(QPointF(0, 0), size);
+    painter.drawText(sheet.adjusted(faultPixels, faultPixels, -faultPixels, -faultPixels),
+                     Qt::AlignCenter | Qt::TextWordWrap, sentence);
 }
 
 void paintInPageUnits(QPainter &painter, Ofd::Painter &pages, int index,
@@ -24,6 +39,11 @@ void paintInPageUnits(QPainter &painter, Ofd::Painter &pages, int index,
     painter.scale(unitsPerMillimetre, unitsPerMillimetre);
     pages.paint(painter, index, isAbandoned);
     painter.restore();
+    const Ofd::PageStore &store = *pages.document().pages;
+    const QString fault = store.fault(index);
+    if (!fault.isEmpty())
+        paintFault(painter, store.area(index).size() * unitsPerMillimetre,
+                   OfdFile::faultOf(index, fault));
 }
 
 class OfdContentPainter : public ContentPainter
@@ -43,25 +63,33 @@ private:
     Ofd::Painter m_painter;
 };
 
-/** One page of a document; in the main thread all pages share a painter. */
+/** One page of a document; all pages share the painters. */
 class OfdPageContent : public PageContent
 {
 public:
-    OfdPageContent(const std::shared_ptr<Ofd::Painter> &painter, int page)
-        : m_painter(painter)
+    OfdPageContent(const std::shared_ptr<OfdPainters> &painters, int page)
+        : m_painters(painters)
         , m_page(page)
     {
     }
 
     void paint(QPainter &painter) const override
     {
-        paintInPageUnits(painter, *m_painter, m_page, nullptr);
+        paintInPageUnits(painter, m_painters->here(), m_page, nullptr);
+    }
+
+    QSizeF size() const override { return pages().area(m_page).size() * unitsPerMillimetre; }
+
+    QString fault() const override
+    {
+        const QString fault = pages().fault(m_page);
+        return fault.isEmpty() ? QString() : OfdFile::faultOf(m_page, fault);
     }
 
     MakeContentPainter painterMaker() const override
     {
         // Not this page: the last thread that has it deletes the fonts of the main thread.
-        return [document = m_painter->sharedDocument()] {
+        return [document = m_painters->document()] {
             return std::make_unique<OfdContentPainter>(document);
         };
     }
@@ -70,7 +98,8 @@ public:
 
     void readText(Page &page) const override
     {
-        const Ofd::PageText text = textOf(m_painter->document(), m_page, m_painter->fonts());
+        Ofd::Painter &painter = m_painters->here();
+        const Ofd::PageText text = textOf(painter.document(), m_page, painter.fonts());
         page.text = text.text;
         page.boxes.clear();
         page.boxes.reserve(text.boxes.size());
@@ -87,7 +116,9 @@ public:
     }
 
 private:
-    std::shared_ptr<Ofd::Painter> m_painter;
+    const Ofd::PageStore &pages() const { return *m_painters->document()->pages; }
+
+    std::shared_ptr<OfdPainters> m_painters;
     int m_page;
 };
 
@@ -99,39 +130,47 @@ QList<NamedPlace> placesOf(const QVector<Ofd::Target> &targets)
     return places;
 }
 
-QString leftOutOf(const Ofd::Painter &painter)
-{
-    QMap<QString, int> counts = painter.unpaintable();
-    const QHash<QString, int> unsupported = painter.document().unsupported.all();
-    for (auto kind = unsupported.cbegin(); kind != unsupported.cend(); ++kind)
-        counts[kind.key()] += kind.value();
-    QStringList parts;
-    for (auto kind = counts.cbegin(); kind != counts.cend(); ++kind)
-        parts.append(OfdFile::tr("%1 %2 处").arg(kind.key()).arg(kind.value()));
-    QStringList sentences;
-    if (!parts.isEmpty())
-        sentences.append(OfdFile::tr("未显示：%1").arg(parts.join(OfdFile::tr("，"))));
-    const QStringList fonts = Ofd::FontSet::missing(painter.document().resources);
-    if (!fonts.isEmpty())
-        sentences.append(
-            OfdFile::tr("缺少字体：%1，以替代字体显示").arg(fonts.join(OfdFile::tr("、"))));
-    return sentences.join(OfdFile::tr("；"));
-}
-
 } // namespace
 
-bool OfdFile::read(const QString &fileName, QList<Page> *pages, QString *error)
+QString OfdFile::faultOf(int page, const QString &fault)
 {
-    const std::shared_ptr<const Ofd::Document> document = Ofd::read(fileName, error);
+    return tr("第 %1 页无法显示：%2").arg(page + 1).arg(fault);
+}
+
+QString OfdFile::leftOut() const
+{
     if (!document)
+        return QString();
+    const QHash<QString, int> counts = document->unsupported.all();
+    QStringList kinds = counts.keys();
+    kinds.sort();
+    QStringList parts;
+    for (const QString &kind : std::as_const(kinds))
+        parts.append(tr("%1 %2 处").arg(kind).arg(counts.value(kind)));
+    QStringList sentences;
+    if (!parts.isEmpty())
+        sentences.append(tr("未显示：%1").arg(parts.join(tr("，"))));
+    const int fonts = int(document->resources.fonts.all().size());
+    if (m_testedFonts != fonts) // Pages may have fonts of their own.
+        m_missingFonts = Ofd::FontSet::missing(document->resources);
+    m_testedFonts = fonts;
+    if (!m_missingFonts.isEmpty())
+        sentences.append(tr("缺少字体：%1，以替代字体显示").arg(m_missingFonts.join(tr("、"))));
+    return sentences.join(tr("；"));
+}
+
+bool OfdFile::read(const QString &fileName, QList<Page> *pages, QString *error, int body)
+{
+    const std::shared_ptr<const Ofd::Document> read = Ofd::read(fileName, error, body);
+    if (!read)
         return false;
-    const auto painter = std::make_shared<Ofd::Painter>(document);
+    document = read;
+    const auto painters = std::make_shared<OfdPainters>(document);
     pages->clear();
     for (int i = 0; i < document->pageCount(); ++i) {
         Page page;
-        page.size = document->page(i)->area.size() * unitsPerMillimetre;
-        page.heading = tr("第 %1 页").arg(i + 1);
-        page.content = std::make_shared<OfdPageContent>(painter, i);
+        page.content = std::make_shared<OfdPageContent>(painters, i);
+        page.size = page.content->size();
         page.isTextRead = false;
         pages->append(page);
     }
@@ -140,6 +179,5 @@ bool OfdFile::read(const QString &fileName, QList<Page> *pages, QString *error)
     outline = placesOf(document->outline);
     bookmarks = placesOf(document->bookmarks);
     attachments = document->attachments;
-    leftOut = leftOutOf(*painter);
     return true;
 }

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "document/Page.h"
+#include "ofd/Document.h"
 
 #include <QByteArray>
 #include <QCoreApplication>
@@ -24,13 +25,25 @@ struct OfdFile
     Q_DECLARE_TR_FUNCTIONS(OfdFile)
 
 public:
+    std::shared_ptr<const Ofd::Document> document;
     QByteArray archive; ///< The file itself, as it was read.
     QVector<QPair<QString, QString>> information;
     QList<NamedPlace> outline;
     QList<NamedPlace> bookmarks;
     QStringList attachments;
-    QString leftOut; ///< One line about what is not shown as it should be; empty if all is.
 
-    /** Reads a file; on failure changes nothing and sets @p error to one sentence. */
-    bool read(const QString &fileName, QList<Page> *pages, QString *error);
+    /** The sentence about a page that is not shown. */
+    static QString faultOf(int page, const QString &fault);
+    /** One line about what cannot be shown in the pages seen so far; empty if all can. */
+    QString leftOut() const;
+
+    /**
+     * Reads one of the documents of a file; on failure changes nothing and sets @p error to one
+     * sentence.
+     */
+    bool read(const QString &fileName, QList<Page> *pages, QString *error, int body = 0);
+
+private:
+    mutable QStringList m_missingFonts;
+    mutable int m_testedFonts = 0;
 };

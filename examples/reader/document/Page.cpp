@@ -19,6 +19,15 @@ QFont TextLine::font() const
     return font;
 }
 
+Page Page::withText() const
+{
+    Page page = *this;
+    if (!isTextRead)
+        content->readText(page);
+    page.isTextRead = true;
+    return page;
+}
+
 QList<QRectF> Page::rectsOf(int start, int length) const
 {
     QList<QRectF> rects;

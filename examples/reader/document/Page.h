@@ -53,6 +53,10 @@ public:
     virtual MakeContentPainter painterMaker() const = 0;
     /** The index of the page for such a painter. */
     virtual int index() const = 0;
+    /** The size of the page as far as it is known now; null if it stays what it was. */
+    virtual QSizeF size() const { return QSizeF(); }
+    /** Why nothing is shown, in one sentence; empty also as long as the page was not read. */
+    virtual QString fault() const { return QString(); }
 };
 
 /** One laid-out line; `start` and `length` point into the text of its page. */
@@ -82,7 +86,10 @@ struct Page
     /** The rectangle of each character; empty on a generated page, where the lines suffice. */
     QVector<QRectF> boxes;
     std::shared_ptr<const PageContent> content;
-    bool isTextRead = true; ///< False until the text of a page from a file is first used.
+    bool isTextRead = true; ///< False for a page from a file whose text was not read.
+
+    /** This page with its text. */
+    Page withText() const;
 
     /** The rectangles of a range of the text, one for each line. */
     QList<QRectF> rectsOf(int start, int length) const;

@@ -70,6 +70,13 @@ struct Document
         return page.composites.value(id, resources.composites.value(id));
     }
 
+    /** Counts a file that cannot be shown as a left out part of that kind, but only once. */
+    void leaveOut(const QString &kind, const QString &file) const
+    {
+        if (leftOutFiles.insert(file, kind))
+            unsupported.add(kind, 1);
+    }
+
     std::shared_ptr<Package> package;
     QVector<QPair<QString, QString>> information; ///< Names and values.
     QString title;
@@ -82,7 +89,9 @@ struct Document
     QStringList attachments;
     SignatureList signatures;
     QHash<int, QVector<Stamp>> stamps; ///< By page, above everything else.
-    Table<int> unsupported; ///< The number of left out parts by kind, in what was read so far.
+    /** The number of left out parts by kind, in what was read or painted so far. */
+    mutable Table<int> unsupported;
+    mutable Table<QString> leftOutFiles; ///< For leaveOut().
     /** Held while painting: Qt keeps what it computes inside of paths and brushes, unprotected. */
     mutable std::mutex painting;
 };

@@ -13,11 +13,16 @@
 
 #include <QBitArray>
 
+#include <algorithm>
+
 namespace Ofd {
 
 namespace {
 
 const QString entryPoint = QStringLiteral("OFD.xml");
+/** Measuring a page takes some ten microseconds, so most documents have their true sizes at once.
+ */
+constexpr int measuredAtOnce = 200;
 
 /** Reads a document up to the list of its pages, and later each page. The document owns it. */
 class DocumentReader
@@ -51,6 +56,16 @@ public:
     int pageCount() const { return int(m_locations.size()); }
     QRectF commonArea() const { return m_pages.commonArea(); }
 
+    /** The sheet of a page; null if it is found only by reading the page. */
+    QRectF measure(int index) const
+    {
+        try {
+            return m_pages.measure(m_document.package->find(m_path, m_locations.at(index)));
+        } catch (const Fault &) {
+            return QRectF();
+        }
+    }
+
     /** A page; one that cannot be read costs itself only. */
     Page page(int index)
     {
@@ -61,7 +76,6 @@ public:
             page = readPage(index);
         } catch (const Fault &fault) {
             page = Page();
-            page.area = commonArea();
             page.fault = fault.message;
             ++m_counts[Wording::tr("无法显示的页面")];
         }
@@ -178,9 +192,12 @@ std::shared_ptr<const Document> readFrom(MakePackage makePackage, int body, bool
         document->package = makePackage();
         const auto reader = std::make_shared<DocumentReader>(*document);
         reader->read(body, withSignatures);
-        const QVector<QRectF> areas(reader->pageCount(), reader->commonArea());
-        document->pages =
-            std::make_unique<PageStore>(areas, [reader](int index) { return reader->page(index); });
+        document->pages = std::make_unique<PageStore>(
+            reader->pageCount(), reader->commonArea(),
+            [reader](int index) { return reader->page(index); },
+            [reader](int index) { return reader->measure(index); });
+        for (int page = 0; page < std::min(reader->pageCount(), measuredAtOnce); ++page)
+            document->pages->measure(page);
         return document;
     } catch (const Fault &fault) {
         *error = fault.message;

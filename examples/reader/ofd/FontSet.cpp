@@ -60,28 +60,6 @@ QStringList substitutesFor(const Font &font)
     return hasSerifs ? chineseSerif + chineseSans : chineseSans + chineseSerif;
 }
 
-/** Fonts up to this size are tested as a whole. */
-constexpr int smallFont = 256 << 10;
-
-/** Whether the bytes begin as a font file does, with all entries of its directory. */
-bool hasFontHeader(const QByteArray &head)
-{
-    static const QByteArrayList signatures = {QByteArrayLiteral("\0\1\0\0"),
-                                              QByteArrayLiteral("OTTO"), QByteArrayLiteral("true"),
-                                              QByteArrayLiteral("ttcf")};
-    return signatures.contains(head.left(4)) && head.contains("cmap") && head.contains("head");
-}
-
-bool isUsable(const Package &package, const QString &file)
-{
-    try {
-        const QByteArray head = package.head(file, smallFont);
-        return head.size() < smallFont ? Face::isReadable(head) : hasFontHeader(head.left(1024));
-    } catch (const Fault &) {
-        return false;
-    }
-}
-
 QRawFont installed(const QString &family, bool isBold, bool isItalic)
 {
     QFont wanted(family);
@@ -184,11 +162,6 @@ void Face::trim()
         m_glyphs.clear();
 }
 
-bool Face::isReadable(const QByteArray &bytes)
-{
-    return QRawFont(bytes, rawSize, QFont::PreferNoHinting).isValid();
-}
-
 Face &FontSet::faceOf(const Text &text)
 {
     const Font font = m_document.resources.fonts.value(text.font);
@@ -205,17 +178,12 @@ Face &FontSet::faceOf(const Text &text)
         if (!font.file.isEmpty())
             bytes = m_document.package->read(font.file);
     } catch (const Fault &) {
-        // Not reported here: a damaged font was reported on opening, and another one replaces it.
+        // Another font replaces it.
     }
-    return m_faces.emplace(key, Face(font, bytes, isBold, isItalic)).first->second;
-}
-
-void FontSet::countFaults(const Document &document, QMap<QString, int> *counts)
-{
-    for (const Font &font : document.resources.fonts.all()) {
-        if (!font.file.isEmpty() && !isUsable(*document.package, font.file))
-            ++(*counts)[Wording::tr("嵌入字体“%1”").arg(font.name)];
-    }
+    Face face(font, bytes, isBold, isItalic);
+    if (!font.file.isEmpty() && !face.isEmbedded())
+        m_document.leaveOut(Wording::tr("嵌入字体“%1”").arg(font.name), font.file);
+    return m_faces.emplace(key, std::move(face)).first->second;
 }
 
 QStringList FontSet::missing(const Resources &resources)

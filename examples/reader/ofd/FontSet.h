@@ -36,9 +36,6 @@ public:
     /** The glyph of that index in the embedded font. */
     const Glyph &glyphAt(quint32 index) { return glyph(0, index); }
 
-    /** Whether the bytes are a usable font file. */
-    static bool isReadable(const QByteArray &bytes);
-
 private:
     void addSystemFonts(const Font &font, bool isBold, bool isItalic);
     const Glyph &glyph(int font, quint32 index);
@@ -61,9 +58,6 @@ public:
     }
 
     Face &faceOf(const Text &text);
-
-    /** Adds the embedded fonts that cannot be used; of large ones only the header is tested. */
-    static void countFaults(const Document &document, QMap<QString, int> *counts);
 
     /** The names of the fonts that are neither embedded nor installed. */
     static QStringList missing(const Resources &resources);

@@ -17,8 +17,6 @@ namespace {
 
 constexpr int mostKilobytes = 256 << 10;
 constexpr int mostHalvings = 8;
-/** The first bytes of a picture nearly always tell its size. */
-constexpr int usualHead = 64 << 10;
 
 int kilobytesOf(const QImage &image)
 {
@@ -55,24 +53,6 @@ ImageStore::ImageStore(const Document &document)
 {
 }
 
-void ImageStore::countFaults(const Document &document, QMap<QString, int> *counts)
-{
-    for (const QString &file : document.resources.images.all()) {
-        if (file.isEmpty())
-            continue;
-        QString fault;
-        try {
-            fault = Picture::faultOf(document.package->head(file, usualHead));
-            if (!fault.isEmpty())
-                fault = Picture::faultOf(document.package->read(file));
-        } catch (const Fault &) {
-            fault = Wording::tr("图像");
-        }
-        if (!fault.isEmpty())
-            ++(*counts)[fault];
-    }
-}
-
 QImage ImageStore::image(const QString &resource, QSizeF target)
 {
     const QImage whole = decoded(resource);
@@ -90,12 +70,19 @@ QImage ImageStore::decoded(const QString &resource)
         return *known;
     QImage image;
     const QString file = m_document.resources.images.value(resource);
+    QString fault = Wording::tr("图像");
     try {
-        if (!file.isEmpty())
-            image = Picture::decoded(m_document.package->read(file));
+        if (!file.isEmpty()) {
+            const QByteArray bytes = m_document.package->read(file);
+            image = Picture::decoded(bytes);
+            if (image.isNull() && !Picture::faultOf(bytes).isEmpty())
+                fault = Picture::faultOf(bytes);
+        }
     } catch (const Fault &) {
-        // Not reported here: a damaged picture was reported on opening. Nothing is painted.
+        // Nothing is painted.
     }
+    if (image.isNull() && !file.isEmpty())
+        m_document.leaveOut(fault, file);
     m_cache.insert(resource, new QImage(image), kilobytesOf(image));
     return image;
 }

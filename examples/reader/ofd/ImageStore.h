@@ -19,9 +19,6 @@ public:
     /** The picture, halved while it stays larger than @p target; null if it cannot be decoded. */
     QImage image(const QString &resource, QSizeF target);
 
-    /** Adds how many pictures of each format cannot be painted, as far as their headers tell. */
-    static void countFaults(const Document &document, QMap<QString, int> *counts);
-
 private:
     QImage decoded(const QString &resource);
     QImage halved(const QString &resource, int times);

@@ -149,11 +149,6 @@ QByteArray Package::read(const QString &path) const
     return bytes;
 }
 
-QByteArray Package::head(const QString &path, qint64 most) const
-{
-    return unpack(path, most);
-}
-
 QByteArray Package::unpack(const QString &path, qint64 most) const
 {
     const QMutexLocker locker(&m_mutex);
@@ -168,6 +163,15 @@ QByteArray Package::unpack(const QString &path, qint64 most) const
     if (file.getZipError() != UNZ_OK)
         throw damageOf(path);
     return bytes;
+}
+
+QByteArray Package::readStart(const QString &path, int length) const
+{
+    try {
+        return unpack(path, length);
+    } catch (const Fault &) {
+        return QByteArray();
+    }
 }
 
 QString Package::find(const QString &from, const QString &location) const

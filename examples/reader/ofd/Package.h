@@ -37,8 +37,8 @@ public:
     void add(const QString &name, const QByteArray &bytes) { m_added.insert(name, bytes); }
     /** Throws a Fault for an entry that is missing or damaged. Any thread may read. */
     QByteArray read(const QString &path) const;
-    /** The first bytes of an entry, at most so many; damage behind them is not found. */
-    QByteArray head(const QString &path, qint64 most) const;
+    /** Up to that many bytes from the start of an entry; fewer or none if it is damaged. */
+    QByteArray readStart(const QString &path, int length) const;
 
     /**
      * The entry for a location in the file @p from. A location is relative to the folder of that

@@ -8,27 +8,34 @@
 #include "ofd/Values.h"
 #include "ofd/Wording.h"
 
+#include <QXmlStreamReader>
+
 namespace Ofd {
 
 namespace {
 
 constexpr QRectF usualArea(0, 0, 210, 297);
 constexpr int mostLayers = 2000;
+/** Before the content there are few short elements. */
+constexpr int startBytes = 4096;
 constexpr const char *backgroundOrder = "Background";
 constexpr const char *bodyOrder = "Body";
 constexpr const char *foregroundOrder = "Foreground";
 
-/** The rectangle of the sheet from an area element; null if it has none. */
-QRectF sheetOf(const XmlElement &area)
+QRectF sheetFrom(const QString &text)
 {
-    const QString text = area.childText("PhysicalBox");
-    if (text.isEmpty())
-        return QRectF();
     const QRectF box = Values::box(text);
     const qreal longest = std::max(box.width(), box.height());
     if (box.width() <= 0 || box.height() <= 0 || longest > Limits::pageSide)
         throw Fault{Wording::tr("页面尺寸“%1”超出范围。").arg(text.left(48))};
     return box;
+}
+
+/** The rectangle of the sheet from an area element; null if it has none. */
+QRectF sheetOf(const XmlElement &area)
+{
+    const QString text = area.childText("PhysicalBox");
+    return text.isEmpty() ? QRectF() : sheetFrom(text);
 }
 
 QString orderOf(const XmlElement &layer)
@@ -55,6 +62,25 @@ void PageReader::readCommon(const XmlElement &data, const QString &from)
         page.order = element.attribute("ZOrder");
         m_templates.insert(element.attribute("ID"), page);
     }
+}
+
+QRectF PageReader::measure(const QString &path) const
+{
+    QXmlStreamReader reader(m_package.readStart(path, startBytes));
+    bool isInside = false;
+    while (!reader.atEnd()) {
+        const QXmlStreamReader::TokenType token = reader.readNext();
+        if (token == QXmlStreamReader::DTD || reader.name() == QLatin1String("Content"))
+            return QRectF();
+        if (reader.name() == QLatin1String("Area"))
+            isInside = token == QXmlStreamReader::StartElement;
+        if (!isInside || token != QXmlStreamReader::StartElement
+            || reader.name() != QLatin1String("PhysicalBox"))
+            continue;
+        const QString text = reader.readElementText(QXmlStreamReader::SkipChildElements);
+        return reader.hasError() ? QRectF() : sheetFrom(text);
+    }
+    return QRectF();
 }
 
 Page PageReader::read(const QString &path)

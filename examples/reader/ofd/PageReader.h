@@ -24,6 +24,11 @@ public:
     void readCommon(const XmlElement &data, const QString &from);
     /** The sheet of pages that have none of their own. */
     QRectF commonArea() const { return m_commonArea; }
+    /**
+     * The sheet of a page from the start of its entry; null if it is not found there. It changes
+     * nothing, so that it may run beside read().
+     */
+    QRectF measure(const QString &path) const;
     /** Reads the content of a page from an entry of the package. */
     Page read(const QString &path);
 

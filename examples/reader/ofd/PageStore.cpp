@@ -44,10 +44,12 @@ int kilobytesOf(const Page &page)
 
 } // namespace
 
-PageStore::PageStore(const QVector<QRectF> &areas, Reader reader)
-    : m_count(int(areas.size()))
+PageStore::PageStore(int count, const QRectF &usualArea, Reader reader, Measurer measurer)
+    : m_usualArea(usualArea)
     , m_reader(std::move(reader))
-    , m_areas(areas)
+    , m_measurer(std::move(measurer))
+    , m_count(count)
+    , m_areas(count)
     , m_pages(mostKilobytes)
 {
 }
@@ -55,7 +57,22 @@ PageStore::PageStore(const QVector<QRectF> &areas, Reader reader)
 QRectF PageStore::area(int index) const
 {
     const QMutexLocker guard(&m_lock);
-    return m_areas.at(index);
+    const QRectF &area = m_areas.at(index);
+    return area.isNull() ? m_usualArea : area;
+}
+
+void PageStore::measure(int index) const
+{
+    {
+        const QMutexLocker guard(&m_lock);
+        if (!m_measurer || !m_areas.at(index).isNull())
+            return;
+    }
+    const QRectF area = m_measurer(index);
+    const QMutexLocker guard(&m_lock);
+    // What a reader found out in the meantime is exact.
+    if (m_areas.at(index).isNull())
+        m_areas[index] = area;
 }
 
 std::shared_ptr<const Page> PageStore::known(int index) const
@@ -69,15 +86,40 @@ std::shared_ptr<const Page> PageStore::page(int index) const
 {
     if (const Kept kept = known(index))
         return kept;
+    const Kept page = readUnlessKnown(index);
+    const QMutexLocker guard(&m_listening);
+    if (m_listener)
+        m_listener();
+    return page;
+}
+
+std::shared_ptr<const Page> PageStore::readUnlessKnown(int index) const
+{
     const QMutexLocker reading(&m_reading);
     // Another thread may have read it while this one waited.
     if (const Kept kept = known(index))
         return kept;
-    const auto page = std::make_shared<const Page>(m_reader(index));
+    const auto page = std::make_shared<Page>(m_reader(index));
+    if (!page->fault.isNull())
+        page->area = area(index);
     const QMutexLocker guard(&m_lock);
     m_areas[index] = page->area;
+    if (!page->fault.isNull())
+        m_faults.insert(index, page->fault);
     m_pages.insert(index, new Kept(page), kilobytesOf(*page));
     return page;
+}
+
+QString PageStore::fault(int index) const
+{
+    const QMutexLocker guard(&m_lock);
+    return m_faults.value(index);
+}
+
+void PageStore::setListener(std::function<void()> listener) const
+{
+    const QMutexLocker guard(&m_listening);
+    m_listener = std::move(listener);
 }
 
 } // namespace Ofd

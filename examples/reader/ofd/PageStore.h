@@ -39,28 +39,46 @@ struct Page
 class PageStore
 {
 public:
-    /** Reads a page; one that cannot be read is empty and has a fault. No two threads call it. */
+    /**
+     * Reads a page; one that cannot be read has a fault and nothing else. No two threads call it.
+     */
     using Reader = std::function<Page(int index)>;
+    /** Finds the sheet of a page without reading it all; null if it fails. Threads may call it. */
+    using Measurer = std::function<QRectF(int index)>;
 
-    PageStore(const QVector<QRectF> &areas, Reader reader);
+    /** @param usualArea The sheet of pages that are not measured yet. */
+    PageStore(int count, const QRectF &usualArea, Reader reader, Measurer measurer = nullptr);
 
     int count() const { return m_count; }
-    /** The sheet of a page; the usual one of the document until it is known. */
+    /** The sheet of a page; the usual one of the document until it is measured or read. */
     QRectF area(int index) const;
+    /** Measures a page, which takes much less time than to read it. */
+    void measure(int index) const;
     /** Never null. It stays valid while it is held, also when the store forgets it. */
     std::shared_ptr<const Page> page(int index) const;
+    /** Why a page is empty; null also as long as it was not read. */
+    QString fault(int index) const;
+
+    /** Sets what is called when a page was read, in the thread that did. */
+    void setListener(std::function<void()> listener) const;
 
 private:
     std::shared_ptr<const Page> known(int index) const;
+    std::shared_ptr<const Page> readUnlessKnown(int index) const;
 
     using Kept = std::shared_ptr<const Page>;
 
-    const int m_count;
+    const QRectF m_usualArea;
     const Reader m_reader;
-    mutable QMutex m_reading; ///< Locked before m_lock.
-    mutable QMutex m_lock;    ///< Of what follows.
-    mutable QVector<QRectF> m_areas;
+    const Measurer m_measurer;
+    const int m_count;
+    mutable QMutex m_reading;        ///< Locked before m_lock.
+    mutable QMutex m_lock;           ///< Of what follows.
+    mutable QVector<QRectF> m_areas; ///< Null for those that are not known.
+    mutable QHash<int, QString> m_faults;
     mutable QCache<int, Kept> m_pages;
+    mutable QMutex m_listening; ///< Of the listener.
+    mutable std::function<void()> m_listener;
 };
 
 } // namespace Ofd

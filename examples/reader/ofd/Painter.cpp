@@ -73,14 +73,6 @@ Painter::Painter(std::shared_ptr<const Document> document)
 {
 }
 
-QMap<QString, int> Painter::unpaintable() const
-{
-    QMap<QString, int> counts;
-    FontSet::countFaults(*m_document, &counts);
-    ImageStore::countFaults(*m_document, &counts);
-    return counts;
-}
-
 void Painter::paint(QPainter &painter, int page, const std::atomic_bool *isAbandoned)
 {
     m_layers = 0;

@@ -34,9 +34,6 @@ public:
      */
     void paint(QPainter &painter, int page, const std::atomic_bool *isAbandoned = nullptr);
 
-    /** How many embedded files of each kind cannot be painted. */
-    QMap<QString, int> unpaintable() const;
-
 private:
     void paintStamp(QPainter &painter, const Stamp &stamp);
     void paintAll(QPainter &painter, const Objects &objects);

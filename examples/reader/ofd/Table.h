@@ -26,10 +26,13 @@ public:
         return m_values;
     }
 
-    void insert(const QString &name, const Value &value)
+    /** Returns whether there was none of that name. */
+    bool insert(const QString &name, const Value &value)
     {
         const QWriteLocker guard(&m_lock);
+        const auto before = m_values.size();
         m_values.insert(name, value);
+        return m_values.size() > before;
     }
 
     /** Adds to a number, which is 0 before. */

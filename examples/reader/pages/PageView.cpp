@@ -27,6 +27,7 @@ PageView::PageView(const Document &document, QWidget *parent)
     horizontalScrollBar()->setSingleStep(arrowStep);
     setTool(PageTool::of(QString()));
     connect(&document, &Document::pagesChanged, this, &PageView::documentChanged);
+    connect(&document, &Document::sizesChanged, this, &PageView::layOutInPlace);
     connect(&document, &Document::turned, this, &PageView::documentTurned);
     connect(&m_cache, &PageCache::changed, viewport(), QOverload<>::of(&QWidget::update));
     connect(&document, &Document::marksChanged, viewport(), QOverload<>::of(&QWidget::update));
@@ -148,14 +149,6 @@ void PageView::setSelection(const QList<TextRange> &selection)
     viewport()->update();
     if (had != !selection.isEmpty())
         Q_EMIT selectionChanged();
-}
-
-QString PageView::selectedText() const
-{
-    QString text;
-    for (const TextRange &range : m_decoration.selection)
-        text += m_document.page(range.page).text.mid(range.start, range.length);
-    return text;
 }
 
 void PageView::setRevisionsVisible(bool visible)
@@ -311,6 +304,11 @@ void PageView::documentChanged()
 }
 
 void PageView::resizeEvent(QResizeEvent *)
+{
+    layOutInPlace();
+}
+
+void PageView::layOutInPlace()
 {
     const auto firstWidth = [this] {
         return m_layout.places.isEmpty() ? 0 : m_layout.places.first().rect.width();

@@ -44,6 +44,8 @@ public:
 
     /** Sets the hits of a search and scrolls to the current one. */
     void setHits(const QList<TextRange> &hits, const TextRange &current);
+    /** Sets more hits of the same search and stays where it is. */
+    void addHits(const QList<TextRange> &hits);
 
     const QList<TextRange> &selection() const { return m_decoration.selection; }
     void setSelection(const QList<TextRange> &selection);
@@ -107,6 +109,7 @@ private:
     QPoint scrollOffset() const;
     void layOut();
     void layOutAround(const PagePoint &anchor, QPointF target);
+    void layOutInPlace();
     void scrollTo(QPointF deskPoint);
     void showTopOf(int page);
     void documentChanged();

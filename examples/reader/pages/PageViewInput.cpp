@@ -174,6 +174,20 @@ void PageView::finishDrag()
         Q_EMIT markDrawn(mark);
 }
 
+void PageView::addHits(const QList<TextRange> &hits)
+{
+    m_decoration.hits = hits;
+    viewport()->update();
+}
+
+QString PageView::selectedText() const
+{
+    QString text;
+    for (const TextRange &range : m_decoration.selection)
+        text += m_document.page(range.page).text.mid(range.start, range.length);
+    return text;
+}
+
 QList<Mark> PageView::marksOnSelection() const
 {
     QList<Mark> marks;

@@ -111,6 +111,7 @@ NavigationPanel::NavigationPanel(const Document &document, QWidget *parent)
     hide();
     connect(&document, &Document::pagesChanged, this, &NavigationPanel::documentOpened);
     connect(&document, &Document::marksChanged, this, &NavigationPanel::refill);
+    connect(&m_walk, &TextWalk::stepped, this, &NavigationPanel::showWordCounts);
     connect(this, &QDockWidget::visibilityChanged, this, &NavigationPanel::shownPanelChanged);
 }
 
@@ -182,6 +183,7 @@ void NavigationPanel::documentOpened()
 
 void NavigationPanel::refill()
 {
+    m_walk.stop();
     if (isHidden())
         return;
     QListWidget *list = m_lists.value(m_panel);
@@ -257,13 +259,29 @@ void NavigationPanel::addPlaces(const QString &panel, const QList<NamedPlace> &p
 
 void NavigationPanel::fillWords()
 {
-    QListWidget *list = m_lists.value(words);
     for (const QString &word : indexedWords()) {
-        int count = 0;
-        for (int page = 0; page < m_document.pageCount(); ++page)
-            count += int(m_document.page(page).text.count(word));
-        auto *item = new QListWidgetItem(tr("%1（%2 处）").arg(word).arg(count), list);
+        auto *item = new QListWidgetItem(word, m_lists.value(words));
         item->setData(wordRole, word);
+    }
+    // All texts are read for the counts, so they appear afterwards.
+    const auto counts = std::make_shared<QVector<int>>(indexedWords().size(), 0);
+    m_wordCounts = counts;
+    m_walk.start(m_document.pages(), 0, true,
+                 [counts, list = indexedWords()](int, const Page &page) {
+                     for (int i = 0; i < list.size(); ++i)
+                         (*counts)[i] += int(page.text.count(list.at(i)));
+                     return true;
+                 });
+}
+
+void NavigationPanel::showWordCounts()
+{
+    QListWidget *list = m_lists.value(words);
+    if (m_walk.isActive() || m_panel != words || list->count() != m_wordCounts->size())
+        return;
+    for (int i = 0; i < list->count(); ++i) {
+        const QString word = list->item(i)->data(wordRole).toString();
+        list->item(i)->setText(tr("%1（%2 处）").arg(word).arg(m_wordCounts->at(i)));
     }
 }
 

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "document/Document.h"
+#include "panels/TextWalk.h"
 
 #include <QDockWidget>
 #include <QHash>
@@ -47,6 +48,7 @@ private:
     void fillThumbnails();
     void paintThumbnails();
     void fillWords();
+    void showWordCounts();
     void fillBookmarks();
     void fillMarks();
     void fillAttachments();
@@ -61,4 +63,6 @@ private:
     QString m_fileName; ///< The file of the bookmarks.
     QString m_panel;
     int m_currentPage = 0;
+    std::shared_ptr<const QVector<int>> m_wordCounts; ///< Complete after the walk.
+    TextWalk m_walk;
 };

@@ -14,13 +14,16 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <atomic>
+#include <memory>
+
 namespace {
 
 constexpr qreal millimetresPerUnit = 25.4 / 96;
 constexpr int valueWidth = 340;
 constexpr int mostLength = 400;
 
-void addRow(QFormLayout *form, const QString &name, const QString &value)
+QLabel *addRow(QFormLayout *form, const QString &name, const QString &value)
 {
     auto *label = new QLabel(value.left(mostLength));
     label->setTextFormat(Qt::PlainText);
@@ -28,6 +31,7 @@ void addRow(QFormLayout *form, const QString &name, const QString &value)
     label->setMinimumWidth(valueWidth);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     form->addRow(PropertiesDialog::tr("%1：").arg(name), label);
+    return label;
 }
 
 QString sizeOf(const Document &document, int page)
@@ -64,10 +68,11 @@ PropertiesDialog::PropertiesDialog(const Document &document, int currentPage, QW
     addFile(form, document);
     addRow(form, tr("页数"), QString::number(document.pageCount()));
     addRow(form, tr("页面尺寸"), sizeOf(document, currentPage));
-    addRow(form, tr("字数"), QString::number(document.characterCount()));
+    countCharacters(document, addRow(form, tr("字数"), tr("正在统计…")));
     addRow(form, tr("批注"), QString::number(document.marks().size()));
-    if (!document.file().leftOut.isEmpty())
-        addRow(form, tr("提示"), document.file().leftOut);
+    const QString leftOut = document.file().leftOut();
+    if (!leftOut.isEmpty())
+        addRow(form, tr("提示"), leftOut);
 
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close);
     buttons->button(QDialogButtonBox::Close)->setText(tr("关闭"));
@@ -75,4 +80,19 @@ PropertiesDialog::PropertiesDialog(const Document &document, int currentPage, QW
     auto *layout = new QVBoxLayout(this);
     layout->addLayout(form);
     layout->addWidget(buttons);
+}
+
+/** All texts are read for it, so the number appears afterwards. */
+void PropertiesDialog::countCharacters(const Document &document, QLabel *label)
+{
+    const auto count = std::make_shared<std::atomic<qint64>>(0);
+    connect(&m_walk, &TextWalk::stepped, label, [this, label, count] {
+        label->setText(m_walk.isActive() ? tr("%1（正在统计…）").arg(qint64(*count))
+                                         : QString::number(*count));
+    });
+    m_walk.start(document.pages(), 0, true, [count](int, const Page &page) {
+        for (const TextLine &line : page.lines)
+            *count += line.length;
+        return true;
+    });
 }

@@ -3,9 +3,12 @@
 
 #pragma once
 
+#include "panels/TextWalk.h"
+
 #include <QDialog>
 
 class Document;
+class QLabel;
 
 /** The properties of the open document: its file, its size and the information in the file. */
 class PropertiesDialog : public QDialog
@@ -14,4 +17,9 @@ class PropertiesDialog : public QDialog
 
 public:
     PropertiesDialog(const Document &document, int currentPage, QWidget *parent = nullptr);
+
+private:
+    void countCharacters(const Document &document, QLabel *label);
+
+    TextWalk m_walk;
 };

@@ -6,13 +6,19 @@
 #include "panels/TextSearch.h"
 
 #include <QDockWidget>
+#include <QElapsedTimer>
 
 class PageView;
 class QLabel;
 class QLineEdit;
 class QListWidget;
+class QProgressBar;
+class QPushButton;
 
-/** Searches the document and shows the hits on the pages and in a list. */
+/**
+ * Searches the document in the background and shows the hits on the pages and in a list as they
+ * are found.
+ */
 class SearchPanel : public QDockWidget
 {
     Q_OBJECT
@@ -34,14 +40,19 @@ private:
     void buildContent();
     void goToHit(int index);
     void showHits();
+    void listHits(int index, const QStringList &surroundings);
+    void showProgress();
+    void say();
     QString resultText() const;
-    void fillList();
     void forget();
 
     const Document &m_document;
     PageView &m_view;
     TextSearch m_search;
+    QElapsedTimer m_clock; ///< Since the search began.
     QLineEdit *m_field;
     QLabel *m_label;
+    QProgressBar *m_progress;
+    QPushButton *m_stopButton;
     QListWidget *m_list;
 };

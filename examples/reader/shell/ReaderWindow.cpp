@@ -9,6 +9,7 @@
 #include "panels/NavigationPanel.h"
 #include "panels/SearchPanel.h"
 #include "reach/ToolBarReach.h"
+#include "shell/BodyChooser.h"
 #include "shell/Description.h"
 #include "shell/HostDock.h"
 #include "shell/KeyboardReach.h"
@@ -59,6 +60,7 @@ ReaderWindow::ReaderWindow(const QDomDocument &description, const QString &skin)
     , m_search(new SearchPanel(m_document, *m_view, this))
     , m_handwriting(new HandwritingSettings(this))
     , m_pageField(new PageFieldWatcher(this))
+    , m_bodies(new BodyChooser(m_document))
     , m_place(new QLabel)
     , m_session({*this, m_document, *m_view, *m_navigation, *m_search}, *m_settings)
     , m_fileCommands(parts())
@@ -66,6 +68,7 @@ ReaderWindow::ReaderWindow(const QDomDocument &description, const QString &skin)
     , m_editCommands(parts())
 {
     createCentre();
+    statusBar()->addPermanentWidget(m_bodies);
     addDockWidget(Qt::LeftDockWidgetArea, m_navigation);
     addDockWidget(Qt::LeftDockWidgetArea, m_search);
     createToolBar(description);
@@ -285,6 +288,20 @@ void ReaderWindow::stateChanged()
 {
     m_commands.update();
     updateTitle();
+}
+
+/** Names a page that cannot be shown, and parts of others that are left out. */
+void ReaderWindow::tellWhatIsMissing()
+{
+    if (!m_document.isOpen())
+        return;
+    const QString leftOut = m_document.file().leftOut();
+    const QString fault = m_document.faultOf(m_view->currentPage());
+    if (!fault.isEmpty())
+        parts().say(fault);
+    else if (!leftOut.isEmpty() && leftOut != m_leftOut)
+        parts().say(leftOut);
+    m_leftOut = leftOut;
 }
 
 void ReaderWindow::updateTitle()

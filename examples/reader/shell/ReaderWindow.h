@@ -19,6 +19,7 @@
 #include <functional>
 #include <memory>
 
+class BodyChooser;
 class HostDock;
 class MRToolBar;
 class NavigationPanel;
@@ -92,6 +93,7 @@ private:
     void showPagesOrStart();
     void showPage() const;
     void updateTitle();
+    void tellWhatIsMissing();
 
     const QString m_skin;
     ToolBarSkinStyle m_colours;
@@ -107,7 +109,9 @@ private:
     HandwritingSettings *m_handwriting;
     HostDock *m_host = nullptr;
     PageFieldWatcher *m_pageField;
+    BodyChooser *m_bodies;
     QLabel *m_place;
+    QString m_leftOut; ///< What was told last.
     Session m_session;
 
     MRToolBarCommands m_commands{nullptr};

@@ -8,6 +8,7 @@
 #include "panels/NavigationPanel.h"
 #include "panels/SearchPanel.h"
 #include "reach/ToolBarReach.h"
+#include "shell/BodyChooser.h"
 #include "shell/HostDock.h"
 #include "shell/PageFieldWatcher.h"
 #include "shell/ReaderWindow.h"
@@ -43,6 +44,11 @@ void ReaderWindow::connectParts()
 {
     connect(&m_document, &Document::pagesChanged, this, &ReaderWindow::showPagesOrStart);
     connect(&m_document, &Document::pagesChanged, this, &ReaderWindow::stateChanged);
+    connect(&m_document, &Document::learnt, this, &ReaderWindow::tellWhatIsMissing);
+    connect(m_bodies, &BodyChooser::bodyChosen, this, [this](int body) {
+        m_fileCommands.openBody(body);
+        m_bodies->refresh();
+    });
     connect(&m_document.undoStack(), &QUndoStack::indexChanged, this, &ReaderWindow::stateChanged);
     connect(&m_document.undoStack(), &QUndoStack::cleanChanged, this, &ReaderWindow::stateChanged);
     connect(m_navigation, &NavigationPanel::pageChosen, m_view, &PageView::setCurrentPage);
@@ -57,6 +63,7 @@ void ReaderWindow::connectView()
 {
     connect(m_view, &PageView::currentPageChanged, m_navigation, &NavigationPanel::setCurrentPage);
     connect(m_view, &PageView::currentPageChanged, this, &ReaderWindow::stateChanged);
+    connect(m_view, &PageView::currentPageChanged, this, &ReaderWindow::tellWhatIsMissing);
     connect(m_view, &PageView::zoomChanged, this, &ReaderWindow::stateChanged);
     connect(m_view, &PageView::selectionChanged, this, &ReaderWindow::stateChanged);
     connect(m_view, &PageView::zoomStepAsked, this, [this](bool larger) {

@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr std::chrono::milliseconds pause(150);
+constexpr std::chrono::milliseconds betweenLooks(150);
 constexpr int mostLooks = 100;
 
 } // namespace
@@ -26,7 +26,7 @@ Screenshot::Screenshot(QWidget *window, const QString &fileName, QObject *parent
     , m_fileName(fileName)
 {
     connect(&m_timer, &QTimer::timeout, this, &Screenshot::look);
-    m_timer.start(pause);
+    m_timer.start(betweenLooks);
 }
 
 void Screenshot::look()

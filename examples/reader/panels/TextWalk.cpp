@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
+#include "panels/TextWalk.h"
+
+namespace {
+
+constexpr int firstLook = 10; // Milliseconds. Small documents answer at once.
+constexpr int laterLooks = 100;
+
+} // namespace
+
+TextWalk::TextWalk(QObject *parent)
+    : QObject(parent)
+{
+    connect(&m_timer, &QTimer::timeout, this, &TextWalk::follow);
+}
+
+TextWalk::~TextWalk()
+{
+    stop();
+}
+
+void TextWalk::start(const QList<Page> &pages, int first, bool isDown, const Visit &visit)
+{
+    stop();
+    m_count = 0;
+    m_isStopped = false;
+    m_isDone = false;
+    m_timer.start(firstLook);
+    m_thread = std::thread([this, pages, first, isDown, visit] {
+        const int count = int(pages.size());
+        for (int i = 0; i < count && !m_isStopped; ++i) {
+            const int index = (first + (isDown ? i : count - i)) % count;
+            if (!visit(index, pages.at(index).withText()))
+                break;
+            ++m_count;
+        }
+        m_isDone = true;
+    });
+}
+
+void TextWalk::stop()
+{
+    m_timer.stop();
+    m_isStopped = true;
+    if (m_thread.joinable())
+        m_thread.join();
+}
+
+void TextWalk::follow()
+{
+    m_timer.setInterval(laterLooks);
+    if (m_isDone)
+        stop();
+    Q_EMIT stepped();
+}
