@@ -29,6 +29,7 @@ public:
     /** Goes to the first or next hit without showing or hiding the dock. */
     void search(const SearchOption &option);
     void searchWord(const QString &word);
+    bool isSearching() const { return m_search.isActive(); }
     /** Shows the dock and focuses its field. */
     void open();
 

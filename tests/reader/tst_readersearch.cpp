@@ -1,0 +1,179 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
+#include "pages/PageView.h"
+#include "panels/SearchPanel.h"
+#include "tests/ofd/PackageMaker.h"
+
+#include <QLabel>
+#include <QListWidget>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+constexpr int manyPages = 3000;
+
+/** The search dock with the view of an open file. */
+struct Finder
+{
+    explicit Finder(const QString &fileName)
+    {
+        QString error;
+        QVERIFY2(document.open(fileName, &error), qPrintable(error));
+        view.resize(400, 300);
+        panel.show();
+    }
+
+    void search(const QString &word, bool isDown = true)
+    {
+        SearchOption option;
+        option.content = word;
+        option.direction = isDown ? 1 : 0;
+        panel.search(option);
+    }
+
+    /** The page of the current hit, counted from 1; 0 without a hit. */
+    int currentPage() const
+    {
+        const QListWidgetItem *item = list->currentItem();
+        return item ? item->text().section(QChar(u'　'), 0, 0).toInt() : 0;
+    }
+
+    Document document;
+    PageView view{document};
+    SearchPanel panel{document, view};
+    const QListWidget *list = panel.findChild<QListWidget *>();
+    const QLabel *label = panel.findChild<QLabel *>();
+    QPushButton *stopButton = panel.findChild<QPushButton *>();
+};
+
+} // namespace
+
+/** The search dock on long documents, whose hits appear one after another. */
+class ReaderSearchTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_folder;
+    QString m_long = m_folder.filePath("long.ofd");
+    QString m_short = m_folder.filePath("short.ofd");
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QVERIFY(PackageMaker::write(m_long, PackageMaker::documentOf(manyPages)));
+        PackageMaker::Entries entries = PackageMaker::documentOf(9);
+        for (const int page : {1, 4, 7})
+            entries[PackageMaker::pagePath(page)] = PackageMaker::pageOf("needle");
+        entries.remove(PackageMaker::pagePath(5));
+        QVERIFY(PackageMaker::write(m_short, entries));
+    }
+
+    void shouldBeginAtTheCurrentPage_data()
+    {
+        QTest::addColumn<int>("from");
+        QTest::addColumn<bool>("isDown");
+        QTest::addColumn<int>("first");
+        QTest::addColumn<int>("current");
+        QTest::newRow("down, on a page with hits") << 4 << true << 5 << 5;
+        QTest::newRow("down, between") << 2 << true << 5 << 5;
+        QTest::newRow("down, after the last hit") << 8 << true << 2 << 2;
+        QTest::newRow("up, on a page with hits") << 4 << false << 5 << 5;
+        QTest::newRow("up, between") << 6 << false << 5 << 5;
+        QTest::newRow("up, before the first hit") << 0 << false << 8 << 8;
+    }
+
+    void shouldBeginAtTheCurrentPage()
+    {
+        QFETCH(int, from);
+        QFETCH(bool, isDown);
+        QFETCH(int, first);
+        Finder finder(m_short);
+        finder.view.setCurrentPage(from);
+        finder.search("needle", isDown);
+        QTRY_VERIFY(!finder.panel.isSearching());
+        QCOMPARE(finder.list->count(), 12);
+        QCOMPARE(finder.currentPage(), first);
+        QCOMPARE(finder.view.currentPage(), first - 1);
+        // Four hits further is the next page with hits, from the last one to the first.
+        for (int i = 0; i < 4; ++i)
+            finder.search("needle", isDown);
+        const QList<int> order = isDown ? QList<int>{2, 5, 8} : QList<int>{8, 5, 2};
+        QCOMPARE(finder.currentPage(), order.at((order.indexOf(first) + 1) % 3));
+    }
+
+    void shouldShowHitsWhileItGoesOn()
+    {
+        Finder finder(m_long);
+        finder.view.setCurrentPage(manyPages / 2);
+        finder.search("number");
+        QTRY_VERIFY(finder.list->count() > 0);
+        QVERIFY(finder.panel.isSearching());
+        QCOMPARE(finder.currentPage(), manyPages / 2 + 1);
+        const auto *progress = finder.panel.findChild<QProgressBar *>();
+        QTRY_VERIFY(progress->isVisible() && finder.stopButton->isVisible());
+        QTRY_VERIFY_WITH_TIMEOUT(!finder.panel.isSearching(), 120000);
+        QVERIFY(!progress->isVisible() && !finder.stopButton->isVisible());
+        // Four on each page, in the order of the pages although the first ones were found last.
+        QCOMPARE(finder.list->count(), 4 * manyPages);
+        for (int row = 0; row < finder.list->count(); row += 401)
+            QVERIFY(
+                finder.list->item(row)->text().startsWith(QStringLiteral("%1　").arg(row / 4 + 1)));
+        QCOMPARE(finder.currentPage(), manyPages / 2 + 1);
+        QCOMPARE(finder.view.currentPage(), manyPages / 2);
+    }
+
+    void shouldStopWhenTheUserSaysSo()
+    {
+        Finder finder(m_long);
+        finder.search("number");
+        QTRY_VERIFY(finder.stopButton->isVisible() && finder.list->count() > 0);
+        finder.stopButton->click();
+        QVERIFY(!finder.panel.isSearching() && !finder.stopButton->isVisible());
+        const int count = finder.list->count();
+        QVERIFY(count > 0 && count < 4 * manyPages);
+        QVERIFY2(finder.label->text().contains("只查找了"), qPrintable(finder.label->text()));
+        QTest::qWait(200);
+        QCOMPARE(finder.list->count(), count);
+        // The same question goes to the next of the hits that there are.
+        finder.search("number");
+        QVERIFY(!finder.panel.isSearching());
+        QCOMPARE(finder.list->currentRow(), 1);
+    }
+
+    void shouldEndWithTheDocument()
+    {
+        Finder finder(m_long);
+        finder.search("number");
+        QTRY_VERIFY(finder.list->count() > 0);
+        QString error;
+        QVERIFY(finder.document.open(m_short, &error));
+        QVERIFY(!finder.panel.isSearching());
+        QSignalSpy found(&finder.panel, &SearchPanel::found);
+        QTest::qWait(200);
+        QCOMPARE(finder.list->count(), 0);
+        QVERIFY(found.isEmpty());
+    }
+
+    void shouldForgetTheSearchBefore()
+    {
+        Finder finder(m_long);
+        finder.search("number");
+        QTRY_VERIFY(finder.list->count() > 0);
+        finder.search(QStringLiteral("number %1 of").arg(manyPages - 1));
+        QTRY_VERIFY_WITH_TIMEOUT(!finder.panel.isSearching(), 120000);
+        QCOMPARE(finder.list->count(), 4);
+        QCOMPARE(finder.currentPage(), manyPages - 1);
+        finder.search("nowhere");
+        QTRY_VERIFY_WITH_TIMEOUT(!finder.panel.isSearching(), 120000);
+        QVERIFY(finder.list->count() == 0 && finder.label->text().contains("没有找到"));
+    }
+};
+
+QTEST_MAIN(ReaderSearchTest)
+#include "tst_readersearch.moc"
