@@ -29,6 +29,7 @@ constexpr int pageRole = Qt::UserRole;
 constexpr int wordRole = Qt::UserRole + 1;
 constexpr int paintedRole = Qt::UserRole + 2;
 constexpr int leastWidth = 200;
+constexpr int mostThumbnails = 500;
 constexpr QSize thumbnailSize(106, 150);
 
 QString titleOf(const QString &panel)
@@ -57,6 +58,13 @@ void addNotice(QListWidget *list, const QString &text)
 {
     auto *item = new QListWidgetItem(text, list);
     item->setFlags(Qt::NoItemFlags);
+}
+
+QIcon blankThumbnail()
+{
+    QPixmap blank(thumbnailSize);
+    blank.fill(Qt::white);
+    return QIcon(blank);
 }
 
 QIcon thumbnailOf(const Document &document, int page, qreal ratio)
@@ -223,8 +231,8 @@ void NavigationPanel::fillOutline()
 void NavigationPanel::fillThumbnails()
 {
     QListWidget *list = m_lists.value(thumbnails);
-    QPixmap blank(thumbnailSize);
-    blank.fill(Qt::white);
+    const QIcon blank = blankThumbnail();
+    m_paintedPages.clear();
     for (int page = 0; page < m_document.pageCount(); ++page) {
         addItem(list, QString::number(page + 1), page);
         list->item(page)->setIcon(blank);
@@ -243,6 +251,13 @@ void NavigationPanel::paintThumbnails()
             continue;
         item->setData(paintedRole, true);
         item->setIcon(thumbnailOf(m_document, page, devicePixelRatioF()));
+        m_paintedPages.append(page);
+    }
+    // The oldest ones are painted again when they come into view.
+    while (m_paintedPages.size() > mostThumbnails) {
+        QListWidgetItem *item = list->item(m_paintedPages.takeFirst());
+        item->setData(paintedRole, false);
+        item->setIcon(blankThumbnail());
     }
 }
 

@@ -60,7 +60,8 @@ private:
     QHash<QString, QListWidget *> m_lists;
     QPushButton *m_bookmarkButton;
     QList<int> m_bookmarks;
-    QString m_fileName; ///< The file of the bookmarks.
+    QList<int> m_paintedPages; ///< Those with a thumbnail, the oldest first.
+    QString m_fileName;        ///< The file of the bookmarks.
     QString m_panel;
     int m_currentPage = 0;
     std::shared_ptr<const QVector<int>> m_wordCounts; ///< Complete after the walk.

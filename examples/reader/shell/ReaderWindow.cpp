@@ -290,18 +290,18 @@ void ReaderWindow::stateChanged()
     updateTitle();
 }
 
-/** Names a page that cannot be shown, and parts of others that are left out. */
+/** Names a page that cannot be shown, and what is left out if it is of a kind not named before. */
 void ReaderWindow::tellWhatIsMissing()
 {
-    if (!m_document.isOpen())
-        return;
-    const QString leftOut = m_document.file().leftOut();
-    const QString fault = m_document.faultOf(m_view->currentPage());
-    if (!fault.isEmpty())
+    const OfdFile &file = m_document.file();
+    const int kinds = file.document ? int(file.document->unsupported.keys().size()) : 0;
+    const QString fault = file.document ? m_document.faultOf(m_view->currentPage()) : QString();
+    if (!fault.isEmpty() && fault != m_toldFault)
         parts().say(fault);
-    else if (!leftOut.isEmpty() && leftOut != m_leftOut)
-        parts().say(leftOut);
-    m_leftOut = leftOut;
+    else if (kinds > m_toldKinds)
+        parts().say(file.leftOut());
+    m_toldFault = fault;
+    m_toldKinds = kinds;
 }
 
 void ReaderWindow::updateTitle()

@@ -111,7 +111,8 @@ private:
     PageFieldWatcher *m_pageField;
     BodyChooser *m_bodies;
     QLabel *m_place;
-    QString m_leftOut; ///< What was told last.
+    QString m_toldFault; ///< About the current page.
+    int m_toldKinds = 0; ///< How many kinds of left out parts were told.
     Session m_session;
 
     MRToolBarCommands m_commands{nullptr};
