@@ -3,12 +3,17 @@
 
 #include "pages/PageView.h"
 #include "panels/SearchPanel.h"
+#include "shell/BodyChooser.h"
+#include "shell/Description.h"
+#include "shell/ReaderWindow.h"
 #include "tests/ofd/PackageMaker.h"
 
 #include <QLabel>
 #include <QListWidget>
+#include <QMessageBox>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -53,8 +58,9 @@ struct Finder
 
 } // namespace
 
-/** The search dock on long documents, whose hits appear one after another. */
-class ReaderSearchTest : public QObject
+/** Long documents, which the reader shows and searches before it knows them, and several in a file.
+ */
+class ReaderPagesTest : public QObject
 {
     Q_OBJECT
 
@@ -173,7 +179,68 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(!finder.panel.isSearching(), 120000);
         QVERIFY(finder.list->count() == 0 && finder.label->text().contains("没有找到"));
     }
+
+    void shouldNotJumpWhenTheSizesOfPagesBecomeKnown()
+    {
+        constexpr int taller = 50;
+        constexpr qreal more = 297 * 96 / 25.4;
+        PackageMaker::Entries entries = PackageMaker::documentOf(500);
+        for (int page = 300; page < 300 + taller; ++page)
+            entries[PackageMaker::pagePath(page)] = PackageMaker::pageOf("tall", "0 0 210 594");
+        const QString file = m_folder.filePath("sizes.ofd");
+        QVERIFY(PackageMaker::write(file, entries));
+        Finder finder(file);
+        finder.view.setLayoutMode(LayoutMode::SingleFlow);
+        finder.view.setZoomMode(ZoomMode(100));
+        finder.view.show();
+        finder.view.setCurrentPage(400);
+        QScrollBar *bar = finder.view.verticalScrollBar();
+        bar->setValue(bar->value() + 77);
+        const int before = bar->value();
+        QCOMPARE(finder.view.currentPage(), 400);
+        QTRY_VERIFY(bar->value() != before);
+        const qreal factor = finder.view.logicalDpiX() / 96.0;
+        QVERIFY2(qAbs(bar->value() - before - taller * more * factor) < 3,
+                 qPrintable(QString::number(bar->value() - before)));
+        QCOMPARE(finder.view.currentPage(), 400);
+    }
+
+    void shouldOfferEachDocumentOfAFile()
+    {
+        PackageMaker::Entries entries = PackageMaker::documentOf(2);
+        QByteArray body = entries["OFD.xml"];
+        body = body.mid(body.indexOf("<ofd:DocBody>"));
+        body.truncate(body.indexOf("</ofd:OFD>"));
+        entries["OFD.xml"].replace("</ofd:OFD>", QByteArray(body).replace("Doc_0", "Doc_1")
+                                                     + QByteArray(body).replace("Doc_0", "Doc_2")
+                                                     + "</ofd:OFD>");
+        const QByteArray root = entries["Doc_0/Document.xml"];
+        entries["Doc_1/Document.xml"] = QByteArray(root).replace("0 0 210 297", "0 0 70 99");
+        entries["Doc_2/Document.xml"] = "damaged";
+        const QString file = m_folder.filePath("several.ofd");
+        QVERIFY(PackageMaker::write(file, entries));
+        QString error;
+        ReaderWindow window(Description::read("release", "marodi", &error), QString());
+        auto *chooser = window.findChild<BodyChooser *>();
+        const auto *place = window.findChild<PageView *>();
+        window.openOrExplain(m_short, &error);
+        window.show();
+        QVERIFY(!chooser->isVisible());
+        window.openOrExplain(file, &error);
+        QVERIFY2(error.isEmpty(), qPrintable(error));
+        QVERIFY(chooser->isVisible() && chooser->count() == 3 && chooser->currentIndex() == 0);
+        const qreal before = place->percent();
+        Q_EMIT chooser->bodyChosen(1);
+        QCOMPARE(chooser->currentIndex(), 1);
+        QVERIFY(place->percent() > before);
+        // The damaged one is refused, and the open one stays.
+        Q_EMIT chooser->bodyChosen(2);
+        QCOMPARE(chooser->currentIndex(), 1);
+        auto *refusal = window.findChild<QMessageBox *>();
+        QVERIFY(refusal && refusal->isVisible());
+        refusal->close();
+    }
 };
 
-QTEST_MAIN(ReaderSearchTest)
-#include "tst_readersearch.moc"
+QTEST_MAIN(ReaderPagesTest)
+#include "tst_readerpages.moc"
