@@ -129,7 +129,6 @@ private Q_SLOTS:
         QPainter painter(&sheet);
         document.contentOf(1)->paint(painter);
         painter.end();
-        QVERIFY(sheet.convertToFormat(QImage::Format_Mono).colorCount() == 2);
         QImage blank(sheet.size(), sheet.format());
         blank.fill(Qt::white);
         QVERIFY(sheet != blank);
@@ -193,7 +192,7 @@ private Q_SLOTS:
         QVERIFY2(document.open(m_folder.filePath("sizes.ofd"), &error), qPrintable(error));
         QCOMPARE(qRound(document.sizeOf(0).width()), 378);
         QCOMPARE(qRound(document.largestSize().width()), 794);
-        QTRY_COMPARE(sizes.size(), 1);
+        QTRY_COMPARE(int(sizes.size()), 1);
         QCOMPARE(qRound(document.sizeOf(pages - 1).width()), 1134);
         QCOMPARE(document.largestSize().width(), document.sizeOf(pages - 1).width());
         QCOMPARE(document.sizeOf(pages - 2), document.sizeOf(1));

@@ -186,6 +186,8 @@ Path ObjectReader::pathOf(const XmlElement &element)
     path.path.setFillRule(isEvenOdd ? Qt::OddEvenFill : Qt::WindingFill);
     path.isFilled = element.flag("Fill", false);
     path.isStroked = element.flag("Stroke", true);
+    // A path keeps its bounds when they are first asked for, which threads that share it must not.
+    path.path.controlPointRect();
     return path;
 }
 
