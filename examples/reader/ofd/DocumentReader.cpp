@@ -118,7 +118,7 @@ private:
         m_pages.readCommon(common, path);
         const QHash<QString, int> indexes = listPages(root, path);
         Extras::readTargets(root, indexes, m_document);
-        m_annotations = Annotations::lists(*m_document.package, root, path, indexes);
+        listAnnotations(root, path, indexes);
         Extras::readAttachments(root, path, m_document);
         return indexes;
     }
@@ -138,6 +138,17 @@ private:
         }
         m_isCounted.resize(pageCount());
         return indexes;
+    }
+
+    /** A damaged index of annotations leaves the document without them. */
+    void listAnnotations(const XmlElement &root, const QString &path,
+                         const QHash<QString, int> &indexes)
+    {
+        try {
+            m_annotations = Annotations::lists(*m_document.package, root, path, indexes);
+        } catch (const Fault &) {
+            ++m_counts[Wording::tr("无法读取的注释")];
+        }
     }
 
     Page readPage(int index)
