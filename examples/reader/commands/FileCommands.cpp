@@ -9,6 +9,7 @@
 #include "pages/PageView.h"
 #include "pages/Printing.h"
 #include "panels/PropertiesDialog.h"
+#include "panels/SignatureDialog.h"
 
 #include <toolbar/MRToolBarCommands.h>
 
@@ -64,6 +65,8 @@ void FileCommands::addTo(MRToolBarCommands &commands)
                            [this](const QString &) { saveAs(); });
     m_parts.addForDocument(commands, "f_print", [this] { print(); });
     m_parts.addForDocument(commands, "f_property", [this] { showProperties(); });
+    commands.add("t_sealverify", [this] { showSignatures(); })
+        .usableWhen([document = m_parts.document] { return document->file().isSigned; });
     // Each window asks for itself; those that are left stay if one of them does.
     commands.add("f_exit", &QApplication::closeAllWindows);
     commands.add("f_clearhistory", [this] { m_parts.recentFiles->clearRecentFiles(); });
@@ -265,6 +268,14 @@ bool FileCommands::mayReplace(const QString &fileName) const
 void FileCommands::showProperties() const
 {
     PropertiesDialog(*m_parts.document, m_parts.view->currentPage(), m_parts.window).exec();
+}
+
+void FileCommands::showSignatures() const
+{
+    SignatureDialog dialog(*m_parts.document->file().document, m_parts.window);
+    QObject::connect(&dialog, &SignatureDialog::pageChosen, m_parts.view,
+                     &PageView::setCurrentPage);
+    dialog.exec();
 }
 
 void FileCommands::showPreferences()

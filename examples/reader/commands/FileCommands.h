@@ -48,6 +48,7 @@ private:
     bool saveTo(const QString &fileName);
     void print();
     void showProperties() const;
+    void showSignatures() const;
     void showPreferences();
     void showAbout() const;
     QString folder() const;

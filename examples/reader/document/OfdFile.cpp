@@ -175,6 +175,7 @@ bool OfdFile::read(const QString &fileName, QList<Page> *pages, QString *error, 
         pages->append(page);
     }
     archive = document->package->archive();
+    isSigned = !document->signatures.entries.isEmpty();
     information = document->information;
     outline = placesOf(document->outline);
     bookmarks = placesOf(document->bookmarks);

@@ -11,6 +11,10 @@
 #include <QPair>
 #include <QStringList>
 
+namespace Ofd {
+struct Document;
+}
+
 /** An entry of the outline or a bookmark. */
 struct NamedPlace
 {
@@ -31,6 +35,7 @@ public:
     QList<NamedPlace> outline;
     QList<NamedPlace> bookmarks;
     QStringList attachments;
+    bool isSigned = false;
 
     /** The sentence about a page that is not shown. */
     static QString faultOf(int page, const QString &fault);

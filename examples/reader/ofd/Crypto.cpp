@@ -26,6 +26,21 @@ constexpr Digest digests[] = {
     {"2.16.840.1.101.3.4.2.3", "SHA512"}, {"1.2.840.113549.2.5", "MD5"},
 };
 
+struct Algorithm
+{
+    const char *identifier;
+    const char *key;
+    const char *digest; ///< Null if the signature names it apart.
+};
+
+constexpr Algorithm algorithms[] = {
+    {"1.2.156.10197.1.501", "SM2", "SM3"},      {"1.2.156.10197.1.301", "SM2", "SM3"},
+    {"1.2.156.10197.1.301.1", "SM2", "SM3"},    {"1.2.840.113549.1.1.5", "RSA", "SHA1"},
+    {"1.2.840.113549.1.1.11", "RSA", "SHA256"}, {"1.2.840.113549.1.1.12", "RSA", "SHA384"},
+    {"1.2.840.113549.1.1.13", "RSA", "SHA512"}, {"1.2.840.113549.1.1.1", "RSA", nullptr},
+    {"1.2.156.10197.1.504", "RSA", "SM3"},
+};
+
 } // namespace
 
 QString Crypto::nameOfDigest(const QString &algorithm)
@@ -36,6 +51,16 @@ QString Crypto::nameOfDigest(const QString &algorithm)
             name = QLatin1String(digest.name);
     }
     return name;
+}
+
+QString Crypto::nameOfSignature(const QString &algorithm)
+{
+    for (const Algorithm &known : algorithms) {
+        if (algorithm == QLatin1String(known.identifier) && known.digest)
+            return QStringLiteral("%1 + %2").arg(QLatin1String(known.key),
+                                                 QLatin1String(known.digest));
+    }
+    return algorithm;
 }
 
 #ifndef READER_HAS_OPENSSL
@@ -78,21 +103,6 @@ using Owned = std::unique_ptr<T, Free<free>>;
 
 using X509Pointer = Owned<X509, X509_free>;
 using BioPointer = Owned<BIO, BIO_free_all>;
-
-struct Algorithm
-{
-    const char *identifier;
-    const char *key;
-    const char *digest; ///< Null if the signature names it apart.
-};
-
-constexpr Algorithm algorithms[] = {
-    {"1.2.156.10197.1.501", "SM2", "SM3"},      {"1.2.156.10197.1.301", "SM2", "SM3"},
-    {"1.2.156.10197.1.301.1", "SM2", "SM3"},    {"1.2.840.113549.1.1.5", "RSA", "SHA1"},
-    {"1.2.840.113549.1.1.11", "RSA", "SHA256"}, {"1.2.840.113549.1.1.12", "RSA", "SHA384"},
-    {"1.2.840.113549.1.1.13", "RSA", "SHA512"}, {"1.2.840.113549.1.1.1", "RSA", nullptr},
-    {"1.2.156.10197.1.504", "RSA", "SM3"},
-};
 
 /** The name of a signer who is not named otherwise, which is part of what SM2 signs. */
 constexpr char usualSigner[] = "1234567812345678";

@@ -26,6 +26,8 @@ bool isAvailable();
 
 /** The usual name of a digest, which may be given by its object identifier. */
 QString nameOfDigest(const QString &algorithm);
+/** The names of the key and the digest if the object identifier is known. */
+QString nameOfSignature(const QString &algorithm);
 /** Nothing for an algorithm that is not known or, as MD5, proves nothing any more. */
 std::optional<QByteArray> digest(const QString &algorithm, const QByteArray &bytes);
 

@@ -54,7 +54,7 @@ void describe(const XmlElement &information, SignatureResult &result)
         result.provider = parts.join(QChar(u' ')).simplified();
     }
     result.method = information.childText("SignatureMethod");
-    result.time = information.childText("SignatureDateTime");
+    result.statedTime = information.childText("SignatureDateTime");
 }
 
 /** The name of a digest that proves something; throws a Fault for another one. */
@@ -114,8 +114,12 @@ QStringList check(const SignatureFile &file, FileDigests &digests, SignatureResu
     // A changed file is certain even if the value of the signature cannot be verified.
     QStringList changed = changedFiles(file, *references, digests, result);
     ValueCheck value(file, result);
-    if (changed.isEmpty())
-        changed = value.run();
+    try {
+        changed += value.run();
+    } catch (const Fault &) {
+        if (changed.isEmpty())
+            throw;
+    }
     if (!changed.isEmpty()) {
         setChanged(changed, result);
         return {};

@@ -22,9 +22,10 @@ struct SignatureResult
     QString sentence;  ///< The result, with the reason or what has changed.
     QStringList notes; ///< What else the user should know.
     QString provider;
-    QString method; ///< An object identifier, usually.
-    QString time;   ///< As the signer states it.
-    QString seal;   ///< Its name; empty for a signature without one.
+    QString method;     ///< An object identifier, usually.
+    QString statedTime; ///< As the description has it.
+    QDateTime time;     ///< As the signer states it; invalid if it cannot be read.
+    QString seal;       ///< Its name; empty for a signature without one.
     QStringList protectedFiles;
     QStringList unprotectedFiles;
     std::optional<Certificate> certificate;

@@ -15,6 +15,11 @@ namespace Ofd {
 
 namespace {
 
+void leaveOut(Document &document)
+{
+    document.unsupported.add(Wording::tr("电子签章"), 1);
+}
+
 /** Puts the seals of signatures on the pages. */
 class SealReader
 {
@@ -25,7 +30,7 @@ public:
     {
     }
 
-    /** Throws a Fault for a seal that cannot be drawn. */
+    /** Throws a Fault for a seal that cannot be drawn; only that it does is of interest. */
     void read(const QString &path, int signature)
     {
         const Package &package = *m_document.package;
@@ -63,12 +68,12 @@ private:
     {
         m_bytes += picture.size();
         if (m_bytes > Limits::sealBytes)
-            throw Fault{Wording::tr("印章图像过大。")};
+            throw Fault();
         if (picture.startsWith("PK")) {
             QString error;
             stamp.drawing = Ofd::read(picture, &error);
             if (!stamp.drawing)
-                throw Fault{error};
+                throw Fault();
             stamp.drawing->page(0); // What it leaves out is known when it was read.
             const QHash<QString, int> leftOut = stamp.drawing->unsupported.all();
             for (auto kind = leftOut.cbegin(); kind != leftOut.cend(); ++kind)
@@ -76,7 +81,7 @@ private:
             return;
         }
         if (!Picture::faultOf(picture).isEmpty())
-            throw Fault{Wording::tr("印章图像无法读取。")};
+            throw Fault();
         // No entry of an archive may have a colon in its name.
         const QString name = QStringLiteral("seal:%1").arg(stamp.signature);
         m_document.package->add(name, picture);
@@ -91,7 +96,7 @@ private:
         stamp.object.boundary = Values::box(annotation.attribute("Boundary"));
         const int page = m_pages.value(annotation.attribute("PageRef"), -1);
         if (stamp.object.boundary.isEmpty() || page < 0)
-            throw Fault{Wording::tr("印章的位置无效。")};
+            throw Fault();
         const QRectF clip = Values::box(annotation.attribute("Clip"));
         if (!clip.isEmpty()) {
             Clip visible;
@@ -112,7 +117,7 @@ std::optional<XmlElement> listOf(const XmlElement &body, const QString &from, Do
         return Extras::namedFile(*document.package, body, "Signatures", from,
                                  &document.signatures.file);
     } catch (const Fault &) {
-        document.unsupported.add(Wording::tr("电子签章"), 1);
+        leaveOut(document);
         return std::nullopt;
     }
 }
@@ -137,7 +142,7 @@ void Signatures::read(const XmlElement &body, const QString &from, const QHash<Q
             document.signatures.entries.last() = path.isEmpty() ? location : path;
             seals.read(document.signatures.entries.last(), signature);
         } catch (const Fault &) {
-            document.unsupported.add(Wording::tr("电子签章"), 1);
+            leaveOut(document);
         }
     }
 }

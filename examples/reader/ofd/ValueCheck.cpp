@@ -63,8 +63,8 @@ SignatureFile::SignatureFile(const Package &package, const QString &path)
 ValueCheck::ValueCheck(const SignatureFile &file, SignatureResult &result)
     : m_file(file)
     , m_result(result)
-    , m_time(timeOf(result.time))
 {
+    m_result.time = timeOf(result.statedTime);
 }
 
 QStringList ValueCheck::run()
@@ -90,7 +90,7 @@ void ValueCheck::checkSealed(const SealedValue &sealed)
 {
     m_result.seal = sealed.seal.name;
     if (sealed.time.isValid())
-        m_time = sealed.time;
+        m_result.time = sealed.time;
     readCertificate(sealed.made);
     if (!isRight(sealed.made, QString()))
         m_changed.append(Wording::tr("签名值"));
@@ -170,9 +170,9 @@ bool ValueCheck::isRight(const SignedBytes &made, const QString &digest)
 
 void ValueCheck::noteTimes(const QDateTime &from, const QDateTime &to, const QString &note)
 {
-    if (!m_time.isValid())
+    if (!m_result.time.isValid())
         return;
-    if ((from.isValid() && m_time < from) || (to.isValid() && m_time > to))
+    if ((from.isValid() && m_result.time < from) || (to.isValid() && m_result.time > to))
         m_result.notes.append(note);
 }
 

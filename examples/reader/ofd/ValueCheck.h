@@ -45,7 +45,6 @@ private:
 
     const SignatureFile &m_file;
     SignatureResult &m_result;
-    QDateTime m_time;
     QStringList m_changed;
     QStringList m_ownFiles;
 };
