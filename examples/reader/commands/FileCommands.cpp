@@ -270,11 +270,12 @@ void FileCommands::showProperties() const
     PropertiesDialog(*m_parts.document, m_parts.view->currentPage(), m_parts.window).exec();
 }
 
-void FileCommands::showSignatures() const
+void FileCommands::showSignatures(int signature) const
 {
     SignatureDialog dialog(*m_parts.document->file().document, m_parts.window);
     QObject::connect(&dialog, &SignatureDialog::pageChosen, m_parts.view,
                      &PageView::setCurrentPage);
+    dialog.showSignature(signature);
     dialog.exec();
 }
 

@@ -38,6 +38,8 @@ public:
      * and has saved or discarded the changes. After an incomplete save it may not.
      */
     bool mayLeaveDocument();
+    /** Shows all signatures of the document, with the details of that one. */
+    void showSignatures(int signature = 0) const;
 
 private:
     void askAndOpen();
@@ -48,7 +50,6 @@ private:
     bool saveTo(const QString &fileName);
     void print();
     void showProperties() const;
-    void showSignatures() const;
     void showPreferences();
     void showAbout() const;
     QString folder() const;

@@ -96,6 +96,19 @@ public:
 
     int index() const override { return m_page; }
 
+    int signatureAt(QPointF point) const override
+    {
+        const Ofd::Document &document = *m_painters->document();
+        const QPointF place = point / unitsPerMillimetre + document.area(m_page).topLeft();
+        int found = -1;
+        // The last seal is on top of the others.
+        for (const Ofd::Stamp &stamp : document.stamps.value(m_page)) {
+            if (stamp.area().contains(place))
+                found = stamp.signature;
+        }
+        return found;
+    }
+
     void readText(Page &page) const override
     {
         Ofd::Painter &painter = m_painters->here();

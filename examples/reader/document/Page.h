@@ -46,6 +46,8 @@ public:
 
     /** Paints the content in page units from the top left corner of the page, without paper. */
     virtual void paint(QPainter &painter) const = 0;
+    /** The signature, counted from 0, whose seal is at a point in page units; -1 without one. */
+    virtual int signatureAt(QPointF) const { return -1; }
     /** Sets the text, lines and boxes of the page. */
     virtual void readText(Page &page) const = 0;
 

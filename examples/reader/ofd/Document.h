@@ -42,6 +42,15 @@ struct Stamp
     int signature = 0; ///< Its index among the signatures.
     Object object;     ///< Without content if the picture is a drawing.
     std::shared_ptr<const Document> drawing;
+
+    /** Where it is seen on the page. */
+    QRectF area() const
+    {
+        QRectF area = object.boundary;
+        for (const QPainterPath &clip : object.clips)
+            area &= clip.boundingRect().translated(object.boundary.topLeft());
+        return area;
+    }
 };
 
 struct SignatureList

@@ -69,6 +69,8 @@ Q_SIGNALS:
     /** The user drew a mark. For a text box it has the rectangle and no text yet. */
     void markDrawn(const Mark &mark);
     void inkRubbed(int page, QPointF point, qreal radius);
+    /** The user wants to know about the signature, counted from 0, of a seal. */
+    void signatureAsked(int signature);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -77,6 +79,7 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 

@@ -142,6 +142,17 @@ void PageView::mouseReleaseEvent(QMouseEvent *event)
         finishDrag();
 }
 
+void PageView::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    const PagePoint place = pagePointAt(event->pos());
+    const PageContent *content = place.page >= 0 ? m_document.contentOf(place.page) : nullptr;
+    const int signature = content ? content->signatureAt(place.point) : -1;
+    if (signature >= 0 && m_tool.gesture == PageTool::Pan)
+        Q_EMIT signatureAsked(signature);
+    else
+        mousePressEvent(event);
+}
+
 void PageView::finishDrag()
 {
     // A connected slot may run a dialog, during which no drag must be active.

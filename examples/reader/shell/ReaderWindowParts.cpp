@@ -73,6 +73,8 @@ void ReaderWindow::connectView()
     connect(m_view, &PageView::markDrawn, this,
             [this](const Mark &mark) { m_editCommands.addDrawn(mark); });
     connect(m_view, &PageView::inkRubbed, &m_document, &Document::eraseInk);
+    connect(m_view, &PageView::signatureAsked, this,
+            [this](int signature) { m_fileCommands.showSignatures(signature); });
 }
 
 void ReaderWindow::connectStartPage()
