@@ -65,6 +65,16 @@ Entries signedWith(const QString &form, const Signer &signer, const QString &che
     return entries;
 }
 
+/** Signs again, with a seal for the holders of those certificates. */
+Change sealedFor(const QVector<QByteArray> &holders)
+{
+    return [holders](Entries &entries) {
+        const Signer &signer = signerOf("SM2");
+        entries["SignedValue.dat"] =
+            sealedValue(2020, signer, seal(2020, signer, holders), entries["Signature.xml"]);
+    };
+}
+
 } // namespace
 
 /** Signatures that the tests make: whether the check tells right ones from all others. */
@@ -80,6 +90,7 @@ private Q_SLOTS:
     void shouldCallNoChangedByteOfAValueValid();
     void shouldRefuseHostileValues_data();
     void shouldRefuseHostileValues();
+    void shouldOpenDocumentsWithADamagedListOfSignatures();
     void shouldTellOfFilesThatAreNotProtected();
     void shouldNoteTimesOutsideOfValidity();
     void shouldShowTheCertificate();
@@ -126,13 +137,6 @@ void TestSignatures::shouldTellWhatIsWrong_data()
     QTest::addColumn<QString>("part");
     const auto add = [](const char *name, Ofd::SignatureResult::State state, const QString &part,
                         const Change &change) { QTest::newRow(name) << change << state << part; };
-    const auto resigned = [](const QVector<QByteArray> &holders) {
-        return [holders](Entries &entries) {
-            const Signer &signer = signerOf("SM2");
-            entries["SignedValue.dat"] =
-                sealedValue(2020, signer, seal(2020, signer, holders), entries["Signature.xml"]);
-        };
-    };
     add("a changed page", changed, "/Page.xml",
         [](Entries &entries) { entries["Page.xml"] += ' '; });
     add("a changed entry point", changed, "/OFD.xml",
@@ -156,8 +160,8 @@ void TestSignatures::shouldTellWhatIsWrong_data()
         value.replace(value.lastIndexOf(known), known.size(),
                       QByteArray::fromHex("06082a811ccf55018459"));
     });
-    add("a seal for somebody else", unknown, "印章", resigned({"another"}));
-    add("a seal for several", valid, "", resigned({"another", signerOf("SM2").certificate}));
+    add("a seal for somebody else", unknown, "印章", sealedFor({"another"}));
+    add("a seal for several", valid, "", sealedFor({"another", signerOf("SM2").certificate}));
     add("no protected file", unknown, "受保护", [](Entries &entries) {
         QByteArray &description = entries["Signature.xml"];
         description.replace("Reference ", "Other ").replace("Reference>", "Other>");
@@ -221,6 +225,16 @@ void TestSignatures::shouldRefuseHostileValues()
     const auto result = resultOf(entries);
     QCOMPARE(result.state, unknown);
     QVERIFY(!result.sentence.isEmpty());
+}
+
+void TestSignatures::shouldOpenDocumentsWithADamagedListOfSignatures()
+{
+    Entries entries = document("SM3");
+    entries["Signatures.xml"] = "<Signatures>";
+    const auto document = opened(entries);
+    QVERIFY(document);
+    QCOMPARE(document->unsupported.size(), 1);
+    QVERIFY(checkSignatures(*document).isEmpty());
 }
 
 void TestSignatures::shouldTellOfFilesThatAreNotProtected()

@@ -23,6 +23,8 @@ constexpr int xmlDepth = 64;
 constexpr int xmlElements = 4000000;
 constexpr int pages = 20000;
 constexpr int signatures = 1000;
+/** Documents as pictures of seals; one that several signatures have counts once. */
+constexpr int sealDrawings = 16;
 /** The pictures of all seals, and each of the further files of a signature. */
 constexpr qint64 sealBytes = 16LL << 20;
 /** Objects that are read for one page, or for all pages in common. */

@@ -35,6 +35,8 @@ void Painter::paintStamp(QPainter &painter, const Stamp &stamp)
     if (!drawing)
         drawing = std::make_unique<Painter>(stamp.drawing);
     const QRectF sheet(QPointF(), stamp.drawing->area(0).size());
+    if (sheet.isEmpty())
+        return;
     const QSizeF size = stamp.object.boundary.size();
     painter.save();
     for (const Clip &clip : stamp.object.clips)

@@ -70,14 +70,7 @@ private:
         if (m_bytes > Limits::sealBytes)
             throw Fault();
         if (picture.startsWith("PK")) {
-            QString error;
-            stamp.drawing = Ofd::read(picture, &error);
-            if (!stamp.drawing)
-                throw Fault();
-            stamp.drawing->page(0); // What it leaves out is known when it was read.
-            const QHash<QString, int> leftOut = stamp.drawing->unsupported.all();
-            for (auto kind = leftOut.cbegin(); kind != leftOut.cend(); ++kind)
-                m_document.unsupported.add(kind.key(), kind.value());
+            stamp.drawing = drawingOf(picture);
             return;
         }
         if (!Picture::faultOf(picture).isEmpty())
@@ -89,6 +82,20 @@ private:
         Image image;
         image.resource = name;
         stamp.object.content = image;
+    }
+
+    std::shared_ptr<const Document> drawingOf(const QByteArray &picture)
+    {
+        auto known = m_drawings.constFind(picture);
+        if (known == m_drawings.constEnd()) {
+            if (m_drawings.size() >= Limits::sealDrawings)
+                throw Fault();
+            QString error;
+            known = m_drawings.insert(picture, Ofd::read(picture, &error));
+        }
+        if (!*known)
+            throw Fault();
+        return *known;
     }
 
     void place(const XmlElement &annotation, Stamp stamp)
@@ -109,6 +116,7 @@ private:
     const QHash<QString, int> &m_pages;
     Document &m_document;
     qint64 m_bytes = 0;
+    QHash<QByteArray, std::shared_ptr<const Document>> m_drawings;
 };
 
 std::optional<XmlElement> listOf(const XmlElement &body, const QString &from, Document &document)
