@@ -25,6 +25,7 @@ constexpr int pages = 20000;
 constexpr int signatures = 1000;
 /** Documents as pictures of seals; one that several signatures have counts once. */
 constexpr int sealDrawings = 16;
+constexpr int sealsPerPage = 100;
 /** The pictures of all seals, and each of the further files of a signature. */
 constexpr qint64 sealBytes = 16LL << 20;
 /** Objects that are read for one page, or for all pages in common. */

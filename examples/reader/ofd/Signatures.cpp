@@ -102,7 +102,8 @@ private:
     {
         stamp.object.boundary = Values::box(annotation.attribute("Boundary"));
         const int page = m_pages.value(annotation.attribute("PageRef"), -1);
-        if (stamp.object.boundary.isEmpty() || page < 0)
+        if (stamp.object.boundary.isEmpty() || page < 0
+            || m_document.stamps.value(page).size() >= Limits::sealsPerPage)
             throw Fault();
         const QRectF clip = Values::box(annotation.attribute("Clip"));
         if (!clip.isEmpty()) {
