@@ -13,10 +13,10 @@ namespace {
 const QString messageDigest = QStringLiteral("1.2.840.113549.1.9.4");
 
 /** Hands out values one by one and throws a Fault when there are no more. */
-class Values
+class ValueList
 {
 public:
-    explicit Values(const Der &parent)
+    explicit ValueList(const Der &parent)
         : m_values(parent.children())
     {
     }
@@ -46,13 +46,13 @@ private:
 
 Der firstOf(const Der &value)
 {
-    return Values(value).next();
+    return ValueList(value).next();
 }
 
 /** Issuer and serial number, as the signer refers to a certificate. */
 QByteArray nameOf(const Der &certificate)
 {
-    Values values(firstOf(certificate));
+    ValueList values(firstOf(certificate));
     values.optional(Der::Context0);
     const QByteArray serial = values.next().whole();
     values.skip(1);
@@ -73,7 +73,7 @@ QByteArray certificateOf(const QByteArray &name, const std::optional<Der> &certi
 std::optional<QByteArray> digestIn(const Der &attributes)
 {
     for (const Der &attribute : attributes.children()) {
-        Values values(attribute);
+        ValueList values(attribute);
         if (values.next().identifier() == messageDigest)
             return firstOf(values.next()).content();
     }
@@ -82,7 +82,7 @@ std::optional<QByteArray> digestIn(const Der &attributes)
 
 void readSigner(const Der &signer, const std::optional<Der> &certificates, SignedMessage &message)
 {
-    Values values(signer);
+    ValueList values(signer);
     values.skip(1);
     message.made.certificate = certificateOf(values.next().content(), certificates);
     message.digestAlgorithm = firstOf(values.next()).identifier();
@@ -101,11 +101,11 @@ void readSigner(const Der &signer, const std::optional<Der> &certificates, Signe
 SignedMessage SignedMessage::read(const Der &value)
 {
     SignedMessage message;
-    Values outer(value);
+    ValueList outer(value);
     outer.skip(1);
-    Values data(firstOf(outer.next()));
+    ValueList data(firstOf(outer.next()));
     data.skip(2);
-    Values what(data.next());
+    ValueList what(data.next());
     what.skip(1);
     if (const auto content = what.optional(Der::Context0))
         message.content = firstOf(*content).content();
