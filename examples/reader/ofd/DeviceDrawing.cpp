@@ -37,9 +37,16 @@ bool isOnDevice(const QPainter &painter, const QRectF &rect)
 void clipTo(QPainter &painter, const QRectF &rect)
 {
     const QTransform toDevice = painter.deviceTransform();
-    const bool isTurned = toDevice.type() > QTransform::TxScale;
+    const QTransform toWorld = painter.worldTransform();
+    const bool isUpright = toDevice.type() <= QTransform::TxScale;
+    if (!isUpright && (!qFuzzyIsNull(toDevice.m11()) || !qFuzzyIsNull(toDevice.m22()))) {
+        painter.setClipRect(rect, Qt::IntersectClip);
+        return;
+    }
     const QRectF pixels((toDevice.mapRect(rect) & deviceRect(painter)).toAlignedRect());
-    painter.setClipRect(isTurned ? rect : toDevice.inverted().mapRect(pixels), Qt::IntersectClip);
+    painter.setWorldTransform(QTransform());
+    painter.setClipRect(painter.deviceTransform().inverted().mapRect(pixels), Qt::IntersectClip);
+    painter.setWorldTransform(toWorld);
 }
 
 QPen visiblePen(const QPainter &painter, const Style &style, const QPainterPath &path)

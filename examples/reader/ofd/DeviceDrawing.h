@@ -19,7 +19,7 @@ bool isOnDevice(const QPainter &painter, const QRectF &rect);
 
 /**
  * Clips to a rectangle that is extended to whole pixels, so that what ends at its edges stays as it
- * is. A turned one cannot be extended.
+ * is, and Qt need not smooth the edges. A rectangle that is turned by an odd angle stays the same.
  */
 void clipTo(QPainter &painter, const QRectF &rect);
 
