@@ -12,15 +12,11 @@
 
 namespace Ofd {
 
-namespace {
-
 QRectF deviceRect(const QPainter &painter)
 {
     return QRectF(0, 0, painter.device()->width() * painter.device()->devicePixelRatioF(),
                   painter.device()->height() * painter.device()->devicePixelRatioF());
 }
-
-} // namespace
 
 qreal scaleOf(const QPainter &painter)
 {

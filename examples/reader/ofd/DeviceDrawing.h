@@ -15,6 +15,8 @@ constexpr qreal leastLineWidth = 0.7;
 
 /** The pixels for a unit of the painter. */
 qreal scaleOf(const QPainter &painter);
+/** The whole device in its pixels. */
+QRectF deviceRect(const QPainter &painter);
 bool isOnDevice(const QPainter &painter, const QRectF &rect);
 
 /**

@@ -3,6 +3,8 @@
 
 #include "ofd/PaintLayer.h"
 
+#include "ofd/DeviceDrawing.h"
+
 #include <QPaintEngine>
 #include <QPainter>
 
@@ -17,8 +19,7 @@ constexpr qreal mostDotsPerInch = 300;
 
 QRect visibleArea(const QPainter &painter)
 {
-    const qreal ratio = painter.device()->devicePixelRatioF();
-    QRectF area(0, 0, painter.device()->width() * ratio, painter.device()->height() * ratio);
+    QRectF area = deviceRect(painter);
     if (painter.hasClipping())
         area &= painter.deviceTransform().mapRect(painter.clipBoundingRect());
     return area.toAlignedRect();
