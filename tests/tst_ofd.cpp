@@ -83,6 +83,7 @@ Ofd::Object filled(const QString &data, Qt::FillRule rule)
     Ofd::Object object;
     object.style.fill = QBrush(Qt::black);
     object.content = path;
+    object.style.fill = QBrush(Qt::black);
     return object;
 }
 
@@ -156,7 +157,7 @@ QImage expected(const Ofd::Object &object)
         painter.setClipPath(clip.path, Qt::IntersectClip);
     const auto &path = std::get<Ofd::Path>(object.content);
     if (path.isFilled)
-        painter.fillPath(path.path, std::get<QBrush>(object.style.fillPaint()));
+        painter.fillPath(path.path, std::get<QBrush>(*object.style.fill));
     if (path.isStroked)
         painter.strokePath(path.path, object.style.pen());
     return image;

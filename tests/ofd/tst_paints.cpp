@@ -9,10 +9,11 @@
 #include "tests/ofd/OfdFiles.h"
 
 #include <QBuffer>
-#include <QElapsedTimer>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QTest>
+
+#include <ctime>
 
 namespace {
 
@@ -114,6 +115,16 @@ QImage painted(const std::shared_ptr<const Ofd::Document> &document)
     return image;
 }
 
+bool isRefused(const Ofd::Document &document)
+{
+    try {
+        Ofd::checkExpansion(document);
+        return false;
+    } catch (const Ofd::Fault &) {
+        return true;
+    }
+}
+
 } // namespace
 
 /** Colours that differ from place to place, with values that no sensible program writes. */
@@ -161,7 +172,7 @@ private Q_SLOTS:
         QTest::newRow("far circles") << radial(far + " StartRadius='9e6' EndRadius='9e6'");
         QTest::newRow("small circles far apart")
             << radial(far + " StartRadius='90' EndRadius='90' MapType='Reflect' MapUnit='1e-7'");
-        QTest::newRow("many large triangles") << mesh(points(3) + points(60000, "EdgeFlag='2'"));
+        QTest::newRow("many large triangles") << mesh(points(3) + points(20000, "EdgeFlag='2'"));
         QTest::newRow("tiny cells") << pattern("Width='0.002' Height='0.002'", cell);
         QTest::newRow("flat cells") << pattern("Width='200' Height='0.002'", cell);
         QTest::newRow("huge cells") << pattern("Width='9e6' Height='9e6'", cell);
@@ -173,22 +184,21 @@ private Q_SLOTS:
         QFETCH(QString, fill);
         const auto document = documentOf(fill);
         QVERIFY(document->unsupported.isEmpty());
-        Ofd::checkExpansion(*document);
-        QElapsedTimer time;
-        time.start();
-        const QColor colour = painted(document).pixelColor(side / 2, side / 2);
-        // Much more than it takes on a busy machine, but without the limits it would be hours.
-        QVERIFY(time.elapsed() < 30000);
+        QVERIFY(!isRefused(*document));
+        const std::clock_t start = std::clock();
+        const QColor colour = painted(document).pixelColor(side / 4, side / 2);
+        // Processor time, which does not depend on other programs; without limits it is hours.
+        QVERIFY((std::clock() - start) / CLOCKS_PER_SEC < 20);
         QVERIFY2(colour.red() > 250 && colour.blue() < 10, qPrintable(colour.name()));
     }
 
     void shouldRefusePatternsWithoutEnd()
     {
-        QVERIFY_EXCEPTION_THROWN(Ofd::checkExpansion(*documentOf(nested(12))), Ofd::Fault);
+        QVERIFY(isRefused(*documentOf(nested(12))));
         const auto circle = documentOf(pattern(
             "Width='9' Height='9'", "<CompositeObject ResourceID='1' Boundary='0 0 9 9'/>"));
         circle->resources.composites.insert("1", circle->pages.first().layers.first());
-        QVERIFY_EXCEPTION_THROWN(Ofd::checkExpansion(*circle), Ofd::Fault);
+        QVERIFY(isRefused(*circle));
     }
 
     /** Qt ignores the transforms of textures there. */

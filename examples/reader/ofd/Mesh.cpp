@@ -90,7 +90,9 @@ bool crossing(QPointF from, QPointF to, qreal height, qreal *x)
 
 QRectF boundsOf(const std::array<QPointF, 3> &places)
 {
-    return QPolygonF({places[0], places[1], places[2]}).boundingRect();
+    const auto [left, right] = std::minmax({places[0].x(), places[1].x(), places[2].x()});
+    const auto [top, bottom] = std::minmax({places[0].y(), places[1].y(), places[2].y()});
+    return QRectF(QPointF(left, top), QPointF(right, bottom));
 }
 
 void drawTriangle(QImage &image, const std::array<Corner, 3> &corners)

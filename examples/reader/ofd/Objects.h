@@ -33,9 +33,7 @@ struct Style
 
     /** These parameters, with unset ones taken from @p wider. */
     Style over(const Style &wider) const;
-    Paint fillPaint() const { return fill.value_or(QBrush(Qt::black)); }
-    Paint strokePaint() const { return stroke.value_or(QBrush(Qt::black)); }
-    /** Black, whatever strokePaint() is. */
+    /** Black, whatever the stroke is. */
     QPen pen() const;
 };
 

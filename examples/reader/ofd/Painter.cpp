@@ -28,6 +28,19 @@ constexpr qreal boldStroke = 0.03;
 constexpr qreal replacedMargin = 0.25;
 constexpr int mostMaskedKilobytes = 64 << 10;
 
+/** Without a colour, the area of a path and the outline of a text are not painted. */
+Paint fillOf(const Object &object)
+{
+    const bool isText = std::holds_alternative<Text>(object.content);
+    return object.style.fill.value_or(isText ? QBrush(Qt::black) : QBrush(Qt::NoBrush));
+}
+
+Paint strokeOf(const Object &object)
+{
+    const bool isText = std::holds_alternative<Text>(object.content);
+    return object.style.stroke.value_or(isText ? QBrush(Qt::NoBrush) : QBrush(Qt::black));
+}
+
 /**
  * Fills each glyph separately in device coordinates, which takes Qt a tenth of the time for one
  * path of all glyphs under a transform.
@@ -229,19 +242,18 @@ void Painter::paintContent(QPainter &painter, const Object &object, const Path &
     const QRectF bounds = path.path.controlPointRect();
     if (!isOnDevice(painter, bounds.adjusted(-margin, -margin, margin, margin)))
         return;
-    if (path.isFilled && object.style.fill)
-        fill(painter, path.path, object.style.fillPaint());
+    if (path.isFilled)
+        fill(painter, path.path, fillOf(object));
     if (path.isStroked)
-        stroke(painter, path.path, pen, object.style.strokePaint());
+        stroke(painter, path.path, pen, strokeOf(object));
 }
 
 void Painter::paintContent(QPainter &painter, const Object &object, const Text &text)
 {
     Face &face = m_fonts.faceOf(text);
-    const Paint paint = object.style.fillPaint();
+    const Paint paint = fillOf(object);
     const QBrush *plain = text.isFilled ? std::get_if<QBrush>(&paint) : nullptr;
     const bool mustThicken = text.isFilled && face.lacksBold();
-    // Unlike a path, letters have no outline without a colour for it.
     const bool isStroked = text.isStroked && object.style.stroke;
     for (const TextRun &run : text.runs) {
         const QVector<PlacedGlyph> glyphs = layOut(text, run, face);
@@ -258,7 +270,7 @@ void Painter::paintContent(QPainter &painter, const Object &object, const Text &
             stroke(painter, outlines, QPen(Qt::black, text.size * boldStroke), paint);
         if (isStroked)
             stroke(painter, outlines, visiblePen(painter, object.style, outlines),
-                   object.style.strokePaint());
+                   strokeOf(object));
     }
 }
 

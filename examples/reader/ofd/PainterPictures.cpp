@@ -73,7 +73,7 @@ void Painter::paintContent(QPainter &painter, const Object &object, const Image 
         const QPainterPath frame = frameOf(size, border, width / 2);
         if (width > 0)
             stroke(painter, frame, visiblePen(painter, border.line, frame),
-                   border.line.strokePaint());
+                   border.line.stroke.value_or(QBrush(Qt::black)));
     }
 }
 
