@@ -26,8 +26,8 @@ int kilobytesOf(const QImage &image)
 /** Scaled in stripes: as a whole a bilevel picture would first take 32 times its memory. */
 QImage halvedBy(const QImage &whole, int times)
 {
-    constexpr int rows = 64;
-    const int step = rows << times;
+    constexpr int stripePixels = 4 << 20;
+    const int step = std::max(1, stripePixels / std::max(1, whole.width()) >> times) << times;
     const int width = std::max(1, whole.width() >> times);
     QImage image(width, std::max(1, whole.height() >> times),
                  whole.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied

@@ -111,8 +111,8 @@ bool Jbig2::isOne(const QByteArray &bytes)
 
 namespace {
 
-/** A picture of the most pixels takes an eighth of this; dictionaries take some more. */
-constexpr std::size_t mostBytes = Limits::imagePixels;
+/** The picture, a part of it that is as large, and dictionaries; eight pixels are in a byte. */
+constexpr std::size_t mostBytes = Limits::imagePixels / 8 * 4;
 
 /** Memory for the decoder, which asks for whatever a file says. */
 class Memory : public Jbig2Allocator
@@ -165,6 +165,7 @@ QImage imageOf(const Jbig2Image &page)
     QImage image(int(page.width), int(page.height), QImage::Format_Mono);
     if (image.isNull())
         return image;
+    // White is 0.
     image.setColorTable({qRgb(255, 255, 255), qRgb(0, 0, 0)});
     const auto length = std::size_t(qMin(qsizetype(page.stride), qsizetype(image.bytesPerLine())));
     for (int y = 0; y < image.height(); ++y)
@@ -200,7 +201,9 @@ QImage Jbig2::decoded(const QByteArray &bytes)
         page = jbig2_page_out(context.get());
     if (!page)
         return QImage();
-    const QImage image = imageOf(*page);
+    // Only the end of the segments may have told the height.
+    const bool isAllowed = qint64(page->width) * page->height <= Limits::imagePixels;
+    const QImage image = isAllowed ? imageOf(*page) : QImage();
     jbig2_release_page(context.get(), page);
     return image;
 }

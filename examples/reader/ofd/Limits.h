@@ -20,7 +20,9 @@ constexpr qint64 packingRatio = 200;
 constexpr qint64 harmlessBytes = 1LL << 20;
 
 constexpr int xmlDepth = 64;
-constexpr int xmlElements = 4000000;
+/** Elements and attributes of one file. */
+constexpr qint64 xmlNodes = 1500000;
+constexpr int xmlAttributes = 128;
 constexpr int pages = 20000;
 constexpr int signatures = 1000;
 /** Documents as pictures of seals; one that several signatures have counts once. */
@@ -34,6 +36,9 @@ constexpr qint64 objects = 2000000;
 constexpr qint64 marksPerPage = 3000000;
 /** Objects of templates that are kept for further pages. */
 constexpr qint64 templateObjects = 200000;
+
+/** Of one object, and areas of one clip. */
+constexpr std::size_t clips = 1000;
 
 constexpr qreal number = 1e7;
 constexpr qreal pageSide = 10000;

@@ -52,6 +52,16 @@ TextRun runOf(const XmlElement &element, QPointF before)
     return run;
 }
 
+/** Each area is a path of its own that restricts all painting. */
+void checkAreas(const XmlElement &clips)
+{
+    std::size_t areas = clips.children.size();
+    for (const XmlElement &clip : clips.children)
+        areas = std::max(areas, clip.children.size());
+    if (areas > Limits::clips)
+        throw Fault{Wording::tr("图元的裁剪区过多，超过 %1 个。").arg(Limits::clips)};
+}
+
 } // namespace
 
 Objects ObjectReader::readAll(const XmlElement &parent, const Style &wider)
@@ -197,6 +207,7 @@ QVector<Clip> ObjectReader::clipsOf(const XmlElement &element, const QTransform 
     const XmlElement *all = element.child("Clips");
     if (!all)
         return clips;
+    checkAreas(*all);
     // Clips that are not transformed with the object are in the coordinates of its page or group.
     const QTransform toParent = all->flag("TransFlag", true) ? placement : QTransform();
     for (const XmlElement &clip : all->children) {

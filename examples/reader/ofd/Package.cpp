@@ -109,13 +109,11 @@ void Package::list()
         if (total > quint64(Limits::unpackedBytes))
             throw Fault{
                 Wording::tr("包内文件解压后过大，超过 %1 MB。").arg(Limits::unpackedBytes >> 20)};
-        // Of entries with the same path, the archive gives the first one.
-        if (path.endsWith(QChar(u'/')) || m_entries.contains(path))
+        if (path.endsWith(QChar(u'/')))
             continue;
+        // Of entries with the same path, the last one counts, as for the archive itself.
         m_entries.insert(path, {entry.name, qint64(entry.uncompressedSize)});
-        const QString folded = path.toCaseFolded();
-        if (!m_folded.contains(folded))
-            m_folded.insert(folded, path);
+        m_folded.insert(path.toCaseFolded(), path);
     }
 }
 

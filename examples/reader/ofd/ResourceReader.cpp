@@ -26,8 +26,9 @@ void ResourceReader::addLists(const XmlElement &parent, const char *name, const 
         const QString path = m_package.find(from, element.text);
         if (path.isEmpty())
             ++m_unsupported[missing()];
-        else
+        else if (!m_lists.contains(path))
             addList(path);
+        m_lists.insert(path);
     }
 }
 
@@ -91,6 +92,7 @@ void ResourceReader::addMedia(const XmlElement &element, const QString &folder)
 void ResourceReader::finish(QHash<QString, std::shared_ptr<const Objects>> *composites)
 {
     m_styles.resolve();
+    m_lists.clear(); // The next page gets composites of its own.
     // Taken first, so that a composite that cannot be read does not stay for the next page.
     const std::vector<XmlElement> elements = std::exchange(m_composites, {});
     // Composites may refer to later ones.

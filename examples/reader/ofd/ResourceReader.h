@@ -6,6 +6,8 @@
 #include "ofd/Document.h"
 #include "ofd/ObjectReader.h"
 
+#include <QSet>
+
 namespace Ofd {
 
 /** Reads the resources of a document from the files that list them. */
@@ -42,6 +44,7 @@ private:
     ColourReader m_colours{m_unsupported};
     StyleReader m_styles{m_colours};
     ObjectReader m_objects{m_styles, m_resources, m_unsupported};
+    QSet<QString> m_lists;                ///< Those that have been read since finish().
     std::vector<XmlElement> m_composites; ///< Read by finish().
 };
 

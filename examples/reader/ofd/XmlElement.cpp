@@ -7,20 +7,35 @@
 #include "ofd/Limits.h"
 #include "ofd/Wording.h"
 
+#include <QSet>
 #include <QXmlStreamReader>
+
+#include <algorithm>
 
 namespace Ofd {
 
 namespace {
 
-XmlElement startOf(const QXmlStreamReader &reader)
+/**
+ * Whether one tag has more attributes than any document needs. The parser compares each of them
+ * with all others, so that it must not see them.
+ */
+bool hasEndlessTag(const QByteArray &bytes)
 {
-    XmlElement element;
-    element.name = reader.name().toString();
-    const QXmlStreamAttributes attributes = reader.attributes();
-    for (const QXmlStreamAttribute &attribute : attributes)
-        element.attributes.append({attribute.name().toString(), attribute.value().toString()});
-    return element;
+    constexpr auto leastLength = Limits::xmlAttributes * int(sizeof "a=''" - 1);
+    qsizetype begin = bytes.indexOf('<');
+    while (begin >= 0) {
+        qsizetype end = bytes.indexOf('>', int(begin));
+        if (end < 0)
+            end = bytes.size();
+        const char second = bytes.at(int(qMin<qsizetype>(begin + 1, bytes.size() - 1)));
+        if (end - begin > leastLength && second != '!' && second != '?'
+            && std::count(bytes.cbegin() + begin, bytes.cbegin() + end, '=')
+                   > Limits::xmlAttributes)
+            return true;
+        begin = bytes.indexOf('<', int(end));
+    }
+    return false;
 }
 
 /** Builds the tree without recursion, so that deep nesting cannot exhaust the stack. */
@@ -31,6 +46,8 @@ public:
         : m_reader(bytes)
         , m_path(path)
     {
+        if (hasEndlessTag(bytes))
+            throw tooMuch();
     }
 
     XmlElement build()
@@ -61,10 +78,28 @@ private:
     {
         if (m_open.size() >= Limits::xmlDepth)
             throw Fault{Wording::tr("包内文件“%1”嵌套过深。").arg(m_path)};
-        if (++m_count > Limits::xmlElements)
-            throw Fault{Wording::tr("包内文件“%1”的元素过多。").arg(m_path)};
-        m_open.push_back(startOf(m_reader));
+        m_open.push_back(start());
+        m_count += 1 + m_open.back().attributes.size();
+        if (m_count > Limits::xmlNodes)
+            throw tooMuch();
     }
+
+    XmlElement start()
+    {
+        XmlElement element;
+        element.name = shared(m_reader.name().toString());
+        const QXmlStreamAttributes attributes = m_reader.attributes();
+        element.attributes.reserve(attributes.size());
+        for (const QXmlStreamAttribute &attribute : attributes)
+            element.attributes.append(
+                {shared(attribute.name().toString()), attribute.value().toString()});
+        return element;
+    }
+
+    /** The same name with the memory of the first one: a file has few names, but many elements. */
+    const QString &shared(const QString &name) { return *m_names.insert(name); }
+
+    Fault tooMuch() const { return Fault{Wording::tr("包内文件“%1”的元素过多。").arg(m_path)}; }
 
     void end()
     {
@@ -80,7 +115,8 @@ private:
     QString m_path;
     std::vector<XmlElement> m_open;
     XmlElement m_root;
-    int m_count = 0;
+    QSet<QString> m_names;
+    qint64 m_count = 0;
 };
 
 } // namespace
