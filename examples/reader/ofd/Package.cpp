@@ -73,6 +73,8 @@ Package::Package(const QByteArray &archive)
 {
     if (!m_archive.startsWith(zipSignature))
         throw Fault{Wording::tr("这不是 OFD 文件：它不是 ZIP 包。")};
+    // By default names would depend on the locale.
+    m_zip.setFileNameCodec("UTF-8");
     if (!m_zip.open(QuaZip::mdUnzip))
         throw Fault{Wording::tr("文件不完整：ZIP 包的目录缺失或已损坏。")};
     list();
