@@ -26,6 +26,8 @@ from make_samples import (archive, code, encrypted, package, page, path,  # noqa
 
 SEED = 20240506
 HEAVY = {"points": 8, "points-filled": 2, "characters": 5, "scribbles": 4, "texts": 3}
+LEFT_OUT = {f"jp2-{kind}": "（JPEG 2000）" for kind in
+                                    ("tiles", "blocks", "components", "precincts")}
 SQUARE = "M 0 0 L 40 0 L 40 40 L 0 40 C"
 
 
@@ -81,6 +83,18 @@ def png(width, height, rows=b""):
         return struct.pack(">I", len(data)) + kind + data + struct.pack(">I", zlib.crc32(kind + data))
     return (b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", struct.pack(">IIBBBBB", width, height, 8, 0, 0, 0, 0))
             + chunk(b"IDAT", zlib.compress(rows)) + chunk(b"IEND", b""))
+
+
+def scans(side, count):
+    """A progressive JPEG that sends the whole picture so many times, each time in some bytes."""
+    def part(mark, data):
+        return struct.pack(">BBH", 0xFF, mark, len(data) + 2) + data
+    blocks = (side // 8) ** 2
+    codes = (part(0xDB, b"\0" + b"\1" * 64) + part(0xC4, b"\0\1" + bytes(16))
+             + part(0xC4, b"\x10\1" + bytes(15) + b"\xe0"))
+    again = part(0xDA, b"\1\1\0\1\x3f\0") + bytes(blocks // 16384 * 15 // 8 + 2)
+    return (b"\xff\xd8" + part(0xC2, struct.pack(">BHHB", 8, side, side, 1) + b"\1\x11\0") + codes
+            + part(0xDA, b"\1\1\0\0\0\0") + bytes(blocks // 8 + 1) + again * count + b"\xff\xd9")
 
 
 def codestream(width, height, components=3, tile=None, block=4, precincts=b""):
@@ -164,7 +178,7 @@ def markup():
     made["xml-text"] = with_entry("Doc_0/PublicRes.xml", start + "x" * (16 << 20) + "</Res>"), "painted", ""
     many = "<ofd:PublicRes>PublicRes.xml</ofd:PublicRes>" * 20000
     fonts = "<ofd:Fonts>" + '<ofd:Font ID="1" FontName="x"/>' * 2000 + "</ofd:Fonts>"
-    made["resources-again"] = with_page("", fonts, common=many), "painted", ""
+    made["resources-again"] = with_page("", fonts, common=many), "painted", "缺少字体：x"
     outline = "<ofd:Outlines>" + '<ofd:OutlineElem Title="x"/>' * 100000 + "</ofd:Outlines>"
     made["outline"] = with_page("", rest=outline), "painted", ""
     return made
@@ -297,8 +311,9 @@ def pictures():
             "jp2-blocks": codestream(5000, 5000, block=0), "jp2-components": codestream(99, 99, 16384),
             "jp2-precincts": codestream(5000, 5000, precincts=bytes(6)),
             "jbig2": makers.jbig2(width=10000, height=10000),
+            "jpeg-scans": scans(8000, 2000), "jpeg-progressive": scans(4000, 9),
             "jbig2-endless": makers.jbig2(width=10000, height=0xFFFFFFFF)}.items():
-        made[f"large-{name}"] = with_image(data), "painted", ""
+        made[f"large-{name}"] = with_image(data), "painted", LEFT_OUT.get(name, "")
     made["image-stretched"] = with_image(picture(), "-9999999 0 9999999 9999999", "9999999 9e6 -9e6 9e6 0 0"), "", ""
     made["image-is-xml"] = with_image(b"<svg/>"), "painted", "图像"
     font = bytearray(makers.font())

@@ -56,6 +56,8 @@ constexpr qreal shadingPixels = 4e6;
 constexpr qreal patternSide = 1e-3;
 constexpr int patternDepth = 8;
 constexpr qint64 imagePixels = 100LL * 1000 * 1000;
+/** Pixels of all scans of a progressive picture. */
+constexpr qint64 imageScans = 20 * imagePixels;
 /** Of a decoded picture. */
 constexpr qint64 imageBytes = 192LL << 20;
 /** In pictures whose decoder needs four bytes for each, besides the bytes of the picture. */

@@ -69,8 +69,12 @@ public:
         const QSize size = m_reader.size();
         if (!size.isValid() || qint64(size.width()) * size.height() > Limits::imagePixels)
             return false;
-        // Its decoder makes a smaller picture without making the whole one first.
-        return m_isJpeg || bytesOf(size) <= Limits::imageBytes;
+        if (!m_isJpeg)
+            return bytesOf(size) <= Limits::imageBytes;
+        // Its decoder makes a smaller picture without making the whole one first, but a progressive
+        // one can send all its pixels anew in each scan.
+        const qint64 scans = m_buffer.data().count(QByteArrayLiteral("\xff\xda"));
+        return scans * size.width() * size.height() <= Limits::imageScans;
     }
 
     QImage read()
