@@ -47,8 +47,8 @@ struct Stamp
     QRectF area() const
     {
         QRectF area = object.boundary;
-        for (const QPainterPath &clip : object.clips)
-            area &= clip.boundingRect().translated(object.boundary.topLeft());
+        for (const Clip &clip : object.clips)
+            area &= clip.path.boundingRect();
         return area;
     }
 };
