@@ -203,6 +203,7 @@ QList<std::pair<const char *, Ofd::Object>> objects()
     coloured.style.fill = QBrush(gradient);
     const Ofd::Object clipped = clippedBy(lines, "M 9 9 L 100 9 L 100 290 C");
     return {{"many points", stroked(scribble(20000, 3))},
+            {"very many points", stroked(rosette(60000, 15))},
             {"closed", stroked(course + 'C')},
             {"turned and partly off the page", distorted},
             {"non-zero", filled(course, Qt::WindingFill)},

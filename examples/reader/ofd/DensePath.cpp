@@ -22,8 +22,11 @@ namespace {
 constexpr qreal moderateLength = 20000;
 /** Length of edges for each pixel of the area. Above this, single pixels show no detail. */
 constexpr qreal crowdedLength = 16;
-/** Side of the squares, in pixels, that a crowded area is computed in. */
+// Sides of the squares, in pixels, that a crowded area is computed in; the second for one that is
+// very crowded.
 constexpr int coarseSide = 4;
+constexpr int coarsestSide = 8;
+constexpr qreal veryCrowdedLength = 128;
 
 QRectF deviceRect(const QPainter &painter)
 {
@@ -40,15 +43,15 @@ QRect visibleArea(const QPainter &painter, const QRectF &rect)
         area = area.intersected(toDevice.mapRect(painter.clipBoundingRect()));
     if (area.isEmpty() || !std::isfinite(area.left() + area.right() + area.top() + area.bottom()))
         return QRect();
-    const QPoint first(int(std::floor(area.left() / coarseSide)),
-                       int(std::floor(area.top() / coarseSide)));
-    const QPoint end(int(std::ceil(area.right() / coarseSide)),
-                     int(std::ceil(area.bottom() / coarseSide)));
-    return QRect(first * coarseSide, end * coarseSide - QPoint(1, 1));
+    const QPoint first(int(std::floor(area.left() / coarsestSide)),
+                       int(std::floor(area.top() / coarsestSide)));
+    const QPoint end(int(std::ceil(area.right() / coarsestSide)),
+                     int(std::ceil(area.bottom() / coarsestSide)));
+    return QRect(first * coarsestSide, end * coarsestSide - QPoint(1, 1));
 }
 
-/** Whether the total length of the edges is so large that they overlap many times. */
-bool isCrowded(const QList<QPolygonF> &lines, const QRect &area)
+/** The side of squares that suffice, by the total length of the edges for each pixel. */
+int sideOfSquares(const QList<QPolygonF> &lines, const QRect &area)
 {
     const QRectF shown(area);
     const qreal longest = shown.width() + shown.height();
@@ -59,13 +62,14 @@ bool isCrowded(const QList<QPolygonF> &lines, const QRect &area)
                 length += std::min(longest, (line.at(i) - line.at(i - 1)).manhattanLength());
         }
     }
-    return length > crowdedLength * shown.width() * shown.height();
+    const qreal crowd = length / shown.width() / shown.height();
+    return crowd > veryCrowdedLength ? coarsestSide : crowd > crowdedLength ? coarseSide : 1;
 }
 
 QImage insideOf(const QPainter &painter, const QPainterPath &path, const QRect &area)
 {
     const QList<QPolygonF> lines = flattened(path, painter.deviceTransform(), area);
-    const qreal scale = isCrowded(lines, area) ? 1.0 / coarseSide : 1;
+    const qreal scale = 1.0 / sideOfSquares(lines, area);
     CoverageMask mask(QRect(area.topLeft() * scale, area.size() * scale));
     for (const QPolygonF &line : lines)
         mask.addPolygon(QTransform::fromScale(scale, scale).map(line));

@@ -15,6 +15,9 @@ namespace {
 
 /** The largest distance between line and curve, in device pixels. */
 constexpr qreal tolerance = 0.1;
+/** A curve becomes at most two to this power lines. */
+constexpr int mostHalvings = 12;
+constexpr int mostPoints = 4000000;
 
 struct Curve
 {
@@ -59,9 +62,10 @@ void append(QPolygonF &line, const Curve &curve, const QRectF &area, int halving
 
 } // namespace
 
-QList<QPolygonF> flattened(const QPainterPath &path, const QTransform &toDevice, const QRectF &area,
-                           int halvings)
+QList<QPolygonF> flattened(const QPainterPath &path, const QTransform &toDevice, const QRectF &area)
 {
+    const int halvings =
+        std::min(mostHalvings, int(std::log2(1 + mostPoints / (1 + path.elementCount()))));
     QList<QPolygonF> lines;
     const auto pointAt = [&](int i) { return toDevice.map(QPointF(path.elementAt(i))); };
     for (int i = 0; i < path.elementCount(); ++i) {

@@ -12,14 +12,12 @@ class QTransform;
 
 namespace Ofd {
 
-/** A curve becomes at most two to this power lines. */
-constexpr int mostHalvings = 12;
-
 /**
  * The subpaths of a path as lines in device pixels. Curves are accurate inside the area; a part
- * beyond one of its sides may become a straight line.
+ * beyond one of its sides may become a straight line. A path of very many curves, which can only be
+ * small or overlap, gets few lines for each.
  */
-QList<QPolygonF> flattened(const QPainterPath &path, const QTransform &toDevice, const QRectF &area,
-                           int halvings = mostHalvings);
+QList<QPolygonF> flattened(const QPainterPath &path, const QTransform &toDevice,
+                           const QRectF &area);
 
 } // namespace Ofd

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace Ofd {
 
@@ -16,15 +17,18 @@ namespace {
 // In device pixels.
 constexpr qreal leastStep = 0.25;
 constexpr qreal flatness = 0.25;
+/** Corners of thinner lines are hardly visible. */
+constexpr qreal leastJoinedWidth = 1.5;
 /** A longer line is tested for being hidden in parts of this length. */
 constexpr qreal longestPart = 32;
 
+/** A thin path of more points is drawn without joining its lines. */
+constexpr int mostJoinedPoints = 50000;
 /** Length of lines for each pixel of the area. A batch can hide lines of later batches. */
 constexpr qreal longestBatch = 2;
 /** Smaller areas count as this many pixels, because every batch takes time. */
 constexpr qreal leastPixels = 65536;
 constexpr int mostPointsOfBatch = 65536;
-constexpr int mostDashedPoints = 4000000;
 
 /** The line without points that nearly coincide with the one before; the ends are kept. */
 QPolygonF thinned(const QPolygonF &line)
@@ -51,18 +55,21 @@ StrokeMask::StrokeMask(const QRect &area, const QTransform &toDevice, const QPen
     // In Qt a pen of width zero is one pixel wide.
     if (m_pen.widthF() <= 0)
         m_pen.setWidthF(1 / scale);
+    m_isThin = m_pen.widthF() * scale < leastJoinedWidth && m_pen.capStyle() == Qt::FlatCap;
     m_stroker.setWidth(m_pen.widthF());
     m_stroker.setCapStyle(m_pen.capStyle());
     m_stroker.setJoinStyle(m_pen.joinStyle());
     m_stroker.setMiterLimit(m_pen.miterLimit());
     m_stroker.setCurveThreshold(flatness / scale);
-    const qreal reach = m_pen.widthF() * std::max(1.0, m_pen.miterLimit());
+    const bool hasMitres = m_pen.joinStyle() == Qt::MiterJoin;
+    const qreal reach = m_pen.widthF() * (hasMitres ? std::max(1.0, m_pen.miterLimit()) : 1);
     const QRectF mapped = toDevice.mapRect(QRectF(0, 0, reach, reach));
     m_margin = std::max(mapped.width(), mapped.height());
 }
 
 void StrokeMask::add(const QPainterPath &path)
 {
+    m_isThin = m_isThin && path.elementCount() > mostJoinedPoints;
     if (m_pen.style() != Qt::SolidLine) {
         addDashed(path);
     } else {
@@ -79,9 +86,7 @@ void StrokeMask::addDashed(const QPainterPath &path)
 {
     // The start of a dash depends on the whole line before it, so no part of it may be cut off.
     const QRectF everywhere = m_toDevice.mapRect(path.controlPointRect());
-    const int halvings = int(std::log2(1 + mostDashedPoints / (1 + path.elementCount())));
-    const QList<QPolygonF> lines =
-        flattened(path, m_toDevice, everywhere, std::min(halvings, mostHalvings));
+    const QList<QPolygonF> lines = flattened(path, m_toDevice, everywhere);
     for (const QPolygonF &line : lines) {
         const QList<QPolygonF> dashes = dashesOf(m_fromDevice.map(line), m_pen);
         for (const QPolygonF &dash : dashes)
@@ -93,26 +98,19 @@ void StrokeMask::addLine(const QPolygonF &line)
 {
     const QPolygonF points = thinned(line);
     const bool isClosed = points.first() == points.last();
-    const qreal longest = m_coverage.area().width() + m_coverage.area().height();
     bool isWhole = true;
     for (int i = 1; i < points.size(); ++i) {
-        if (isHidden(points.at(i - 1), points.at(i))) {
-            endPiece();
-            isWhole = false;
-            continue;
-        }
-        if (m_piece.isEmpty())
-            m_piece.append(points.at(i - 1));
-        m_piece.append(points.at(i));
-        m_batchLength += std::min(longest, (points.at(i) - points.at(i - 1)).manhattanLength());
+        const QLineF step(points.at(i - 1), points.at(i));
+        isWhole = addVisible(step) && isWhole;
         if (!isBatchFull())
             continue;
+        const bool goesOn = !m_piece.isEmpty() && (isClosed || i + 1 < points.size());
         endPiece();
         outlineBatch();
         isWhole = false;
         // Added again, so that the stroker joins the next line.
-        if (isClosed || i + 1 < points.size())
-            m_piece << points.at(i - 1) << points.at(i);
+        if (goesOn)
+            m_piece << step.p1() << step.p2();
     }
     // The stroker joins the ends of a closed line only if it gets the line in one piece.
     if (isClosed && !isWhole && !m_piece.isEmpty())
@@ -120,19 +118,64 @@ void StrokeMask::addLine(const QPolygonF &line)
     endPiece();
 }
 
-bool StrokeMask::isHidden(QPointF from, QPointF to) const
+/** Adds the parts of a straight line that are not hidden; returns whether it is one whole part. */
+bool StrokeMask::addVisible(const QLineF &line)
 {
-    const qreal length = (to - from).manhattanLength();
-    const QRectF box =
-        QRectF(from, to).normalized().adjusted(-m_margin, -m_margin, m_margin, m_margin);
+    m_parts.clear();
+    findVisible(line, 0, 1);
+    for (const Part &part : std::as_const(m_parts)) {
+        const QPointF from = line.pointAt(part.start);
+        const QPointF to = part.end < 1 ? line.pointAt(part.end) : line.p2();
+        m_batchLength += (to - from).manhattanLength();
+        if (m_isThin) {
+            addThin(from, to);
+            continue;
+        }
+        if (part.start > 0)
+            endPiece();
+        if (m_piece.isEmpty())
+            m_piece.append(from);
+        m_piece.append(to);
+    }
+    const bool isVisibleAtEnd = !m_parts.isEmpty() && m_parts.last().end == 1;
+    if (!isVisibleAtEnd)
+        endPiece();
+    return isVisibleAtEnd && m_parts.first().start == 0 && m_parts.size() == 1;
+}
+
+/** Covers the rectangle of a line, which is all of it but the joins with its neighbours. */
+void StrokeMask::addThin(QPointF from, QPointF to)
+{
+    const QLineF onPath = m_fromDevice.map(QLineF(from, to));
+    const qreal length = onPath.length();
+    if (length <= 0)
+        return;
+    const QPointF across = QPointF(-onPath.dy(), onPath.dx()) * (m_pen.widthF() / 2 / length);
+    const QPointF aside = m_toDevice.map(across) - m_toDevice.map(QPointF());
+    // All rectangles turn the same way round, so that those that overlap add up.
+    m_coverage.addPolygon(QPolygonF({from + aside, to + aside, to - aside, from - aside}));
+}
+
+/** Appends the parts of a line to m_parts; the line is that between two shares of a whole one. */
+void StrokeMask::findVisible(const QLineF &line, qreal start, qreal end)
+{
+    const QRectF box = QRectF(line.p1(), line.p2())
+                           .normalized()
+                           .adjusted(-m_margin, -m_margin, m_margin, m_margin);
     const QRectF area(m_coverage.area());
+    const qreal length = (line.p2() - line.p1()).manhattanLength();
     if (!std::isfinite(length) || !box.intersects(area)
         || m_gaps.isCovered(box.translated(-area.topLeft())))
-        return true;
-    if (length <= longestPart)
-        return false;
-    const QPointF middle = (from + to) / 2;
-    return isHidden(from, middle) && isHidden(middle, to);
+        return;
+    if (length > longestPart) {
+        const qreal half = (start + end) / 2;
+        findVisible(QLineF(line.p1(), line.center()), start, half);
+        findVisible(QLineF(line.center(), line.p2()), half, end);
+    } else if (!m_parts.isEmpty() && m_parts.last().end == start) {
+        m_parts.last().end = end;
+    } else {
+        m_parts.append({start, end});
+    }
 }
 
 bool StrokeMask::isBatchFull() const

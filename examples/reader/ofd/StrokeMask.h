@@ -6,6 +6,7 @@
 #include "ofd/CoverageMask.h"
 #include "ofd/GapTable.h"
 
+#include <QLineF>
 #include <QPainterPath>
 #include <QPainterPathStroker>
 #include <QPen>
@@ -17,7 +18,8 @@ namespace Ofd {
  * Covers the stroke of a path in a time that is proportional to the length of the path.
  *
  * Qt makes the outline, piece by piece. Left out are points less than a part of a pixel from the
- * one before, lines outside the area, and lines in parts that are already covered.
+ * one before, lines outside the area, lines in parts that are already covered, and the joins of a
+ * thin path of very many points.
  */
 class StrokeMask
 {
@@ -31,10 +33,19 @@ public:
 private:
     void addDashed(const QPainterPath &path);
     void addLine(const QPolygonF &line);
-    bool isHidden(QPointF from, QPointF to) const;
+    bool addVisible(const QLineF &line);
+    void addThin(QPointF from, QPointF to);
+    void findVisible(const QLineF &line, qreal start, qreal end);
     bool isBatchFull() const;
     void endPiece();
     void outlineBatch();
+
+    /** A part of a line between two shares of its length. */
+    struct Part
+    {
+        qreal start = 0;
+        qreal end = 1;
+    };
 
     CoverageMask m_coverage;
     GapTable m_gaps;
@@ -42,10 +53,12 @@ private:
     QTransform m_fromDevice;
     QPen m_pen;
     QPainterPathStroker m_stroker;
+    bool m_isThin = false;
     qreal m_margin; ///< The largest distance of the stroke from the path, in device pixels.
 
-    QPolygonF m_piece;    ///< In device pixels.
-    QPainterPath m_batch; ///< Pieces that are outlined together, in path coordinates.
+    QVector<Part> m_parts; ///< The visible parts of the line that is being added.
+    QPolygonF m_piece;     ///< In device pixels.
+    QPainterPath m_batch;  ///< Pieces that are outlined together, in path coordinates.
     qreal m_batchLength = 0;
 };
 
