@@ -3,15 +3,12 @@
 
 #include "panels/NavigationPanel.h"
 
-#include "pages/PagePainter.h"
 #include "panels/LanguageFollower.h"
+#include "panels/ThumbnailList.h"
 
 #include <QListWidget>
-#include <QPainter>
 #include <QPushButton>
-#include <QScrollBar>
 #include <QStackedWidget>
-#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -27,10 +24,7 @@ const QString attachments = QStringLiteral("vn_attachment");
 
 constexpr int pageRole = Qt::UserRole;
 constexpr int wordRole = Qt::UserRole + 1;
-constexpr int paintedRole = Qt::UserRole + 2;
 constexpr int leastWidth = 200;
-constexpr int mostThumbnails = 500;
-constexpr QSize thumbnailSize(106, 150);
 
 QString titleOf(const QString &panel)
 {
@@ -60,43 +54,13 @@ void addNotice(QListWidget *list, const QString &text)
     item->setFlags(Qt::NoItemFlags);
 }
 
-QIcon blankThumbnail()
-{
-    QPixmap blank(thumbnailSize);
-    blank.fill(Qt::white);
-    return QIcon(blank);
-}
-
-QIcon thumbnailOf(const Document &document, int page, qreal ratio)
-{
-    QPixmap pixmap(thumbnailSize * ratio);
-    pixmap.setDevicePixelRatio(ratio);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
-    const QSizeF size = document.sizeOf(page);
-    const QSizeF fitting = size.scaled(thumbnailSize, Qt::KeepAspectRatio);
-    const QRectF sheet(
-        QPointF(thumbnailSize.width() - fitting.width(), thumbnailSize.height() - fitting.height())
-            / 2,
-        fitting);
-    painter.save();
-    painter.setClipRect(sheet);
-    painter.translate(sheet.topLeft());
-    painter.scale(fitting.width() / size.width(), fitting.height() / size.height());
-    paintPage(painter, document, page, PageColours::of(Background_Default), PageDecoration());
-    painter.restore();
-    painter.setPen(Qt::gray);
-    painter.drawRect(sheet.toRect().adjusted(0, 0, -1, -1));
-    return QIcon(pixmap);
-}
-
 } // namespace
 
 NavigationPanel::NavigationPanel(const Document &document, QWidget *parent)
     : QDockWidget(parent)
     , m_document(document)
     , m_stack(new QStackedWidget)
+    , m_thumbnails(new ThumbnailList(document))
     , m_bookmarkButton(new QPushButton)
 {
     setObjectName(QStringLiteral("navigation"));
@@ -107,13 +71,12 @@ NavigationPanel::NavigationPanel(const Document &document, QWidget *parent)
     layout->addWidget(m_bookmarkButton);
     content->setMinimumWidth(leastWidth);
     setWidget(content);
-    for (const QString &name : names())
-        addPanel(name);
-    m_lists.value(thumbnails)->setIconSize(thumbnailSize);
-    connect(m_lists.value(thumbnails)->verticalScrollBar(), &QScrollBar::valueChanged, this,
-            &NavigationPanel::paintThumbnails);
-    connect(m_lists.value(thumbnails)->verticalScrollBar(), &QScrollBar::rangeChanged, this,
-            &NavigationPanel::paintThumbnails);
+    for (const QString &name : names()) {
+        if (name != thumbnails)
+            addPanel(name);
+    }
+    m_stack->addWidget(m_thumbnails);
+    connect(m_thumbnails, &ThumbnailList::pageChosen, this, &NavigationPanel::pageChosen);
     addBookmarkButton();
     LanguageFollower::attach(this, [this] { showTexts(); });
     hide();
@@ -142,6 +105,7 @@ void NavigationPanel::showTexts()
 {
     for (auto list = m_lists.cbegin(); list != m_lists.cend(); ++list)
         (*list)->setAccessibleName(titleOf(list.key()));
+    m_thumbnails->setAccessibleName(titleOf(thumbnails));
     m_bookmarkButton->setText(tr("为当前页添加书签"));
     setWindowTitle(titleOf(m_panel));
     if (!m_panel.isEmpty())
@@ -168,7 +132,8 @@ void NavigationPanel::toggle(const QString &name)
     }
     m_panel = name;
     setWindowTitle(titleOf(name));
-    m_stack->setCurrentWidget(m_lists.value(name));
+    QWidget *list = m_lists.value(name);
+    m_stack->setCurrentWidget(name == thumbnails ? m_thumbnails : list);
     m_bookmarkButton->setVisible(name == bookmarks);
     show();
     refill();
@@ -192,17 +157,15 @@ void NavigationPanel::documentOpened()
 void NavigationPanel::refill()
 {
     m_walk.stop();
-    if (isHidden())
-        return;
     QListWidget *list = m_lists.value(m_panel);
+    if (isHidden() || !list)
+        return;
     const int row = list->currentRow();
     list->clear();
     if (!m_document.isOpen())
         addNotice(list, tr("没有打开的文档"));
     else if (m_panel == outline)
         fillOutline();
-    else if (m_panel == thumbnails)
-        fillThumbnails();
     else if (m_panel == words)
         fillWords();
     else if (m_panel == bookmarks)
@@ -225,39 +188,6 @@ void NavigationPanel::fillOutline()
     for (int page = 0; page < m_document.pageCount(); ++page) {
         const QString heading = m_document.page(page).heading;
         addItem(m_lists.value(outline), QStringLiteral("%1　%2").arg(page + 1).arg(heading), page);
-    }
-}
-
-void NavigationPanel::fillThumbnails()
-{
-    QListWidget *list = m_lists.value(thumbnails);
-    const QIcon blank = blankThumbnail();
-    m_paintedPages.clear();
-    for (int page = 0; page < m_document.pageCount(); ++page) {
-        addItem(list, QString::number(page + 1), page);
-        list->item(page)->setIcon(blank);
-    }
-    // The geometry of the items is valid only after the layout of the list.
-    QTimer::singleShot(0, this, &NavigationPanel::paintThumbnails);
-}
-
-void NavigationPanel::paintThumbnails()
-{
-    QListWidget *list = m_lists.value(thumbnails);
-    const QRect visible = list->viewport()->rect();
-    for (int page = 0; page < std::min(list->count(), m_document.pageCount()); ++page) {
-        QListWidgetItem *item = list->item(page);
-        if (item->data(paintedRole).toBool() || !list->visualItemRect(item).intersects(visible))
-            continue;
-        item->setData(paintedRole, true);
-        item->setIcon(thumbnailOf(m_document, page, devicePixelRatioF()));
-        m_paintedPages.append(page);
-    }
-    // The oldest ones are painted again when they come into view.
-    while (m_paintedPages.size() > mostThumbnails) {
-        QListWidgetItem *item = list->item(m_paintedPages.takeFirst());
-        item->setData(paintedRole, false);
-        item->setIcon(blankThumbnail());
     }
 }
 

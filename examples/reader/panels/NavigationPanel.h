@@ -13,6 +13,7 @@ class QListWidget;
 class QListWidgetItem;
 class QPushButton;
 class QStackedWidget;
+class ThumbnailList;
 
 /** The dock with the navigation panels, identified by the names of their commands. */
 class NavigationPanel : public QDockWidget
@@ -45,8 +46,6 @@ private:
     void documentOpened();
     void refill();
     void fillOutline();
-    void fillThumbnails();
-    void paintThumbnails();
     void fillWords();
     void showWordCounts();
     void fillBookmarks();
@@ -57,10 +56,10 @@ private:
 
     const Document &m_document;
     QStackedWidget *m_stack;
-    QHash<QString, QListWidget *> m_lists;
+    QHash<QString, QListWidget *> m_lists; ///< Without the thumbnails.
+    ThumbnailList *m_thumbnails;
     QPushButton *m_bookmarkButton;
     QList<int> m_bookmarks;
-    QList<int> m_paintedPages; ///< Those with a thumbnail, the oldest first.
     QString m_fileName;        ///< The file of the bookmarks.
     QString m_panel;
     int m_currentPage = 0;
