@@ -6,7 +6,9 @@
 #include "pages/PageView.h"
 #include "panels/ThumbnailList.h"
 
+#include <QDir>
 #include <QPainter>
+#include <QPointer>
 #include <QScrollBar>
 #include <QSemaphore>
 #include <QSignalSpy>
@@ -272,6 +274,78 @@ private Q_SLOTS:
         }
         QCOMPARE(work.abandoned.load(), 1);
         QCOMPARE(work.all().size(), 1);
+    }
+
+    void shouldPaintAFileAsItsContentDoes_data()
+    {
+        QTest::addColumn<QString>("file");
+        for (const char *file : {"text.ofd", "paths.ofd", "image.ofd"})
+            QTest::newRow(file) << file;
+    }
+
+    void shouldPaintAFileAsItsContentDoes()
+    {
+        QFETCH(QString, file);
+        Document document;
+        QString error;
+        QVERIFY2(document.open(QDir(OFD_SAMPLES).filePath(file), &error), qPrintable(error));
+        const PageContent *content = document.contentOf(0);
+        const QSizeF size = document.sizeOf(0);
+        QImage direct((size * zoom).toSize(), QImage::Format_RGB32);
+        direct.fill(Qt::white);
+        QPainter painter(&direct);
+        painter.scale(zoom, zoom);
+        content->paint(painter);
+
+        PageCache cache;
+        QImage tiled(direct.size(), direct.format());
+        const auto isSharp = [&] {
+            QPainter tiles(&tiled);
+            tiles.setClipRect(tiled.rect());
+            const PageColours colours = PageColours::of(Background_Default);
+            cache.draw(tiles, {content, size, zoom, 0, 1, colours}, tiled.rect());
+            cache.request();
+            return cache.isSharp();
+        };
+        QTRY_VERIFY(isSharp());
+        // Qt rounds the places in a scaled picture by the edge of what it paints on.
+        if (file == "image.ofd")
+            QVERIFY2(distance(tiled, direct) < 0.1,
+                     qPrintable(QString::number(distance(tiled, direct))));
+        else
+            QCOMPARE(tiled, direct);
+    }
+
+    void shouldNeverBeBlankOnZoomingAndCloseAtAnyTime()
+    {
+        for (int round = 0; round < 12; ++round) {
+            Document document;
+            QString error;
+            QVERIFY(document.open(QDir(OFD_SAMPLES).filePath("text.ofd"), &error));
+            PageView view(document);
+            view.resize(600, 800);
+            view.setZoomMode(ZoomMode(150)); // With scroll bars from the beginning.
+            view.show();
+            QVERIFY(QTest::qWaitForWindowExposed(&view));
+            QTRY_VERIFY(view.isSharp());
+            for (int step = 0; step <= round; ++step) {
+                view.setZoomMode(ZoomMode::next(view.percent(), step % 6 < 3));
+                const QImage seen = view.viewport()->grab().toImage();
+                if (step < round)
+                    continue;
+                QTRY_VERIFY(view.isSharp());
+                const QImage sharp = view.viewport()->grab().toImage();
+                QCOMPARE(seen.size(), sharp.size());
+                QImage blank = sharp;
+                blank.fill(Qt::white);
+                QVERIFY2(
+                    distance(seen, sharp) <= distance(blank, sharp) * 2 / 3,
+                    qPrintable(
+                        QString("%1 %2").arg(distance(seen, sharp)).arg(distance(blank, sharp))));
+            }
+            view.setLayoutMode(LayoutMode::SingleFlow);
+            view.viewport()->repaint();
+        }
     }
 
     void shouldScrollThousandsOfPagesWithoutEffort()

@@ -16,7 +16,7 @@
 namespace {
 
 constexpr std::chrono::milliseconds betweenLooks(150);
-constexpr int mostLooks = 100;
+constexpr int mostLooks = 400; // A dense page may take many seconds to be painted.
 
 } // namespace
 
