@@ -4,6 +4,7 @@
 #include "pages/PageView.h"
 #include "shell/Description.h"
 #include "shell/ReaderWindow.h"
+#include "tests/reader/DialogUser.h"
 
 #include <toolbar/NewToolBar.h>
 
@@ -11,15 +12,11 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDomDocument>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QLineEdit>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QSet>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
 #include <QToolBar>
 
 namespace {
@@ -64,59 +61,6 @@ struct Reader
     QString error;
     ReaderWindow window;
     PageView *view = window.findChild<PageView *>();
-};
-
-enum Answer
-{
-    Enter,
-    Escape,
-    Discard
-};
-
-void give(Answer answer, QMessageBox *question)
-{
-    const QList<QAbstractButton *> buttons = question->buttons();
-    for (QAbstractButton *button : buttons) {
-        if (answer == Discard && question->buttonRole(button) == QMessageBox::DestructiveRole)
-            return button->click();
-    }
-    QWidget *focus = question->focusWidget();
-    QTest::keyClick(focus ? focus : question, answer == Enter ? Qt::Key_Return : Qt::Key_Escape);
-}
-
-void choose(const QString &file, QFileDialog *chooser)
-{
-    if (file.isEmpty())
-        return chooser->reject();
-    auto *field = chooser->findChild<QLineEdit *>();
-    field->setText(file);
-    QTest::keyClick(field, Qt::Key_Return);
-}
-
-/** Answers dialogs by a timer, because their event loops block the test. */
-class User
-{
-public:
-    User(Answer answer, const QString &file)
-    {
-        QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this, answer, file] {
-            QWidget *dialog = QApplication::activeModalWidget();
-            if (auto *question = qobject_cast<QMessageBox *>(dialog)) {
-                ++questions;
-                give(answer, question);
-            } else if (auto *chooser = qobject_cast<QFileDialog *>(dialog)) {
-                ++choosers;
-                choose(file, chooser);
-            }
-        });
-        m_timer.start(50);
-    }
-
-    int questions = 0;
-    int choosers = 0;
-
-private:
-    QTimer m_timer;
 };
 
 } // namespace
@@ -195,14 +139,14 @@ private Q_SLOTS:
     void shouldFollowTheAnswerToTheQuestionForUnsavedMarks()
     {
         NewToolBar::uiStyle = 0;
-        const QList<std::tuple<Answer, const char *, bool, bool>> rows{
+        const QList<std::tuple<DialogUser::Answer, const char *, bool, bool>> rows{
             // The answer, the file, whether that is written, and whether the window is closed.
-            {Enter, "marks.pdf", true, true},
-            {Enter, "", false, false},
-            {Enter, "none/marks.pdf", false, false},
-            {Enter, "marks.txt", true, false},
-            {Escape, "", false, false},
-            {Discard, "", false, true}};
+            {DialogUser::Enter, "marks.pdf", true, true},
+            {DialogUser::Enter, "", false, false},
+            {DialogUser::Enter, "none/marks.pdf", false, false},
+            {DialogUser::Enter, "marks.txt", true, false},
+            {DialogUser::Escape, "", false, false},
+            {DialogUser::Discard, "", false, true}};
         for (const auto &[answer, file, isSaved, isClosed] : rows) {
             const QTemporaryDir folder;
             const QString path = folder.filePath(file);
@@ -213,10 +157,10 @@ private Q_SLOTS:
                     QMetaObject::invokeMethod(widget, "DoActive", Q_ARG(QString, "ti_stamp"));
             }
             QTRY_VERIFY(reader.window.isWindowModified());
-            const User user(answer, *file ? path : QString());
+            const DialogUser user(answer, *file ? path : QString());
             QCOMPARE(reader.window.close(), isClosed);
             QCOMPARE(user.questions, 1);
-            QCOMPARE(user.choosers, answer == Enter ? 1 : 0);
+            QCOMPARE(user.choosers, answer == DialogUser::Enter ? 1 : 0);
             QCOMPARE(reader.window.isVisible(), !isClosed);
             QCOMPARE(QFileInfo(path).isFile() && QFileInfo(path).size() > 0, isSaved);
             QTRY_COMPARE(reader.window.isWindowModified(), !isSaved || !isClosed);

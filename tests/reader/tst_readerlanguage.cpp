@@ -89,7 +89,11 @@ class ReaderLanguageTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { Language::install("en"); }
+    void initTestCase()
+    {
+        qputenv("XDG_CONFIG_HOME", "/nowhere"); // Not the user's own settings.
+        Language::install("en");
+    }
 
     void shouldShowEnglishTextsOnly()
     {

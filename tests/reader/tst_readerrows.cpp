@@ -20,6 +20,7 @@ class ReaderRowsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { qputenv("XDG_CONFIG_HOME", "/nowhere"); } // Not the user's own settings.
     void shouldHaveEveryCommandAtMostTwoClicksAway_data();
     void shouldHaveEveryCommandAtMostTwoClicksAway();
 };

@@ -1,8 +1,8 @@
 # SPDX-FileCopyrightText: The MRToolBar authors
 # SPDX-License-Identifier: MIT
 
-# The PROGRAMS print their texts without a display, and the first of them, the reader, ends a picture
-# of the file BROKEN with one line.
+# The PROGRAMS print their texts without a display, and the first of them, the reader, makes files of
+# the document WHOLE there; it ends with one line for the file BROKEN, and on a display, too.
 unset(ENV{QT_QPA_PLATFORM})
 set(display "$ENV{DISPLAY}")
 unset(ENV{DISPLAY})
@@ -18,9 +18,39 @@ foreach(program IN LISTS PROGRAMS)
 endforeach()
 
 list(GET PROGRAMS 0 reader)
-set(ENV{DISPLAY} "${display}")
-execute_process(COMMAND ${reader} --language en --screenshot picture.png ${BROKEN}
-    RESULT_VARIABLE result ERROR_VARIABLE error TIMEOUT 60)
-if(NOT result EQUAL 1 OR NOT error MATCHES "mrtoolbar-reader: Cannot open [^\n]+\n$")
-    message(SEND_ERROR "${reader} --screenshot: ${result}\n${error}")
-endif()
+# make_file(OPTION FILE RESULT ERROR DOCUMENT): OPTION ends with this result and matching error.
+function(make_file option file wanted pattern document)
+    file(REMOVE ${CMAKE_CURRENT_BINARY_DIR}/${file})
+    execute_process(COMMAND ${reader} --language en ${option} ${file} ${document}
+        RESULT_VARIABLE result ERROR_VARIABLE error TIMEOUT 60)
+    string(REPLACE "This plugin does not support propagateSizeHints()\n" "" error "${error}")
+    file(GLOB left ${CMAKE_CURRENT_BINARY_DIR}/${file})
+    list(LENGTH left count)
+    math(EXPR refused "1 - ${count}")
+    if(NOT result EQUAL wanted OR NOT error MATCHES "${pattern}" OR NOT refused EQUAL wanted)
+        message(SEND_ERROR "${reader} ${option} ${file} ${document}: ${result}\n${error}")
+    endif()
+endfunction()
+set(refusal "^mrtoolbar-reader: Cannot open [^\n]+\n$")
+# The language is that of the system, unless it was chosen.
+set(ENV{XDG_CONFIG_HOME} ${CMAKE_CURRENT_BINARY_DIR}/no-settings)
+foreach(pair IN ITEMS C:Cannot zh_CN.UTF-8:[^C] en_GB.UTF-8:Cannot zh_TW.UTF-8:[^C])
+    string(REPLACE ":" ";" pair ${pair})
+    list(GET pair 0 locale)
+    list(GET pair 1 begin)
+    execute_process(COMMAND ${CMAKE_COMMAND} -E env LC_ALL=${locale} ${reader} --print-to made.pdf ${BROKEN}
+        RESULT_VARIABLE result ERROR_VARIABLE error TIMEOUT 60)
+    if(NOT result EQUAL 1 OR NOT error MATCHES "mrtoolbar-reader: ${begin}[^\n]+\n$")
+        message(SEND_ERROR "${reader} in ${locale}: ${result}\n${error}")
+    endif()
+endforeach()
+foreach(DISPLAY IN ITEMS "" "${display}")
+    if(DISPLAY)
+        set(ENV{DISPLAY} "${DISPLAY}")
+    endif()
+    make_file(--print-to made.pdf 0 "^$" ${WHOLE})
+    make_file(--screenshot made.jpg 0 "^$" ${WHOLE})
+    make_file(--print-to made.pdf 1 "${refusal}" ${BROKEN})
+    make_file(--screenshot made.jpg 1 "${refusal}" ${BROKEN})
+    make_file(--screenshot made.odd 1 "^mrtoolbar-reader: --screenshot takes [^\n]+\n$" ${WHOLE})
+endforeach()

@@ -175,9 +175,10 @@ void FileCommands::askAndOpen()
 QString FileCommands::folder() const
 {
     const Document &document = *m_parts.document;
-    const QString last = document.isOpen() && !document.isGenerated()
-                             ? QFileInfo(document.fileName()).absolutePath()
-                             : m_parts.recentFiles->lastFolder();
+    const bool hasFolder = document.isOpen() && !document.isGenerated()
+                           && m_parts.recentFiles->isKept(document.fileName());
+    const QString last = hasFolder ? QFileInfo(document.fileName()).absolutePath()
+                                   : m_parts.recentFiles->lastFolder();
     return QFileInfo(last).isDir() ? last : QDir::homePath();
 }
 

@@ -16,6 +16,9 @@ public:
     virtual QStringList recentFiles() const = 0;
     /** Puts a file at the start of the list, without duplicates. */
     virtual void addRecentFile(const QString &fileName) = 0;
+    /** Whether the file is one of the user's, not one that exists only as long as the program runs.
+     */
+    virtual bool isKept(const QString &fileName) const = 0;
     virtual void removeRecentFile(const QString &fileName) = 0;
     virtual void clearRecentFiles() = 0;
 

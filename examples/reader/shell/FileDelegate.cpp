@@ -60,7 +60,7 @@ void FileDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
     const bool isSelected = ground.state & QStyle::State_Selected;
     const QPalette &colours = ground.palette;
     const QColor text = colours.color(isSelected ? QPalette::HighlightedText : QPalette::Text);
-    const QColor below = colours.color(isSelected ? QPalette::Highlight : QPalette::Base);
+    const QColor below = colours.color(QPalette::Base);
     const QFontMetrics &metrics = ground.fontMetrics;
     const int margin = metrics.height() / 3;
     const QRect area = ground.rect.adjusted(2 * margin, margin, -2 * margin, -margin);
@@ -71,7 +71,7 @@ void FileDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
     painter->setFont(ground.font);
     painter->setPen(text);
     painter->drawText(area, Qt::AlignTop | Qt::AlignLeft, elided(name, Qt::ElideMiddle));
-    painter->setPen(weakened(text, below));
+    painter->setPen(isSelected ? text : weakened(text, below));
     painter->drawText(area, Qt::AlignBottom | Qt::AlignLeft,
                       elided(folderOf(index.data(fileRole).toString()), Qt::ElideMiddle));
     painter->restore();

@@ -69,6 +69,8 @@ void ReaderSettings::storeRecentFiles(const QStringList &files)
 
 void ReaderSettings::addRecentFile(const QString &fileName)
 {
+    if (!isKept(fileName))
+        return;
     const QString path = QFileInfo(fileName).absoluteFilePath();
     QStringList files = recentFiles();
     files.removeAll(path);
@@ -184,7 +186,7 @@ ReadingPlace ReaderSettings::place(const QString &fileName) const
 void ReaderSettings::setPlace(const QString &fileName, const ReadingPlace &place)
 {
     const QString path = QFileInfo(fileName).canonicalFilePath();
-    if (path.isEmpty())
+    if (path.isEmpty() || !isKept(fileName))
         return;
     QStringList places{QStringLiteral("%1 %2 ").arg(place.page).arg(place.zoom) + path};
     const QStringList former = m_settings.value(placesKey).toStringList();

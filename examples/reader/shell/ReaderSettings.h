@@ -30,6 +30,9 @@ public:
 
     /** From now on nothing is written: for a run that only makes a picture. */
     void keepNothing() { m_keeps = false; }
+    /** Nothing is kept of this file. */
+    void setPassing(const QString &fileName) { m_passing = fileName; }
+    bool isKept(const QString &fileName) const override { return fileName != m_passing; }
 
     QStringList recentFiles() const override;
     void addRecentFile(const QString &fileName) override;
@@ -79,5 +82,6 @@ private:
 
     QSettings m_settings;
     QString m_scheme; ///< Of this run; empty for the stored one.
+    QString m_passing;
     bool m_keeps = true;
 };

@@ -12,7 +12,8 @@
 
 namespace {
 
-constexpr int patience = 2000; ///< In milliseconds.
+constexpr QChar separator(u'\0'); ///< The only character that no path contains.
+constexpr int patience = 2000;    ///< In milliseconds.
 constexpr QDataStream::Version streamVersion = QDataStream::Qt_5_15;
 /** Begins a message; another layout of messages needs another number. */
 constexpr quint32 greeting = 0x4F464431;
@@ -22,8 +23,10 @@ QString socketPath(const QString &key)
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
     if (folder.isEmpty() || !QFileInfo(folder).isWritable())
         return QString();
-    // The length of the path of a socket is limited.
-    const QByteArray hash = QCryptographicHash::hash(key.toUtf8(), QCryptographicHash::Sha256);
+    // The length of the path of a socket is limited. A window on another display helps nobody.
+    const QByteArray all =
+        key.toUtf8() + '\n' + qgetenv("DISPLAY") + '\n' + qgetenv("WAYLAND_DISPLAY");
+    const QByteArray hash = QCryptographicHash::hash(all, QCryptographicHash::Sha256);
     return folder + QStringLiteral("/mrtoolbar-reader-")
            + QString::fromLatin1(hash.toHex().left(16));
 }
@@ -65,7 +68,7 @@ SingleInstance::Answer SingleInstance::send(const QStringList &files) const
         return socket.error() == QLocalSocket::SocketTimeoutError ? Silent : Nobody;
     QDataStream stream(&socket);
     stream.setVersion(streamVersion);
-    stream << greeting << files;
+    stream << greeting << files.join(separator).toUtf8();
     return socket.waitForBytesWritten(patience) && socket.waitForReadyRead(patience) ? Taken
                                                                                      : Silent;
 }
@@ -80,11 +83,12 @@ void SingleInstance::listen()
 void SingleInstance::receive(QLocalSocket *socket)
 {
     quint32 begin = 0;
-    QStringList files;
+    // Not a list, whose announced length would be believed.
+    QByteArray paths;
     QDataStream stream(socket);
     stream.setVersion(streamVersion);
     stream.startTransaction();
-    stream >> begin >> files;
+    stream >> begin >> paths;
     if (begin != 0 && begin != greeting)
         return socket->abort();
     if (!stream.commitTransaction())
@@ -92,5 +96,6 @@ void SingleInstance::receive(QLocalSocket *socket)
     socket->write("\n");
     socket->flush();
     socket->disconnectFromServer();
-    Q_EMIT filesHandedOver(files);
+    Q_EMIT filesHandedOver(
+        QString::fromUtf8(paths.constData(), paths.size()).split(separator, Qt::SkipEmptyParts));
 }

@@ -44,6 +44,7 @@ StartPage::StartPage(QWidget *parent)
     m_list->installEventFilter(this);
     buildContent();
     setSizes();
+    setColours();
     LanguageFollower::attach(this, [this] { showTexts(); });
 
     connect(m_openButton, &QPushButton::clicked, this, &StartPage::openAsked);
@@ -94,6 +95,8 @@ void StartPage::setSizes()
     large.setPointSizeF(QFontInfo(large).pointSizeF() * titleSize);
     m_title->setFont(large);
     m_column->setMaximumWidth(columnWidth * logicalDpiX() / referenceDpi);
+    const int line = QFontInfo(font()).pixelSize();
+    m_openButton->setMinimumSize(8 * line, 5 * line / 2);
     m_list->setMaximumHeight(std::max(1, m_list->count()) * m_list->sizeHintForRow(0)
                              + 2 * m_list->frameWidth());
 }
@@ -114,6 +117,17 @@ void StartPage::setFiles(const QStringList &fileNames)
     setFocusProxy(hasFiles ? static_cast<QWidget *>(m_list) : m_openButton);
     if (hadFocus)
         setFocus();
+}
+
+void StartPage::setColours()
+{
+    // Styles draw hardly any edge of a button on a dark ground.
+    QPalette colours = palette();
+    if (colours.color(QPalette::Window).lightness() < colours.color(QPalette::Text).lightness()) {
+        colours.setColor(QPalette::Button, colours.color(QPalette::Highlight));
+        colours.setColor(QPalette::ButtonText, colours.color(QPalette::HighlightedText));
+    }
+    m_openButton->setPalette(colours);
 }
 
 void StartPage::choose(const QListWidgetItem *item)
@@ -154,5 +168,7 @@ void StartPage::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::FontChange)
         setSizes();
+    if (event->type() == QEvent::PaletteChange)
+        setColours();
     QWidget::changeEvent(event);
 }

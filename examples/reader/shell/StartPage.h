@@ -33,6 +33,7 @@ private:
     void buildContent();
     void showTexts();
     void setSizes();
+    void setColours();
     void choose(const QListWidgetItem *item);
     void removeCurrent();
 

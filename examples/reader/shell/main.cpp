@@ -20,6 +20,7 @@
 #include <toolbar/NewToolBar.h>
 
 #include <QApplication>
+#include <QIcon>
 #include <QTextStream>
 
 #include <optional>
@@ -104,6 +105,8 @@ int show(const Options &options, const QDomDocument &description)
     const std::shared_ptr<ReaderSettings> settings = ReaderSettings::shared();
     if (!options.screenshot.isEmpty())
         settings->keepNothing();
+    if (options.readsInput)
+        settings->setPassing(options.files.last());
     if (!options.scheme.isEmpty())
         settings->useScheme(options.scheme);
     WindowList windows(description, options);
@@ -174,6 +177,8 @@ int main(int argc, char *argv[])
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
 #endif
     const QApplication application(argc, argv);
+    QGuiApplication::setDesktopFileName(QCoreApplication::applicationName());
+    QGuiApplication::setWindowIcon(QIcon::fromTheme(QCoreApplication::applicationName()));
     const Options options = Options::of(QCoreApplication::arguments(), &error);
     if (!error.isEmpty())
         return fail(error);
