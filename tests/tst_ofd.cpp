@@ -197,8 +197,7 @@ QList<std::pair<const char *, Ofd::Object>> objects()
     Ofd::Object distorted = lines;
     distorted.matrix = QTransform(1.6, .3, -.1, 1.4, 60, -100);
     QLinearGradient gradient(0, 0, 210, 0);
-    gradient.setColorAt(0, Qt::red);
-    gradient.setColorAt(1, Qt::blue);
+    gradient.setStops({{0, Qt::red}, {1, Qt::blue}});
     Ofd::Object coloured = filled(course, Qt::OddEvenFill);
     coloured.style.fill = QBrush(gradient);
     const Ofd::Object clipped = clippedBy(lines, "M 9 9 L 100 9 L 100 290 C");
