@@ -227,13 +227,15 @@ void EditCommands::addWatermark()
 void EditCommands::selectPages(int first, int last)
 {
     QList<TextRange> selection;
+    qint64 all = 0;
     for (int page = first; page <= last; ++page) {
         const int length = int(m_parts.document->page(page).text.size());
         if (length > 0)
             selection.append({page, 0, length});
+        all += length;
     }
     m_parts.view->setSelection(selection);
     // Ctrl+C is a shortcut of the page view.
     m_parts.view->setFocus();
-    m_parts.say(tr("已选择 %1 个字").arg(m_parts.view->selectedText().size()));
+    m_parts.say(tr("已选择 %1 个字").arg(all));
 }
