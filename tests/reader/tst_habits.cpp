@@ -16,8 +16,8 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMimeData>
-#include <QPointer>
 #include <QScreen>
+#include <QStackedWidget>
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTest>
@@ -70,9 +70,7 @@ struct Run
 
 QWidget *shownIn(const ReaderWindow *window)
 {
-    return window->centralWidget()->findChild<StartPage *>()->isVisible()
-               ? static_cast<QWidget *>(window->centralWidget()->findChild<StartPage *>())
-               : window->centralWidget()->findChild<PageView *>();
+    return qobject_cast<QStackedWidget *>(window->centralWidget())->currentWidget();
 }
 
 QString shownFile()
@@ -98,22 +96,290 @@ class HabitsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void init();
-    void shouldBeginAndEndWithTheRecentFiles();
-    void shouldSayWhichRecentFileIsGone();
-    void shouldHaveOneWindowForEachFile();
-    void shouldOpenAllFilesThatAreDropped();
-    void shouldNotLeaveAnEmptyWindowForAFileThatCannotBeOpened();
-    void shouldAskInEachWindowWhenItQuits_data();
-    void shouldAskInEachWindowWhenItQuits();
-    void shouldComeBackAsItWasLeft();
-    void shouldKeepThePlacesOfTheLastFilesOnly();
-    void shouldNotComeBackOutsideOfTheScreen();
-    void shouldKeepTheSchemeForAllWindowsAndTheNextStart();
-    void shouldSayThatThereIsNoSuchPage();
-    void shouldSaveBesideTheDocumentAsTheSuffixSays_data();
-    void shouldSaveBesideTheDocumentAsTheSuffixSays();
+    void initTestCase()
+    {
+        QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        QApplication::setQuitOnLastWindowClosed(false);
+        qputenv("XDG_CONFIG_HOME", m_config.path().toLocal8Bit());
+    }
+
+    void init()
+    {
+        QFile::remove(m_config.filePath("mrtoolbar/reader.ini"));
+        m_files = std::make_unique<QTemporaryDir>();
+        for (const char *name : {"text.ofd", "image.ofd", "paths.ofd", "broken-truncated.ofd"})
+            QVERIFY(QFile::copy(QDir(OFD_SAMPLES).filePath(name), file(name)));
+    }
+
+    void shouldBeginAndEndWithTheRecentFiles()
+    {
+        for (const char *name : {"text.ofd", "image.ofd", "paths.ofd"})
+            ReaderSettings::shared()->addRecentFile(file(name));
+        Run run;
+        ReaderWindow *window = run.open({});
+        auto *list = window->findChild<StartPage *>()->findChild<QListWidget *>();
+        QTRY_COMPARE(QApplication::focusWidget(), list);
+        QCOMPARE(list->count(), 3);
+        QTest::keyClick(list, Qt::Key_Down);
+        QTest::keyClick(list, Qt::Key_Delete);
+        QCOMPARE(ReaderSettings::shared()->recentFiles(),
+                 QStringList({file("paths.ofd"), file("text.ofd")}));
+        QTest::keyClick(list, Qt::Key_Return);
+        QTRY_COMPARE(window->fileName(), file("text.ofd"));
+        auto *view = window->findChild<PageView *>();
+        QCOMPARE(shownIn(window), view);
+        QCOMPARE(QApplication::focusWidget(), view);
+
+        QTest::keyClick(view, Qt::Key_W, Qt::ControlModifier);
+        QTRY_COMPARE(shownIn(window), window->findChild<StartPage *>());
+        QVERIFY(!window->hasDocument());
+        QCOMPARE(list->item(0)->text(), QString("text.ofd"));
+    }
+
+    void shouldSayWhichRecentFileIsGone()
+    {
+        ReaderSettings::shared()->addRecentFile(file("gone.ofd"));
+        Run run;
+        ReaderWindow *window = run.open({});
+        auto *list = window->findChild<StartPage *>()->findChild<QListWidget *>();
+        DialogUser user(DialogUser::Enter);
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
+                          list->visualItemRect(list->item(0)).center());
+        QTRY_COMPARE(user.questions, 1);
+        QVERIFY2(user.lastText.contains(file("gone.ofd")), qPrintable(user.lastText));
+        QCOMPARE(ReaderSettings::shared()->recentFiles(), QStringList());
+    }
+
+    void shouldHaveOneWindowForEachFile()
+    {
+        Run run;
+        run.open({});
+        QDir().mkdir(file("sub"));
+        QVERIFY(QFile::link(file("text.ofd"), file("sub/link.ofd")));
+        const QList<QPair<QString, int>> rows{{"text.ofd", 1},        {"image.ofd", 2},
+                                              {"sub/../text.ofd", 2}, {"sub/link.ofd", 2},
+                                              {"paths.ofd", 3},       {"image.ofd", 3}};
+        for (const auto &[name, count] : rows) {
+            run.list.open({file(name)}, windows().value(0));
+            QTRY_COMPARE(windows().size(), count);
+            const QString path = QFileInfo(file(name)).canonicalFilePath();
+            QTRY_COMPARE(shownFile(), path);
+        }
+        const QList<ReaderWindow *> all = windows();
+        QCOMPARE(all.size(), 3);
+        for (ReaderWindow *window : all) {
+            QVERIFY(window->close());
+            QTRY_VERIFY(!windows().contains(window));
+        }
+    }
+
+    void shouldOpenAllFilesThatAreDropped()
+    {
+        Run run;
+        ReaderWindow *window = run.open({});
+        const DialogUser user(DialogUser::Enter);
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(file("text.ofd")), QUrl("http://example.invalid/x.ofd"),
+                      QUrl::fromLocalFile(file("image.ofd"))});
+        QDragEnterEvent entering(QPoint(300, 300), Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(window, &entering);
+        QVERIFY(entering.isAccepted());
+        QDropEvent dropping(QPoint(300, 300), Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(window, &dropping);
+        QTRY_COMPARE(windows().size(), 2);
+        QCOMPARE(window->fileName(), file("text.ofd"));
+    }
+
+    void shouldNotLeaveAnEmptyWindowForAFileThatCannotBeOpened()
+    {
+        Run run;
+        run.open({file("text.ofd")});
+        DialogUser user(DialogUser::Enter);
+        run.list.open({file("broken-truncated.ofd")});
+        QTRY_COMPARE(user.questions, 1);
+        QVERIFY(user.lastText.contains("broken-truncated.ofd"));
+        QTRY_COMPARE(windows().size(), 1);
+        QCOMPARE(windows().first()->fileName(), file("text.ofd"));
+        QCOMPARE(ReaderSettings::shared()->recentFiles(), QStringList(file("text.ofd")));
+    }
+
+    void shouldAskInEachWindowWhenItQuits_data()
+    {
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<int>("questions");
+        QTest::addColumn<int>("left");
+        QTest::newRow("cancelled") << int(DialogUser::Escape) << 1 << 3;
+        QTest::newRow("discarded") << int(DialogUser::Discard) << 2 << 0;
+    }
+
+    void shouldAskInEachWindowWhenItQuits()
+    {
+        QFETCH(const int, answer);
+        Run run;
+        run.list.open({file("text.ofd"), file("image.ofd"), file("paths.ofd")});
+        const QList<ReaderWindow *> all = windows();
+        QCOMPARE(all.size(), 3);
+        addMark(all.at(0));
+        addMark(all.at(2));
+        QTRY_VERIFY(all.at(0)->isWindowModified() && all.at(2)->isWindowModified());
+        all.at(1)->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(all.at(1)));
+        DialogUser user(DialogUser::Answer(answer), {});
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Q, Qt::ControlModifier);
+        QTEST(user.questions, "questions");
+        QTest::qWait(50);
+        QTEST(int(windows().size()), "left");
+    }
+
+    void shouldComeBackAsItWasLeft()
+    {
+        QRect place;
+        {
+            Run run;
+            ReaderWindow *window = run.open({file("text.ofd")});
+            window->setGeometry(120, 90, 900, 640);
+            auto *view = window->findChild<PageView *>();
+            view->setZoomMode(ZoomMode(137));
+            view->setCurrentPage(1);
+            window->findChild<NavigationPanel *>()->toggle("vn_thumbnail");
+            QTest::qWait(50);
+            place = window->geometry();
+            QVERIFY(window->close());
+        }
+        // By another way to the same file.
+        QVERIFY(QFile::link(file("text.ofd"), file("link.ofd")));
+        Run run;
+        ReaderWindow *window = run.open({file("link.ofd")});
+        auto *view = window->findChild<PageView *>();
+        QTRY_COMPARE(window->geometry(), place);
+        QCOMPARE(view->currentPage(), 1);
+        QCOMPARE(qRound(view->percent()), 137);
+        QCOMPARE(window->findChild<NavigationPanel *>()->shownPanel(), QString("vn_thumbnail"));
+        window->open(file("image.ofd"));
+        QCOMPARE(view->currentPage(), 0);
+    }
+
+    void shouldKeepThePlacesOfTheLastFilesOnly()
+    {
+        const auto settings = ReaderSettings::shared();
+        const QString path = file("with two  spaces.ofd");
+        for (int i = 0; i < 130; ++i) {
+            const QString name = i == 60 ? path : file(QString("%1.ofd").arg(i));
+            QVERIFY(QFile(name).open(QIODevice::WriteOnly));
+            settings->setPlace(name, {i, "vzmode_fitpage"});
+        }
+        QCOMPARE(settings->place(path).page, 60);
+        QCOMPARE(settings->place(file("129.ofd")).page, 129);
+        QCOMPARE(settings->place(file("29.ofd")).zoom, QString());
+        QCOMPARE(settings->place(file("none.ofd")).zoom, QString());
+    }
+
+    void shouldNotComeBackOutsideOfTheScreen()
+    {
+        QWidget outside; // As on a second screen that is gone.
+        outside.setGeometry(5000, 4000, 900, 640);
+        ReaderSettings::shared()->setGeometry(outside.saveGeometry());
+        Run run;
+        const ReaderWindow *window = run.open({});
+        const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+        QTRY_VERIFY(screen.contains(window->geometry()));
+        ReaderSettings::shared()->setGeometry("nonsense");
+        run.list.create()->show();
+    }
+
+    void shouldKeepTheSchemeForAllWindowsAndTheNextStart()
+    {
+        const QPalette before = QApplication::palette();
+        {
+            Run run;
+            run.list.open({file("text.ofd"), file("image.ofd")});
+            QCOMPARE(windows().size(), 2);
+            QWidget *bar = nullptr;
+            const auto widgets = windows().first()->findChildren<QWidget *>();
+            for (QWidget *widget : widgets)
+                bar = widget->inherits("NewToolBar") ? widget : bar;
+            QMetaObject::invokeMethod(bar, "DoActive", Q_ARG(QString, "r_scheme_dark"));
+            QTRY_VERIFY(QApplication::palette().window().color().lightness() < 80);
+            for (const ReaderWindow *window : windows()) {
+                QTRY_VERIFY(window->findChild<QWidget *>("mrtoolbar")
+                                ->grab()
+                                .toImage()
+                                .pixelColor(4, 60)
+                                .lightness()
+                            < 80);
+            }
+        }
+        {
+            const Run run;
+            QCOMPARE(ReaderSettings::shared()->scheme(), QString("dark"));
+        }
+        ReaderSettings::shared()->setScheme("light");
+        Run().list.create();
+        QCOMPARE(QApplication::palette(), before);
+    }
+
+    void shouldSayThatThereIsNoSuchPage()
+    {
+        Run run;
+        ReaderWindow *window = run.open({file("text.ofd")});
+        auto *view = window->findChild<PageView *>();
+        const QList<std::tuple<const char *, int, bool, bool>> rows{
+            // What is typed, the page then, whether Return ends it, and whether a sentence is said.
+            {"2", 1, true, false},  {"3", 1, true, true},    {"99999999999", 1, true, true},
+            {"0", 1, true, true},   {"abc", 1, true, false}, {"1x", 0, true, false},
+            {"77", 0, false, false}};
+        for (const auto &[typed, page, returns, says] : rows) {
+            window->statusBar()->clearMessage();
+            QTest::keyClick(view, Qt::Key_G, Qt::ControlModifier);
+            auto *field = qobject_cast<QLineEdit *>(QApplication::focusWidget());
+            QVERIFY(field);
+            QTest::keyClicks(field, typed);
+            QVERIFY(!field->text().contains(QRegularExpression("[a-z]")));
+            if (returns)
+                QTest::keyClick(field, Qt::Key_Return);
+            QCOMPARE(view->currentPage(), page);
+            QCOMPARE(window->statusBar()->currentMessage().contains("共 2 页"), says);
+            view->setFocus();
+            QTRY_COMPARE(field->text(), QString::number(page + 1));
+        }
+    }
+
+    void shouldSaveBesideTheDocumentAsTheSuffixSays_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("written");
+        QTest::addColumn<QByteArray>("begin");
+        QTest::newRow("kept") << ""
+                              << "" << QByteArray();
+        QTest::newRow("proposed") << "*"
+                                  << "text.pdf" << QByteArray("%PDF");
+        QTest::newRow("text") << "a.txt"
+                              << "a.txt" << QByteArray("");
+        QTest::newRow("no suffix") << "a"
+                                   << "a.pdf" << QByteArray("%PDF");
+        QTest::newRow("part of the name") << "version 1.2"
+                                          << "version 1.2.pdf" << QByteArray("%PDF");
+    }
+
+    void shouldSaveBesideTheDocumentAsTheSuffixSays()
+    {
+        QFETCH(const QString, typed);
+        QFETCH(const QString, written);
+        QFETCH(const QByteArray, begin);
+        Run run;
+        ReaderWindow *window = run.open({file("text.ofd")});
+        addMark(window);
+        QTRY_VERIFY(window->isWindowModified());
+        DialogUser user(DialogUser::Enter, typed);
+        QTest::keyClick(window->findChild<PageView *>(), Qt::Key_S, Qt::ControlModifier);
+        QTRY_COMPARE(user.choosers, 1);
+        QCOMPARE(user.folder, m_files->path());
+        if (written.isEmpty())
+            return;
+        QTRY_VERIFY(QFileInfo(file(written)).size() > 0);
+        QFile saved(file(written));
+        QVERIFY(saved.open(QIODevice::ReadOnly) && saved.readAll().startsWith(begin));
+    }
 
 private:
     QString file(const QString &name) const { return m_files->filePath(name); }
@@ -121,291 +387,6 @@ private:
     const QTemporaryDir m_config;
     std::unique_ptr<QTemporaryDir> m_files;
 };
-
-void HabitsTest::initTestCase()
-{
-    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    QApplication::setQuitOnLastWindowClosed(false);
-    qputenv("XDG_CONFIG_HOME", m_config.path().toLocal8Bit());
-}
-
-void HabitsTest::init()
-{
-    QFile::remove(m_config.filePath("mrtoolbar/reader.ini"));
-    m_files = std::make_unique<QTemporaryDir>();
-    for (const char *name : {"text.ofd", "image.ofd", "paths.ofd", "broken-truncated.ofd"})
-        QVERIFY(QFile::copy(QDir(OFD_SAMPLES).filePath(name), file(name)));
-}
-
-void HabitsTest::shouldBeginAndEndWithTheRecentFiles()
-{
-    for (const char *name : {"text.ofd", "image.ofd", "paths.ofd"})
-        ReaderSettings::shared()->addRecentFile(file(name));
-    Run run;
-    ReaderWindow *window = run.open({});
-    auto *list = window->findChild<StartPage *>()->findChild<QListWidget *>();
-    QTRY_COMPARE(QApplication::focusWidget(), list);
-    QCOMPARE(list->count(), 3);
-    QTest::keyClick(list, Qt::Key_Down);
-    QTest::keyClick(list, Qt::Key_Delete);
-    QCOMPARE(ReaderSettings::shared()->recentFiles(),
-             QStringList({file("paths.ofd"), file("text.ofd")}));
-    QTest::keyClick(list, Qt::Key_Return);
-    QTRY_COMPARE(window->fileName(), file("text.ofd"));
-    auto *view = window->findChild<PageView *>();
-    QCOMPARE(shownIn(window), view);
-    QCOMPARE(QApplication::focusWidget(), view);
-
-    QTest::keyClick(view, Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
-    QTRY_VERIFY(qobject_cast<QLineEdit *>(QApplication::focusWidget()));
-    QTest::keyClicks(QApplication::focusWidget(), "f_close");
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-    QTRY_VERIFY(!window->hasDocument());
-    QCOMPARE(shownIn(window), window->findChild<StartPage *>());
-    QCOMPARE(list->item(0)->text(), QString("text.ofd"));
-}
-
-void HabitsTest::shouldSayWhichRecentFileIsGone()
-{
-    ReaderSettings::shared()->addRecentFile(file("gone.ofd"));
-    Run run;
-    ReaderWindow *window = run.open({});
-    auto *list = window->findChild<StartPage *>()->findChild<QListWidget *>();
-    DialogUser user(DialogUser::Enter);
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
-                      list->visualItemRect(list->item(0)).center());
-    QTRY_COMPARE(user.questions, 1);
-    QVERIFY2(user.lastText.contains(file("gone.ofd")), qPrintable(user.lastText));
-    QCOMPARE(ReaderSettings::shared()->recentFiles(), QStringList());
-}
-
-void HabitsTest::shouldHaveOneWindowForEachFile()
-{
-    Run run;
-    run.open({});
-    QDir().mkdir(file("sub"));
-    QVERIFY(QFile::link(file("text.ofd"), file("sub/link.ofd")));
-    const QList<QPair<QString, int>> rows{{"text.ofd", 1},        {"image.ofd", 2},
-                                          {"sub/../text.ofd", 2}, {"sub/link.ofd", 2},
-                                          {"paths.ofd", 3},       {"image.ofd", 3}};
-    for (const auto &[name, count] : rows) {
-        run.list.open({file(name)}, windows().value(0));
-        QTRY_COMPARE(windows().size(), count);
-        const QString path = QFileInfo(file(name)).canonicalFilePath();
-        QTRY_COMPARE(shownFile(), path);
-    }
-    const QList<ReaderWindow *> all = windows();
-    QCOMPARE(all.size(), 3);
-    for (ReaderWindow *window : all) {
-        QVERIFY(window->close());
-        QTRY_VERIFY(!windows().contains(window));
-    }
-}
-
-void HabitsTest::shouldOpenAllFilesThatAreDropped()
-{
-    Run run;
-    ReaderWindow *window = run.open({});
-    QMimeData data;
-    data.setUrls({QUrl::fromLocalFile(file("text.ofd")), QUrl("http://example.invalid/x.ofd"),
-                  QUrl::fromLocalFile(file("image.ofd"))});
-    QDragEnterEvent entering(QPoint(300, 300), Qt::CopyAction, &data, Qt::LeftButton, {});
-    QApplication::sendEvent(window, &entering);
-    QVERIFY(entering.isAccepted());
-    QDropEvent dropping(QPoint(300, 300), Qt::CopyAction, &data, Qt::LeftButton, {});
-    QApplication::sendEvent(window, &dropping);
-    QTRY_COMPARE(windows().size(), 2);
-    QCOMPARE(window->fileName(), file("text.ofd"));
-}
-
-void HabitsTest::shouldNotLeaveAnEmptyWindowForAFileThatCannotBeOpened()
-{
-    Run run;
-    run.open({file("text.ofd")});
-    DialogUser user(DialogUser::Enter);
-    run.list.open({file("broken-truncated.ofd")});
-    QTRY_COMPARE(user.questions, 1);
-    QVERIFY(user.lastText.contains("broken-truncated.ofd"));
-    QTRY_COMPARE(windows().size(), 1);
-    QCOMPARE(windows().first()->fileName(), file("text.ofd"));
-    QCOMPARE(ReaderSettings::shared()->recentFiles(), QStringList(file("text.ofd")));
-}
-
-void HabitsTest::shouldAskInEachWindowWhenItQuits_data()
-{
-    QTest::addColumn<int>("answer");
-    QTest::addColumn<int>("questions");
-    QTest::addColumn<bool>("quits");
-    QTest::newRow("cancelled") << int(DialogUser::Escape) << 1 << false;
-    QTest::newRow("discarded") << int(DialogUser::Discard) << 2 << true;
-}
-
-void HabitsTest::shouldAskInEachWindowWhenItQuits()
-{
-    QFETCH(const int, answer);
-    Run run;
-    run.list.open({file("text.ofd"), file("image.ofd"), file("paths.ofd")});
-    const QList<ReaderWindow *> all = windows();
-    QCOMPARE(all.size(), 3);
-    addMark(all.at(0));
-    addMark(all.at(2));
-    QTRY_VERIFY(all.at(0)->isWindowModified() && all.at(2)->isWindowModified());
-    DialogUser user(DialogUser::Answer(answer), {});
-    QApplication::closeAllWindows();
-    QTEST(user.questions, "questions");
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QTRY_COMPARE(windows().isEmpty(), QTest::currentDataTag() == QByteArray("discarded"));
-}
-
-void HabitsTest::shouldComeBackAsItWasLeft()
-{
-    QRect place;
-    {
-        Run run;
-        ReaderWindow *window = run.open({file("text.ofd")});
-        window->setGeometry(120, 90, 900, 640);
-        auto *view = window->findChild<PageView *>();
-        view->setZoomMode(ZoomMode(137));
-        view->setCurrentPage(1);
-        window->findChild<NavigationPanel *>()->toggle("vn_thumbnail");
-        QTest::qWait(50);
-        place = window->geometry();
-        QVERIFY(window->close());
-    }
-    // By another way to the same file.
-    QVERIFY(QFile::link(file("text.ofd"), file("link.ofd")));
-    Run run;
-    ReaderWindow *window = run.open({file("link.ofd")});
-    auto *view = window->findChild<PageView *>();
-    QTRY_COMPARE(window->geometry(), place);
-    QCOMPARE(view->currentPage(), 1);
-    QCOMPARE(qRound(view->percent()), 137);
-    QCOMPARE(window->findChild<NavigationPanel *>()->shownPanel(), QString("vn_thumbnail"));
-    window->open(file("image.ofd"));
-    QCOMPARE(view->currentPage(), 0);
-}
-
-void HabitsTest::shouldKeepThePlacesOfTheLastFilesOnly()
-{
-    const auto settings = ReaderSettings::shared();
-    const QString path = file("with two  spaces.ofd");
-    for (int i = 0; i < 130; ++i) {
-        const QString name = i == 60 ? path : file(QString("%1.ofd").arg(i));
-        QVERIFY(QFile(name).open(QIODevice::WriteOnly));
-        settings->setPlace(name, {i, "vzmode_fitpage"});
-    }
-    QCOMPARE(settings->place(path).page, 60);
-    QCOMPARE(settings->place(file("129.ofd")).page, 129);
-    QCOMPARE(settings->place(file("29.ofd")).zoom, QString());
-    QCOMPARE(settings->place(file("none.ofd")).zoom, QString());
-}
-
-void HabitsTest::shouldNotComeBackOutsideOfTheScreen()
-{
-    QWidget outside; // As on a second screen that is gone.
-    outside.setGeometry(5000, 4000, 900, 640);
-    ReaderSettings::shared()->setGeometry(outside.saveGeometry());
-    Run run;
-    const ReaderWindow *window = run.open({});
-    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-    QTRY_VERIFY(screen.contains(window->geometry()));
-    ReaderSettings::shared()->setGeometry("nonsense");
-    run.list.create()->show();
-}
-
-void HabitsTest::shouldKeepTheSchemeForAllWindowsAndTheNextStart()
-{
-    const QPalette before = QApplication::palette();
-    {
-        Run run;
-        run.list.open({file("text.ofd"), file("image.ofd")});
-        QCOMPARE(windows().size(), 2);
-        QWidget *bar = nullptr;
-        const auto widgets = windows().first()->findChildren<QWidget *>();
-        for (QWidget *widget : widgets)
-            bar = widget->inherits("NewToolBar") ? widget : bar;
-        QMetaObject::invokeMethod(bar, "DoActive", Q_ARG(QString, "r_scheme_dark"));
-        QTRY_VERIFY(QApplication::palette().window().color().lightness() < 80);
-        for (const ReaderWindow *window : windows()) {
-            QTRY_VERIFY(window->findChild<QWidget *>("mrtoolbar")
-                            ->grab()
-                            .toImage()
-                            .pixelColor(4, 60)
-                            .lightness()
-                        < 80);
-        }
-    }
-    {
-        const Run run;
-        QCOMPARE(ReaderSettings::shared()->scheme(), QString("dark"));
-    }
-    ReaderSettings::shared()->setScheme("light");
-    Run().list.create();
-    QCOMPARE(QApplication::palette(), before);
-}
-
-void HabitsTest::shouldSayThatThereIsNoSuchPage()
-{
-    Run run;
-    ReaderWindow *window = run.open({file("text.ofd")});
-    auto *view = window->findChild<PageView *>();
-    const QList<std::tuple<const char *, int, bool, bool>> rows{
-        // What is typed, the page then, whether Return ends it, and whether a sentence is said.
-        {"2", 1, true, false},  {"3", 1, true, true},    {"99999999999", 1, true, true},
-        {"0", 1, true, true},   {"abc", 1, true, false}, {"1x", 0, true, false},
-        {"77", 0, false, false}};
-    for (const auto &[typed, page, returns, says] : rows) {
-        window->statusBar()->clearMessage();
-        QTest::keyClick(view, Qt::Key_G, Qt::ControlModifier);
-        auto *field = qobject_cast<QLineEdit *>(QApplication::focusWidget());
-        QVERIFY(field);
-        QTest::keyClicks(field, typed);
-        QVERIFY(!field->text().contains(QRegularExpression("[a-z]")));
-        if (returns)
-            QTest::keyClick(field, Qt::Key_Return);
-        QCOMPARE(view->currentPage(), page);
-        QCOMPARE(window->statusBar()->currentMessage().contains("共 2 页"), says);
-        view->setFocus();
-        QTRY_COMPARE(field->text(), QString::number(page + 1));
-    }
-}
-
-void HabitsTest::shouldSaveBesideTheDocumentAsTheSuffixSays_data()
-{
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("written");
-    QTest::addColumn<QByteArray>("begin");
-    QTest::newRow("kept") << ""
-                          << "" << QByteArray();
-    QTest::newRow("proposed") << "*"
-                              << "text.pdf" << QByteArray("%PDF");
-    QTest::newRow("text") << "a.txt"
-                          << "a.txt" << QByteArray("");
-    QTest::newRow("no suffix") << "a"
-                               << "a.pdf" << QByteArray("%PDF");
-    QTest::newRow("part of the name") << "version 1.2"
-                                      << "version 1.2.pdf" << QByteArray("%PDF");
-}
-
-void HabitsTest::shouldSaveBesideTheDocumentAsTheSuffixSays()
-{
-    QFETCH(const QString, typed);
-    QFETCH(const QString, written);
-    QFETCH(const QByteArray, begin);
-    Run run;
-    ReaderWindow *window = run.open({file("text.ofd")});
-    addMark(window);
-    QTRY_VERIFY(window->isWindowModified());
-    DialogUser user(DialogUser::Enter, typed);
-    QTest::keyClick(window->findChild<PageView *>(), Qt::Key_S, Qt::ControlModifier);
-    QTRY_COMPARE(user.choosers, 1);
-    QCOMPARE(user.folder, m_files->path());
-    if (written.isEmpty())
-        return;
-    QTRY_VERIFY(QFileInfo(file(written)).size() > 0);
-    QFile saved(file(written));
-    QVERIFY(saved.open(QIODevice::ReadOnly) && saved.readAll().startsWith(begin));
-}
 
 QTEST_MAIN(HabitsTest)
 #include "tst_habits.moc"

@@ -13,7 +13,6 @@
 
 #include <toolbar/MRToolBarCommands.h>
 
-#include <QApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -67,8 +66,6 @@ void FileCommands::addTo(MRToolBarCommands &commands)
     m_parts.addForDocument(commands, "f_property", [this] { showProperties(); });
     commands.add("t_sealverify", [this] { showSignatures(); })
         .usableWhen([document = m_parts.document] { return document->file().isSigned; });
-    // Each window asks for itself; those that are left stay if one of them does.
-    commands.add("f_exit", &QApplication::closeAllWindows);
     commands.add("f_clearhistory", [this] { m_parts.recentFiles->clearRecentFiles(); });
     commands.setRecentFiles([recent = m_parts.recentFiles] { return recent->recentFiles(); },
                             [this](const QString &fileName) { openRecent(fileName); });

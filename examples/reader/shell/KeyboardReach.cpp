@@ -44,6 +44,8 @@ void KeyboardReach::addCommandKeys()
     // The keys in the tooltips of the shipped descriptions, and common ones.
     const QMap<QString, QString> keys = {
         {QStringLiteral("Ctrl+O"), QStringLiteral("f_open")},
+        {QStringLiteral("Ctrl+W"), QStringLiteral("f_close")},
+        {QStringLiteral("Ctrl+Q"), QStringLiteral("f_exit")},
         {QStringLiteral("Ctrl+S"), QStringLiteral("f_save")},
         {QStringLiteral("Ctrl+P"), QStringLiteral("f_print")},
         {QStringLiteral("Ctrl+Z"), QStringLiteral("e_undo")},

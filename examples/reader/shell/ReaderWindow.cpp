@@ -20,6 +20,7 @@
 
 #include <toolbar/MRToolBar.h>
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDropEvent>
 #include <QLabel>
@@ -176,6 +177,7 @@ void ReaderWindow::createCommands()
     m_fileCommands.addTo(m_commands);
     m_viewCommands.addTo(m_commands);
     m_editCommands.addTo(m_commands);
+    m_commands.add("f_exit", &ReaderWindow::quit);
     m_commands.add(Language::commands(), &Language::choose).checkedWhen(&Language::isChosen);
     m_commands
         .add(ReaderScheme::commands(),
@@ -321,9 +323,35 @@ void ReaderWindow::updateTitle()
                          .arg(m_view->percent(), 0, 'f', 0));
 }
 
+QList<ReaderWindow *> ReaderWindow::all()
+{
+    QList<ReaderWindow *> windows;
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    for (QWidget *widget : widgets) {
+        auto *window = qobject_cast<ReaderWindow *>(widget);
+        if (window && window->isVisible())
+            windows.append(window);
+    }
+    return windows;
+}
+
+void ReaderWindow::quit()
+{
+    // All are asked before the first one closes, so that nothing is changed if one of them stays.
+    const QList<ReaderWindow *> windows = all();
+    for (ReaderWindow *window : windows) {
+        if (!window->m_fileCommands.mayLeaveDocument())
+            return;
+    }
+    for (ReaderWindow *window : windows) {
+        window->m_isLeft = true;
+        window->close();
+    }
+}
+
 void ReaderWindow::closeEvent(QCloseEvent *event)
 {
-    if (!m_fileCommands.mayLeaveDocument()) {
+    if (!m_isLeft && !m_fileCommands.mayLeaveDocument()) {
         event->ignore();
         return;
     }

@@ -52,6 +52,9 @@ public:
     /** Replaces the toolbar; the document and its view are not changed. */
     void setDescription(QDomDocument description);
 
+    /** Those on the screen. */
+    static QList<ReaderWindow *> all();
+
     bool hasDocument() const { return m_document.isOpen(); }
     QString fileName() const { return m_document.fileName(); }
     void open(const QString &fileName) { openOrExplain(fileName, nullptr); }
@@ -76,6 +79,7 @@ private:
     void removeToolBar();
     bool focusControl(const QString &name);
     void openFiles(const QStringList &fileNames);
+    static void quit();
     void setScheme(const QString &scheme);
     void createCentre();
     ZoomMode shownZoom() const;
@@ -100,6 +104,7 @@ private:
     QDomDocument m_description;
     const std::shared_ptr<ReaderSettings> m_settings = ReaderSettings::shared();
     Opener m_opener;
+    bool m_isLeft = false; ///< The user was asked already what is to become of the document.
     Document m_document;
     PageView *m_view;
     StartPage *m_start;

@@ -6,7 +6,6 @@
 #include "shell/ReaderSettings.h"
 #include "shell/ReaderWindow.h"
 
-#include <QApplication>
 #include <QFileInfo>
 #include <QScreen>
 
@@ -14,22 +13,10 @@ namespace {
 
 constexpr int step = 32;
 
-QList<ReaderWindow *> shownWindows()
-{
-    QList<ReaderWindow *> windows;
-    const QWidgetList widgets = QApplication::topLevelWidgets();
-    for (QWidget *widget : widgets) {
-        auto *window = qobject_cast<ReaderWindow *>(widget);
-        if (window && window->isVisible())
-            windows.append(window);
-    }
-    return windows;
-}
-
 ReaderWindow *windowOf(const QString &fileName)
 {
     const QString path = QFileInfo(fileName).canonicalFilePath();
-    const QList<ReaderWindow *> windows = shownWindows();
+    const QList<ReaderWindow *> windows = ReaderWindow::all();
     for (ReaderWindow *window : windows) {
         const QString shown = window->fileName();
         if (!path.isEmpty() && !shown.isEmpty() && QFileInfo(shown).canonicalFilePath() == path)
@@ -98,7 +85,7 @@ void WindowList::openOne(const QString &fileName, ReaderWindow *asked)
 {
     if (ReaderWindow *window = windowOf(fileName))
         return bringUp(window);
-    const QList<ReaderWindow *> others = shownWindows();
+    const QList<ReaderWindow *> others = ReaderWindow::all();
     ReaderWindow *window = freeWindow(asked);
     const bool isNew = !window;
     if (isNew)
@@ -121,7 +108,7 @@ ReaderWindow *WindowList::freeWindow(ReaderWindow *asked) const
 {
     if (asked && !asked->hasDocument())
         return asked;
-    const QList<ReaderWindow *> windows = shownWindows();
+    const QList<ReaderWindow *> windows = ReaderWindow::all();
     for (ReaderWindow *window : windows) {
         if (!window->hasDocument())
             return window;
