@@ -35,6 +35,17 @@ QList<ReaderWindow *> windows()
     return windows;
 }
 
+/** Without a window manager the focus may still go to a window that was shown earlier. */
+bool activate(ReaderWindow *window)
+{
+    for (int attempt = 0; attempt < 50; ++attempt) {
+        window->activateWindow();
+        if (QTest::qWaitForWindowActive(window, 100))
+            return true;
+    }
+    return false;
+}
+
 /** A run of the program with its own description. */
 struct Run
 {
@@ -54,9 +65,7 @@ struct Run
     ReaderWindow *window() const
     {
         ReaderWindow *window = windows().value(0);
-        window->activateWindow();
-        QGuiApplication::sync();
-        return QTest::qWaitForWindowActive(window) ? window : nullptr;
+        return activate(window) ? window : nullptr;
     }
     ReaderWindow *open(const QStringList &files)
     {
@@ -222,8 +231,7 @@ private Q_SLOTS:
         addMark(all.at(0));
         addMark(all.at(2));
         QTRY_VERIFY(all.at(0)->isWindowModified() && all.at(2)->isWindowModified());
-        all.at(1)->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(all.at(1)));
+        QVERIFY(activate(all.at(1)));
         DialogUser user(DialogUser::Answer(answer), {});
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Q, Qt::ControlModifier);
         QTEST(user.questions, "questions");
