@@ -54,6 +54,7 @@ void typeZoom(const QToolBar &toolBar)
 /** What a user leaves behind: opened tabs, a menu, a search and a zoom. Returns the toolbar. */
 QToolBar *use(ReaderWindow &window)
 {
+    window.addHostPanel();
     window.resize(1400, 800);
     window.openSample();
     window.show();
@@ -131,7 +132,6 @@ private Q_SLOTS:
             Description::read(OFD_SAMPLES "/../showcase.xml", QTest::currentDataTag(), &error);
         Language::addTo(description);
         ReaderWindow window(description, QString());
-        window.addHostPanel();
         auto *toolBar = use(window);
         auto *field = toolBar->findChild<QLineEdit *>("st_input");
         const auto picture = [toolBar] {

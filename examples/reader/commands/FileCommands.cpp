@@ -185,6 +185,7 @@ void FileCommands::close()
         return;
     m_parts.keepPlace();
     m_parts.document->close();
+    m_parts.say(QString());
 }
 
 bool FileCommands::save()

@@ -124,10 +124,10 @@ int show(const Options &options, const QDomDocument &description)
 
 int run(Options options)
 {
-    StandardInput input;
+    std::optional<StandardInput> input;
     QString error;
     if (options.readsInput)
-        options.files.append(input.save(&error));
+        options.files.append(input.emplace().save(&error));
     if (!error.isEmpty())
         return fail(error);
     if (!options.printTo.isEmpty())
