@@ -177,6 +177,7 @@ private Q_SLOTS:
         const QList<ReaderWindow *> all = windows();
         QCOMPARE(all.size(), 3);
         for (ReaderWindow *window : all) {
+            QVERIFY(window == all.last() || window->pos() != all.last()->pos());
             QVERIFY(window->close());
             QTRY_VERIFY(!windows().contains(window));
         }

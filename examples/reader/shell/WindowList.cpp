@@ -9,6 +9,8 @@
 #include <QFileInfo>
 #include <QScreen>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int step = 32;
@@ -33,14 +35,25 @@ void bringUp(ReaderWindow *window)
     window->activateWindow();
 }
 
-/** Makes a new window as large as another one and puts it beside that, so that both are seen. */
+bool isCovered(const QRect &place)
+{
+    const QList<ReaderWindow *> windows = ReaderWindow::all();
+    return std::any_of(windows.begin(), windows.end(), [&place](const ReaderWindow *window) {
+        return window->geometry().topLeft() == place.topLeft();
+    });
+}
+
+/** Makes a new window as large as another one, and puts it where all of them are seen. */
 void placeBeside(ReaderWindow *window, const ReaderWindow &other)
 {
     window->restoreGeometry(other.saveGeometry());
     window->setWindowState(window->windowState() & ~Qt::WindowFullScreen);
-    const QRect place = window->geometry().translated(step, step);
-    if (!window->isMaximized() && other.screen()->availableGeometry().contains(place))
-        window->move(other.pos() + QPoint(step, step));
+    const QRect screen = other.screen()->availableGeometry();
+    QRect place = other.geometry();
+    while (isCovered(place) && screen.contains(place))
+        place.translate(step, step);
+    if (!window->isMaximized() && screen.contains(place))
+        window->move(other.pos() + place.topLeft() - other.geometry().topLeft());
 }
 
 } // namespace
@@ -77,8 +90,14 @@ void WindowList::open(const QStringList &fileNames, ReaderWindow *asked)
         openOne(fileName, asked);
     if (!fileNames.isEmpty())
         return;
+    const QList<ReaderWindow *> others = ReaderWindow::all();
     ReaderWindow *window = freeWindow(asked);
-    bringUp(window ? window : create());
+    if (!window) {
+        window = create();
+        if (!others.isEmpty())
+            placeBeside(window, *others.first());
+    }
+    bringUp(window);
 }
 
 void WindowList::openOne(const QString &fileName, ReaderWindow *asked)
