@@ -62,8 +62,12 @@ PackageMaker::Entries PackageMaker::documentOf(int pages)
     }
     entries.insert("Doc_0/Document.xml",
                    root("Document", "<ofd:CommonData><ofd:PageArea><ofd:PhysicalBox>0 0 210 297"
-                                    "</ofd:PhysicalBox></ofd:PageArea></ofd:CommonData><ofd:Pages>"
+                                    "</ofd:PhysicalBox></ofd:PageArea><ofd:PublicRes>PublicRes.xml"
+                                    "</ofd:PublicRes></ofd:CommonData><ofd:Pages>"
                                         + list + "</ofd:Pages>"));
+    entries.insert(
+        "Doc_0/PublicRes.xml",
+        root("Res", "<ofd:Fonts><ofd:Font ID=\"1\" FontName=\"Noto Sans CJK SC\"/></ofd:Fonts>"));
     return entries;
 }
 

@@ -87,7 +87,8 @@ std::shared_ptr<Ofd::Document> documentOf(const QString &fill, const QString &at
 {
     const Ofd::Package package(OfdFiles::path("axial"));
     auto document = std::make_shared<Ofd::Document>();
-    Ofd::ResourceReader reader(package, document->resources, document->unsupported);
+    QMap<QString, int> unsupported;
+    Ofd::ResourceReader reader(package, document->resources, unsupported);
     const QString text = "<Layer>"
                          + square(fill).replace("<FillColor>", "<FillColor " + attributes + ">")
                          + "</Layer>";
@@ -96,7 +97,9 @@ std::shared_ptr<Ofd::Document> documentOf(const QString &fill, const QString &at
     page.area = QRectF(0, 0, 100, 100);
     page.layers.append(
         std::make_shared<Ofd::Objects>(reader.objects().readAll(layer, Ofd::Style())));
-    document->pages.append(page);
+    for (auto kind = unsupported.cbegin(); kind != unsupported.cend(); ++kind)
+        document->unsupported.add(kind.key(), *kind);
+    document->pages = std::make_unique<Ofd::PageStore>(1, page.area, [page](int) { return page; });
     return document;
 }
 
@@ -118,7 +121,7 @@ QImage painted(const std::shared_ptr<const Ofd::Document> &document)
 bool isRefused(const Ofd::Document &document)
 {
     try {
-        Ofd::checkExpansion(document);
+        Ofd::checkExpansion(*document.page(0), document);
         return false;
     } catch (const Ofd::Fault &) {
         return true;
@@ -155,10 +158,10 @@ private Q_SLOTS:
     {
         QFETCH(QString, fill);
         const auto document = documentOf(fill);
-        QCOMPARE(document->unsupported.size(), 1);
+        QCOMPARE(document->unsupported.all().size(), 1);
         QCOMPARE(painted(document).pixelColor(side / 2, side / 2), QColor(Qt::white));
         const auto coloured = documentOf(fill, "Value='0 0 255'");
-        QCOMPARE(coloured->unsupported.size(), 1);
+        QCOMPARE(coloured->unsupported.all().size(), 1);
         QCOMPARE(painted(coloured).pixelColor(side / 2, side / 2), QColor(Qt::blue));
     }
 
@@ -197,7 +200,7 @@ private Q_SLOTS:
         QVERIFY(isRefused(*documentOf(nested(12))));
         const auto circle = documentOf(pattern(
             "Width='9' Height='9'", "<CompositeObject ResourceID='1' Boundary='0 0 9 9'/>"));
-        circle->resources.composites.insert("1", circle->pages.first().layers.first());
+        circle->resources.composites.insert("1", circle->page(0)->layers.first());
         QVERIFY(isRefused(*circle));
     }
 

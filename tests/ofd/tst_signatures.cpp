@@ -220,7 +220,7 @@ void TestSignatures::shouldRefuseHostileValues()
     entries["SignedValue.dat"] = value;
     const auto document = opened(entries);
     QVERIFY(document);
-    QCOMPARE(document->unsupported.size(), 1);
+    QCOMPARE(document->unsupported.all().size(), 1);
     QVERIFY(document->stamps.isEmpty());
     const auto result = resultOf(entries);
     QCOMPARE(result.state, unknown);
@@ -233,7 +233,7 @@ void TestSignatures::shouldOpenDocumentsWithADamagedListOfSignatures()
     entries["Signatures.xml"] = "<Signatures>";
     const auto document = opened(entries);
     QVERIFY(document);
-    QCOMPARE(document->unsupported.size(), 1);
+    QCOMPARE(document->unsupported.all().size(), 1);
     QVERIFY(checkSignatures(*document).isEmpty());
 }
 
