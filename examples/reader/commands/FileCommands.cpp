@@ -6,6 +6,7 @@
 #include "commands/RecentFiles.h"
 #include "document/Document.h"
 #include "pages/Export.h"
+#include "pages/OfdSaving.h"
 #include "pages/PageView.h"
 #include "pages/Printing.h"
 #include "panels/PropertiesDialog.h"
@@ -150,12 +151,14 @@ bool FileCommands::saveAs()
 
 bool FileCommands::saveTo(const QString &fileName)
 {
-    if (!Export::write(*m_parts.document, fileName)) {
-        m_parts.say(tr("无法写入：%1").arg(fileName));
+    QString error;
+    if (!Export::write(*m_parts.document, fileName, &error)) {
+        m_parts.say(error);
         return false;
     }
-    if (m_parts.document->isModified() && !Export::keepsMarks(fileName)) {
-        m_parts.say(tr("已保存，但不含批注；另存为 PDF 可保留批注：%1").arg(fileName));
+    const QString loss = Export::lossOf(*m_parts.document, fileName);
+    if (!loss.isEmpty()) {
+        m_parts.say(tr("已保存：%1。%2").arg(fileName, loss));
         return false;
     }
     m_savedFile = fileName;
@@ -178,9 +181,9 @@ QString FileCommands::askFileToWrite() const
                                              {pdfFilter(), QStringLiteral(".pdf")},
                                              {textFilter(), QStringLiteral(".txt")}};
     QStringList filters = {pdfFilter(), textFilter()};
-    // The OFD format comes first as long as it loses nothing: it copies the file without changes.
+    // The OFD format comes first unless it loses something.
     if (!m_parts.document->isGenerated())
-        filters.insert(m_parts.document->isModified() ? 1 : 0, ofdFilter());
+        filters.insert(OfdSaving::lossOf(*m_parts.document).isEmpty() ? 0 : 1, ofdFilter());
     const QFileInfo file(m_parts.document->fileName());
     QString chosen = filters.first();
     QString fileName = QFileDialog::getSaveFileName(

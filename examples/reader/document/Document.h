@@ -59,11 +59,21 @@ public:
     void addMark(Mark mark, const QString &what);
     /** Removes the ink that passes within @p radius of a point. */
     void eraseInk(int page, QPointF point, qreal radius);
+    void deleteMark(int id, const QString &what);
+    void setMarkText(int id, const QString &text);
+    /** The mark of that identifier; nullptr if there is none. */
+    const Mark *markOf(int id) const;
     void insertPage(int index, const Page &page, const QString &what);
+    /** The index that a page has in the file; -1 for an inserted one. */
+    int filePageOf(int page) const;
+    /** The page that has that index in the file. */
+    int pageOfFilePage(int filePage) const;
 
 Q_SIGNALS:
-    /** Marks were added or removed. */
+    /** Marks were added, changed or removed. */
     void marksChanged();
+    /** Pages look different, because annotations of the file were removed or restored. */
+    void contentChanged();
     /** Pages were added or removed; the pages of marks may have changed. */
     void pagesChanged();
     /** The rotation of the pages has changed. */
@@ -72,9 +82,12 @@ Q_SIGNALS:
 private:
     void replace(const QString &fileName, const QList<Page> &pages, const OfdFile &file);
     void pagesReplaced();
+    void adoptMarks();
+    void setHidden(const Mark &mark, bool isHidden);
 
     void placeMark(int position, const Mark &mark) override;
     void removeMark(int id) override;
+    void replaceMark(const Mark &mark) override;
     void placePage(int index, const Page &page) override;
     void removePage(int index) override;
     void turnBy(int quarters) override;

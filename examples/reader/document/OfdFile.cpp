@@ -3,6 +3,10 @@
 
 #include "document/OfdFile.h"
 
+#include "document/MarkAnnotation.h"
+#include "document/PageLinks.h"
+#include "ofd/DocumentRoot.h"
+#include "ofd/Fault.h"
 #include "ofd/PageText.h"
 #include "ofd/Painter.h"
 
@@ -21,8 +25,12 @@ QRectF toPageUnits(const QRectF &rect)
 class OfdPageContent : public PageContent
 {
 public:
-    OfdPageContent(const std::shared_ptr<Ofd::Painter> &painter, int page)
+    OfdPageContent(const std::shared_ptr<Ofd::Painter> &painter,
+                   const std::shared_ptr<HiddenAnnotations> &hidden,
+                   const std::shared_ptr<const PageLinks> &links, int page)
         : m_painter(painter)
+        , m_hidden(hidden)
+        , m_links(links)
         , m_page(page)
     {
     }
@@ -31,7 +39,7 @@ public:
     {
         painter.save();
         painter.scale(unitsPerMillimetre, unitsPerMillimetre);
-        m_painter->paint(painter, m_page);
+        m_painter->paint(painter, m_page, m_hidden->on(m_page));
         painter.restore();
     }
 
@@ -53,8 +61,16 @@ public:
         }
     }
 
+    QVector<PageLink> links() const override
+    {
+        const Ofd::Page &page = m_painter->document().pages.at(m_page);
+        return m_links->on(page, m_hidden->on(m_page));
+    }
+
 private:
     std::shared_ptr<Ofd::Painter> m_painter;
+    std::shared_ptr<HiddenAnnotations> m_hidden;
+    std::shared_ptr<const PageLinks> m_links;
     int m_page;
 };
 
@@ -87,12 +103,14 @@ bool OfdFile::read(const QString &fileName, QList<Page> *pages, QString *error)
     if (!document)
         return false;
     const auto painter = std::make_shared<Ofd::Painter>(document);
+    hidden = std::make_shared<HiddenAnnotations>();
+    const auto links = std::make_shared<const PageLinks>(*document);
     pages->clear();
     for (int i = 0; i < document->pages.size(); ++i) {
         Page page;
         page.size = document->pages.at(i).area.size() * unitsPerMillimetre;
         page.heading = tr("第 %1 页").arg(i + 1);
-        page.content = std::make_shared<OfdPageContent>(painter, i);
+        page.content = std::make_shared<OfdPageContent>(painter, hidden, links, i);
         page.isTextRead = false;
         pages->append(page);
     }
@@ -100,7 +118,34 @@ bool OfdFile::read(const QString &fileName, QList<Page> *pages, QString *error)
     information = document->information;
     outline = placesOf(document->outline);
     bookmarks = placesOf(document->bookmarks);
-    attachments = document->attachments;
+    for (const Ofd::Attachment &attachment : document->attachments)
+        attachments.append(attachment.name);
     leftOut = leftOutOf(*painter);
+    source = document;
+    readActs();
     return true;
+}
+
+void OfdFile::readActs()
+{
+    const Ofd::DocumentRoot root(*source);
+    permissions = Ofd::Permissions::of(root.element);
+    isSigned = root.isSigned;
+    marks = MarkAnnotation::marksOf(*source);
+}
+
+QPointF OfdFile::cornerOf(int page) const
+{
+    return source->pages.at(page).area.topLeft();
+}
+
+QByteArray OfdFile::attachment(int index, QString *error) const
+{
+    error->clear();
+    try {
+        return source->package->read(source->attachments.at(index).file);
+    } catch (const Ofd::Fault &fault) {
+        *error = fault.message;
+        return QByteArray();
+    }
 }

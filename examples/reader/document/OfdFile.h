@@ -3,12 +3,21 @@
 
 #pragma once
 
+#include "document/HiddenAnnotations.h"
+#include "document/Mark.h"
 #include "document/Page.h"
+#include "ofd/Permissions.h"
 
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QPair>
 #include <QStringList>
+
+#include <memory>
+
+namespace Ofd {
+struct Document;
+} // namespace Ofd
 
 /** An entry of the outline or a bookmark. */
 struct NamedPlace
@@ -30,7 +39,20 @@ public:
     QList<NamedPlace> bookmarks;
     QStringList attachments;
     QString leftOut; ///< One line about what cannot be shown; empty if all can.
+    Ofd::Permissions permissions;
+    bool isSigned = false;
+    QList<Mark> marks;
+    std::shared_ptr<HiddenAnnotations> hidden;
+    std::shared_ptr<const Ofd::Document> source; ///< What was read.
 
     /** Reads a file; on failure changes nothing and sets @p error to one sentence. */
     bool read(const QString &fileName, QList<Page> *pages, QString *error);
+
+    /** The top left corner of a page in the coordinates of the file. */
+    QPointF cornerOf(int page) const;
+    /** The content of an attached file; on failure sets @p error to one sentence. */
+    QByteArray attachment(int index, QString *error) const;
+
+private:
+    void readActs();
 };

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "document/PageLink.h"
+
 #include <QFont>
 #include <QList>
 #include <QRectF>
@@ -29,6 +31,8 @@ public:
     virtual void paint(QPainter &painter) const = 0;
     /** Sets the text, lines and boxes of the page. */
     virtual void readText(Page &page) const = 0;
+    /** What can be clicked, from the lowest to the topmost. */
+    virtual QVector<PageLink> links() const { return {}; }
 };
 
 /** One laid-out line; `start` and `length` point into the text of its page. */

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "ofd/Link.h"
 #include "ofd/Objects.h"
 #include "ofd/Package.h"
 
@@ -35,10 +36,14 @@ struct Annotation
 {
     QString id;
     QString type; ///< As the file names it, such as "Link" or "Highlight".
+    QString subtype;
     QString creator;
+    QString date;   ///< Of the last change, as the file gives it.
     QString remark; ///< What it says, as plain text.
+    QVector<QPair<QString, QString>> parameters;
     bool isVisible = true;
     Object appearance;
+    QVector<Link> links;
 };
 
 struct Page
@@ -47,6 +52,14 @@ struct Page
     /** From back to front; pages share the objects of their templates. */
     QVector<std::shared_ptr<const Objects>> layers;
     QVector<Annotation> annotations; ///< Above the layers.
+    QVector<Link> links;             ///< Of the content.
+};
+
+struct Attachment
+{
+    QString id;
+    QString name;
+    QString file; ///< Its entry in the package; empty if there is none.
 };
 
 /** An entry of the outline or a bookmark. */
@@ -60,13 +73,14 @@ struct Target
 struct Document
 {
     std::shared_ptr<Package> package;
+    QString path;                                 ///< The entry with the root of the document.
     QVector<QPair<QString, QString>> information; ///< Names and values.
     QString title;
     Resources resources;
     QVector<Page> pages;
     QVector<Target> outline;
     QVector<Target> bookmarks;
-    QStringList attachments;
+    QVector<Attachment> attachments;
     QMap<QString, int> unsupported; ///< The number of left out parts by kind.
 };
 

@@ -39,6 +39,7 @@ public:
             body ? package.find(entryPoint, body->childText("DocRoot")) : QString();
         if (path.isEmpty())
             throw Fault{Wording::tr("文件不完整：没有文档入口 Document.xml。")};
+        m_document->path = path;
         if (const XmlElement *information = body->child("DocInfo"))
             Extras::readInformation(*information, *m_document);
         Extras::countSeals(*body, entryPoint, *m_document);

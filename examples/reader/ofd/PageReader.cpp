@@ -5,6 +5,7 @@
 
 #include "ofd/Fault.h"
 #include "ofd/Limits.h"
+#include "ofd/Links.h"
 #include "ofd/Values.h"
 #include "ofd/Wording.h"
 
@@ -76,6 +77,7 @@ Page PageReader::read(const XmlElement &element, const QString &from)
     m_resources.addLists(content, "PageRes", path);
     m_resources.finish();
     page.layers = layersOf(content);
+    page.links = Links::read(content, QPointF());
     m_read.insert(path, page);
     return page;
 }

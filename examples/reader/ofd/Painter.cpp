@@ -130,7 +130,7 @@ QMap<QString, int> Painter::unpaintable() const
     return counts;
 }
 
-void Painter::paint(QPainter &painter, int page)
+void Painter::paint(QPainter &painter, int page, const QSet<int> &hiddenAnnotations)
 {
     painter.save();
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
@@ -138,8 +138,9 @@ void Painter::paint(QPainter &painter, int page)
     painter.translate(-shown.area.topLeft());
     for (const auto &layer : shown.layers)
         paintAll(painter, *layer);
-    for (const Annotation &annotation : shown.annotations) {
-        if (annotation.isVisible)
+    for (int i = 0; i < shown.annotations.size(); ++i) {
+        const Annotation &annotation = shown.annotations.at(i);
+        if (annotation.isVisible && !hiddenAnnotations.contains(i))
             paintAll(painter, {annotation.appearance});
     }
     painter.restore();

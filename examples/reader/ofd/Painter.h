@@ -6,6 +6,8 @@
 #include "ofd/FontSet.h"
 #include "ofd/ImageStore.h"
 
+#include <QSet>
+
 class QPainter;
 
 namespace Ofd {
@@ -19,8 +21,11 @@ public:
     const Document &document() const { return *m_document; }
     FontSet &fonts() { return m_fonts; }
 
-    /** Paints the content of a page, without paper, in millimetres from its top left corner. */
-    void paint(QPainter &painter, int page);
+    /**
+     * Paints the content of a page, without paper, in millimetres from its top left corner.
+     * Annotations with the given indexes are left out.
+     */
+    void paint(QPainter &painter, int page, const QSet<int> &hiddenAnnotations = {});
 
     /** How many embedded files of each kind cannot be painted. */
     QMap<QString, int> unpaintable() const;

@@ -4,8 +4,10 @@
 #include "pages/Export.h"
 
 #include "document/Document.h"
+#include "pages/OfdSaving.h"
 #include "pages/PagePainter.h"
 
+#include <QCoreApplication>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QSaveFile>
@@ -51,15 +53,20 @@ bool writeText(const Document &document, QSaveFile &file)
 
 } // namespace
 
-bool Export::write(const Document &document, const QString &fileName)
+bool Export::write(const Document &document, const QString &fileName, QString *error)
 {
     QSaveFile file(fileName);
+    const QString refusal = QCoreApplication::translate("Export", "无法写入：%1").arg(fileName);
+    *error = refusal;
     if (!file.open(QIODevice::WriteOnly))
         return false;
     bool isWritten = false;
     if (hasSuffix(fileName, ".ofd")) {
-        const QByteArray &archive = document.file().archive;
-        isWritten = !archive.isEmpty() && file.write(archive) == archive.size();
+        const QByteArray archive = OfdSaving::archiveOf(document, error);
+        if (archive.isEmpty())
+            return false;
+        *error = refusal;
+        isWritten = file.write(archive) == archive.size();
     } else if (hasSuffix(fileName, ".txt")) {
         isWritten = writeText(document, file);
     } else {
@@ -68,7 +75,11 @@ bool Export::write(const Document &document, const QString &fileName)
     return isWritten && file.commit();
 }
 
-bool Export::keepsMarks(const QString &fileName)
+QString Export::lossOf(const Document &document, const QString &fileName)
 {
-    return !hasSuffix(fileName, ".ofd") && !hasSuffix(fileName, ".txt");
+    if (hasSuffix(fileName, ".ofd"))
+        return OfdSaving::lossOf(document);
+    if (hasSuffix(fileName, ".txt") && document.isModified())
+        return QCoreApplication::translate("Export", "文本文件中不含批注");
+    return QString();
 }

@@ -11,12 +11,12 @@ class Document;
 namespace Export {
 
 /**
- * Writes the file; the suffix of the name selects the OFD file as it was opened, plain text, or
- * otherwise PDF. Returns false on failure.
+ * Writes the file; the suffix of the name selects the OFD file with its marks, plain text, or
+ * otherwise PDF. On failure returns false, changes nothing, and sets @p error to one sentence.
  */
-bool write(const Document &document, const QString &fileName);
+bool write(const Document &document, const QString &fileName, QString *error);
 
-/** Whether the format for that file name includes the marks. */
-bool keepsMarks(const QString &fileName);
+/** One sentence about what the format for that file name loses; empty if it loses nothing. */
+QString lossOf(const Document &document, const QString &fileName);
 
 } // namespace Export

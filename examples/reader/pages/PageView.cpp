@@ -31,6 +31,10 @@ PageView::PageView(const Document &document, QWidget *parent)
     setTool(PageTool::of(QString()));
     connect(&document, &Document::pagesChanged, this, &PageView::documentChanged);
     connect(&document, &Document::turned, this, &PageView::documentTurned);
+    connect(&document, &Document::contentChanged, this, [this] {
+        m_cache.clear();
+        viewport()->update();
+    });
     connect(&document, &Document::marksChanged, viewport(), QOverload<>::of(&QWidget::update));
 }
 

@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
+#include "ofd/DocumentRoot.h"
+
+namespace Ofd {
+
+DocumentRoot::DocumentRoot(const Document &document)
+    : element(XmlElement::parse(document.package->read(document.path), document.path))
+{
+    readPages();
+    const QString entryPoint = QStringLiteral("OFD.xml");
+    const XmlElement entry = XmlElement::parse(document.package->read(entryPoint), entryPoint);
+    for (const XmlElement &body : entry.children) {
+        if (document.package->find(entryPoint, body.childText("DocRoot")) == document.path)
+            isSigned = isSigned || body.child("Signatures");
+    }
+}
+
+void DocumentRoot::readPages()
+{
+    const XmlElement *pages = element.child("Pages");
+    if (!pages)
+        return;
+    for (const XmlElement &page : pages->children) {
+        pageIndexes.insert(page.attribute("ID"), int(pageIds.size()));
+        pageIds.append(page.attribute("ID"));
+    }
+}
+
+} // namespace Ofd
