@@ -25,6 +25,7 @@
 namespace {
 
 constexpr int mostRecentFiles = 30;
+const QString ofdSuffix = QStringLiteral(".ofd");
 
 QString ofdFilter()
 {
@@ -57,7 +58,7 @@ void FileCommands::addTo(MRToolBarCommands &commands)
     });
     m_parts.addForDocument(commands, {"f_saveas", "lum_saveas"},
                            [this](const QString &) { saveAs(); });
-    m_parts.addForDocument(commands, "f_print", [this] { print(); });
+    m_parts.addAllowed(Act::Print, commands, {"f_print"}, [this](const QString &) { print(); });
     m_parts.addForDocument(commands, "f_property", [this] { showProperties(); });
     commands.add("f_exit", [this] { m_parts.window->close(); });
     commands.add("f_clearhistory", [this] { m_parts.recentFiles->clearRecentFiles(); });
@@ -87,9 +88,11 @@ void FileCommands::open(const QString &fileName, QString *refusal)
     m_parts.recentFiles->addRecentFile(fileName);
     m_parts.view->setCurrentPage(0);
     m_parts.view->setFocus();
-    const QString leftOut = m_parts.document->file().leftOut;
-    m_parts.say(leftOut.isEmpty() ? tr("已打开：%1").arg(QDir::toNativeSeparators(fileName))
-                                  : leftOut);
+    QStringList notes = {refusalsOf(m_parts.document->file().permissions),
+                         m_parts.document->file().leftOut};
+    notes.removeAll(QString());
+    m_parts.say(notes.isEmpty() ? tr("已打开：%1").arg(QDir::toNativeSeparators(fileName))
+                                : notes.join(QStringLiteral("　")));
 }
 
 void FileCommands::showRefusal(const QString &sentence) const
@@ -140,7 +143,20 @@ void FileCommands::close()
 
 bool FileCommands::save()
 {
+    if (m_savedFile.isEmpty() && mayReplaceFile())
+        return saveTo(m_parts.document->fileName());
     return m_savedFile.isEmpty() ? saveAs() : saveTo(m_savedFile);
+}
+
+bool FileCommands::mayReplaceFile() const
+{
+    const Document &document = *m_parts.document;
+    if (document.isGenerated() || !OfdSaving::lossOf(document).isEmpty()
+        || !document.fileName().endsWith(ofdSuffix, Qt::CaseInsensitive))
+        return false;
+    // Another program may have changed the file since it was read.
+    QFile file(document.fileName());
+    return file.open(QIODevice::ReadOnly) && file.readAll() == document.file().archive;
 }
 
 bool FileCommands::saveAs()
@@ -151,6 +167,13 @@ bool FileCommands::saveAs()
 
 bool FileCommands::saveTo(const QString &fileName)
 {
+    const QString refusal = m_parts.document->refusalOf(Act::Export);
+    if (!refusal.isEmpty() && !fileName.endsWith(ofdSuffix, Qt::CaseInsensitive)) {
+        m_parts.say(refusal);
+        return false;
+    }
+    if (!mayBreakSignature(fileName))
+        return false;
     QString error;
     if (!Export::write(*m_parts.document, fileName, &error)) {
         m_parts.say(error);
@@ -167,23 +190,44 @@ bool FileCommands::saveTo(const QString &fileName)
     return true;
 }
 
+bool FileCommands::mayBreakSignature(const QString &fileName) const
+{
+    const Document &document = *m_parts.document;
+    if (!document.file().isSigned || !document.isModified()
+        || !fileName.endsWith(ofdSuffix, Qt::CaseInsensitive))
+        return true;
+    QMessageBox box(QMessageBox::Question, m_parts.window->windowTitle(),
+                    tr("本文件有电子签名，写入批注后签名可能不再有效。要继续保存吗？"),
+                    QMessageBox::NoButton, m_parts.window);
+    const QPushButton *saving = box.addButton(tr("保存"), QMessageBox::AcceptRole);
+    QPushButton *cancelling = box.addButton(tr("取消"), QMessageBox::RejectRole);
+    box.setDefaultButton(cancelling);
+    box.setEscapeButton(cancelling);
+    box.exec();
+    return box.clickedButton() == saving;
+}
+
 void FileCommands::print()
 {
+    const int most = m_parts.document->file().permissions.mostCopies;
     if (Printing::ask(*m_parts.document, m_parts.view->currentPage(), m_parts.window))
-        m_parts.say(tr("已打印"));
+        m_parts.say(most < 0 ? tr("已打印") : tr("已打印；本文件每次最多打印 %1 份").arg(most));
     else
         m_parts.say(tr("没有打印"));
 }
 
 QString FileCommands::askFileToWrite() const
 {
-    const QMap<QString, QString> suffixes = {{ofdFilter(), QStringLiteral(".ofd")},
+    const QMap<QString, QString> suffixes = {{ofdFilter(), ofdSuffix},
                                              {pdfFilter(), QStringLiteral(".pdf")},
                                              {textFilter(), QStringLiteral(".txt")}};
-    QStringList filters = {pdfFilter(), textFilter()};
+    QStringList filters;
+    if (m_parts.document->refusalOf(Act::Export).isEmpty())
+        filters = QStringList{pdfFilter(), textFilter()};
     // The OFD format comes first unless it loses something.
+    const bool loses = !OfdSaving::lossOf(*m_parts.document).isEmpty();
     if (!m_parts.document->isGenerated())
-        filters.insert(OfdSaving::lossOf(*m_parts.document).isEmpty() ? 0 : 1, ofdFilter());
+        filters.insert(loses && !filters.isEmpty() ? 1 : 0, ofdFilter());
     const QFileInfo file(m_parts.document->fileName());
     QString chosen = filters.first();
     QString fileName = QFileDialog::getSaveFileName(

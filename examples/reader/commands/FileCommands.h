@@ -39,6 +39,9 @@ private:
     bool save();
     bool saveAs();
     bool saveTo(const QString &fileName);
+    /** Whether saving may replace the opened file, which then loses nothing. */
+    bool mayReplaceFile() const;
+    bool mayBreakSignature(const QString &fileName) const;
     void print();
     void showRefusal(const QString &sentence) const;
     void showProperties() const;

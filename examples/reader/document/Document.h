@@ -5,6 +5,7 @@
 
 #include "document/DocumentEdits.h"
 #include "document/OfdFile.h"
+#include "document/Refusal.h"
 
 #include <QList>
 #include <QObject>
@@ -34,6 +35,8 @@ public:
     /** The further content of the file; empty for generated pages. */
     const OfdFile &file() const { return m_file; }
     bool isGenerated() const { return m_file.archive.isEmpty(); }
+    /** One sentence that says why the author forbids an act; empty if it is allowed. */
+    QString refusalOf(Act act) const { return ::refusalOf(act, m_file.permissions); }
 
     int pageCount() const { return int(m_pages.size()); }
     /** The page with its text, which takes time on the first call; sizeOf() does not need it. */

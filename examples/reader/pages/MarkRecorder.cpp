@@ -21,7 +21,7 @@ class RecordingEngine : public QPaintEngine
 {
 public:
     RecordingEngine()
-        : QPaintEngine(PainterPaths | AlphaBlend | Antialiasing)
+        : QPaintEngine(PainterPaths | PrimitiveTransform | AlphaBlend | Antialiasing)
     {
     }
 
@@ -82,8 +82,10 @@ protected:
             return unitsPerInch;
         case PdmDepth:
             return 32;
+        case PdmDevicePixelRatioScaled:
+            return int(devicePixelRatioFScale());
         default:
-            return QPaintDevice::metric(metric);
+            return 1;
         }
     }
 

@@ -26,6 +26,7 @@ PageView::PageView(const Document &document, QWidget *parent)
 {
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::StrongFocus);
+    viewport()->setMouseTracking(true);
     verticalScrollBar()->setSingleStep(arrowStep);
     horizontalScrollBar()->setSingleStep(arrowStep);
     setTool(PageTool::of(QString()));
@@ -106,18 +107,7 @@ void PageView::setTool(const PageTool &tool)
 {
     m_tool = tool;
     m_drag = Drag();
-    switch (tool.gesture) {
-    case PageTool::Pan:
-        viewport()->setCursor(Qt::OpenHandCursor);
-        break;
-    case PageTool::SelectText:
-    case PageTool::MarkText:
-        viewport()->setCursor(Qt::IBeamCursor);
-        break;
-    default:
-        viewport()->setCursor(Qt::CrossCursor);
-        break;
-    }
+    showToolCursor();
 }
 
 void PageView::setHits(const QList<TextRange> &hits, const TextRange &current)

@@ -28,6 +28,9 @@ public:
     int currentPage() const { return m_currentPage; }
     void setCurrentPage(int page);
 
+    /** Scrolls to a place of the document, with its zoom if it has one. */
+    void showPlace(const PagePlace &place);
+
     LayoutMode layoutMode() const { return m_layoutMode; }
     void setLayoutMode(LayoutMode mode);
 
@@ -64,6 +67,7 @@ Q_SIGNALS:
     /** The user drew a mark. For a text box it has the rectangle and no text yet. */
     void markDrawn(const Mark &mark);
     void inkRubbed(int page, QPointF point, qreal radius);
+    void linkClicked(const PageLink &link);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -86,6 +90,7 @@ private:
     struct Drag
     {
         bool isActive = false;
+        QPoint firstPosition;
         QPoint lastPosition;
         PagePoint start;
         int textStart = -1;
@@ -111,6 +116,12 @@ private:
     void paintPlace(QPainter &painter, const PageLayout::Place &place);
     void paintHint(QPainter &painter);
     PageColours colours() const;
+
+    // Links, which only the tools for reading follow.
+    PageLink linkAt(QPoint position) const;
+    void showToolCursor();
+    void showCursorAt(QPoint position);
+    void clickLink(const Drag &drag);
 
     // Mouse drags.
     void startDrag(QPoint position);

@@ -8,6 +8,7 @@
 #include <QDockWidget>
 #include <QHash>
 
+class ListActions;
 class QListWidget;
 class QListWidgetItem;
 class QPushButton;
@@ -33,6 +34,13 @@ public:
 Q_SIGNALS:
     /** The user chose the page with that index. */
     void pageChosen(int page);
+    /** The user chose the mark with that identifier. */
+    void markChosen(int id);
+    void markEditAsked(int id);
+    void markRemovalAsked(int id);
+    /** The user wants to open or to save the attached file with that index. */
+    void attachmentOpenAsked(int index);
+    void attachmentSaveAsked(int index);
     /** The user chose an indexed word. */
     void wordChosen(const QString &word);
     void shownPanelChanged();
@@ -41,6 +49,8 @@ private:
     QListWidget *addPanel(const QString &name);
     void showTexts();
     void addBookmarkButton();
+    void addListActions();
+    void nameListActions();
     void documentOpened();
     void refill();
     void fillOutline();
@@ -57,6 +67,8 @@ private:
     QStackedWidget *m_stack;
     QHash<QString, QListWidget *> m_lists;
     QPushButton *m_bookmarkButton;
+    ListActions *m_markActions = nullptr;
+    ListActions *m_attachmentActions = nullptr;
     QList<int> m_bookmarks;
     QString m_fileName; ///< The file of the bookmarks.
     QString m_panel;

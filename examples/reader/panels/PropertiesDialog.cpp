@@ -66,6 +66,9 @@ PropertiesDialog::PropertiesDialog(const Document &document, int currentPage, QW
     addRow(form, tr("页面尺寸"), sizeOf(document, currentPage));
     addRow(form, tr("字数"), QString::number(document.characterCount()));
     addRow(form, tr("批注"), QString::number(document.marks().size()));
+    const QString refusals = refusalsOf(document.file().permissions);
+    if (!refusals.isEmpty())
+        addRow(form, tr("权限"), refusals);
     if (!document.file().leftOut.isEmpty())
         addRow(form, tr("提示"), document.file().leftOut);
 

@@ -60,6 +60,7 @@ ReaderWindow::ReaderWindow(const QDomDocument &description, const QString &skin)
     , m_fileCommands(parts())
     , m_viewCommands(parts())
     , m_editCommands(parts())
+    , m_linkCommands(parts())
 {
     setCentralWidget(m_view);
     statusBar()->addPermanentWidget(m_place);
@@ -69,6 +70,7 @@ ReaderWindow::ReaderWindow(const QDomDocument &description, const QString &skin)
     connectKeys();
     connectToolBar();
     connectParts();
+    connectLinks();
     updateTitle();
     setScheme(m_scheme);
     m_commands.refreshAll();
@@ -226,7 +228,9 @@ void ReaderWindow::connectParts()
     });
     connect(m_view, &PageView::markDrawn, this,
             [this](const Mark &mark) { m_editCommands.addDrawn(mark); });
-    connect(m_view, &PageView::inkRubbed, &m_document, &Document::eraseInk);
+    connect(m_view, &PageView::inkRubbed, this, [this](int page, QPointF point, qreal radius) {
+        m_editCommands.eraseInk(page, point, radius);
+    });
 
     connect(m_navigation, &NavigationPanel::pageChosen, m_view, &PageView::setCurrentPage);
     connect(m_navigation, &NavigationPanel::wordChosen, m_search, &SearchPanel::searchWord);
@@ -249,6 +253,22 @@ void ReaderWindow::connectParts()
         m_editCommands.editHandwriting();
         stateChanged();
     });
+}
+
+void ReaderWindow::connectLinks()
+{
+    connect(m_view, &PageView::linkClicked, this,
+            [this](const PageLink &link) { m_linkCommands.follow(link); });
+    connect(m_navigation, &NavigationPanel::markChosen, this,
+            [this](int id) { m_linkCommands.showMark(id); });
+    connect(m_navigation, &NavigationPanel::markEditAsked, this,
+            [this](int id) { m_editCommands.editMark(id); });
+    connect(m_navigation, &NavigationPanel::markRemovalAsked, this,
+            [this](int id) { m_editCommands.removeMark(id); });
+    connect(m_navigation, &NavigationPanel::attachmentOpenAsked, this,
+            [this](int index) { m_linkCommands.openAttachment(index); });
+    connect(m_navigation, &NavigationPanel::attachmentSaveAsked, this,
+            [this](int index) { m_linkCommands.saveAttachment(index); });
 }
 
 void ReaderWindow::followZoomBox()

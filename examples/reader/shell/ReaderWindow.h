@@ -5,6 +5,7 @@
 
 #include "commands/EditCommands.h"
 #include "commands/FileCommands.h"
+#include "commands/LinkCommands.h"
 #include "commands/ViewCommands.h"
 #include "document/Document.h"
 #include "pages/ZoomMode.h"
@@ -68,6 +69,7 @@ private:
     void returnToPages();
     void connectToolBar();
     void connectParts();
+    void connectLinks();
     void followZoomBox();
     void readZoomBox(int index);
     void stateChanged();
@@ -91,5 +93,6 @@ private:
     FileCommands m_fileCommands;
     ViewCommands m_viewCommands;
     EditCommands m_editCommands;
+    LinkCommands m_linkCommands;
     std::unique_ptr<MRToolBar> m_toolBar;
 };

@@ -1,0 +1,377 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
+#include "commands/SafeFile.h"
+#include "document/Document.h"
+#include "ofd/Painter.h"
+#include "pages/MarkPainter.h"
+#include "pages/OfdSaving.h"
+#include "pages/PageView.h"
+#include "panels/NavigationPanel.h"
+#include "shell/Description.h"
+#include "shell/ReaderWindow.h"
+
+#include <toolbar/NewToolBar.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QDesktopServices>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMessageBox>
+#include <QPainter>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+namespace {
+
+const QString actsFile = QStringLiteral(OFD_MADE "/acts.ofd");
+constexpr qreal unit = 96 / 25.4;
+
+/** The reader with one file, and what it hands to the desktop. */
+class Acts : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Acts(const QString &fileName)
+        : window(Description::read("release", "marodi", &error), QString())
+    {
+        for (const char *scheme : {"https", "http", "file", "mailto"})
+            QDesktopServices::setUrlHandler(scheme, this, "take");
+        window.open(fileName);
+        window.show();
+        window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        QTRY_VERIFY(view->hasFocus());
+    }
+    ~Acts() override
+    {
+        for (const char *scheme : {"https", "http", "file", "mailto"})
+            QDesktopServices::unsetUrlHandler(scheme);
+    }
+
+    /** A point of the current page on the view, for pages that are shown as a whole. */
+    QPoint at(qreal x, qreal y, QSizeF size = QSizeF(60, 40)) const
+    {
+        const qreal scale = unit * view->percent() / 100;
+        const QPointF centre = view->viewport()->rect().center();
+        return (centre + (QPointF(x, y) - QPointF(size.width(), size.height()) / 2) * scale)
+            .toPoint();
+    }
+    void click(QPoint position) const
+    {
+        QTest::mouseMove(view->viewport(), position);
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, position);
+    }
+    QListWidget *list(const QString &panel)
+    {
+        auto *navigation = window.findChild<NavigationPanel *>();
+        if (navigation->shownPanel() != panel)
+            navigation->toggle(panel);
+        return qobject_cast<QListWidget *>(
+            navigation->findChild<QStackedWidget *>()->currentWidget());
+    }
+    QString said() { return window.statusBar()->currentMessage(); }
+
+    Q_SLOT void take(const QUrl &url) { opened.append(url); }
+
+    QString error;
+    ReaderWindow window;
+    PageView *view = window.findChild<PageView *>();
+    QList<QUrl> opened;
+};
+
+/** Answers the next dialogs, whose event loops block the test. */
+class Answer
+{
+public:
+    explicit Answer(const QString &text)
+    {
+        QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this, text] {
+            QWidget *dialog = QApplication::activeModalWidget();
+            if (auto *question = qobject_cast<QMessageBox *>(dialog)) {
+                questions.append(question->text());
+                for (QAbstractButton *button : question->buttons()) {
+                    if (button->text() == text)
+                        return button->click();
+                }
+                question->reject();
+            } else if (auto *input = qobject_cast<QInputDialog *>(dialog)) {
+                input->findChild<QPlainTextEdit *>()->setPlainText(text);
+                input->accept();
+            } else if (auto *chooser = qobject_cast<QFileDialog *>(dialog)) {
+                questions.append(chooser->selectedFiles().value(0));
+                chooser->findChild<QLineEdit *>()->setText(text);
+                QTest::keyClick(chooser->findChild<QLineEdit *>(), Qt::Key_Return);
+            }
+        });
+        m_timer.start(50);
+    }
+
+    QStringList questions;
+
+private:
+    QTimer m_timer;
+};
+
+Mark markOf(MarkKind kind, int page)
+{
+    Mark mark;
+    mark.kind = kind;
+    mark.page = page;
+    mark.points << QPointF(20, 20) << QPointF(120, 20) << QPointF(120, 60) << QPointF(20, 60);
+    mark.text = QStringLiteral("批注");
+    mark.colour = QColor(200, 30, 30);
+    return mark;
+}
+
+QByteArray bytesOf(const QString &fileName)
+{
+    QFile file(fileName);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QImage paintedFile(const QString &fileName)
+{
+    QString error;
+    QImage image(240, 160, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.scale(4, 4);
+    Ofd::Painter(Ofd::read(fileName, &error)).paint(painter, 0);
+    return image;
+}
+
+} // namespace
+
+/** Links, attached files, annotations and permissions of a document, with real events. */
+class ReaderActsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        qputenv("XDG_CONFIG_HOME", "/nowhere"); // Not the user's own settings.
+        NewToolBar::uiStyle = 0;
+    }
+
+    void shouldSaveMarksAndReadThemAgain()
+    {
+        const QTemporaryDir folder;
+        const QString saved = folder.filePath("saved.ofd");
+        QVERIFY(QFile::copy(actsFile, saved));
+        QString error;
+        Document document;
+        QVERIFY(document.open(saved, &error));
+        QCOMPARE(document.marks().size(), 2);
+        QCOMPARE(OfdSaving::archiveOf(document, &error), bytesOf(actsFile));
+        for (int kind = 0; kind < int(MarkKind::Annotation); ++kind)
+            document.addMark(markOf(MarkKind(kind), kind % 2), QString());
+        document.addMark(markOf(MarkKind::Watermark, everyPage), QString());
+        document.deleteMark(document.marks().first().id, QString());
+        document.setMarkText(document.marks().first().id, QStringLiteral("改过"));
+        const QList<Mark> before = document.marks();
+        QFile file(saved);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(OfdSaving::archiveOf(document, &error));
+        file.close();
+        QVERIFY2(document.open(saved, &error), qPrintable(error));
+        QCOMPARE(document.marks().size(), before.size());
+        QCOMPARE(document.marks().first().text, QStringLiteral("改过"));
+        for (const Mark &mark : before) {
+            const auto isIt = [&mark](const Mark &other) {
+                return other.kind == mark.kind && other.page == mark.page
+                       && other.points == mark.points && other.text == mark.text
+                       && other.colour == mark.colour;
+            };
+            QVERIFY2(mark.kind == MarkKind::Annotation
+                         || std::any_of(document.marks().begin(), document.marks().end(), isIt),
+                     qPrintable(QString::number(int(mark.kind))));
+        }
+        // A second save of what was read changes nothing, and the marks of old files can be
+        // removed.
+        QCOMPARE(OfdSaving::archiveOf(document, &error), bytesOf(saved));
+        while (!document.marks().isEmpty())
+            document.deleteMark(document.marks().last().id, QString());
+        file.open(QIODevice::WriteOnly);
+        file.write(OfdSaving::archiveOf(document, &error));
+        file.close();
+        QVERIFY(document.open(saved, &error));
+        QVERIFY(document.marks().isEmpty());
+    }
+
+    void shouldShowEveryMarkToOtherReaders_data()
+    {
+        QTest::addColumn<int>("kind");
+        for (int kind = 0; kind < int(MarkKind::Annotation); ++kind)
+            QTest::newRow(qPrintable(markName(MarkKind(kind)))) << kind;
+    }
+
+    /** Another reader paints the appearance; this one paints the mark. */
+    void shouldShowEveryMarkToOtherReaders()
+    {
+        QFETCH(int, kind);
+        const QTemporaryDir folder;
+        QString error;
+        Document document;
+        QVERIFY(document.open(actsFile, &error));
+        document.addMark(markOf(MarkKind(kind), 0), QString());
+        QFile file(folder.filePath("saved.ofd"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(OfdSaving::archiveOf(document, &error));
+        file.close();
+        const QImage appearance = paintedFile(file.fileName());
+        QImage mark = paintedFile(actsFile);
+        QPainter painter(&mark);
+        painter.scale(4 / unit, 4 / unit);
+        paintMark(painter, document.marks().last());
+        painter.end();
+        int others = 0;
+        for (int y = 0; y < mark.height(); ++y) {
+            for (int x = 0; x < mark.width(); ++x) {
+                const QColor a = mark.pixelColor(x, y);
+                const QColor b = appearance.pixelColor(x, y);
+                others += qAbs(a.red() - b.red()) + qAbs(a.green() - b.green()) > 90 ? 1 : 0;
+            }
+        }
+        QVERIFY(appearance != paintedFile(actsFile));
+        QVERIFY2(others < mark.width() * mark.height() / 100, qPrintable(QString::number(others)));
+    }
+
+    void shouldFollowLinksOfPages()
+    {
+        Acts acts(actsFile);
+        QTest::mouseMove(acts.view->viewport(), acts.at(45, 10));
+        QTRY_COMPARE(acts.view->viewport()->cursor().shape(), Qt::PointingHandCursor);
+        QTest::mouseMove(acts.view->viewport(), acts.at(57, 35));
+        QTRY_COMPARE(acts.view->viewport()->cursor().shape(), Qt::OpenHandCursor);
+        acts.click(acts.at(45, 10));
+        QCOMPARE(acts.view->currentPage(), 1);
+        QCOMPARE(qRound(acts.view->percent()), 200);
+        acts.view->setZoomMode(ZoomMode::fromName("vzmode_fitpage"));
+        acts.click(acts.at(10, 10));
+        QCOMPARE(acts.view->currentPage(), 0);
+        acts.view->setTool(PageTool::of("tp_rectangle"));
+        acts.click(acts.at(45, 10));
+        QCOMPARE(acts.view->currentPage(), 0);
+    }
+
+    void shouldAskBeforeItOpensAnAddress()
+    {
+        Acts acts(actsFile);
+        for (const char *text : {"取消", "打开"}) {
+            const Answer answer(QString::fromUtf8(text));
+            acts.click(acts.at(15, 10));
+            QCOMPARE(answer.questions.size(), 1);
+            QVERIFY(answer.questions.first().contains("https://example.org/a?b=c&d"));
+        }
+        QCOMPARE(acts.opened, QList<QUrl>{QUrl("https://example.org/a?b=c&d")});
+    }
+
+    void shouldOpenAndSaveAttachments()
+    {
+        const QTemporaryDir folder;
+        Acts acts(actsFile);
+        QListWidget *list = acts.list("vn_attachment");
+        QCOMPARE(list->count(), 3);
+        const auto choose = [&](int row, int action, const QString &text) {
+            const Answer answer(text);
+            list->setCurrentRow(row);
+            list->actions().at(action)->trigger();
+            return answer.questions;
+        };
+        QCOMPARE(choose(0, 0, "取消").size(), 1);
+        QCOMPARE(acts.opened.size(), 0);
+        QCOMPARE(choose(0, 0, "打开").size(), 1);
+        QCOMPARE(acts.opened.size(), 1);
+        QCOMPARE(acts.opened.first().fileName(), QStringLiteral("数据 表.txt"));
+        QCOMPARE(bytesOf(acts.opened.first().toLocalFile()), QByteArray("一,二,三\n"));
+        QVERIFY(choose(1, 0, "打开").isEmpty());
+        QVERIFY(acts.said().contains("run.sh"));
+        QVERIFY(choose(2, 0, "打开").isEmpty());
+        QCOMPARE(acts.opened.size(), 1);
+        const QString saved = folder.filePath("saved.sh");
+        QVERIFY(choose(1, 1, saved).first().endsWith("/run.sh"));
+        QCOMPARE(bytesOf(saved), QByteArray("#!/bin/sh\n"));
+        QVERIFY(!QFileInfo(saved).isExecutable());
+    }
+
+    void shouldListEditAndDeleteAnnotationsOfTheFile()
+    {
+        Acts acts(actsFile);
+        QListWidget *list = acts.list("vn_annotation");
+        QCOMPARE(list->count(), 2);
+        QCOMPARE(list->item(1)->text(), QStringLiteral("第 1 页　图形\n乙　2024-05-07\n旧的备注"));
+        acts.view->setCurrentPage(1);
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
+                          list->visualItemRect(list->item(1)).center());
+        QCOMPARE(acts.view->currentPage(), 0);
+        {
+            const Answer answer("新的\n备注");
+            QTest::keyClick(list, Qt::Key_F2);
+        }
+        QVERIFY(list->item(1)->text().endsWith("\n新的 备注"));
+        acts.window.activateWindow();
+        QTRY_VERIFY(list->hasFocus());
+        QVERIFY(acts.window.isWindowModified());
+        const QImage before = acts.view->viewport()->grab().toImage();
+        QTest::keyClick(list, Qt::Key_Delete);
+        QCOMPARE(list->count(), 1);
+        const QPoint red = acts.at(10, 25) * before.devicePixelRatio();
+        QVERIFY(before.pixelColor(red) == QColor(200, 40, 40));
+        QTRY_VERIFY(acts.view->viewport()->grab().toImage().pixelColor(red) == QColor(Qt::white));
+        QTest::keyClick(&acts.window, Qt::Key_Z, Qt::ControlModifier);
+        QTest::keyClick(&acts.window, Qt::Key_Z, Qt::ControlModifier);
+        QTRY_COMPARE(list->count(), 2);
+        QVERIFY(list->item(1)->text().endsWith("旧的备注") && !acts.window.isWindowModified());
+    }
+
+    void shouldMakeNamesOfAttachmentsSafe_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("safe");
+        QTest::addColumn<bool>("isHarmless");
+        QTest::newRow("plain") << "a.txt"
+                               << "a.txt" << true;
+        QTest::newRow("folder") << "../../etc/a.txt"
+                                << "a.txt" << true;
+        QTest::newRow("backslashes") << "C:\\x\\a.pdf"
+                                     << "a.pdf" << true;
+        QTest::newRow("hidden") << "..bashrc"
+                                << "bashrc" << false;
+        QTest::newRow("none") << "/"
+                              << "附件" << false;
+        QTest::newRow("direction") << QString("a\u202Etxt.exe") << "a_txt.exe" << false;
+        QTest::newRow("desktop") << "a.txt.desktop"
+                                 << "a.txt.desktop" << false;
+        QTest::newRow("page") << "a.html"
+                              << "a.html" << false;
+        QTest::newRow("line") << "a\nb.png"
+                              << "a_b.png" << true;
+        QTest::newRow("long") << QString(500, 'a') + ".txt" << QString(60, 'a') + ".txt" << true;
+    }
+
+    void shouldMakeNamesOfAttachmentsSafe()
+    {
+        QFETCH(QString, name);
+        const QString safe = SafeFile::nameFor(name);
+        QTEST(safe, "safe");
+        QTEST(SafeFile::isHarmless(safe, "text"), "isHarmless");
+        QVERIFY(!SafeFile::isHarmless(safe, "#!/bin/sh\nrm x\n"));
+        QVERIFY(
+            !SafeFile::isHarmless(safe, QByteArray("\177ELF\2\1\1\0\0\0\0\0\0\0\0\0\2\0>\0", 20)));
+    }
+};
+
+QTEST_MAIN(ReaderActsTest)
+#include "tst_readeracts.moc"
