@@ -74,7 +74,7 @@ Ofd::AnnotationDraft draftOf(const Mark &mark, const Ofd::Document &document)
     drawn.path.addRect(mark.rect());
     drawn.fill = mark.colour;
     drawn.pen = QPen(Qt::black, 2, Qt::DashLine, Qt::RoundCap);
-    MarkAnnotation::setAppearance(draft, {drawn}, document.pages.at(0).area.topLeft());
+    MarkAnnotation::setAppearance(draft, {drawn}, document.area(0).topLeft());
     return draft;
 }
 
@@ -200,8 +200,7 @@ private Q_SLOTS:
         QByteArray bytes = written->package->read(list);
         QVERIFY(from.isEmpty() || bytes.contains(from));
         bytes.replace(from, to);
-        const QByteArray archive =
-            Ofd::Archive::withEntries(written->package->archive(), {{list, bytes}});
+        const QByteArray archive = Ofd::Archive::withEntries(*written->package, {{list, bytes}});
         const QList<Mark> marks = MarkAnnotation::marksOf(*reread(archive));
         QCOMPARE(marks.size(), 1);
         QCOMPARE(marks.first().kind, from.isEmpty() ? MarkKind::Highlight : MarkKind::Annotation);

@@ -3,6 +3,7 @@
 
 #include "commands/SafeFile.h"
 #include "document/Document.h"
+#include "ofd/Archive.h"
 #include "ofd/Painter.h"
 #include "pages/MarkPainter.h"
 #include "pages/OfdSaving.h"
@@ -21,6 +22,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -334,6 +336,71 @@ private Q_SLOTS:
         QTest::keyClick(&acts.window, Qt::Key_Z, Qt::ControlModifier);
         QTRY_COMPARE(list->count(), 2);
         QVERIFY(list->item(1)->text().endsWith("旧的备注") && !acts.window.isWindowModified());
+    }
+
+    void shouldObeyPermissions_data()
+    {
+        QTest::addColumn<QByteArray>("permissions");
+        QTest::addColumn<QString>("sentence");
+        QTest::newRow("annotating") << QByteArray("<ofd:Annot>false</ofd:Annot>") << "不允许批注";
+        QTest::newRow("over") << QByteArray("<ofd:ValidPeriod EndDate=\"2020-02-03\"/>")
+                              << "有效期到 2020-02-03 23:59 为止";
+        QTest::newRow("allowed") << QByteArray() << QString();
+    }
+
+    void shouldObeyPermissions()
+    {
+        QFETCH(QByteArray, permissions);
+        QFETCH(QString, sentence);
+        const QTemporaryDir folder;
+        QString error;
+        const auto document = Ofd::read(actsFile, &error);
+        QByteArray root = document->package->read(document->path);
+        root.replace("<ofd:Edit>false</ofd:Edit>", permissions);
+        QFile file(folder.filePath("forbidding.ofd"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(Ofd::Archive::withEntries(*document->package, {{document->path, root}}));
+        file.close();
+
+        Acts acts(file.fileName());
+        QVERIFY(acts.said().contains(sentence));
+        QListWidget *list = acts.list("vn_annotation");
+        acts.view->setTool(PageTool::of("tp_rectangle"));
+        QTest::mousePress(acts.view->viewport(), Qt::LeftButton, {}, acts.at(5, 30));
+        // The window system tells of a movement too late.
+        QMouseEvent movement(QEvent::MouseMove, acts.at(25, 38), acts.at(25, 38), Qt::NoButton,
+                             Qt::LeftButton, {});
+        QApplication::sendEvent(acts.view->viewport(), &movement);
+        QTest::mouseRelease(acts.view->viewport(), Qt::LeftButton, {}, acts.at(25, 38));
+        QCOMPARE(list->count(), sentence.isEmpty() ? 3 : 2);
+        QVERIFY(acts.said().contains(sentence));
+        QCOMPARE(acts.window.isWindowModified(), sentence.isEmpty());
+    }
+
+    void shouldSaveIntoTheOpenedFileUntilItIsChangedElsewhere()
+    {
+        const QTemporaryDir folder;
+        const QString name = folder.filePath("opened.ofd");
+        QVERIFY(QFile::copy(actsFile, name));
+        QVERIFY(QFile::setPermissions(name, QFile::ReadOwner | QFile::WriteOwner));
+        for (const bool isChanged : {false, true}) {
+            Acts acts(name);
+            QListWidget *list = acts.list("vn_annotation");
+            list->setCurrentRow(0);
+            list->actions().at(1)->trigger();
+            QVERIFY(acts.window.isWindowModified());
+            QFile file(name);
+            QVERIFY(!isChanged || (file.open(QIODevice::Append) && file.write("x") == 1));
+            file.close();
+            const QByteArray before = bytesOf(name);
+            const Answer answer(folder.filePath("other.ofd"));
+            acts.view->setFocus();
+            QTest::keyClick(&acts.window, Qt::Key_S, Qt::ControlModifier);
+            QTRY_VERIFY(!acts.window.isWindowModified());
+            QCOMPARE(answer.questions.size(), isChanged ? 1 : 0);
+            QCOMPARE(bytesOf(name) == before, isChanged);
+            QCOMPARE(QFile::exists(folder.filePath("other.ofd")), isChanged);
+        }
     }
 
     void shouldMakeNamesOfAttachmentsSafe_data()

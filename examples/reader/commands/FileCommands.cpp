@@ -186,7 +186,9 @@ bool FileCommands::saveTo(const QString &fileName)
     }
     m_savedFile = fileName;
     m_parts.document->undoStack().setClean();
-    m_parts.say(tr("已保存：%1").arg(fileName));
+    m_parts.say(m_parts.document->quarters() == 0
+                    ? tr("已保存：%1").arg(fileName)
+                    : tr("已保存：%1。页面的旋转只用于查看，不写入文件").arg(fileName));
     return true;
 }
 

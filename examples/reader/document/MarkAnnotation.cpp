@@ -219,7 +219,7 @@ QList<Mark> MarkAnnotation::marksOf(const Ofd::Document &document)
     QHash<QString, QVector<int>> groups;
     const auto heads = Ofd::Annotations::heads(document);
     for (auto page = heads.cbegin(); page != heads.cend(); ++page) {
-        const QPointF corner = document.pages.at(page.key()).area.topLeft();
+        const QPointF corner = document.area(page.key()).topLeft();
         for (int i = 0; i < page->size(); ++i) {
             Mark mark = markOf(page->at(i), corner);
             mark.page = page.key();
@@ -230,6 +230,6 @@ QList<Mark> MarkAnnotation::marksOf(const Ofd::Document &document)
             marks.append(mark);
         }
     }
-    joinEveryPage(marks, groups, int(document.pages.size()));
+    joinEveryPage(marks, groups, document.pageCount());
     return marks;
 }

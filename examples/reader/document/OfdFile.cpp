@@ -99,9 +99,10 @@ QString leftOutOf(const Ofd::Painter &painter)
 
 bool OfdFile::read(const QString &fileName, QList<Page> *pages, QString *error)
 {
-    const std::shared_ptr<const Ofd::Document> document = Ofd::read(fileName, error);
-    if (!document)
+    const std::shared_ptr<const Ofd::Document> read = Ofd::read(fileName, error);
+    if (!read)
         return false;
+    document = read;
     const auto painter = std::make_shared<Ofd::Painter>(document);
     hidden = std::make_shared<HiddenAnnotations>();
     const auto links = std::make_shared<const PageLinks>(*document);
@@ -121,29 +122,28 @@ bool OfdFile::read(const QString &fileName, QList<Page> *pages, QString *error)
     for (const Ofd::Attachment &attachment : document->attachments)
         attachments.append(attachment.name);
     leftOut = leftOutOf(*painter);
-    source = document;
     readActs();
     return true;
 }
 
 void OfdFile::readActs()
 {
-    const Ofd::DocumentRoot root(*source);
+    const Ofd::DocumentRoot root(*document);
     permissions = Ofd::Permissions::of(root.element);
     isSigned = root.isSigned;
-    marks = MarkAnnotation::marksOf(*source);
+    marks = MarkAnnotation::marksOf(*document);
 }
 
 QPointF OfdFile::cornerOf(int page) const
 {
-    return source->pages.at(page).area.topLeft();
+    return document->area(page).topLeft();
 }
 
 QByteArray OfdFile::attachment(int index, QString *error) const
 {
     error->clear();
     try {
-        return source->package->read(source->attachments.at(index).file);
+        return document->package->read(document->attachments.at(index).file);
     } catch (const Ofd::Fault &fault) {
         *error = fault.message;
         return QByteArray();

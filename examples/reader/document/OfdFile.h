@@ -43,7 +43,7 @@ public:
     bool isSigned = false;
     QList<Mark> marks;
     std::shared_ptr<HiddenAnnotations> hidden;
-    std::shared_ptr<const Ofd::Document> source; ///< What was read.
+    std::shared_ptr<const Ofd::Document> document; ///< What was read.
 
     /** Reads a file; on failure changes nothing and sets @p error to one sentence. */
     bool read(const QString &fileName, QList<Page> *pages, QString *error);

@@ -9,26 +9,21 @@
 
 namespace {
 
-QString translated(const char *text)
-{
-    return QCoreApplication::translate("Refusal", text);
-}
-
 QString nameOf(Act act)
 {
     switch (act) {
     case Act::Edit:
-        return translated("编辑");
+        return QCoreApplication::translate("Refusal", "编辑");
     case Act::Annotate:
-        return translated("批注");
+        return QCoreApplication::translate("Refusal", "批注");
     case Act::Export:
-        return translated("导出");
+        return QCoreApplication::translate("Refusal", "导出");
     case Act::Sign:
-        return translated("签章");
+        return QCoreApplication::translate("Refusal", "签章");
     case Act::AddWatermark:
-        return translated("添加水印");
+        return QCoreApplication::translate("Refusal", "添加水印");
     case Act::Print:
-        return translated("打印");
+        return QCoreApplication::translate("Refusal", "打印");
     }
     return QString();
 }
@@ -60,8 +55,10 @@ QString refusalByTime(const Ofd::Permissions &permissions)
         return QString();
     const bool isEarly = permissions.validFrom.isValid() && now < permissions.validFrom;
     const QDateTime limit = isEarly ? permissions.validFrom : permissions.validUntil;
-    const QString text = isEarly ? translated("本文件自 %1 起才有效，此前只能阅读。")
-                                 : translated("本文件的有效期到 %1 为止，现在只能阅读。");
+    const QString text =
+        isEarly
+            ? QCoreApplication::translate("Refusal", "本文件自 %1 起才有效，此前只能阅读。")
+            : QCoreApplication::translate("Refusal", "本文件的有效期到 %1 为止，现在只能阅读。");
     return text.arg(QLocale::c().toString(limit, QStringLiteral("yyyy-MM-dd hh:mm")));
 }
 
@@ -72,8 +69,9 @@ QString refusalOf(Act act, const Ofd::Permissions &permissions)
     const QString byTime = refusalByTime(permissions);
     if (!byTime.isEmpty())
         return byTime;
-    return isAllowed(act, permissions) ? QString()
-                                       : translated("本文件的作者不允许%1。").arg(nameOf(act));
+    return isAllowed(act, permissions)
+               ? QString()
+               : QCoreApplication::translate("Refusal", "本文件的作者不允许%1。").arg(nameOf(act));
 }
 
 QString refusalsOf(const Ofd::Permissions &permissions)
@@ -88,5 +86,6 @@ QString refusalsOf(const Ofd::Permissions &permissions)
             names.append(nameOf(act));
     }
     return names.isEmpty() ? QString()
-                           : translated("本文件的作者不允许%1。").arg(names.join(translated("、")));
+                           : QCoreApplication::translate("Refusal", "本文件的作者不允许%1。")
+                                 .arg(names.join(QCoreApplication::translate("Refusal", "、")));
 }

@@ -205,7 +205,7 @@ private:
 QByteArray withAnnotations(const Document &document, const QMap<int, AnnotationChanges> &changes)
 {
     const auto entries = AnnotationFiles(document).changed(changes);
-    return Archive::withEntries(document.package->archive(), entries);
+    return Archive::withEntries(*document.package, entries);
 }
 
 } // namespace Ofd

@@ -38,7 +38,8 @@ public:
         require(m_reader.open(QuaZip::mdUnzip) && m_writer.open(QuaZip::mdCreate));
     }
 
-    void copy(QMap<QString, QByteArray> entries)
+    /** Copies all entries with these in place of old ones, and returns those that are new. */
+    QMap<QString, QByteArray> replace(QMap<QString, QByteArray> entries)
     {
         for (bool more = m_reader.goToFirstFile(); more; more = m_reader.goToNextFile()) {
             QuaZipFileInfo64 entry;
@@ -49,8 +50,21 @@ public:
             else
                 copyPacked(entry);
         }
-        for (auto entry = entries.cbegin(); entry != entries.cend(); ++entry)
-            add(entry.key(), entry.value());
+        return entries;
+    }
+
+    void add(const QString &name, const QByteArray &bytes)
+    {
+        m_writer.setUtf8Enabled(true);
+        QuaZipFile file(&m_writer);
+        require(file.open(QIODevice::WriteOnly, QuaZipNewInfo(name)));
+        require(file.write(bytes) == bytes.size());
+        file.close();
+        require(file.getZipError() == ZIP_OK);
+    }
+
+    void finish()
+    {
         m_writer.close();
         require(m_writer.getZipError() == ZIP_OK);
     }
@@ -64,17 +78,9 @@ private:
 
     static QString nameOf(const QuaZipFileInfo64 &entry)
     {
-        return entry.flags & utf8Flag ? entry.name : QString::fromUtf8(entry.name.toLatin1());
-    }
-
-    void add(const QString &name, const QByteArray &bytes)
-    {
-        m_writer.setUtf8Enabled(true);
-        QuaZipFile file(&m_writer);
-        require(file.open(QIODevice::WriteOnly, QuaZipNewInfo(name)));
-        require(file.write(bytes) == bytes.size());
-        file.close();
-        require(file.getZipError() == ZIP_OK);
+        QString name =
+            entry.flags & utf8Flag ? entry.name : QString::fromUtf8(entry.name.toLatin1());
+        return name.replace(QChar(u'\\'), QChar(u'/'));
     }
 
     void copyPacked(const QuaZipFileInfo64 &entry)
@@ -107,10 +113,19 @@ private:
 
 } // namespace
 
-QByteArray Archive::withEntries(QByteArray archive, QMap<QString, QByteArray> entries)
+QByteArray Archive::withEntries(const Package &package, const QMap<QString, QByteArray> &entries)
 {
+    QByteArray archive = package.archive();
     QByteArray copied;
-    ArchiveCopy(archive, copied).copy(std::move(entries));
+    ArchiveCopy copy(archive, copied);
+    const QMap<QString, QByteArray> others = copy.replace(entries);
+    for (auto entry = others.cbegin(); entry != others.cend(); ++entry) {
+        // The archive must not get a second entry beside one whose name is written otherwise.
+        if (package.has(entry.key()))
+            throw Fault{Wording::tr("无法复制文件的 ZIP 包。")};
+        copy.add(entry.key(), entry.value());
+    }
+    copy.finish();
     return copied;
 }
 

@@ -3,17 +3,18 @@
 
 #pragma once
 
-#include <QByteArray>
+#include "ofd/Package.h"
+
 #include <QMap>
-#include <QString>
 
 /** Writing of the archive of a document. */
 namespace Ofd::Archive {
 
 /**
- * A copy of an archive with some entries replaced and new ones added at its end. All others keep
- * their order, names, dates and packed bytes. Throws a Fault if the archive cannot be copied.
+ * A copy of the archive of a package with some entries replaced and new ones added at its end. All
+ * others keep their order, names, dates and packed bytes. Throws a Fault if the archive cannot be
+ * copied.
  */
-QByteArray withEntries(QByteArray archive, QMap<QString, QByteArray> entries);
+QByteArray withEntries(const Package &package, const QMap<QString, QByteArray> &entries);
 
 } // namespace Ofd::Archive

@@ -72,6 +72,9 @@ struct Target
 
 struct Document
 {
+    int pageCount() const { return int(pages.size()); }
+    QRectF area(int page) const { return pages.at(page).area; }
+
     std::shared_ptr<Package> package;
     QString path;                                 ///< The entry with the root of the document.
     QVector<QPair<QString, QString>> information; ///< Names and values.

@@ -44,7 +44,7 @@ Permissions Permissions::of(const XmlElement &document)
         result.validUntil = timeOf(*period, "EndDate");
         // A date without a time includes its whole day.
         if (!period->attribute("EndDate").contains(QChar(u'T')) && result.validUntil.isValid())
-            result.validUntil = result.validUntil.addDays(1);
+            result.validUntil = result.validUntil.addDays(1).addSecs(-1);
     }
     return result;
 }

@@ -88,7 +88,7 @@ QByteArray OfdSaving::archiveOf(const Document &document, QString *error)
     if (isEmpty(changes))
         return document.file().archive;
     try {
-        return Ofd::withAnnotations(*document.file().source, changes);
+        return Ofd::withAnnotations(*document.file().document, changes);
     } catch (const Ofd::Fault &fault) {
         *error = fault.message;
         return QByteArray();

@@ -11,11 +11,6 @@ namespace {
 
 constexpr int mostCharacters = 120;
 
-QString translated(const char *text)
-{
-    return QCoreApplication::translate("MarkEntry", text);
-}
-
 } // namespace
 
 QString MarkEntry::kindOf(const Mark &mark)
@@ -30,13 +25,15 @@ QString MarkEntry::kindOf(const Mark &mark)
     if (mark.kind != MarkKind::Annotation || mark.type.isEmpty())
         return markName(mark.kind);
     const char *name = types.value(mark.type);
-    return name ? translated(name) : mark.type.left(mostCharacters);
+    return name ? QCoreApplication::translate("MarkEntry", name) : mark.type.left(mostCharacters);
 }
 
 QString MarkEntry::textOf(const Mark &mark)
 {
     const QString place =
-        mark.page == everyPage ? translated("每一页") : translated("第 %1 页").arg(mark.page + 1);
+        mark.page == everyPage
+            ? QCoreApplication::translate("MarkEntry", "每一页")
+            : QCoreApplication::translate("MarkEntry", "第 %1 页").arg(mark.page + 1);
     const QChar gap = u'　';
     QStringList lines = {place + gap + kindOf(mark)};
     QStringList origin = {mark.creator.simplified().left(mostCharacters),
