@@ -8,6 +8,7 @@
 #include "ofd/Annotations.h"
 #include "ofd/Archive.h"
 #include "ofd/DocumentRoot.h"
+#include "ofd/Fault.h"
 #include "ofd/Permissions.h"
 
 #include <QBuffer>
@@ -204,6 +205,59 @@ private Q_SLOTS:
         const QList<Mark> marks = MarkAnnotation::marksOf(*reread(archive));
         QCOMPARE(marks.size(), 1);
         QCOMPARE(marks.first().kind, from.isEmpty() ? MarkKind::Highlight : MarkKind::Annotation);
+    }
+
+    void shouldSurviveHostileLists_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QByteArray>("from");
+        QTest::addColumn<QByteArray>("to");
+        const QString index = QStringLiteral("Doc_0/Annots/Annotations.xml");
+        const QString list = QStringLiteral("Doc_0/Annots/Page_0.xml");
+        const QByteArray end = "</ofd:PageAnnot>";
+        QTest::newRow("cut") << list << end << QByteArray();
+        QTest::newRow("DTD") << list << QByteArray("<ofd:PageAnnot")
+                             << QByteArray("<!DOCTYPE a [<!ENTITY b \"c\">]><ofd:PageAnnot");
+        QTest::newRow("empty") << list << end << "<ofd:Annot/>" + end;
+        QTest::newRow("same") << list << QByteArray("ID=\"922\"") << QByteArray("ID=\"920\"");
+        QTest::newRow("high") << list << QByteArray("ID=\"922\"")
+                              << QByteArray("ID=\"9223372036854775807\"");
+        QTest::newRow("nested") << list << end << "<ofd:Annot><ofd:Annot/></ofd:Annot>" + end;
+        QTest::newRow("box") << list << QByteArray("15 25 20 10") << QByteArray("nan inf 1 1");
+        QTest::newRow("outside") << index << QByteArray(">Page_0.xml")
+                                 << QByteArray(">../../../Page_0.xml");
+        QTest::newRow("missing") << index << QByteArray(">Page_0.xml") << QByteArray(">None.xml");
+        QTest::newRow("no page") << index << QByteArray("\"1\"") << QByteArray("\"77\"");
+        QTest::newRow("shared") << index << QByteArray("</ofd:Annotations>")
+                                << QByteArray("<ofd:Page PageID=\"2\"><ofd:FileLoc>Page_0.xml"
+                                              "</ofd:FileLoc></ofd:Page></ofd:Annotations>");
+        QTest::newRow("itself") << index << QByteArray(">Page_0.xml")
+                                << QByteArray(">Annotations.xml");
+    }
+
+    /** They are read or refused; what is added to those that are read is there afterwards. */
+    void shouldSurviveHostileLists()
+    {
+        QFETCH(QString, path);
+        QFETCH(QByteArray, from);
+        QFETCH(QByteArray, to);
+        const auto good = OfdFiles::opened("acts");
+        QByteArray bytes = good->package->read(path);
+        QVERIFY(bytes.contains(from));
+        bytes.replace(from, to);
+        const auto document = reread(Ofd::Archive::withEntries(*good->package, {{path, bytes}}));
+        if (!document)
+            return;
+        QMap<int, Ofd::AnnotationChanges> changes;
+        changes[0].added.append(draftOf(markOf(0), *document));
+        try {
+            const auto again = reread(Ofd::withAnnotations(*document, changes));
+            QVERIFY(again);
+            const int before = int(Ofd::Annotations::heads(*document).value(0).size());
+            QCOMPARE(Ofd::Annotations::heads(*again).value(0).size(), before + 1);
+        } catch (const Ofd::Fault &fault) {
+            QVERIFY(!fault.message.isEmpty());
+        }
     }
 
     void shouldFindWhereLinksLead()

@@ -27,10 +27,19 @@ QByteArray emptyFileOf(const char *root)
     return QByteArray(emptyFile).replace("%1", root);
 }
 
+/** Identifiers are 32 bits wide; a higher one is damaged and must not make others so. */
+constexpr qint64 mostId = 4000000000;
+
+qint64 idOf(const QString &text)
+{
+    const qint64 id = text.toLongLong();
+    return id <= mostId ? id : 0;
+}
+
 /** The highest of the identifiers in a file. */
 qint64 highestId(const XmlElement &element)
 {
-    qint64 highest = element.attribute("ID").toLongLong();
+    qint64 highest = idOf(element.attribute("ID"));
     for (const XmlElement &child : element.children)
         highest = std::max(highest, highestId(child));
     return highest;
@@ -47,7 +56,7 @@ public:
         , m_lists(Annotations::lists(m_package, m_root.element, document.path, m_root.pageIndexes))
     {
         const XmlElement *common = m_root.element.child("CommonData");
-        const qint64 declared = common ? common->childText("MaxUnitID").toLongLong() : 0;
+        const qint64 declared = common ? idOf(common->childText("MaxUnitID")) : 0;
         m_lastId = std::max(declared, highestId(m_root.element));
         // Some writers forget to count what they add, so the files that matter here are looked at.
         for (const QString &list : std::as_const(m_lists))
@@ -84,7 +93,7 @@ private:
     /** A path that the package does not have. */
     QString unused(const QString &pattern, int number) const
     {
-        QString path = folder() + pattern.arg(number);
+        QString path = folder() + pattern.arg(number == 0 ? QString() : QString::number(number));
         while (m_package.has(path))
             path = folder() + pattern.arg(++number);
         return path;
@@ -92,7 +101,7 @@ private:
 
     QString newPath(int page) const
     {
-        return unused(QStringLiteral("Page_%1/Annotation.xml"), page);
+        return unused(QStringLiteral("Page_%1/Annotation%2.xml").arg(page), 0);
     }
 
     QByteArray list(const QByteArray &bytes, const AnnotationChanges &changes)

@@ -103,7 +103,12 @@ QMap<int, QVector<Annotation>> Annotations::heads(const Document &document)
     QMap<int, QVector<Annotation>> heads;
     const Package &package = *document.package;
     const DocumentRoot root(document);
-    const auto files = lists(package, root.element, document.path, root.pageIndexes);
+    QHash<int, QString> files;
+    try {
+        files = lists(package, root.element, document.path, root.pageIndexes);
+    } catch (const Fault &) {
+        return heads;
+    }
     for (auto file = files.cbegin(); file != files.cend(); ++file) {
         try {
             heads.insert(file.key(), headsOf(XmlElement::parse(package.read(*file), *file)));

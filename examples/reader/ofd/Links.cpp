@@ -3,6 +3,7 @@
 
 #include "ofd/Links.h"
 
+#include "ofd/Fault.h"
 #include "ofd/Values.h"
 
 namespace Ofd {
@@ -41,6 +42,20 @@ std::optional<Link> linkOf(const XmlElement &action)
     return link.target.isEmpty() ? std::nullopt : std::make_optional(link);
 }
 
+/** A damaged link costs itself only. */
+std::optional<Link> firstLinkOf(const XmlElement &actions)
+{
+    for (const XmlElement &action : actions.children) {
+        try {
+            if (const auto link = linkOf(action))
+                return link;
+        } catch (const Fault &) {
+            continue;
+        }
+    }
+    return std::nullopt;
+}
+
 /** Lower objects come first, as they do in the file. */
 void addLinks(QVector<Link> &links, const XmlElement &parent, QPointF origin)
 {
@@ -52,12 +67,9 @@ void addLinks(QVector<Link> &links, const XmlElement &parent, QPointF origin)
         const XmlElement *actions = element.child("Actions");
         if (!actions || !element.flag("Visible", true))
             continue;
-        for (const XmlElement &action : actions->children) {
-            if (auto link = linkOf(action)) {
-                link->area = Values::box(element.attribute("Boundary")).translated(origin);
-                links.append(*link);
-                break;
-            }
+        if (auto link = firstLinkOf(*actions)) {
+            link->area = Values::box(element.attribute("Boundary")).translated(origin);
+            links.append(*link);
         }
     }
 }

@@ -45,6 +45,7 @@ public:
         paths.append(drawn);
     }
 
+    using QPaintEngine::drawPolygon;
     void drawPolygon(const QPointF *points, int count, PolygonDrawMode mode) override
     {
         QPainterPath path(points[0]);
