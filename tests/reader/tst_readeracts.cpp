@@ -17,6 +17,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QDesktopServices>
+#include <QDir>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QLineEdit>
@@ -31,6 +32,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+
+#include <algorithm>
 
 namespace {
 
@@ -152,6 +155,14 @@ QImage paintedFile(const QString &fileName)
     return image;
 }
 
+bool save(const Document &document, const QString &fileName)
+{
+    QString error;
+    QFile file(fileName);
+    return file.open(QIODevice::WriteOnly)
+           && file.write(OfdSaving::archiveOf(document, &error)) > 0;
+}
+
 /** Writes the file with another text in one of its entries. */
 bool rewrite(const QString &fileName, const QString &entry, const QByteArray &from,
              const QByteArray &to)
@@ -197,10 +208,7 @@ private Q_SLOTS:
         document.deleteMark(document.marks().first().id, QString());
         document.setMarkText(document.marks().first().id, QStringLiteral("改过"));
         const QList<Mark> before = document.marks();
-        QFile file(saved);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(OfdSaving::archiveOf(document, &error));
-        file.close();
+        QVERIFY(save(document, saved));
         QVERIFY2(document.open(saved, &error), qPrintable(error));
         QCOMPARE(document.marks().size(), before.size());
         QCOMPARE(document.marks().first().text, QStringLiteral("改过"));
@@ -219,10 +227,7 @@ private Q_SLOTS:
         QCOMPARE(OfdSaving::archiveOf(document, &error), bytesOf(saved));
         while (!document.marks().isEmpty())
             document.deleteMark(document.marks().last().id, QString());
-        file.open(QIODevice::WriteOnly);
-        file.write(OfdSaving::archiveOf(document, &error));
-        file.close();
-        QVERIFY(document.open(saved, &error));
+        QVERIFY(save(document, saved) && document.open(saved, &error));
         QVERIFY(document.marks().isEmpty());
     }
 
@@ -242,11 +247,8 @@ private Q_SLOTS:
         Document document;
         QVERIFY(document.open(actsFile, &error));
         document.addMark(markOf(MarkKind(kind), 0), QString());
-        QFile file(folder.filePath("saved.ofd"));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(OfdSaving::archiveOf(document, &error));
-        file.close();
-        const QImage appearance = paintedFile(file.fileName());
+        QVERIFY(save(document, folder.filePath("saved.ofd")));
+        const QImage appearance = paintedFile(folder.filePath("saved.ofd"));
         QImage mark = paintedFile(actsFile);
         QPainter painter(&mark);
         painter.scale(4 / unit, 4 / unit);
@@ -262,6 +264,29 @@ private Q_SLOTS:
         }
         QVERIFY(appearance != paintedFile(actsFile));
         QVERIFY2(others < mark.width() * mark.height() / 100, qPrintable(QString::number(others)));
+    }
+
+    void shouldAddMarksToRealFiles()
+    {
+        const QDir samples(qEnvironmentVariable("MRTOOLBAR_SAMPLES", "/nowhere"));
+        const QStringList names = samples.entryList({"*.ofd"});
+        if (names.isEmpty())
+            QSKIP("MRTOOLBAR_SAMPLES names no folder with OFD files");
+        const QTemporaryDir folder;
+        for (const QString &name : names) {
+            QString error;
+            Document document;
+            QVERIFY(document.open(samples.filePath(name), &error));
+            const int before = int(document.marks().size());
+            document.addMark(markOf(MarkKind::Note, 0), QString());
+            QVERIFY(save(document, folder.filePath(name)));
+            Document again;
+            QVERIFY2(again.open(folder.filePath(name), &error), qPrintable(name + error));
+            QCOMPARE(again.marks().size(), before + 1);
+            QCOMPARE(again.pageCount(), document.pageCount());
+            const auto isNote = [](const Mark &mark) { return mark.kind == MarkKind::Note; };
+            QVERIFY(std::any_of(again.marks().begin(), again.marks().end(), isNote));
+        }
     }
 
     void shouldFollowLinksOfPages()
