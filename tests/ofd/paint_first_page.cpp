@@ -48,7 +48,7 @@ int main(int argc, char **argv)
     const bool isOpen = document.open(QString::fromLocal8Bit(argv[1]), &sentence);
     if (isOpen) {
         paintFirstPage(document);
-        sentence = document.file().leftOut;
+        sentence = document.file().leftOut();
     }
     rusage usage{};
     getrusage(RUSAGE_SELF, &usage);

@@ -64,7 +64,7 @@ private Q_SLOTS:
         if (path.isEmpty())
             return;
         QCOMPARE(QString::fromUtf8(package.read(path)), entry);
-        QCOMPARE(QString::fromUtf8(package.head(path, 4)), entry.left(4));
+        QCOMPARE(QString::fromUtf8(package.readStart(path, 4)), entry.left(4));
     }
 
     void shouldRefuseALocationOutside()

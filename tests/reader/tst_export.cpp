@@ -82,7 +82,7 @@ private Q_SLOTS:
         QString error;
         QVERIFY2(document.open(QDir(OFD_SAMPLES).filePath("text.ofd"), &error), qPrintable(error));
         const QString fileName = folder.filePath("text.pdf");
-        QVERIFY(Export::write(document, fileName));
+        QVERIFY2(Export::write(document, fileName, &error), qPrintable(error));
         QFile file(fileName);
         QVERIFY(file.open(QIODevice::ReadOnly));
         const QByteArray pdf = file.readAll();
@@ -98,9 +98,10 @@ private Q_SLOTS:
         Document document;
         QString error;
         QVERIFY2(document.open(QDir(OFD_SAMPLES).filePath("text.ofd"), &error), qPrintable(error));
-        QVERIFY(Export::write(document, folder.filePath("a.png")));
+        QVERIFY2(Export::write(document, folder.filePath("a.png"), &error), qPrintable(error));
         QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList({"a-1.png", "a-2.png"}));
-        QVERIFY2(!Export::write(document, folder.filePath("a.png")), "It overwrote pictures");
+        QVERIFY2(!Export::write(document, folder.filePath("a.png"), &error),
+                 "It overwrote pictures");
         const QImage second(folder.filePath("a-2.png"));
         QCOMPARE(second.size(), (document.sizeOf(1) * 2).toSize());
         QVERIFY2(second.convertToFormat(QImage::Format_Indexed8).colorCount() > 2, "It is blank");

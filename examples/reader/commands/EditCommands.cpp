@@ -33,6 +33,11 @@ const QMap<QString, QString> &groupTools()
     return tools;
 }
 
+QStringList readingTools()
+{
+    return {QStringLiteral("t_handtool"), QStringLiteral("t_textselect")};
+}
+
 /** Empty, which is the described tooltip, when there is nothing to tell. */
 QString tellingWhat(const QString &tip, const QString &what)
 {
@@ -74,12 +79,15 @@ void EditCommands::addTo(MRToolBarCommands &commands)
 
 void EditCommands::addTools(MRToolBarCommands &commands)
 {
-    m_parts
-        .addForDocument(commands, PageTool::names(), [this](const QString &tool) { useTool(tool); })
-        .checkedWhen(
-            [view = m_parts.view](const QString &tool) { return view->tool().name == tool; });
-    m_parts.addForDocument(commands, groupTools().keys(),
-                           [this](const QString &group) { useTool(groupTools().value(group)); });
+    QStringList marking = PageTool::names() + groupTools().keys();
+    for (const QString &name : readingTools())
+        marking.removeAll(name);
+    const auto isChecked = [view = m_parts.view](const QString &tool) {
+        return view->tool().name == tool;
+    };
+    const auto use = [this](const QString &name) { useTool(groupTools().value(name, name)); };
+    m_parts.addForDocument(commands, readingTools(), use).checkedWhen(isChecked);
+    m_parts.addAllowed(Act::Annotate, commands, marking, use).checkedWhen(isChecked);
 }
 
 void EditCommands::addSelection(MRToolBarCommands &commands)
@@ -112,12 +120,12 @@ void EditCommands::addPages(MRToolBarCommands &commands)
         m_parts.view->setCurrentPage(index);
         m_parts.say(tr("%1：第 %2 页").arg(what).arg(index + 1));
     };
-    m_parts.addForDocument(commands, "d_insertblankpage", [insert] {
+    m_parts.addAllowed(Act::Edit, commands, {"d_insertblankpage"}, [insert](const QString &) {
         Page blank;
         blank.heading = tr("空白页");
         insert(blank, tr("插入空白页"));
     });
-    m_parts.addForDocument(commands, "d_insertpage", [this, insert] {
+    m_parts.addAllowed(Act::Edit, commands, {"d_insertpage"}, [this, insert](const QString &) {
         const int number = m_parts.document->pageCount() + 1;
         insert(PageGenerator::page(insertedPageSeed, number), tr("插入页面"));
     });
@@ -126,27 +134,28 @@ void EditCommands::addPages(MRToolBarCommands &commands)
 void EditCommands::addStamps(MRToolBarCommands &commands)
 {
     // Not translated: the text becomes a part of the document.
-    m_parts.addForDocument(commands, "t_sealsign", [this] {
+    m_parts.addAllowed(Act::Sign, commands, {"t_sealsign"}, [this](const QString &) {
         place(MarkKind::RoundSeal, QRectF(520, 830, 170, 170), QStringLiteral("示例单位专用章"));
     });
-    m_parts.addForDocument(commands, "t_pageseal", [this] {
+    m_parts.addAllowed(Act::Sign, commands, {"t_pageseal"}, [this](const QString &) {
         const QSizeF size = m_parts.document->sizeOf(m_parts.view->currentPage());
         const QRectF overEdge(size.width() - 60, 480, 120, 120);
         placeOnEveryPage(MarkKind::EdgeSeal, overEdge, QStringLiteral("骑缝专用章"));
     });
-    m_parts.addForDocument(commands, "ti_chapter", [this] {
+    m_parts.addAllowed(Act::Sign, commands, {"ti_chapter"}, [this](const QString &) {
         place(MarkKind::SquareSeal, QRectF(110, 850, 120, 120), QStringLiteral("示例之印"));
     });
-    m_parts.addForDocument(commands, "t_sealmark", [this] {
+    m_parts.addAllowed(Act::Annotate, commands, {"t_sealmark"}, [this](const QString &) {
         place(MarkKind::SealPlace, QRectF(330, 840, 140, 140), QStringLiteral("此处盖章"));
     });
-    m_parts.addForDocument(commands, "ti_stamp", [this] {
+    m_parts.addAllowed(Act::Annotate, commands, {"ti_stamp"}, [this](const QString &) {
         place(MarkKind::Stamp, QRectF(500, 90, 160, 64), QStringLiteral("已　阅"));
     });
-    m_parts.addForDocument(commands, "ti_affix", [this] {
+    m_parts.addAllowed(Act::Annotate, commands, {"ti_affix"}, [this](const QString &) {
         place(MarkKind::Picture, QRectF(280, 420, 240, 150), QString());
     });
-    m_parts.addForDocument(commands, "tw_watermark_add", [this] { addWatermark(); });
+    m_parts.addAllowed(Act::AddWatermark, commands, {"tw_watermark_add"},
+                       [this](const QString &) { addWatermark(); });
 }
 
 void EditCommands::useTool(const QString &name)
@@ -177,8 +186,43 @@ void EditCommands::editHandwriting()
     m_parts.say(tr("按住鼠标左键在页面上书写"));
 }
 
+bool EditCommands::mayAnnotate() const
+{
+    // A tool may be in use from before the document was opened.
+    const QString refusal = m_parts.document->refusalOf(Act::Annotate);
+    if (!refusal.isEmpty())
+        m_parts.say(refusal);
+    return refusal.isEmpty();
+}
+
+void EditCommands::eraseInk(int page, QPointF point, qreal radius)
+{
+    if (mayAnnotate())
+        m_parts.document->eraseInk(page, point, radius);
+}
+
+void EditCommands::editMark(int id)
+{
+    const Mark *mark = m_parts.document->markOf(id);
+    if (!mark || !mayAnnotate())
+        return;
+    bool isGiven = false;
+    const QString text = QInputDialog::getMultiLineText(m_parts.window, tr("编辑批注"), tr("备注"),
+                                                        mark->text, &isGiven);
+    if (isGiven)
+        m_parts.document->setMarkText(id, text);
+}
+
+void EditCommands::removeMark(int id)
+{
+    if (mayAnnotate())
+        m_parts.document->deleteMark(id, tr("删除批注"));
+}
+
 void EditCommands::addDrawn(Mark mark)
 {
+    if (!mayAnnotate())
+        return;
     if (mark.kind == MarkKind::TextBox || mark.kind == MarkKind::Note) {
         bool isGiven = false;
         mark.text = QInputDialog::getText(m_parts.window, markName(mark.kind), tr("文字"),

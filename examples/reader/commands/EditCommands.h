@@ -25,6 +25,10 @@ public:
     void editHandwriting();
     /** Adds what the user drew to the document; asks for the text of a text box. */
     void addDrawn(Mark mark);
+    void eraseInk(int page, QPointF point, qreal radius);
+    /** Asks for another text of a mark. */
+    void editMark(int id);
+    void removeMark(int id);
 
 private:
     void addTools(MRToolBarCommands &commands);
@@ -34,6 +38,8 @@ private:
     void place(MarkKind kind, const QRectF &rect, const QString &text);
     void placeOnEveryPage(MarkKind kind, const QRectF &rect, const QString &text);
     void addWatermark();
+    /** Whether marks may be changed; otherwise the user is told why not. */
+    bool mayAnnotate() const;
     void selectPages(int first, int last);
 
     ReaderParts m_parts;

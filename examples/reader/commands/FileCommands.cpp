@@ -6,6 +6,7 @@
 #include "commands/RecentFiles.h"
 #include "document/Document.h"
 #include "pages/Export.h"
+#include "pages/OfdSaving.h"
 #include "pages/PageView.h"
 #include "pages/Printing.h"
 #include "panels/PropertiesDialog.h"
@@ -25,6 +26,7 @@
 namespace {
 
 constexpr int mostRecentFiles = 30;
+const QString ofdSuffix = QStringLiteral(".ofd");
 
 QString ofdFilter()
 {
@@ -62,7 +64,7 @@ void FileCommands::addTo(MRToolBarCommands &commands)
     });
     m_parts.addForDocument(commands, {"f_saveas", "lum_saveas"},
                            [this](const QString &) { saveAs(); });
-    m_parts.addForDocument(commands, "f_print", [this] { print(); });
+    m_parts.addAllowed(Act::Print, commands, {"f_print"}, [this](const QString &) { print(); });
     m_parts.addForDocument(commands, "f_property", [this] { showProperties(); });
     commands.add("t_sealverify", [this] { showSignatures(); })
         .usableWhen([document = m_parts.document] { return document->file().isSigned; });
@@ -94,10 +96,17 @@ bool FileCommands::open(const QString &fileName, QString *refusal)
     m_parts.recentFiles->addRecentFile(fileName);
     m_parts.view->setCurrentPage(0);
     m_parts.view->setFocus();
-    const QString leftOut = m_parts.document->file().leftOut();
-    m_parts.say(leftOut.isEmpty() ? tr("已打开：%1").arg(QDir::toNativeSeparators(fileName))
-                                  : leftOut);
+    tellOpened(fileName);
     return true;
+}
+
+void FileCommands::tellOpened(const QString &fileName)
+{
+    const OfdFile &file = m_parts.document->file();
+    QStringList notes = {refusalsOf(file.permissions), file.leftOut()};
+    notes.removeAll(QString());
+    m_parts.say(notes.isEmpty() ? tr("已打开：%1").arg(QDir::toNativeSeparators(fileName))
+                                : notes.join(QStringLiteral("　")));
 }
 
 void FileCommands::openRecent(const QString &fileName)
@@ -190,7 +199,20 @@ void FileCommands::close()
 
 bool FileCommands::save()
 {
+    if (m_savedFile.isEmpty() && mayReplaceFile())
+        return saveTo(m_parts.document->fileName());
     return m_savedFile.isEmpty() ? saveAs() : saveTo(m_savedFile);
+}
+
+bool FileCommands::mayReplaceFile() const
+{
+    const Document &document = *m_parts.document;
+    if (document.isGenerated() || !OfdSaving::lossOf(document).isEmpty()
+        || !document.fileName().endsWith(ofdSuffix, Qt::CaseInsensitive))
+        return false;
+    // Another program may have changed the file since it was read.
+    QFile file(document.fileName());
+    return file.open(QIODevice::ReadOnly) && file.readAll() == document.file().archive;
 }
 
 bool FileCommands::saveAs()
@@ -201,38 +223,70 @@ bool FileCommands::saveAs()
 
 bool FileCommands::saveTo(const QString &fileName)
 {
-    if (!Export::write(*m_parts.document, fileName)) {
-        m_parts.say(tr("无法写入：%1").arg(fileName));
+    const QString refusal = m_parts.document->refusalOf(Act::Export);
+    if (!refusal.isEmpty() && !fileName.endsWith(ofdSuffix, Qt::CaseInsensitive)) {
+        m_parts.say(refusal);
         return false;
     }
-    if (m_parts.document->isModified() && !Export::keepsMarks(fileName)) {
-        m_parts.say(tr("已保存，但不含批注；另存为 PDF 可保留批注：%1").arg(fileName));
+    if (!mayBreakSignature(fileName))
+        return false;
+    QString error;
+    if (!Export::write(*m_parts.document, fileName, &error)) {
+        m_parts.say(error);
+        return false;
+    }
+    const QString loss = Export::lossOf(*m_parts.document, fileName);
+    if (!loss.isEmpty()) {
+        m_parts.say(tr("已保存：%1。%2").arg(fileName, loss));
         return false;
     }
     m_savedFile = fileName;
     m_parts.document->undoStack().setClean();
-    m_parts.say(tr("已保存：%1").arg(fileName));
+    m_parts.say(m_parts.document->quarters() == 0
+                    ? tr("已保存：%1").arg(fileName)
+                    : tr("已保存：%1。页面的旋转只用于查看，不写入文件").arg(fileName));
     return true;
+}
+
+bool FileCommands::mayBreakSignature(const QString &fileName) const
+{
+    const Document &document = *m_parts.document;
+    if (!document.file().isSigned || !document.isModified()
+        || !fileName.endsWith(ofdSuffix, Qt::CaseInsensitive))
+        return true;
+    QMessageBox box(QMessageBox::Question, m_parts.window->windowTitle(),
+                    tr("本文件有电子签名，写入批注后签名可能不再有效。要继续保存吗？"),
+                    QMessageBox::NoButton, m_parts.window);
+    const QPushButton *saving = box.addButton(tr("保存"), QMessageBox::AcceptRole);
+    QPushButton *cancelling = box.addButton(tr("取消"), QMessageBox::RejectRole);
+    box.setDefaultButton(cancelling);
+    box.setEscapeButton(cancelling);
+    box.exec();
+    return box.clickedButton() == saving;
 }
 
 void FileCommands::print()
 {
+    const int most = m_parts.document->file().permissions.mostCopies;
     if (Printing::ask(*m_parts.document, m_parts.view->currentPage(), m_parts.window))
-        m_parts.say(tr("已打印"));
+        m_parts.say(most < 0 ? tr("已打印") : tr("已打印；本文件每次最多打印 %1 份").arg(most));
     else
         m_parts.say(tr("没有打印"));
 }
 
 QString FileCommands::askFileToWrite() const
 {
-    const QMap<QString, QString> suffixes = {{ofdFilter(), QStringLiteral(".ofd")},
+    const QMap<QString, QString> suffixes = {{ofdFilter(), ofdSuffix},
                                              {pdfFilter(), QStringLiteral(".pdf")},
                                              {textFilter(), QStringLiteral(".txt")},
                                              {pictureFilter(), QStringLiteral(".png")}};
-    QStringList filters = {pdfFilter(), textFilter(), pictureFilter()};
-    // The OFD format comes first as long as it loses nothing: it copies the file without changes.
+    QStringList filters;
+    if (m_parts.document->refusalOf(Act::Export).isEmpty())
+        filters = QStringList{pdfFilter(), textFilter(), pictureFilter()};
+    // The OFD format comes first unless it loses something.
+    const bool loses = !OfdSaving::lossOf(*m_parts.document).isEmpty();
     if (!m_parts.document->isGenerated())
-        filters.insert(m_parts.document->isModified() ? 1 : 0, ofdFilter());
+        filters.insert(loses && !filters.isEmpty() ? 1 : 0, ofdFilter());
     const QFileInfo file(m_parts.document->fileName());
     QString chosen = filters.first();
     QString fileName = QFileDialog::getSaveFileName(

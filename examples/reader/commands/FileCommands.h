@@ -42,12 +42,16 @@ public:
     void showSignatures(int signature = 0) const;
 
 private:
+    void tellOpened(const QString &fileName);
     void askAndOpen();
     void close();
     // Returns whether the document has no unsaved changes afterwards.
     bool save();
     bool saveAs();
     bool saveTo(const QString &fileName);
+    /** Whether saving may replace the opened file, which then loses nothing. */
+    bool mayReplaceFile() const;
+    bool mayBreakSignature(const QString &fileName) const;
     void print();
     void showProperties() const;
     void showPreferences();

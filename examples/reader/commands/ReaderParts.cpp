@@ -28,6 +28,18 @@ MRToolBarCommands::Command ReaderParts::addForDocument(MRToolBarCommands &comman
     return commands.add(names, run).usableWhen([open = document] { return open->isOpen(); });
 }
 
+MRToolBarCommands::Command ReaderParts::addAllowed(Act act, MRToolBarCommands &commands,
+                                                   const QStringList &names,
+                                                   const MRToolBarCommands::RunNamed &run) const
+{
+    auto added = commands.add(names, run);
+    added.usableWhen(
+        [open = document, act] { return open->isOpen() && open->refusalOf(act).isEmpty(); });
+    added.withToolTip(
+        [open = document, act] { return open->isOpen() ? open->refusalOf(act) : QString(); });
+    return added;
+}
+
 void ReaderParts::say(const QString &message) const
 {
     window->statusBar()->showMessage(message, messageTime);

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "document/Refusal.h"
+
 #include <toolbar/MRToolBarCommands.h>
 
 #include <functional>
@@ -38,6 +40,11 @@ struct ReaderParts
                                               const MRToolBarCommands::Run &run) const;
     MRToolBarCommands::Command addForDocument(MRToolBarCommands &commands, const QStringList &names,
                                               const MRToolBarCommands::RunNamed &run) const;
+
+    /** The same for what the author of the document may forbid, which the tooltip then says. */
+    MRToolBarCommands::Command addAllowed(Act act, MRToolBarCommands &commands,
+                                          const QStringList &names,
+                                          const MRToolBarCommands::RunNamed &run) const;
 
     /** Shows a line in the status bar for a while. */
     void say(const QString &message) const;

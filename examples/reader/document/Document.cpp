@@ -85,15 +85,32 @@ void Document::replace(const QString &fileName, const QList<Page> &pages, const 
     m_fileName = fileName;
     m_file = file;
     m_undoStack.clear();
-    m_marks.clear();
     m_quarters = 0;
     m_pages = pages;
+    adoptMarks();
     pagesReplaced();
     Q_EMIT marksChanged();
     if (!m_file.document)
         return;
     m_survey = std::make_unique<PageSurvey>(m_file.document);
     connect(m_survey.get(), &PageSurvey::learnt, this, &Document::learn);
+}
+
+void Document::adoptMarks()
+{
+    m_marks = m_file.marks;
+    for (Mark &mark : m_marks) {
+        mark.id = ++m_lastMarkId;
+        // A mark is painted as those that are drawn now, and not as a part of its page.
+        if (mark.kind != MarkKind::Annotation)
+            setHidden(mark, true);
+    }
+}
+
+void Document::setHidden(const Mark &mark, bool isHidden)
+{
+    for (const auto &origin : mark.origins)
+        m_file.hidden->set(origin.first, origin.second, isHidden);
 }
 
 void Document::pagesReplaced()
@@ -185,6 +202,8 @@ bool Document::hasPageOf(const Mark &mark) const
 void Document::addMark(Mark mark, const QString &what)
 {
     mark.id = ++m_lastMarkId;
+    mark.creator = qEnvironmentVariable("USER", QStringLiteral("user"));
+    mark.date = QDate::currentDate();
     m_undoStack.push(new AddMarkEdit(*this, mark, what));
 }
 
@@ -193,8 +212,51 @@ void Document::eraseInk(int page, QPointF point, qreal radius)
     for (int i = int(m_marks.size()) - 1; i >= 0; --i) {
         const Mark mark = m_marks.at(i);
         if (mark.kind == MarkKind::Ink && mark.page == page && passesNear(mark, point, radius))
-            m_undoStack.push(new RemoveMarkEdit(*this, i));
+            m_undoStack.push(new RemoveMarkEdit(*this, i, tr("擦除笔迹")));
     }
+}
+
+void Document::deleteMark(int id, const QString &what)
+{
+    for (int i = 0; i < m_marks.size(); ++i) {
+        if (m_marks.at(i).id == id) {
+            m_undoStack.push(new RemoveMarkEdit(*this, i, what));
+            return;
+        }
+    }
+}
+
+void Document::setMarkText(int id, const QString &text)
+{
+    const Mark *mark = markOf(id);
+    if (mark && mark->text != text)
+        m_undoStack.push(new ChangeTextEdit(*this, *mark, text));
+}
+
+const Mark *Document::markOf(int id) const
+{
+    for (const Mark &mark : m_marks) {
+        if (mark.id == id)
+            return &mark;
+    }
+    return nullptr;
+}
+
+int Document::filePageOf(int page) const
+{
+    // Pages can be inserted, but not moved or removed.
+    return contentOf(page) ? int(std::count_if(m_pages.cbegin(), m_pages.cbegin() + page,
+                                               [](const Page &each) { return each.content; }))
+                           : -1;
+}
+
+int Document::pageOfFilePage(int filePage) const
+{
+    for (int page = 0; page < pageCount(); ++page) {
+        if (contentOf(page) && filePage-- == 0)
+            return page;
+    }
+    return -1;
 }
 
 void Document::insertPage(int index, const Page &page, const QString &what)
@@ -205,6 +267,19 @@ void Document::insertPage(int index, const Page &page, const QString &what)
 void Document::placeMark(int position, const Mark &mark)
 {
     m_marks.insert(position, mark);
+    if (mark.kind == MarkKind::Annotation) {
+        setHidden(mark, false);
+        Q_EMIT contentChanged();
+    }
+    Q_EMIT marksChanged();
+}
+
+void Document::replaceMark(const Mark &mark)
+{
+    for (Mark &each : m_marks) {
+        if (each.id == mark.id)
+            each = mark;
+    }
     Q_EMIT marksChanged();
 }
 
@@ -212,7 +287,11 @@ void Document::removeMark(int id)
 {
     for (int i = 0; i < m_marks.size(); ++i) {
         if (m_marks.at(i).id == id) {
-            m_marks.removeAt(i);
+            const Mark removed = m_marks.takeAt(i);
+            if (removed.kind == MarkKind::Annotation) {
+                setHidden(removed, true);
+                Q_EMIT contentChanged();
+            }
             break;
         }
     }

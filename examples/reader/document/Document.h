@@ -6,6 +6,7 @@
 #include "document/DocumentEdits.h"
 #include "document/OfdFile.h"
 #include "document/PageSurvey.h"
+#include "document/Refusal.h"
 
 #include <QCache>
 #include <QList>
@@ -36,6 +37,8 @@ public:
     /** The further content of the file; empty for generated pages. */
     const OfdFile &file() const { return m_file; }
     bool isGenerated() const { return m_file.archive.isEmpty(); }
+    /** One sentence that says why the author forbids an act; empty if it is allowed. */
+    QString refusalOf(Act act) const { return ::refusalOf(act, m_file.permissions); }
 
     int pageCount() const { return int(m_pages.size()); }
     /** The page with its text, which takes time now and then; sizeOf() does not need it. */
@@ -64,11 +67,21 @@ public:
     void addMark(Mark mark, const QString &what);
     /** Removes the ink that passes within @p radius of a point. */
     void eraseInk(int page, QPointF point, qreal radius);
+    void deleteMark(int id, const QString &what);
+    void setMarkText(int id, const QString &text);
+    /** The mark of that identifier; nullptr if there is none. */
+    const Mark *markOf(int id) const;
     void insertPage(int index, const Page &page, const QString &what);
+    /** The index that a page has in the file; -1 for an inserted one. */
+    int filePageOf(int page) const;
+    /** The page that has that index in the file. */
+    int pageOfFilePage(int filePage) const;
 
 Q_SIGNALS:
-    /** Marks were added or removed. */
+    /** Marks were added, changed or removed. */
     void marksChanged();
+    /** Pages look different, because annotations of the file were removed or restored. */
+    void contentChanged();
     /** Pages were added or removed; the pages of marks may have changed. */
     void pagesChanged();
     /** The true sizes of pages became known. */
@@ -83,9 +96,12 @@ private:
     void pagesReplaced();
     void measureLargest();
     void learn();
+    void adoptMarks();
+    void setHidden(const Mark &mark, bool isHidden);
 
     void placeMark(int position, const Mark &mark) override;
     void removeMark(int id) override;
+    void replaceMark(const Mark &mark) override;
     void placePage(int index, const Page &page) override;
     void removePage(int index) override;
     void turnBy(int quarters) override;

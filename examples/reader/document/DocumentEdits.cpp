@@ -20,8 +20,8 @@ void AddMarkEdit::undo()
     m_document.removeMark(m_mark.id);
 }
 
-RemoveMarkEdit::RemoveMarkEdit(EditableDocument &document, int position)
-    : QUndoCommand(tr("擦除笔迹"))
+RemoveMarkEdit::RemoveMarkEdit(EditableDocument &document, int position, const QString &what)
+    : QUndoCommand(what)
     , m_document(document)
     , m_position(position)
     , m_mark(document.marks().at(position))
@@ -36,6 +36,27 @@ void RemoveMarkEdit::redo()
 void RemoveMarkEdit::undo()
 {
     m_document.placeMark(m_position, m_mark);
+}
+
+ChangeTextEdit::ChangeTextEdit(EditableDocument &document, const Mark &mark, const QString &text)
+    : QUndoCommand(tr("编辑批注"))
+    , m_document(document)
+    , m_before(mark)
+    , m_after(mark)
+{
+    m_after.text = text;
+    m_after.date = QDate::currentDate();
+    m_after.isEdited = true;
+}
+
+void ChangeTextEdit::redo()
+{
+    m_document.replaceMark(m_after);
+}
+
+void ChangeTextEdit::undo()
+{
+    m_document.replaceMark(m_before);
 }
 
 InsertPageEdit::InsertPageEdit(EditableDocument &document, int index, const Page &page,

@@ -20,6 +20,8 @@ public:
     virtual const QList<Mark> &marks() const = 0;
     virtual void placeMark(int position, const Mark &mark) = 0;
     virtual void removeMark(int id) = 0;
+    /** Replaces the mark with the same identifier. */
+    virtual void replaceMark(const Mark &mark) = 0;
     virtual void placePage(int index, const Page &page) = 0;
     virtual void removePage(int index) = 0;
     /** Rotates all pages clockwise by quarter turns. */
@@ -42,10 +44,8 @@ private:
 /** Removes a mark; undo restores its position in the order of painting. */
 class RemoveMarkEdit : public QUndoCommand
 {
-    Q_DECLARE_TR_FUNCTIONS(RemoveMarkEdit)
-
 public:
-    RemoveMarkEdit(EditableDocument &document, int position);
+    RemoveMarkEdit(EditableDocument &document, int position, const QString &what);
     void redo() override;
     void undo() override;
 
@@ -53,6 +53,22 @@ private:
     EditableDocument &m_document;
     int m_position;
     Mark m_mark;
+};
+
+/** Changes the text of a mark. */
+class ChangeTextEdit : public QUndoCommand
+{
+    Q_DECLARE_TR_FUNCTIONS(ChangeTextEdit)
+
+public:
+    ChangeTextEdit(EditableDocument &document, const Mark &mark, const QString &text);
+    void redo() override;
+    void undo() override;
+
+private:
+    EditableDocument &m_document;
+    Mark m_before;
+    Mark m_after;
 };
 
 /** Rotates the pages, which does not modify the document. */

@@ -4,8 +4,11 @@
 #pragma once
 
 #include <QColor>
+#include <QDate>
+#include <QPair>
 #include <QPolygonF>
 #include <QString>
+#include <QVector>
 
 /** The kinds of marks. Marks are painted in the order of their list, not in that of the kinds. */
 enum class MarkKind
@@ -33,7 +36,8 @@ enum class MarkKind
     SealPlace,
     Stamp,
     Picture,
-    Watermark
+    Watermark,
+    Annotation ///< One of the file that this program has not drawn; its page paints it.
 };
 
 /** The page index of a mark that is on every page. */
@@ -48,7 +52,13 @@ struct Mark
     QString text;     ///< The sign of a revision, or the text of a box or stamp.
     QColor colour = Qt::red;
     qreal width = 2;
-    int id = 0; ///< Given by the document.
+    int id = 0;      ///< Given by the document.
+    QString creator; ///< Who drew it.
+    QDate date;      ///< Of the last change.
+    QString type;    ///< What the file calls an annotation.
+    /** Its annotations in the file, by the index of a page in the file and in its list. */
+    QVector<QPair<int, int>> origins;
+    bool isEdited = false; ///< It is not any more what is in the file.
 
     QRectF rect() const { return points.boundingRect(); }
 };

@@ -3,7 +3,11 @@
 
 #include "document/OfdFile.h"
 
+#include "document/MarkAnnotation.h"
 #include "document/OfdPainters.h"
+#include "document/PageLinks.h"
+#include "ofd/DocumentRoot.h"
+#include "ofd/Fault.h"
 #include "ofd/PageText.h"
 
 #include <QPainter>
@@ -33,11 +37,11 @@ void paintFault(QPainter &painter, const QSizeF &size, const QString &sentence)
 }
 
 void paintInPageUnits(QPainter &painter, Ofd::Painter &pages, int index,
-                      const std::atomic_bool *isAbandoned)
+                      const HiddenAnnotations &hidden, const std::atomic_bool *isAbandoned)
 {
     painter.save();
     painter.scale(unitsPerMillimetre, unitsPerMillimetre);
-    pages.paint(painter, index, isAbandoned);
+    pages.paint(painter, index, hidden.on(index), isAbandoned);
     painter.restore();
     const Ofd::PageStore &store = *pages.document().pages;
     const QString fault = store.fault(index);
@@ -49,33 +53,40 @@ void paintInPageUnits(QPainter &painter, Ofd::Painter &pages, int index,
 class OfdContentPainter : public ContentPainter
 {
 public:
-    explicit OfdContentPainter(const std::shared_ptr<const Ofd::Document> &document)
+    OfdContentPainter(const std::shared_ptr<const Ofd::Document> &document,
+                      const std::shared_ptr<const HiddenAnnotations> &hidden)
         : m_painter(document)
+        , m_hidden(hidden)
     {
     }
 
     void paint(QPainter &painter, int index, const std::atomic_bool &isAbandoned) override
     {
-        paintInPageUnits(painter, m_painter, index, &isAbandoned);
+        paintInPageUnits(painter, m_painter, index, *m_hidden, &isAbandoned);
     }
 
 private:
     Ofd::Painter m_painter;
+    std::shared_ptr<const HiddenAnnotations> m_hidden;
 };
 
 /** One page of a document; all pages share the painters. */
 class OfdPageContent : public PageContent
 {
 public:
-    OfdPageContent(const std::shared_ptr<OfdPainters> &painters, int page)
+    OfdPageContent(const std::shared_ptr<OfdPainters> &painters,
+                   const std::shared_ptr<HiddenAnnotations> &hidden,
+                   const std::shared_ptr<const PageLinks> &links, int page)
         : m_painters(painters)
+        , m_hidden(hidden)
+        , m_links(links)
         , m_page(page)
     {
     }
 
     void paint(QPainter &painter) const override
     {
-        paintInPageUnits(painter, m_painters->here(), m_page, nullptr);
+        paintInPageUnits(painter, m_painters->here(), m_page, *m_hidden, nullptr);
     }
 
     QSizeF size() const override { return pages().area(m_page).size() * unitsPerMillimetre; }
@@ -89,8 +100,8 @@ public:
     MakeContentPainter painterMaker() const override
     {
         // Not this page: the last thread that has it deletes the fonts of the main thread.
-        return [document = m_painters->document()] {
-            return std::make_unique<OfdContentPainter>(document);
+        return [document = m_painters->document(), hidden = m_hidden] {
+            return std::make_unique<OfdContentPainter>(document, hidden);
         };
     }
 
@@ -128,10 +139,18 @@ public:
         }
     }
 
+    QVector<PageLink> links() const override
+    {
+        const auto page = m_painters->document()->page(m_page);
+        return m_links->on(*page, m_hidden->on(m_page));
+    }
+
 private:
     const Ofd::PageStore &pages() const { return *m_painters->document()->pages; }
 
     std::shared_ptr<OfdPainters> m_painters;
+    std::shared_ptr<HiddenAnnotations> m_hidden;
+    std::shared_ptr<const PageLinks> m_links;
     int m_page;
 };
 
@@ -179,10 +198,12 @@ bool OfdFile::read(const QString &fileName, QList<Page> *pages, QString *error, 
         return false;
     document = read;
     const auto painters = std::make_shared<OfdPainters>(document);
+    hidden = std::make_shared<HiddenAnnotations>();
+    const auto links = std::make_shared<const PageLinks>(*document);
     pages->clear();
     for (int i = 0; i < document->pageCount(); ++i) {
         Page page;
-        page.content = std::make_shared<OfdPageContent>(painters, i);
+        page.content = std::make_shared<OfdPageContent>(painters, hidden, links, i);
         page.size = page.content->size();
         page.isTextRead = false;
         pages->append(page);
@@ -192,6 +213,33 @@ bool OfdFile::read(const QString &fileName, QList<Page> *pages, QString *error, 
     information = document->information;
     outline = placesOf(document->outline);
     bookmarks = placesOf(document->bookmarks);
-    attachments = document->attachments;
+    for (const Ofd::Attachment &attachment : document->attachments)
+        attachments.append(attachment.name);
+    readActs();
     return true;
+}
+
+void OfdFile::readActs()
+{
+    const Ofd::DocumentRoot root(*document);
+    permissions = Ofd::Permissions::of(root.element);
+    isSigned = root.isSigned;
+    marks = MarkAnnotation::marksOf(*document);
+}
+
+QPointF OfdFile::cornerOf(int page) const
+{
+    document->pages->measure(page); // An estimate would misplace marks.
+    return document->area(page).topLeft();
+}
+
+QByteArray OfdFile::attachment(int index, QString *error) const
+{
+    error->clear();
+    try {
+        return document->package->read(document->attachments.at(index).file);
+    } catch (const Ofd::Fault &fault) {
+        *error = fault.message;
+        return QByteArray();
+    }
 }

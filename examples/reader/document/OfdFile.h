@@ -3,17 +3,18 @@
 
 #pragma once
 
+#include "document/HiddenAnnotations.h"
+#include "document/Mark.h"
 #include "document/Page.h"
 #include "ofd/Document.h"
+#include "ofd/Permissions.h"
 
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QPair>
 #include <QStringList>
 
-namespace Ofd {
-struct Document;
-}
+#include <memory>
 
 /** An entry of the outline or a bookmark. */
 struct NamedPlace
@@ -35,7 +36,10 @@ public:
     QList<NamedPlace> outline;
     QList<NamedPlace> bookmarks;
     QStringList attachments;
+    Ofd::Permissions permissions;
     bool isSigned = false;
+    QList<Mark> marks;
+    std::shared_ptr<HiddenAnnotations> hidden;
 
     /** The sentence about a page that is not shown. */
     static QString faultOf(int page, const QString &fault);
@@ -48,7 +52,14 @@ public:
      */
     bool read(const QString &fileName, QList<Page> *pages, QString *error, int body = 0);
 
+    /** The top left corner of a page in the coordinates of the file. */
+    QPointF cornerOf(int page) const;
+    /** The content of an attached file; on failure sets @p error to one sentence. */
+    QByteArray attachment(int index, QString *error) const;
+
 private:
+    void readActs();
+
     mutable QStringList m_missingFonts;
     mutable int m_testedFonts = 0;
 };

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "document/PageLink.h"
+
 #include <QFont>
 #include <QList>
 #include <QRectF>
@@ -59,6 +61,8 @@ public:
     virtual QSizeF size() const { return QSizeF(); }
     /** Why nothing is shown, in one sentence; empty also as long as the page was not read. */
     virtual QString fault() const { return QString(); }
+    /** What can be clicked, from the lowest to the topmost. */
+    virtual QVector<PageLink> links() const { return {}; }
 };
 
 /** One laid-out line; `start` and `length` point into the text of its page. */

@@ -3,27 +3,70 @@
 
 #include "ofd/Annotations.h"
 
+#include "ofd/DocumentRoot.h"
 #include "ofd/Extras.h"
+#include "ofd/Fault.h"
+#include "ofd/Links.h"
 #include "ofd/Values.h"
 
 namespace Ofd {
 
 namespace {
 
-Annotation annotationOf(const XmlElement &element, ObjectReader &objects)
+QVector<QPair<QString, QString>> parametersOf(const XmlElement &element)
+{
+    QVector<QPair<QString, QString>> parameters;
+    const XmlElement *list = element.child("Parameters");
+    if (!list)
+        return parameters;
+    for (const XmlElement &parameter : list->children)
+        parameters.append({parameter.attribute("Name"), parameter.text});
+    return parameters;
+}
+
+/** An annotation with the place of its appearance, but without its content. */
+Annotation headOf(const XmlElement &element)
 {
     Annotation annotation;
     annotation.id = element.attribute("ID");
     annotation.type = element.attribute("Type");
+    annotation.subtype = element.attribute("Subtype");
     annotation.creator = element.attribute("Creator");
+    annotation.date = element.attribute("LastModDate");
     annotation.remark = element.childText("Remark");
+    annotation.parameters = parametersOf(element);
     annotation.isVisible = element.flag("Visible", true);
+    const XmlElement *appearance = element.child("Appearance");
+    if (!appearance)
+        return annotation;
+    annotation.appearance.boundary = Values::box(appearance->attribute("Boundary"));
+    annotation.links = Links::read(*appearance, annotation.appearance.boundary.topLeft());
+    // The whole of a link leads to its target, not only the object that has it.
+    if (annotation.type == QLatin1String("Link")) {
+        for (Link &link : annotation.links)
+            link.area |= annotation.appearance.boundary;
+    }
+    return annotation;
+}
+
+Annotation annotationOf(const XmlElement &element, ObjectReader &objects)
+{
+    Annotation annotation = headOf(element);
     if (const XmlElement *appearance = element.child("Appearance")) {
-        annotation.appearance.boundary = Values::box(appearance->attribute("Boundary"));
         const Objects inside = objects.readAll(*appearance, Style());
         annotation.appearance.content = Group{std::make_shared<const Objects>(inside)};
     }
     return annotation;
+}
+
+QVector<Annotation> headsOf(const XmlElement &list)
+{
+    QVector<Annotation> heads;
+    for (const XmlElement &element : list.children) {
+        if (element.is("Annot"))
+            heads.append(headOf(element));
+    }
+    return heads;
 }
 
 } // namespace
@@ -53,6 +96,27 @@ QVector<Annotation> Annotations::read(const XmlElement &list, ObjectReader &obje
             annotations.append(annotationOf(element, objects));
     }
     return annotations;
+}
+
+QMap<int, QVector<Annotation>> Annotations::heads(const Document &document)
+{
+    QMap<int, QVector<Annotation>> heads;
+    const Package &package = *document.package;
+    const DocumentRoot root(document);
+    QHash<int, QString> files;
+    try {
+        files = lists(package, root.element, document.path, root.pageIndexes);
+    } catch (const Fault &) {
+        return heads;
+    }
+    for (auto file = files.cbegin(); file != files.cend(); ++file) {
+        try {
+            heads.insert(file.key(), headsOf(XmlElement::parse(package.read(*file), *file)));
+        } catch (const Fault &) {
+            continue;
+        }
+    }
+    return heads;
 }
 
 } // namespace Ofd

@@ -16,4 +16,10 @@ QHash<int, QString> lists(const Package &package, const XmlElement &root, const 
 /** Reads one of those lists. */
 QVector<Annotation> read(const XmlElement &list, ObjectReader &objects);
 
+/**
+ * Reads all lists without the content of the appearances, by the index of the page. Lists that
+ * cannot be read are left out.
+ */
+QMap<int, QVector<Annotation>> heads(const Document &document);
+
 } // namespace Ofd::Annotations

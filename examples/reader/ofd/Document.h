@@ -59,6 +59,13 @@ struct SignatureList
     QStringList entries; ///< The descriptions of the signatures.
 };
 
+struct Attachment
+{
+    QString id;
+    QString name;
+    QString file; ///< Its entry in the package; empty if there is none.
+};
+
 /** An entry of the outline or a bookmark. */
 struct Target
 {
@@ -87,6 +94,7 @@ struct Document
     }
 
     std::shared_ptr<Package> package;
+    QString path;                                 ///< The entry with the root of the document.
     QVector<QPair<QString, QString>> information; ///< Names and values.
     QString title;
     QStringList bodies; ///< The names of all documents in the package, of which this is one.
@@ -95,7 +103,7 @@ struct Document
     std::unique_ptr<PageStore> pages;
     QVector<Target> outline;
     QVector<Target> bookmarks;
-    QStringList attachments;
+    QVector<Attachment> attachments;
     SignatureList signatures;
     QHash<int, QVector<Stamp>> stamps; ///< By page, above everything else.
     /** The number of left out parts by kind, in what was read or painted so far. */

@@ -44,6 +44,7 @@ public:
             chosen ? package.find(entryPoint, chosen->childText("DocRoot")) : QString();
         if (path.isEmpty())
             throw Fault{Wording::tr("文件不完整：没有文档入口 Document.xml。")};
+        m_document.path = path;
         if (const XmlElement *information = chosen->child("DocInfo"))
             Extras::readInformation(*information, m_document);
         const QHash<QString, int> pages =

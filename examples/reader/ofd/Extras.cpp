@@ -108,7 +108,9 @@ void Extras::readAttachments(const XmlElement &root, const QString &from, Docume
         return;
     for (const XmlElement &attachment : list->children) {
         if (attachment.flag("Visible", true))
-            document.attachments.append(attachment.attribute("Name"));
+            document.attachments.append(
+                {attachment.attribute("ID"), attachment.attribute("Name"),
+                 document.package->find(path, attachment.childText("FileLoc"))});
     }
 }
 

@@ -5,6 +5,7 @@
 
 #include "ofd/Fault.h"
 #include "ofd/Limits.h"
+#include "ofd/Links.h"
 #include "ofd/Values.h"
 #include "ofd/Wording.h"
 
@@ -96,6 +97,7 @@ Page PageReader::read(const QString &path)
         page.area = own.isNull() ? m_commonArea : own;
     }
     page.layers = layersOf(content, path, &page.composites);
+    page.links = Links::read(content, QPointF());
     return page;
 }
 

@@ -3,11 +3,13 @@
 
 #pragma once
 
+#include "ofd/Link.h"
 #include "ofd/Objects.h"
 
 #include <QCache>
 #include <QHash>
 #include <QMutex>
+#include <QPair>
 
 #include <functional>
 
@@ -18,10 +20,14 @@ struct Annotation
 {
     QString id;
     QString type; ///< As the file names it, such as "Link" or "Highlight".
+    QString subtype;
     QString creator;
+    QString date;   ///< Of the last change, as the file gives it.
     QString remark; ///< What it says, as plain text.
+    QVector<QPair<QString, QString>> parameters;
     bool isVisible = true;
     Object appearance;
+    QVector<Link> links;
 };
 
 struct Page
@@ -30,6 +36,7 @@ struct Page
     /** From back to front; pages share the objects of their templates. */
     QVector<std::shared_ptr<const Objects>> layers;
     QVector<Annotation> annotations; ///< Above the layers.
+    QVector<Link> links;             ///< Of the content.
     /** Those of its own resources; Document::composite() looks here first. */
     QHash<QString, std::shared_ptr<const Objects>> composites;
     QString fault; ///< Why the page is empty, in one sentence; null for a page in order.

@@ -86,7 +86,8 @@ Painter::Painter(std::shared_ptr<const Document> document)
 {
 }
 
-void Painter::paint(QPainter &painter, int page, const std::atomic_bool *isAbandoned)
+void Painter::paint(QPainter &painter, int page, const QSet<int> &hiddenAnnotations,
+                    const std::atomic_bool *isAbandoned)
 {
     m_layers = 0;
     painter.save();
@@ -97,8 +98,9 @@ void Painter::paint(QPainter &painter, int page, const std::atomic_bool *isAband
     painter.translate(-m_shown->area.topLeft());
     for (const auto &layer : m_shown->layers)
         paintAll(painter, *layer);
-    for (const Annotation &annotation : m_shown->annotations) {
-        if (annotation.isVisible)
+    for (int i = 0; i < m_shown->annotations.size(); ++i) {
+        const Annotation &annotation = m_shown->annotations.at(i);
+        if (annotation.isVisible && !hiddenAnnotations.contains(i))
             paintAll(painter, {annotation.appearance});
     }
     const QVector<Stamp> stamps = m_document->stamps.value(page);

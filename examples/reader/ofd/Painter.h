@@ -6,6 +6,8 @@
 #include "ofd/FontSet.h"
 #include "ofd/ImageStore.h"
 
+#include <QSet>
+
 #include <atomic>
 #include <map>
 
@@ -29,10 +31,12 @@ public:
     FontSet &fonts() { return m_fonts; }
 
     /**
-     * Paints the content of a page, without paper, in millimetres from its top left corner. Ends
-     * early once @p isAbandoned is true, which another thread may set.
+     * Paints the content of a page, without paper, in millimetres from its top left corner.
+     * Annotations with the given indexes are left out. Ends early once @p isAbandoned is true,
+     * which another thread may set.
      */
-    void paint(QPainter &painter, int page, const std::atomic_bool *isAbandoned = nullptr);
+    void paint(QPainter &painter, int page, const QSet<int> &hiddenAnnotations = {},
+               const std::atomic_bool *isAbandoned = nullptr);
 
 private:
     void paintStamp(QPainter &painter, const Stamp &stamp);

@@ -4,9 +4,11 @@
 #include "pages/Export.h"
 
 #include "document/Document.h"
+#include "pages/OfdSaving.h"
 #include "pages/PagePainter.h"
 #include "pages/PdfText.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QPainter>
 #include <QPdfWriter>
@@ -101,8 +103,10 @@ bool writePictures(const Document &document, const QString &fileName)
 
 } // namespace
 
-bool Export::write(const Document &document, const QString &fileName)
+bool Export::write(const Document &document, const QString &fileName, QString *error)
 {
+    const QString refusal = QCoreApplication::translate("Export", "无法写入：%1").arg(fileName);
+    *error = refusal;
     if (hasSuffix(fileName, pictureSuffix))
         return writePictures(document, fileName);
     QSaveFile file(fileName);
@@ -110,8 +114,11 @@ bool Export::write(const Document &document, const QString &fileName)
         return false;
     bool isWritten = false;
     if (hasSuffix(fileName, ".ofd")) {
-        const QByteArray &archive = document.file().archive;
-        isWritten = !archive.isEmpty() && file.write(archive) == archive.size();
+        const QByteArray archive = OfdSaving::archiveOf(document, error);
+        if (archive.isEmpty())
+            return false;
+        *error = refusal;
+        isWritten = file.write(archive) == archive.size();
     } else if (hasSuffix(fileName, ".txt")) {
         isWritten = writeText(document, file);
     } else {
@@ -120,7 +127,11 @@ bool Export::write(const Document &document, const QString &fileName)
     return isWritten && file.commit();
 }
 
-bool Export::keepsMarks(const QString &fileName)
+QString Export::lossOf(const Document &document, const QString &fileName)
 {
-    return !hasSuffix(fileName, ".ofd") && !hasSuffix(fileName, ".txt");
+    if (hasSuffix(fileName, ".ofd"))
+        return OfdSaving::lossOf(document);
+    if (hasSuffix(fileName, ".txt") && document.isModified())
+        return QCoreApplication::translate("Export", "文本文件中不含批注");
+    return QString();
 }

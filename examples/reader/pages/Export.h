@@ -11,13 +11,14 @@ class Document;
 namespace Export {
 
 /**
- * Writes the file; the suffix of the name selects the OFD file as it was opened, plain text, PNG,
- * or otherwise PDF. PNG gives a picture of each page; those of several pages have numbers before
- * the suffix and must not exist. Returns false on failure.
+ * Writes the file; the suffix of the name selects the OFD file with its marks, plain text, PNG, or
+ * otherwise PDF. PNG gives a picture of each page; those of several pages have numbers before the
+ * suffix and must not exist. On failure returns false, and sets @p error to one sentence; no file
+ * is left half-written.
  */
-bool write(const Document &document, const QString &fileName);
+bool write(const Document &document, const QString &fileName, QString *error);
 
-/** Whether the format for that file name includes the marks. */
-bool keepsMarks(const QString &fileName);
+/** One sentence about what the format for that file name loses; empty if it loses nothing. */
+QString lossOf(const Document &document, const QString &fileName);
 
 } // namespace Export

@@ -100,6 +100,7 @@ QString markName(MarkKind kind)
         {MarkKind::Stamp, QT_TRANSLATE_NOOP("Mark", "图章")},
         {MarkKind::Picture, QT_TRANSLATE_NOOP("Mark", "贴图")},
         {MarkKind::Watermark, QT_TRANSLATE_NOOP("Mark", "水印")},
+        {MarkKind::Annotation, QT_TRANSLATE_NOOP("Mark", "批注")},
     };
     return QCoreApplication::translate("Mark", names.value(kind));
 }

@@ -23,6 +23,7 @@ PageView::PageView(const Document &document, QWidget *parent)
 {
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::StrongFocus);
+    viewport()->setMouseTracking(true);
     verticalScrollBar()->setSingleStep(arrowStep);
     horizontalScrollBar()->setSingleStep(arrowStep);
     setTool(PageTool::of(QString()));
@@ -30,6 +31,10 @@ PageView::PageView(const Document &document, QWidget *parent)
     connect(&document, &Document::sizesChanged, this, &PageView::layOutInPlace);
     connect(&document, &Document::turned, this, &PageView::documentTurned);
     connect(&m_cache, &PageCache::changed, viewport(), QOverload<>::of(&QWidget::update));
+    connect(&document, &Document::contentChanged, this, [this] {
+        m_cache.clear();
+        viewport()->update();
+    });
     connect(&document, &Document::marksChanged, viewport(), QOverload<>::of(&QWidget::update));
 }
 
@@ -103,18 +108,7 @@ void PageView::setTool(const PageTool &tool)
 {
     m_tool = tool;
     m_drag = Drag();
-    switch (tool.gesture) {
-    case PageTool::Pan:
-        viewport()->setCursor(Qt::OpenHandCursor);
-        break;
-    case PageTool::SelectText:
-    case PageTool::MarkText:
-        viewport()->setCursor(Qt::IBeamCursor);
-        break;
-    default:
-        viewport()->setCursor(Qt::CrossCursor);
-        break;
-    }
+    showToolCursor();
 }
 
 void PageView::setHits(const QList<TextRange> &hits, const TextRange &current)

@@ -28,6 +28,9 @@ public:
     int currentPage() const { return m_currentPage; }
     void setCurrentPage(int page);
 
+    /** Scrolls to a place of the document, with its zoom if it has one. */
+    void showPlace(const PagePlace &place);
+
     LayoutMode layoutMode() const { return m_layoutMode; }
     void setLayoutMode(LayoutMode mode);
 
@@ -71,6 +74,7 @@ Q_SIGNALS:
     void inkRubbed(int page, QPointF point, qreal radius);
     /** The user wants to know about the signature, counted from 0, of a seal. */
     void signatureAsked(int signature);
+    void linkClicked(const PageLink &link);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -94,6 +98,7 @@ private:
     struct Drag
     {
         bool isActive = false;
+        QPoint firstPosition;
         QPoint lastPosition;
         PagePoint start;
         int textStart = -1;
@@ -122,6 +127,12 @@ private:
     PageCache::Sheet sheetOf(int page) const;
     void paintHint(QPainter &painter);
     PageColours colours() const;
+
+    // Links, which only the tools for reading follow.
+    PageLink linkAt(QPoint position) const;
+    void showToolCursor();
+    void showCursorAt(QPoint position);
+    void clickLink(const Drag &drag);
 
     // Mouse drags.
     void startDrag(QPoint position);

@@ -58,6 +58,7 @@ void PageView::startDrag(QPoint position)
 {
     m_drag = Drag();
     m_drag.isActive = true;
+    m_drag.firstPosition = position;
     m_drag.lastPosition = position;
     m_drag.start = pagePointAt(position);
     m_drag.mark.page = m_drag.start.page;
@@ -88,8 +89,10 @@ void PageView::startDrag(QPoint position)
 
 void PageView::mouseMoveEvent(QMouseEvent *event)
 {
-    if (!m_drag.isActive)
+    if (!m_drag.isActive) {
+        showCursorAt(event->pos());
         return;
+    }
     const QPoint moved = event->pos() - m_drag.lastPosition;
     m_drag.lastPosition = event->pos();
     const PagePoint now = pagePointAt(event->pos());
@@ -163,7 +166,9 @@ void PageView::finishDrag()
     const QRectF rect = drag.mark.rect();
     switch (m_tool.gesture) {
     case PageTool::Pan:
-        viewport()->setCursor(Qt::OpenHandCursor);
+    case PageTool::SelectText:
+        showCursorAt(drag.lastPosition);
+        clickLink(drag);
         return;
     case PageTool::MarkText:
         marks = marksOnSelection();

@@ -81,7 +81,12 @@ bool Printing::ask(const Document &document, int currentPage, QWidget *parent)
     dialog.setWindowTitle(QCoreApplication::translate("Printing", "打印"));
     dialog.setOption(QAbstractPrintDialog::PrintCurrentPage);
     dialog.setMinMax(1, document.pageCount());
-    return dialog.exec() == QDialog::Accepted && print(document, currentPage, printer);
+    if (dialog.exec() != QDialog::Accepted)
+        return false;
+    const int mostCopies = document.file().permissions.mostCopies;
+    if (mostCopies >= 0)
+        printer.setCopyCount(std::min(printer.copyCount(), mostCopies));
+    return print(document, currentPage, printer);
 }
 
 bool Printing::print(const Document &document, int currentPage, QPrinter &printer)

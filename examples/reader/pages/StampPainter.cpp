@@ -9,10 +9,13 @@
 #include <QPainterPath>
 #include <QtMath>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int watermarkPixels = 84;
 constexpr qreal watermarkAngle = -35;
+constexpr qreal hatchDistance = 8;
 
 QFont fontOf(int pixels, bool bold)
 {
@@ -117,13 +120,28 @@ void paintWatermark(QPainter &painter, const Mark &mark)
     painter.drawText(QRectF(-500, -100, 1000, 200), Qt::AlignCenter, mark.text);
 }
 
+/** Lines from the lower left to the upper right. A pattern brush would depend on the device. */
+QPainterPath hatching(const QRectF &rect)
+{
+    QPainterPath lines;
+    for (qreal way = hatchDistance; way < rect.width() + rect.height(); way += hatchDistance) {
+        const qreal down = std::min(way, rect.height());
+        const qreal right = std::min(way, rect.width());
+        lines.moveTo(rect.left() + way - down, rect.top() + down);
+        lines.lineTo(rect.left() + right, rect.top() + way - right);
+    }
+    return lines;
+}
+
 void paintMask(QPainter &painter, const Mark &mark)
 {
-    const bool forPrint = mark.kind == MarkKind::PrintMask;
+    const QRectF rect = mark.rect();
     painter.setPen(QPen(QColor(0x50, 0x50, 0x50), 1));
-    painter.setBrush(forPrint ? QBrush(QColor(0x50, 0x50, 0x50), Qt::BDiagPattern)
-                              : QBrush(QColor(0x9A, 0x9A, 0x9A)));
-    painter.drawRect(mark.rect());
+    if (mark.kind == MarkKind::PrintMask)
+        painter.drawPath(hatching(rect));
+    else
+        painter.setBrush(QColor(0x9A, 0x9A, 0x9A));
+    painter.drawRect(rect);
 }
 
 void paintNote(QPainter &painter, const Mark &mark, QColor ground)

@@ -4,8 +4,11 @@
 #include "panels/NavigationPanel.h"
 
 #include "panels/LanguageFollower.h"
+#include "panels/ListActions.h"
+#include "panels/MarkEntry.h"
 #include "panels/ThumbnailList.h"
 
+#include <QAction>
 #include <QListWidget>
 #include <QPushButton>
 #include <QStackedWidget>
@@ -78,6 +81,7 @@ NavigationPanel::NavigationPanel(const Document &document, QWidget *parent)
     m_stack->addWidget(m_thumbnails);
     connect(m_thumbnails, &ThumbnailList::pageChosen, this, &NavigationPanel::pageChosen);
     addBookmarkButton();
+    addListActions();
     LanguageFollower::attach(this, [this] { showTexts(); });
     hide();
     connect(&document, &Document::pagesChanged, this, &NavigationPanel::documentOpened);
@@ -107,6 +111,7 @@ void NavigationPanel::showTexts()
         (*list)->setAccessibleName(titleOf(list.key()));
     m_thumbnails->setAccessibleName(titleOf(thumbnails));
     m_bookmarkButton->setText(tr("为当前页添加书签"));
+    nameListActions();
     setWindowTitle(titleOf(m_panel));
     if (!m_panel.isEmpty())
         refill();
@@ -124,6 +129,39 @@ void NavigationPanel::addBookmarkButton()
     });
 }
 
+void NavigationPanel::addListActions()
+{
+    m_markActions = new ListActions(m_lists.value(marks));
+    m_markActions->add(Qt::Key_F2, [this](int id) { Q_EMIT markEditAsked(id); });
+    m_markActions->add(QKeySequence::Delete, [this](int id) { Q_EMIT markRemovalAsked(id); });
+    QListWidget *files = m_lists.value(attachments);
+    m_attachmentActions = new ListActions(files);
+    m_attachmentActions->add(QKeySequence(),
+                             [this](int index) { Q_EMIT attachmentOpenAsked(index); });
+    m_attachmentActions->add(QKeySequence::Save,
+                             [this](int index) { Q_EMIT attachmentSaveAsked(index); });
+    // A double click and the Return key, but not a single click.
+    connect(files, &QListWidget::itemActivated, this,
+            [files] { files->actions().first()->trigger(); });
+    QWidget *before = m_bookmarkButton;
+    for (ListActions *actions : {m_markActions, m_attachmentActions}) {
+        widget()->layout()->addWidget(actions);
+        actions->hide();
+        setTabOrder(before, actions);
+        before = actions;
+    }
+}
+
+void NavigationPanel::nameListActions()
+{
+    const QList<QAction *> ofMarks = m_lists.value(marks)->actions();
+    ofMarks.at(0)->setText(tr("编辑备注…"));
+    ofMarks.at(1)->setText(tr("删除批注"));
+    const QList<QAction *> ofFiles = m_lists.value(attachments)->actions();
+    ofFiles.at(0)->setText(tr("打开附件"));
+    ofFiles.at(1)->setText(tr("附件另存为…"));
+}
+
 void NavigationPanel::toggle(const QString &name)
 {
     if (shownPanel() == name) {
@@ -135,6 +173,8 @@ void NavigationPanel::toggle(const QString &name)
     QWidget *list = m_lists.value(name);
     m_stack->setCurrentWidget(name == thumbnails ? m_thumbnails : list);
     m_bookmarkButton->setVisible(name == bookmarks);
+    m_markActions->setVisible(name == marks);
+    m_attachmentActions->setVisible(name == attachments);
     show();
     refill();
     Q_EMIT shownPanelChanged();
@@ -246,11 +286,8 @@ void NavigationPanel::fillMarks()
 {
     QListWidget *list = m_lists.value(marks);
     for (const Mark &mark : m_document.marks()) {
-        const QString place =
-            mark.page == everyPage ? tr("每一页") : tr("第 %1 页").arg(mark.page + 1);
-        const QString text = mark.text.isEmpty() ? QString() : tr("：%1").arg(mark.text);
-        addItem(list, place + QStringLiteral("　") + markName(mark.kind) + text,
-                std::max(0, mark.page));
+        auto *item = new QListWidgetItem(MarkEntry::textOf(mark), list);
+        item->setData(ListActions::numberRole, mark.id);
     }
     if (list->count() == 0)
         addNotice(list, tr("还没有批注"));
@@ -259,14 +296,19 @@ void NavigationPanel::fillMarks()
 void NavigationPanel::fillAttachments()
 {
     const QStringList names = m_document.file().attachments;
-    for (const QString &name : names)
-        addNotice(m_lists.value(attachments), name);
+    for (int i = 0; i < names.size(); ++i) {
+        auto *item = new QListWidgetItem(names.at(i), m_lists.value(attachments));
+        item->setData(ListActions::numberRole, i);
+    }
     if (names.isEmpty())
         addNotice(m_lists.value(attachments), tr("本文档没有附件"));
 }
 
 void NavigationPanel::itemChosen(const QListWidgetItem *item)
 {
+    const QVariant number = item->data(ListActions::numberRole);
+    if (number.isValid() && m_panel == marks)
+        Q_EMIT markChosen(number.toInt());
     const QString word = item->data(wordRole).toString();
     if (!word.isEmpty())
         Q_EMIT wordChosen(word);

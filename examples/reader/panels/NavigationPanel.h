@@ -9,6 +9,7 @@
 #include <QDockWidget>
 #include <QHash>
 
+class ListActions;
 class QListWidget;
 class QListWidgetItem;
 class QPushButton;
@@ -35,6 +36,13 @@ public:
 Q_SIGNALS:
     /** The user chose the page with that index. */
     void pageChosen(int page);
+    /** The user chose the mark with that identifier. */
+    void markChosen(int id);
+    void markEditAsked(int id);
+    void markRemovalAsked(int id);
+    /** The user wants to open or to save the attached file with that index. */
+    void attachmentOpenAsked(int index);
+    void attachmentSaveAsked(int index);
     /** The user chose an indexed word. */
     void wordChosen(const QString &word);
     void shownPanelChanged();
@@ -43,6 +51,8 @@ private:
     QListWidget *addPanel(const QString &name);
     void showTexts();
     void addBookmarkButton();
+    void addListActions();
+    void nameListActions();
     void documentOpened();
     void refill();
     void fillOutline();
@@ -59,6 +69,8 @@ private:
     QHash<QString, QListWidget *> m_lists; ///< Without the thumbnails.
     ThumbnailList *m_thumbnails;
     QPushButton *m_bookmarkButton;
+    ListActions *m_markActions = nullptr;
+    ListActions *m_attachmentActions = nullptr;
     QList<int> m_bookmarks;
     QString m_fileName;        ///< The file of the bookmarks.
     QString m_panel;

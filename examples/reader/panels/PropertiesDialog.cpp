@@ -70,6 +70,9 @@ PropertiesDialog::PropertiesDialog(const Document &document, int currentPage, QW
     addRow(form, tr("页面尺寸"), sizeOf(document, currentPage));
     countCharacters(document, addRow(form, tr("字数"), tr("正在统计…")));
     addRow(form, tr("批注"), QString::number(document.marks().size()));
+    const QString refusals = refusalsOf(document.file().permissions);
+    if (!refusals.isEmpty())
+        addRow(form, tr("权限"), refusals);
     const QString leftOut = document.file().leftOut();
     if (!leftOut.isEmpty())
         addRow(form, tr("提示"), leftOut);

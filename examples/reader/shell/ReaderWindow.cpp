@@ -67,6 +67,7 @@ ReaderWindow::ReaderWindow(const QDomDocument &description, const QString &skin)
     , m_fileCommands(parts())
     , m_viewCommands(parts())
     , m_editCommands(parts())
+    , m_linkCommands(parts())
 {
     createCentre();
     statusBar()->addPermanentWidget(m_bodies);
@@ -78,6 +79,7 @@ ReaderWindow::ReaderWindow(const QDomDocument &description, const QString &skin)
     connectToolBar();
     connectParts();
     connectView();
+    connectLinks();
     connectStartPage();
     connectPageField();
     updateTitle();

@@ -5,6 +5,7 @@
 
 #include "commands/EditCommands.h"
 #include "commands/FileCommands.h"
+#include "commands/LinkCommands.h"
 #include "commands/ViewCommands.h"
 #include "document/Document.h"
 #include "pages/ZoomMode.h"
@@ -89,6 +90,7 @@ private:
     void connectToolBar();
     void connectParts();
     void connectView();
+    void connectLinks();
     void connectStartPage();
     void connectPageField();
     void followZoomBox();
@@ -124,5 +126,6 @@ private:
     FileCommands m_fileCommands;
     ViewCommands m_viewCommands;
     EditCommands m_editCommands;
+    LinkCommands m_linkCommands;
     std::unique_ptr<MRToolBar> m_toolBar;
 };

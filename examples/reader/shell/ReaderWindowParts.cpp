@@ -72,9 +72,27 @@ void ReaderWindow::connectView()
     });
     connect(m_view, &PageView::markDrawn, this,
             [this](const Mark &mark) { m_editCommands.addDrawn(mark); });
-    connect(m_view, &PageView::inkRubbed, &m_document, &Document::eraseInk);
+    connect(m_view, &PageView::inkRubbed, this, [this](int page, QPointF point, qreal radius) {
+        m_editCommands.eraseInk(page, point, radius);
+    });
     connect(m_view, &PageView::signatureAsked, this,
             [this](int signature) { m_fileCommands.showSignatures(signature); });
+}
+
+void ReaderWindow::connectLinks()
+{
+    connect(m_view, &PageView::linkClicked, this,
+            [this](const PageLink &link) { m_linkCommands.follow(link); });
+    connect(m_navigation, &NavigationPanel::markChosen, this,
+            [this](int id) { m_linkCommands.showMark(id); });
+    connect(m_navigation, &NavigationPanel::markEditAsked, this,
+            [this](int id) { m_editCommands.editMark(id); });
+    connect(m_navigation, &NavigationPanel::markRemovalAsked, this,
+            [this](int id) { m_editCommands.removeMark(id); });
+    connect(m_navigation, &NavigationPanel::attachmentOpenAsked, this,
+            [this](int index) { m_linkCommands.openAttachment(index); });
+    connect(m_navigation, &NavigationPanel::attachmentSaveAsked, this,
+            [this](int index) { m_linkCommands.saveAttachment(index); });
 }
 
 void ReaderWindow::connectStartPage()

@@ -60,8 +60,9 @@ int print(const Options &options)
         document.openGenerated(ReaderWindow::sampleName());
     else if (!document.open(options.files.first(), &error))
         return fail(FileCommands::refusalOf(options.files.first(), error));
-    if (!Export::write(document, options.printTo))
-        return fail(QStringLiteral("cannot write '%1'").arg(options.printTo));
+    error = document.refusalOf(Act::Export);
+    if (!error.isEmpty() || !Export::write(document, options.printTo, &error))
+        return fail(error);
     return 0;
 }
 

@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "document/Mark.h"
+
+/** The words for a mark in a list. */
+namespace MarkEntry {
+
+/** The kind, for an annotation of the file by what the file calls it. */
+QString kindOf(const Mark &mark);
+
+/** Lines with the page and the kind, with who made it when, and with its text. */
+QString textOf(const Mark &mark);
+
+} // namespace MarkEntry

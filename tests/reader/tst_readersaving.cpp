@@ -1,0 +1,164 @@
+// SPDX-FileCopyrightText: The MRToolBar authors
+// SPDX-License-Identifier: MIT
+
+#include "document/Document.h"
+#include "ofd/Painter.h"
+#include "pages/MarkPainter.h"
+#include "pages/OfdSaving.h"
+
+#include <QDir>
+#include <QPainter>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <algorithm>
+
+namespace {
+
+const QString actsFile = QStringLiteral(OFD_MADE "/acts.ofd");
+constexpr qreal unit = 96 / 25.4;
+
+Mark markOf(MarkKind kind, int page)
+{
+    Mark mark;
+    mark.kind = kind;
+    mark.page = page;
+    mark.points << QPointF(20, 20) << QPointF(120, 20) << QPointF(120, 60) << QPointF(20, 60);
+    mark.text = QStringLiteral("批注");
+    mark.colour = QColor(200, 30, 30);
+    return mark;
+}
+
+QByteArray bytesOf(const QString &fileName)
+{
+    QFile file(fileName);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QImage paintedFile(const QString &fileName)
+{
+    QString error;
+    QImage image(240, 160, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.scale(4, 4);
+    Ofd::Painter(Ofd::read(fileName, &error)).paint(painter, 0);
+    return image;
+}
+
+bool save(const Document &document, const QString &fileName)
+{
+    QString error;
+    QFile file(fileName);
+    return file.open(QIODevice::WriteOnly)
+           && file.write(OfdSaving::archiveOf(document, &error)) > 0;
+}
+
+} // namespace
+
+/** Marks are saved into the file, where other readers see them and this one reads them again. */
+class ReaderSavingTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void shouldSaveMarksAndReadThemAgain()
+    {
+        const QTemporaryDir folder;
+        const QString saved = folder.filePath("saved.ofd");
+        QVERIFY(QFile::copy(actsFile, saved));
+        QString error;
+        Document document;
+        QVERIFY(document.open(saved, &error));
+        QCOMPARE(document.marks().size(), 2);
+        QCOMPARE(OfdSaving::archiveOf(document, &error), bytesOf(actsFile));
+        for (int kind = 0; kind < int(MarkKind::Annotation); ++kind)
+            document.addMark(markOf(MarkKind(kind), kind % 2), QString());
+        document.addMark(markOf(MarkKind::Watermark, everyPage), QString());
+        document.deleteMark(document.marks().first().id, QString());
+        document.setMarkText(document.marks().first().id, QStringLiteral("改过"));
+        const QList<Mark> before = document.marks();
+        QVERIFY(save(document, saved));
+        QVERIFY2(document.open(saved, &error), qPrintable(error));
+        QCOMPARE(document.marks().size(), before.size());
+        QCOMPARE(document.marks().first().text, QStringLiteral("改过"));
+        for (const Mark &mark : before) {
+            const auto isIt = [&mark](const Mark &other) {
+                return other.kind == mark.kind && other.page == mark.page
+                       && other.points == mark.points && other.text == mark.text
+                       && other.colour == mark.colour;
+            };
+            QVERIFY2(mark.kind == MarkKind::Annotation
+                         || std::any_of(document.marks().begin(), document.marks().end(), isIt),
+                     qPrintable(QString::number(int(mark.kind))));
+        }
+        // A second save of what was read changes nothing, and the marks of old files can be
+        // removed.
+        QCOMPARE(OfdSaving::archiveOf(document, &error), bytesOf(saved));
+        while (!document.marks().isEmpty())
+            document.deleteMark(document.marks().last().id, QString());
+        QVERIFY(save(document, saved) && document.open(saved, &error));
+        QVERIFY(document.marks().isEmpty());
+    }
+
+    void shouldShowEveryMarkToOtherReaders_data()
+    {
+        QTest::addColumn<int>("kind");
+        for (int kind = 0; kind < int(MarkKind::Annotation); ++kind)
+            QTest::newRow(qPrintable(markName(MarkKind(kind)))) << kind;
+    }
+
+    /** Another reader paints the appearance; this one paints the mark. */
+    void shouldShowEveryMarkToOtherReaders()
+    {
+        QFETCH(int, kind);
+        const QTemporaryDir folder;
+        QString error;
+        Document document;
+        QVERIFY(document.open(actsFile, &error));
+        document.addMark(markOf(MarkKind(kind), 0), QString());
+        QVERIFY(save(document, folder.filePath("saved.ofd")));
+        const QImage appearance = paintedFile(folder.filePath("saved.ofd"));
+        QImage mark = paintedFile(actsFile);
+        QPainter painter(&mark);
+        painter.scale(4 / unit, 4 / unit);
+        paintMark(painter, document.marks().last());
+        painter.end();
+        int others = 0;
+        for (int y = 0; y < mark.height(); ++y) {
+            for (int x = 0; x < mark.width(); ++x) {
+                const QColor a = mark.pixelColor(x, y);
+                const QColor b = appearance.pixelColor(x, y);
+                others += qAbs(a.red() - b.red()) + qAbs(a.green() - b.green()) > 90 ? 1 : 0;
+            }
+        }
+        QVERIFY(appearance != paintedFile(actsFile));
+        QVERIFY2(others < mark.width() * mark.height() / 100, qPrintable(QString::number(others)));
+    }
+
+    void shouldAddMarksToRealFiles()
+    {
+        const QDir samples(qEnvironmentVariable("MRTOOLBAR_SAMPLES", "/nowhere"));
+        const QStringList names = samples.entryList({"*.ofd"});
+        if (names.isEmpty())
+            QSKIP("MRTOOLBAR_SAMPLES names no folder with OFD files");
+        const QTemporaryDir folder;
+        for (const QString &name : names) {
+            QString error;
+            Document document;
+            QVERIFY(document.open(samples.filePath(name), &error));
+            const int before = int(document.marks().size());
+            document.addMark(markOf(MarkKind::Note, 0), QString());
+            QVERIFY(save(document, folder.filePath(name)));
+            Document again;
+            QVERIFY2(again.open(folder.filePath(name), &error), qPrintable(name + error));
+            QCOMPARE(again.marks().size(), before + 1);
+            QCOMPARE(again.pageCount(), document.pageCount());
+            const auto isNote = [](const Mark &mark) { return mark.kind == MarkKind::Note; };
+            QVERIFY(std::any_of(again.marks().begin(), again.marks().end(), isNote));
+        }
+    }
+};
+
+QTEST_MAIN(ReaderSavingTest)
+#include "tst_readersaving.moc"
