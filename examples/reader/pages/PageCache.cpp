@@ -229,6 +229,8 @@ void PageCache::want(QVector<Tile> &list, const Sheet &sheet, const Tile &tile)
 
 void PageCache::take()
 {
+    if (!m_painter)
+        return; // It told of a tile just before it was left.
     const QVector<TilePainter::Painted> painted = m_painter->takePainted();
     for (const TilePainter::Painted &tile : painted)
         m_tiles.insert(tile.key, new QImage(tile.image), kilobytesOf(tile.image));

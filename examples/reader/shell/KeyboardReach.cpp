@@ -47,6 +47,7 @@ void KeyboardReach::addCommandKeys()
         {QStringLiteral("Ctrl+W"), QStringLiteral("f_close")},
         {QStringLiteral("Ctrl+Q"), QStringLiteral("f_exit")},
         {QStringLiteral("Ctrl+S"), QStringLiteral("f_save")},
+        {QStringLiteral("Ctrl+Shift+S"), QStringLiteral("f_saveas")},
         {QStringLiteral("Ctrl+P"), QStringLiteral("f_print")},
         {QStringLiteral("Ctrl+Z"), QStringLiteral("e_undo")},
         {QStringLiteral("Ctrl+Y"), QStringLiteral("e_redo")},
