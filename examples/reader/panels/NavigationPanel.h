@@ -72,7 +72,7 @@ private:
     ListActions *m_markActions = nullptr;
     ListActions *m_attachmentActions = nullptr;
     QList<int> m_bookmarks;
-    QString m_fileName;        ///< The file of the bookmarks.
+    QString m_fileName; ///< The file of the bookmarks.
     QString m_panel;
     int m_currentPage = 0;
     std::shared_ptr<const QVector<int>> m_wordCounts; ///< Complete after the walk.
