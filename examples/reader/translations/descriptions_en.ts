@@ -468,6 +468,26 @@
         <translation>Proper&amp;ties</translation>
     </message>
     <message>
+        <source>明暗</source>
+        <translation>Brightness</translation>
+    </message>
+    <message>
+        <source>浅色</source>
+        <translation>Light</translation>
+    </message>
+    <message>
+        <source>深色</source>
+        <translation>Dark</translation>
+    </message>
+    <message>
+        <source>高对比</source>
+        <translation>High contrast</translation>
+    </message>
+    <message>
+        <source>跟随系统</source>
+        <translation>As the system</translation>
+    </message>
+    <message>
         <source>帮助(&amp;H)</source>
         <translation>&amp;Help</translation>
     </message>
@@ -630,6 +650,38 @@
     <message>
         <source>逆时针旋转;视图向左旋转90度</source>
         <translation>Rotate left;Turn the view anticlockwise by 90 degrees</translation>
+    </message>
+    <message>
+        <source>验证签名</source>
+        <translation>Verify</translation>
+    </message>
+    <message>
+        <source>验证签名;查看文档的签名、签章与证书</source>
+        <translation>Verify signatures;Show the signatures, seals and certificates of the document</translation>
+    </message>
+    <message>
+        <source>大纲</source>
+        <translation>Outline</translation>
+    </message>
+    <message>
+        <source>大纲;显示或隐藏文档的大纲</source>
+        <translation>Outline;Show or hide the outline of the document</translation>
+    </message>
+    <message>
+        <source>批注</source>
+        <translation>Annotations</translation>
+    </message>
+    <message>
+        <source>批注;显示、编辑或删除文档中的批注</source>
+        <translation>Annotations;Show, edit or delete the annotations of the document</translation>
+    </message>
+    <message>
+        <source>附件</source>
+        <translation>Attachments</translation>
+    </message>
+    <message>
+        <source>附件;打开或保存文档中的附件</source>
+        <translation>Attachments;Open or save the files attached to the document</translation>
     </message>
     <message>
         <source>全屏;隐藏窗口边框全屏阅读</source>

@@ -2,6 +2,24 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="zh_CN">
 <context>
+    <name>BodyChooser</name>
+    <message>
+        <source>文件中的文档</source>
+        <translation>Documents in the file</translation>
+    </message>
+    <message>
+        <source>此文件含有多个文档</source>
+        <translation>This file contains several documents</translation>
+    </message>
+</context>
+<context>
+    <name>ChangeTextEdit</name>
+    <message>
+        <source>编辑批注</source>
+        <translation>Edit annotation</translation>
+    </message>
+</context>
+<context>
     <name>Description</name>
     <message>
         <source>根元素是“%1”，而不是“uiconfig”</source>
@@ -10,6 +28,13 @@
     <message>
         <source>清除历史记录</source>
         <translation>Clear history</translation>
+    </message>
+</context>
+<context>
+    <name>Document</name>
+    <message>
+        <source>擦除笔迹</source>
+        <translation>Erase ink</translation>
     </message>
 </context>
 <context>
@@ -61,6 +86,29 @@
     <message>
         <source>已选择 %1 个字</source>
         <translation>Characters selected: %1</translation>
+    </message>
+    <message>
+        <source>编辑批注</source>
+        <translation>Edit annotation</translation>
+    </message>
+    <message>
+        <source>备注</source>
+        <translation>Remark</translation>
+    </message>
+    <message>
+        <source>删除批注</source>
+        <translation>Delete annotation</translation>
+    </message>
+</context>
+<context>
+    <name>Export</name>
+    <message>
+        <source>无法写入：%1</source>
+        <translation>Cannot write: %1</translation>
+    </message>
+    <message>
+        <source>文本文件中不含批注</source>
+        <translation>A text file holds no annotations</translation>
     </message>
 </context>
 <context>
@@ -126,14 +174,6 @@
         <translation>All files (*)</translation>
     </message>
     <message>
-        <source>无法写入：%1</source>
-        <translation>Cannot write: %1</translation>
-    </message>
-    <message>
-        <source>已保存，但不含批注；另存为 PDF 可保留批注：%1</source>
-        <translation>Saved, but without the annotations; save as PDF to keep them: %1</translation>
-    </message>
-    <message>
         <source>已保存：%1</source>
         <translation>Saved: %1</translation>
     </message>
@@ -184,6 +224,38 @@ Ctrl+F: find
 Ctrl+G: page field
 Ctrl+M: zoom box
 F11: full screen</translation>
+    </message>
+    <message>
+        <source>PNG 图片，每页一个 (*.png)</source>
+        <translation>PNG pictures, one for each page (*.png)</translation>
+    </message>
+    <message>
+        <source>“%1”已不存在，已从最近打开的文件中移除。</source>
+        <translation>“%1” does not exist any more and was removed from the recent files.</translation>
+    </message>
+    <message>
+        <source>已保存：%1。%2</source>
+        <translation>Saved: %1. %2</translation>
+    </message>
+    <message>
+        <source>已保存：%1。页面的旋转只用于查看，不写入文件</source>
+        <translation>Saved: %1. The rotation of pages is for viewing only and is not written</translation>
+    </message>
+    <message>
+        <source>本文件有电子签名，写入批注后签名可能不再有效。要继续保存吗？</source>
+        <translation>This file has electronic signatures, which annotations may make invalid. Save it all the same?</translation>
+    </message>
+    <message>
+        <source>已打印；本文件每次最多打印 %1 份</source>
+        <translation>Printed; copies of this file allowed at a time: %1</translation>
+    </message>
+    <message>
+        <source>“%1”已存在，要替换吗？</source>
+        <translation>“%1” exists already. Replace it?</translation>
+    </message>
+    <message>
+        <source>替换</source>
+        <translation>Replace</translation>
     </message>
 </context>
 <context>
@@ -249,6 +321,13 @@ F11: full screen</translation>
     </message>
 </context>
 <context>
+    <name>HostDock</name>
+    <message>
+        <source>宿主</source>
+        <translation>Host</translation>
+    </message>
+</context>
+<context>
     <name>HostPanel</name>
     <message>
         <source>皮肤颜色</source>
@@ -308,6 +387,57 @@ F11: full screen</translation>
     <message>
         <source>工具栏现在没有可用的缩放框</source>
         <translation>The toolbar has no zoom box to go to now</translation>
+    </message>
+</context>
+<context>
+    <name>LinkCommands</name>
+    <message>
+        <source>只打开网页和邮件地址，不打开：%1</source>
+        <translation>Only web and mail addresses are opened, not this one: %1</translation>
+    </message>
+    <message>
+        <source>要在其他程序中打开这个地址吗？</source>
+        <translation>Open this address in another program?</translation>
+    </message>
+    <message>
+        <source>系统没有打开这个地址的程序</source>
+        <translation>The system has no program that opens this address</translation>
+    </message>
+    <message>
+        <source>打开</source>
+        <translation>Open</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>“%1”可能是程序，不能打开，只能另存</source>
+        <translation>“%1” may be a program and can only be saved, not opened</translation>
+    </message>
+    <message>
+        <source>要在其他程序中打开附件“%1”吗？请只打开可信的文件。</source>
+        <translation>Open the attachment “%1” in another program? Only open files that you trust.</translation>
+    </message>
+    <message>
+        <source>无法写入临时文件</source>
+        <translation>Cannot write a temporary file</translation>
+    </message>
+    <message>
+        <source>系统没有打开“%1”的程序</source>
+        <translation>The system has no program that opens “%1”</translation>
+    </message>
+    <message>
+        <source>附件另存为</source>
+        <translation>Save attachment as</translation>
+    </message>
+    <message>
+        <source>已保存：%1</source>
+        <translation>Saved: %1</translation>
+    </message>
+    <message>
+        <source>无法写入：%1</source>
+        <translation>Cannot write: %1</translation>
     </message>
 </context>
 <context>
@@ -427,6 +557,41 @@ F11: full screen</translation>
         <source>水印</source>
         <translation>Watermark</translation>
     </message>
+    <message>
+        <source>批注</source>
+        <translation>Annotation</translation>
+    </message>
+</context>
+<context>
+    <name>MarkEntry</name>
+    <message>
+        <source>链接</source>
+        <translation>Link</translation>
+    </message>
+    <message>
+        <source>图形</source>
+        <translation>Drawing</translation>
+    </message>
+    <message>
+        <source>高亮</source>
+        <translation>Highlight</translation>
+    </message>
+    <message>
+        <source>图章</source>
+        <translation>Stamp</translation>
+    </message>
+    <message>
+        <source>水印</source>
+        <translation>Watermark</translation>
+    </message>
+    <message>
+        <source>每一页</source>
+        <translation>Every page</translation>
+    </message>
+    <message>
+        <source>第 %1 页</source>
+        <translation>Page %1</translation>
+    </message>
 </context>
 <context>
     <name>NavigationPanel</name>
@@ -479,14 +644,6 @@ F11: full screen</translation>
         <translation>No bookmarks yet</translation>
     </message>
     <message>
-        <source>每一页</source>
-        <translation>Every page</translation>
-    </message>
-    <message>
-        <source>：%1</source>
-        <translation>: %1</translation>
-    </message>
-    <message>
         <source>还没有批注</source>
         <translation>No annotations yet</translation>
     </message>
@@ -494,17 +651,25 @@ F11: full screen</translation>
         <source>本文档没有附件</source>
         <translation>This document has no attachments</translation>
     </message>
+    <message>
+        <source>编辑备注…</source>
+        <translation>Edit remark…</translation>
+    </message>
+    <message>
+        <source>删除批注</source>
+        <translation>Delete annotation</translation>
+    </message>
+    <message>
+        <source>打开附件</source>
+        <translation>Open attachment</translation>
+    </message>
+    <message>
+        <source>附件另存为…</source>
+        <translation>Save attachment as…</translation>
+    </message>
 </context>
 <context>
     <name>Ofd</name>
-    <message>
-        <source>图案填充</source>
-        <translation>pattern fills</translation>
-    </message>
-    <message>
-        <source>网格渐变</source>
-        <translation>mesh gradients</translation>
-    </message>
     <message>
         <source>这不是 OFD 文件：包内没有 OFD.xml。</source>
         <translation>This is no OFD file: the package has no OFD.xml.</translation>
@@ -522,20 +687,12 @@ F11: full screen</translation>
         <translation>The document has too many pages, more than %1.</translation>
     </message>
     <message>
-        <source>同一文件中的其他文档</source>
-        <translation>other documents in the file</translation>
-    </message>
-    <message>
         <source>复合图元“%1”循环引用。</source>
         <translation>The composite object “%1” contains itself.</translation>
     </message>
     <message>
         <source>复合图元“%1”嵌套过深。</source>
         <translation>The composite object “%1” is nested too deeply.</translation>
-    </message>
-    <message>
-        <source>文档的内容展开后过多，无法显示。</source>
-        <translation>The document expands to more than can be shown.</translation>
     </message>
     <message>
         <source>标题</source>
@@ -590,20 +747,8 @@ F11: full screen</translation>
         <translation>electronic seals</translation>
     </message>
     <message>
-        <source>文档中的图元过多，超过 %1 个。</source>
-        <translation>The document has too many objects, more than %1.</translation>
-    </message>
-    <message>
-        <source>图像蒙版</source>
-        <translation>image masks</translation>
-    </message>
-    <message>
         <source>字号 %1 超出范围。</source>
         <translation>The font size %1 is out of range.</translation>
-    </message>
-    <message>
-        <source>文字裁剪</source>
-        <translation>clipping to text</translation>
     </message>
     <message>
         <source>文件不存在。</source>
@@ -662,10 +807,6 @@ F11: full screen</translation>
         <translation>The page size “%1” is out of range.</translation>
     </message>
     <message>
-        <source>缺失的页面</source>
-        <translation>missing pages</translation>
-    </message>
-    <message>
         <source>页面的图层过多，超过 %1 个。</source>
         <translation>A page has too many layers, more than %1.</translation>
     </message>
@@ -676,10 +817,6 @@ F11: full screen</translation>
     <message>
         <source>缺失的模板页</source>
         <translation>missing template pages</translation>
-    </message>
-    <message>
-        <source>嵌入字体</source>
-        <translation>embedded fonts</translation>
     </message>
     <message>
         <source>图像</source>
@@ -721,6 +858,178 @@ F11: full screen</translation>
         <source>包内文件“%1”的元素过多。</source>
         <translation>The file “%1” in the package has too many elements.</translation>
     </message>
+    <message>
+        <source>无法复制文件的 ZIP 包。</source>
+        <translation>Cannot copy the ZIP package of the file.</translation>
+    </message>
+    <message>
+        <source>无法绘制的渐变</source>
+        <translation>gradients that cannot be painted</translation>
+    </message>
+    <message>
+        <source>无法绘制的底纹</source>
+        <translation>patterns that cannot be painted</translation>
+    </message>
+    <message>
+        <source>签名数据已损坏。</source>
+        <translation>The data of the signature is damaged.</translation>
+    </message>
+    <message>
+        <source>无法显示的页面</source>
+        <translation>pages that cannot be shown</translation>
+    </message>
+    <message>
+        <source>文档 %1</source>
+        <translation>Document %1</translation>
+    </message>
+    <message>
+        <source>无法读取的注释</source>
+        <translation>annotations that cannot be read</translation>
+    </message>
+    <message>
+        <source>包内没有这一页的文件。</source>
+        <translation>The package has no file for this page.</translation>
+    </message>
+    <message>
+        <source>底纹嵌套过深。</source>
+        <translation>A pattern is nested too deeply.</translation>
+    </message>
+    <message>
+        <source>页面的内容展开后过多，无法显示。</source>
+        <translation>The page expands to more than can be shown.</translation>
+    </message>
+    <message>
+        <source>嵌入字体“%1”</source>
+        <translation>embedded font “%1”</translation>
+    </message>
+    <message>
+        <source>图元的裁剪区过多，超过 %1 个。</source>
+        <translation>An object has too many clip areas, more than %1.</translation>
+    </message>
+    <message>
+        <source>页面的图元过多，超过 %1 个。</source>
+        <translation>A page has too many objects, more than %1.</translation>
+    </message>
+    <message>
+        <source>未知的图元</source>
+        <translation>unknown objects</translation>
+    </message>
+    <message>
+        <source>缺失的资源</source>
+        <translation>missing resources</translation>
+    </message>
+    <message>
+        <source>残缺的图形</source>
+        <translation>incomplete paths</translation>
+    </message>
+    <message>
+        <source>图像（%1，未安装其解码插件）</source>
+        <translation>images (%1, whose plug-in is not installed)</translation>
+    </message>
+    <message>
+        <source>图像（%1）</source>
+        <translation>images (%1)</translation>
+    </message>
+    <message>
+        <source>签章数据的结构不符合标准。</source>
+        <translation>The data of the seal does not conform to the standard.</translation>
+    </message>
+    <message>
+        <source>摘要算法 MD5 已不安全。</source>
+        <translation>The digest algorithm MD5 is no longer safe.</translation>
+    </message>
+    <message>
+        <source>未知的摘要算法“%1”。</source>
+        <translation>The digest algorithm “%1” is unknown.</translation>
+    </message>
+    <message>
+        <source>摘要算法 SHA-1 已较弱。</source>
+        <translation>The digest algorithm SHA-1 is weak.</translation>
+    </message>
+    <message>
+        <source>%1 等 %2 处</source>
+        <translation>%1 and others, %2 in all</translation>
+    </message>
+    <message>
+        <source>签名后被修改：%1</source>
+        <translation>Changed after signing: %1</translation>
+    </message>
+    <message>
+        <source>本阅读器编译时未包含签名算法。</source>
+        <translation>This reader was built without signature algorithms.</translation>
+    </message>
+    <message>
+        <source>签名没有指明受保护的文件。</source>
+        <translation>The signature names no protected files.</translation>
+    </message>
+    <message>
+        <source>签名有效</source>
+        <translation>Valid signature</translation>
+    </message>
+    <message>
+        <source>签名有效，但包内有 %1 个文件不受保护</source>
+        <translation>Valid signature, but files of the package are not protected: %1</translation>
+    </message>
+    <message>
+        <source>无法验证：%1</source>
+        <translation>Cannot be verified: %1</translation>
+    </message>
+    <message>
+        <source>签名数据过大。</source>
+        <translation>The data of the signature is too large.</translation>
+    </message>
+    <message>
+        <source>签名值的结构不符合标准。</source>
+        <translation>The signature value does not conform to the standard.</translation>
+    </message>
+    <message>
+        <source>签名描述文件不完整。</source>
+        <translation>The description of the signature is incomplete.</translation>
+    </message>
+    <message>
+        <source>签名值中没有证书。</source>
+        <translation>The signature value has no certificate.</translation>
+    </message>
+    <message>
+        <source>签名时间不在证书的有效期内。</source>
+        <translation>The signing time is outside the validity of the certificate.</translation>
+    </message>
+    <message>
+        <source>签名值</source>
+        <translation>the signature value</translation>
+    </message>
+    <message>
+        <source>印章</source>
+        <translation>the seal</translation>
+    </message>
+    <message>
+        <source>无法核对印章制作者的签名。</source>
+        <translation>The signature of the seal’s maker cannot be checked.</translation>
+    </message>
+    <message>
+        <source>印章不是为签名证书制作的。</source>
+        <translation>The seal was not made for the signing certificate.</translation>
+    </message>
+    <message>
+        <source>签名时间不在印章的有效期内。</source>
+        <translation>The signing time is outside the validity of the seal.</translation>
+    </message>
+    <message>
+        <source>印章文件与所签的印章不同，页面上是所签的印章。</source>
+        <translation>The seal’s file is not the seal that was signed; the pages show the signed one.</translation>
+    </message>
+    <message>
+        <source>签名值中的证书已损坏。</source>
+        <translation>The certificate in the signature value is damaged.</translation>
+    </message>
+    <message>
+        <source>未知的签名算法“%1”。</source>
+        <translation>The signature algorithm “%1” is unknown.</translation>
+    </message>
+    <message>
+        <source>包内的批注文件不是正确的 XML。</source>
+        <translation>A file of annotations in the package is no correct XML.</translation>
+    </message>
 </context>
 <context>
     <name>OfdFile</name>
@@ -737,8 +1046,27 @@ F11: full screen</translation>
         <translation>, </translation>
     </message>
     <message>
-        <source>第 %1 页</source>
-        <translation>Page %1</translation>
+        <source>第 %1 页无法显示：%2</source>
+        <translation>Page %1 cannot be shown: %2</translation>
+    </message>
+    <message>
+        <source>缺少字体：%1，以替代字体显示</source>
+        <translation>Missing fonts, replaced by others: %1</translation>
+    </message>
+    <message>
+        <source>、</source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>；</source>
+        <translation>; </translation>
+    </message>
+</context>
+<context>
+    <name>OfdSaving</name>
+    <message>
+        <source>OFD 文件中不含插入的 %1 页及其批注；另存为 PDF 可保留</source>
+        <translation>The OFD file lacks the inserted pages (%1) and their annotations; save as PDF to keep them</translation>
     </message>
 </context>
 <context>
@@ -815,13 +1143,21 @@ Press Ctrl+O to open a file</translation>
         <source>关闭</source>
         <translation>Close</translation>
     </message>
+    <message>
+        <source>正在统计…</source>
+        <translation>Counting…</translation>
+    </message>
+    <message>
+        <source>权限</source>
+        <translation>Permissions</translation>
+    </message>
+    <message>
+        <source>%1（正在统计…）</source>
+        <translation>%1 (counting…)</translation>
+    </message>
 </context>
 <context>
     <name>ReaderWindow</name>
-    <message>
-        <source>宿主</source>
-        <translation>Host</translation>
-    </message>
     <message>
         <source>没有实现的命令：%1</source>
         <translation>Command without an action: %1</translation>
@@ -838,12 +1174,59 @@ Press Ctrl+O to open a file</translation>
         <source>第 %1 / %2 页&#x3000;%3%</source>
         <translation>Page %1 / %2   %3%</translation>
     </message>
+    <message>
+        <source>没有这一页：共 %1 页</source>
+        <translation>No such page: the last one is page %1</translation>
+    </message>
 </context>
 <context>
-    <name>RemoveMarkEdit</name>
+    <name>Refusal</name>
     <message>
-        <source>擦除笔迹</source>
-        <translation>Erase ink</translation>
+        <source>编辑</source>
+        <translation>editing</translation>
+    </message>
+    <message>
+        <source>批注</source>
+        <translation>annotating</translation>
+    </message>
+    <message>
+        <source>导出</source>
+        <translation>exporting</translation>
+    </message>
+    <message>
+        <source>签章</source>
+        <translation>sealing</translation>
+    </message>
+    <message>
+        <source>添加水印</source>
+        <translation>adding watermarks</translation>
+    </message>
+    <message>
+        <source>打印</source>
+        <translation>printing</translation>
+    </message>
+    <message>
+        <source>本文件自 %1 起才有效，此前只能阅读。</source>
+        <translation>This file is valid from %1 on; until then it can only be read.</translation>
+    </message>
+    <message>
+        <source>本文件的有效期到 %1 为止，现在只能阅读。</source>
+        <translation>This file was valid until %1; now it can only be read.</translation>
+    </message>
+    <message>
+        <source>本文件的作者不允许%1。</source>
+        <translation>Not allowed by the author of this file: %1.</translation>
+    </message>
+    <message>
+        <source>、</source>
+        <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>SafeFile</name>
+    <message>
+        <source>附件</source>
+        <translation>attachment</translation>
     </message>
 </context>
 <context>
@@ -868,6 +1251,22 @@ Press Ctrl+O to open a file</translation>
         <source>没有找到“%1”</source>
         <translation>“%1” was not found</translation>
     </message>
+    <message>
+        <source>搜索进度</source>
+        <translation>Search progress</translation>
+    </message>
+    <message>
+        <source>停止</source>
+        <translation>Stop</translation>
+    </message>
+    <message>
+        <source>正在查找“%1”…</source>
+        <translation>Searching for “%1”…</translation>
+    </message>
+    <message>
+        <source>%1（只查找了 %2 / %3 页）</source>
+        <translation>%1 (pages searched: %2 of %3)</translation>
+    </message>
 </context>
 <context>
     <name>SignalLog</name>
@@ -882,6 +1281,136 @@ Press Ctrl+O to open a file</translation>
     <message>
         <source>收到的信号</source>
         <translation>Signals received</translation>
+    </message>
+</context>
+<context>
+    <name>SignatureDialog</name>
+    <message>
+        <source>共 %1 个</source>
+        <translation>%1 in all</translation>
+    </message>
+    <message>
+        <source>、</source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>签名证书</source>
+        <translation>Signing certificate</translation>
+    </message>
+    <message>
+        <source>主体</source>
+        <translation>Subject</translation>
+    </message>
+    <message>
+        <source>颁发者</source>
+        <translation>Issuer</translation>
+    </message>
+    <message>
+        <source>序列号</source>
+        <translation>Serial number</translation>
+    </message>
+    <message>
+        <source>有效期</source>
+        <translation>Validity</translation>
+    </message>
+    <message>
+        <source>%1 至 %2</source>
+        <translation>%1 to %2</translation>
+    </message>
+    <message>
+        <source>信任</source>
+        <translation>Trust</translation>
+    </message>
+    <message>
+        <source>没有检查证书是否可信、是否已吊销。</source>
+        <translation>Whether the certificate can be trusted or was revoked is not checked.</translation>
+    </message>
+    <message>
+        <source>签名</source>
+        <translation>Signatures</translation>
+    </message>
+    <message>
+        <source>签名的详情</source>
+        <translation>Details of the signature</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>转到签章</source>
+        <translation>Go to seal</translation>
+    </message>
+    <message>
+        <source>%1：%2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>注意</source>
+        <translation>Note</translation>
+    </message>
+    <message>
+        <source>印章</source>
+        <translation>Seal</translation>
+    </message>
+    <message>
+        <source>所在页</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>签名时间</source>
+        <translation>Signing time</translation>
+    </message>
+    <message>
+        <source>%1（由签名者声明）</source>
+        <translation>%1 (as stated by the signer)</translation>
+    </message>
+    <message>
+        <source>签名程序</source>
+        <translation>Program</translation>
+    </message>
+    <message>
+        <source>签名方法</source>
+        <translation>Method</translation>
+    </message>
+    <message>
+        <source>受保护的文件</source>
+        <translation>Protected files</translation>
+    </message>
+    <message>
+        <source>%1 个未被修改</source>
+        <translation>%1 unchanged</translation>
+    </message>
+    <message>
+        <source>不受保护的文件</source>
+        <translation>Unprotected files</translation>
+    </message>
+</context>
+<context>
+    <name>StartPage</name>
+    <message>
+        <source>OFD阅读器</source>
+        <translation>OFD Reader</translation>
+    </message>
+    <message>
+        <source>打开…</source>
+        <translation>Open…</translation>
+    </message>
+    <message>
+        <source>也可以把 OFD 文件拖到这里</source>
+        <translation>or drop OFD files here</translation>
+    </message>
+    <message>
+        <source>最近打开的文件</source>
+        <translation>Recent files</translation>
+    </message>
+    <message>
+        <source>从列表中移除</source>
+        <translation>Remove from list</translation>
+    </message>
+    <message>
+        <source>从列表中移除选中的文件（Delete）</source>
+        <translation>Remove the selected file from the list (Delete)</translation>
     </message>
 </context>
 <context>

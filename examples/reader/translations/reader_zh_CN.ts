@@ -2,6 +2,24 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="zh_CN">
 <context>
+    <name>BodyChooser</name>
+    <message>
+        <source>文件中的文档</source>
+        <translation>文件中的文档</translation>
+    </message>
+    <message>
+        <source>此文件含有多个文档</source>
+        <translation>此文件含有多个文档</translation>
+    </message>
+</context>
+<context>
+    <name>ChangeTextEdit</name>
+    <message>
+        <source>编辑批注</source>
+        <translation>编辑批注</translation>
+    </message>
+</context>
+<context>
     <name>Description</name>
     <message>
         <source>根元素是“%1”，而不是“uiconfig”</source>
@@ -10,6 +28,13 @@
     <message>
         <source>清除历史记录</source>
         <translation>清除历史记录</translation>
+    </message>
+</context>
+<context>
+    <name>Document</name>
+    <message>
+        <source>擦除笔迹</source>
+        <translation>擦除笔迹</translation>
     </message>
 </context>
 <context>
@@ -61,6 +86,29 @@
     <message>
         <source>已选择 %1 个字</source>
         <translation>已选择 %1 个字</translation>
+    </message>
+    <message>
+        <source>编辑批注</source>
+        <translation>编辑批注</translation>
+    </message>
+    <message>
+        <source>备注</source>
+        <translation>备注</translation>
+    </message>
+    <message>
+        <source>删除批注</source>
+        <translation>删除批注</translation>
+    </message>
+</context>
+<context>
+    <name>Export</name>
+    <message>
+        <source>无法写入：%1</source>
+        <translation>无法写入：%1</translation>
+    </message>
+    <message>
+        <source>文本文件中不含批注</source>
+        <translation>文本文件中不含批注</translation>
     </message>
 </context>
 <context>
@@ -126,14 +174,6 @@
         <translation>所有文件 (*)</translation>
     </message>
     <message>
-        <source>无法写入：%1</source>
-        <translation>无法写入：%1</translation>
-    </message>
-    <message>
-        <source>已保存，但不含批注；另存为 PDF 可保留批注：%1</source>
-        <translation>已保存，但不含批注；另存为 PDF 可保留批注：%1</translation>
-    </message>
-    <message>
         <source>已保存：%1</source>
         <translation>已保存：%1</translation>
     </message>
@@ -184,6 +224,38 @@ Ctrl+F：查找
 Ctrl+G：页码框
 Ctrl+M：缩放框
 F11：全屏</translation>
+    </message>
+    <message>
+        <source>PNG 图片，每页一个 (*.png)</source>
+        <translation>PNG 图片，每页一个 (*.png)</translation>
+    </message>
+    <message>
+        <source>“%1”已不存在，已从最近打开的文件中移除。</source>
+        <translation>“%1”已不存在，已从最近打开的文件中移除。</translation>
+    </message>
+    <message>
+        <source>已保存：%1。%2</source>
+        <translation>已保存：%1。%2</translation>
+    </message>
+    <message>
+        <source>已保存：%1。页面的旋转只用于查看，不写入文件</source>
+        <translation>已保存：%1。页面的旋转只用于查看，不写入文件</translation>
+    </message>
+    <message>
+        <source>本文件有电子签名，写入批注后签名可能不再有效。要继续保存吗？</source>
+        <translation>本文件有电子签名，写入批注后签名可能不再有效。要继续保存吗？</translation>
+    </message>
+    <message>
+        <source>已打印；本文件每次最多打印 %1 份</source>
+        <translation>已打印；本文件每次最多打印 %1 份</translation>
+    </message>
+    <message>
+        <source>“%1”已存在，要替换吗？</source>
+        <translation>“%1”已存在，要替换吗？</translation>
+    </message>
+    <message>
+        <source>替换</source>
+        <translation>替换</translation>
     </message>
 </context>
 <context>
@@ -249,6 +321,13 @@ F11：全屏</translation>
     </message>
 </context>
 <context>
+    <name>HostDock</name>
+    <message>
+        <source>宿主</source>
+        <translation>宿主</translation>
+    </message>
+</context>
+<context>
     <name>HostPanel</name>
     <message>
         <source>皮肤颜色</source>
@@ -308,6 +387,57 @@ F11：全屏</translation>
     <message>
         <source>工具栏现在没有可用的缩放框</source>
         <translation>工具栏现在没有可用的缩放框</translation>
+    </message>
+</context>
+<context>
+    <name>LinkCommands</name>
+    <message>
+        <source>只打开网页和邮件地址，不打开：%1</source>
+        <translation>只打开网页和邮件地址，不打开：%1</translation>
+    </message>
+    <message>
+        <source>要在其他程序中打开这个地址吗？</source>
+        <translation>要在其他程序中打开这个地址吗？</translation>
+    </message>
+    <message>
+        <source>系统没有打开这个地址的程序</source>
+        <translation>系统没有打开这个地址的程序</translation>
+    </message>
+    <message>
+        <source>打开</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>“%1”可能是程序，不能打开，只能另存</source>
+        <translation>“%1”可能是程序，不能打开，只能另存</translation>
+    </message>
+    <message>
+        <source>要在其他程序中打开附件“%1”吗？请只打开可信的文件。</source>
+        <translation>要在其他程序中打开附件“%1”吗？请只打开可信的文件。</translation>
+    </message>
+    <message>
+        <source>无法写入临时文件</source>
+        <translation>无法写入临时文件</translation>
+    </message>
+    <message>
+        <source>系统没有打开“%1”的程序</source>
+        <translation>系统没有打开“%1”的程序</translation>
+    </message>
+    <message>
+        <source>附件另存为</source>
+        <translation>附件另存为</translation>
+    </message>
+    <message>
+        <source>已保存：%1</source>
+        <translation>已保存：%1</translation>
+    </message>
+    <message>
+        <source>无法写入：%1</source>
+        <translation>无法写入：%1</translation>
     </message>
 </context>
 <context>
@@ -427,6 +557,41 @@ F11：全屏</translation>
         <source>水印</source>
         <translation>水印</translation>
     </message>
+    <message>
+        <source>批注</source>
+        <translation>批注</translation>
+    </message>
+</context>
+<context>
+    <name>MarkEntry</name>
+    <message>
+        <source>链接</source>
+        <translation>链接</translation>
+    </message>
+    <message>
+        <source>图形</source>
+        <translation>图形</translation>
+    </message>
+    <message>
+        <source>高亮</source>
+        <translation>高亮</translation>
+    </message>
+    <message>
+        <source>图章</source>
+        <translation>图章</translation>
+    </message>
+    <message>
+        <source>水印</source>
+        <translation>水印</translation>
+    </message>
+    <message>
+        <source>每一页</source>
+        <translation>每一页</translation>
+    </message>
+    <message>
+        <source>第 %1 页</source>
+        <translation>第 %1 页</translation>
+    </message>
 </context>
 <context>
     <name>NavigationPanel</name>
@@ -479,14 +644,6 @@ F11：全屏</translation>
         <translation>还没有书签</translation>
     </message>
     <message>
-        <source>每一页</source>
-        <translation>每一页</translation>
-    </message>
-    <message>
-        <source>：%1</source>
-        <translation>：%1</translation>
-    </message>
-    <message>
         <source>还没有批注</source>
         <translation>还没有批注</translation>
     </message>
@@ -494,17 +651,25 @@ F11：全屏</translation>
         <source>本文档没有附件</source>
         <translation>本文档没有附件</translation>
     </message>
+    <message>
+        <source>编辑备注…</source>
+        <translation>编辑备注…</translation>
+    </message>
+    <message>
+        <source>删除批注</source>
+        <translation>删除批注</translation>
+    </message>
+    <message>
+        <source>打开附件</source>
+        <translation>打开附件</translation>
+    </message>
+    <message>
+        <source>附件另存为…</source>
+        <translation>附件另存为…</translation>
+    </message>
 </context>
 <context>
     <name>Ofd</name>
-    <message>
-        <source>图案填充</source>
-        <translation>图案填充</translation>
-    </message>
-    <message>
-        <source>网格渐变</source>
-        <translation>网格渐变</translation>
-    </message>
     <message>
         <source>这不是 OFD 文件：包内没有 OFD.xml。</source>
         <translation>这不是 OFD 文件：包内没有 OFD.xml。</translation>
@@ -522,20 +687,12 @@ F11：全屏</translation>
         <translation>文档的页面过多，超过 %1 页。</translation>
     </message>
     <message>
-        <source>同一文件中的其他文档</source>
-        <translation>同一文件中的其他文档</translation>
-    </message>
-    <message>
         <source>复合图元“%1”循环引用。</source>
         <translation>复合图元“%1”循环引用。</translation>
     </message>
     <message>
         <source>复合图元“%1”嵌套过深。</source>
         <translation>复合图元“%1”嵌套过深。</translation>
-    </message>
-    <message>
-        <source>文档的内容展开后过多，无法显示。</source>
-        <translation>文档的内容展开后过多，无法显示。</translation>
     </message>
     <message>
         <source>标题</source>
@@ -590,20 +747,8 @@ F11：全屏</translation>
         <translation>电子签章</translation>
     </message>
     <message>
-        <source>文档中的图元过多，超过 %1 个。</source>
-        <translation>文档中的图元过多，超过 %1 个。</translation>
-    </message>
-    <message>
-        <source>图像蒙版</source>
-        <translation>图像蒙版</translation>
-    </message>
-    <message>
         <source>字号 %1 超出范围。</source>
         <translation>字号 %1 超出范围。</translation>
-    </message>
-    <message>
-        <source>文字裁剪</source>
-        <translation>文字裁剪</translation>
     </message>
     <message>
         <source>文件不存在。</source>
@@ -662,10 +807,6 @@ F11：全屏</translation>
         <translation>页面尺寸“%1”超出范围。</translation>
     </message>
     <message>
-        <source>缺失的页面</source>
-        <translation>缺失的页面</translation>
-    </message>
-    <message>
         <source>页面的图层过多，超过 %1 个。</source>
         <translation>页面的图层过多，超过 %1 个。</translation>
     </message>
@@ -676,10 +817,6 @@ F11：全屏</translation>
     <message>
         <source>缺失的模板页</source>
         <translation>缺失的模板页</translation>
-    </message>
-    <message>
-        <source>嵌入字体</source>
-        <translation>嵌入字体</translation>
     </message>
     <message>
         <source>图像</source>
@@ -721,6 +858,178 @@ F11：全屏</translation>
         <source>包内文件“%1”的元素过多。</source>
         <translation>包内文件“%1”的元素过多。</translation>
     </message>
+    <message>
+        <source>无法复制文件的 ZIP 包。</source>
+        <translation>无法复制文件的 ZIP 包。</translation>
+    </message>
+    <message>
+        <source>无法绘制的渐变</source>
+        <translation>无法绘制的渐变</translation>
+    </message>
+    <message>
+        <source>无法绘制的底纹</source>
+        <translation>无法绘制的底纹</translation>
+    </message>
+    <message>
+        <source>签名数据已损坏。</source>
+        <translation>签名数据已损坏。</translation>
+    </message>
+    <message>
+        <source>无法显示的页面</source>
+        <translation>无法显示的页面</translation>
+    </message>
+    <message>
+        <source>文档 %1</source>
+        <translation>文档 %1</translation>
+    </message>
+    <message>
+        <source>无法读取的注释</source>
+        <translation>无法读取的注释</translation>
+    </message>
+    <message>
+        <source>包内没有这一页的文件。</source>
+        <translation>包内没有这一页的文件。</translation>
+    </message>
+    <message>
+        <source>底纹嵌套过深。</source>
+        <translation>底纹嵌套过深。</translation>
+    </message>
+    <message>
+        <source>页面的内容展开后过多，无法显示。</source>
+        <translation>页面的内容展开后过多，无法显示。</translation>
+    </message>
+    <message>
+        <source>嵌入字体“%1”</source>
+        <translation>嵌入字体“%1”</translation>
+    </message>
+    <message>
+        <source>图元的裁剪区过多，超过 %1 个。</source>
+        <translation>图元的裁剪区过多，超过 %1 个。</translation>
+    </message>
+    <message>
+        <source>页面的图元过多，超过 %1 个。</source>
+        <translation>页面的图元过多，超过 %1 个。</translation>
+    </message>
+    <message>
+        <source>未知的图元</source>
+        <translation>未知的图元</translation>
+    </message>
+    <message>
+        <source>缺失的资源</source>
+        <translation>缺失的资源</translation>
+    </message>
+    <message>
+        <source>残缺的图形</source>
+        <translation>残缺的图形</translation>
+    </message>
+    <message>
+        <source>图像（%1，未安装其解码插件）</source>
+        <translation>图像（%1，未安装其解码插件）</translation>
+    </message>
+    <message>
+        <source>图像（%1）</source>
+        <translation>图像（%1）</translation>
+    </message>
+    <message>
+        <source>签章数据的结构不符合标准。</source>
+        <translation>签章数据的结构不符合标准。</translation>
+    </message>
+    <message>
+        <source>摘要算法 MD5 已不安全。</source>
+        <translation>摘要算法 MD5 已不安全。</translation>
+    </message>
+    <message>
+        <source>未知的摘要算法“%1”。</source>
+        <translation>未知的摘要算法“%1”。</translation>
+    </message>
+    <message>
+        <source>摘要算法 SHA-1 已较弱。</source>
+        <translation>摘要算法 SHA-1 已较弱。</translation>
+    </message>
+    <message>
+        <source>%1 等 %2 处</source>
+        <translation>%1 等 %2 处</translation>
+    </message>
+    <message>
+        <source>签名后被修改：%1</source>
+        <translation>签名后被修改：%1</translation>
+    </message>
+    <message>
+        <source>本阅读器编译时未包含签名算法。</source>
+        <translation>本阅读器编译时未包含签名算法。</translation>
+    </message>
+    <message>
+        <source>签名没有指明受保护的文件。</source>
+        <translation>签名没有指明受保护的文件。</translation>
+    </message>
+    <message>
+        <source>签名有效</source>
+        <translation>签名有效</translation>
+    </message>
+    <message>
+        <source>签名有效，但包内有 %1 个文件不受保护</source>
+        <translation>签名有效，但包内有 %1 个文件不受保护</translation>
+    </message>
+    <message>
+        <source>无法验证：%1</source>
+        <translation>无法验证：%1</translation>
+    </message>
+    <message>
+        <source>签名数据过大。</source>
+        <translation>签名数据过大。</translation>
+    </message>
+    <message>
+        <source>签名值的结构不符合标准。</source>
+        <translation>签名值的结构不符合标准。</translation>
+    </message>
+    <message>
+        <source>签名描述文件不完整。</source>
+        <translation>签名描述文件不完整。</translation>
+    </message>
+    <message>
+        <source>签名值中没有证书。</source>
+        <translation>签名值中没有证书。</translation>
+    </message>
+    <message>
+        <source>签名时间不在证书的有效期内。</source>
+        <translation>签名时间不在证书的有效期内。</translation>
+    </message>
+    <message>
+        <source>签名值</source>
+        <translation>签名值</translation>
+    </message>
+    <message>
+        <source>印章</source>
+        <translation>印章</translation>
+    </message>
+    <message>
+        <source>无法核对印章制作者的签名。</source>
+        <translation>无法核对印章制作者的签名。</translation>
+    </message>
+    <message>
+        <source>印章不是为签名证书制作的。</source>
+        <translation>印章不是为签名证书制作的。</translation>
+    </message>
+    <message>
+        <source>签名时间不在印章的有效期内。</source>
+        <translation>签名时间不在印章的有效期内。</translation>
+    </message>
+    <message>
+        <source>印章文件与所签的印章不同，页面上是所签的印章。</source>
+        <translation>印章文件与所签的印章不同，页面上是所签的印章。</translation>
+    </message>
+    <message>
+        <source>签名值中的证书已损坏。</source>
+        <translation>签名值中的证书已损坏。</translation>
+    </message>
+    <message>
+        <source>未知的签名算法“%1”。</source>
+        <translation>未知的签名算法“%1”。</translation>
+    </message>
+    <message>
+        <source>包内的批注文件不是正确的 XML。</source>
+        <translation>包内的批注文件不是正确的 XML。</translation>
+    </message>
 </context>
 <context>
     <name>OfdFile</name>
@@ -737,8 +1046,27 @@ F11：全屏</translation>
         <translation>，</translation>
     </message>
     <message>
-        <source>第 %1 页</source>
-        <translation>第 %1 页</translation>
+        <source>第 %1 页无法显示：%2</source>
+        <translation>第 %1 页无法显示：%2</translation>
+    </message>
+    <message>
+        <source>缺少字体：%1，以替代字体显示</source>
+        <translation>缺少字体：%1，以替代字体显示</translation>
+    </message>
+    <message>
+        <source>、</source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>；</source>
+        <translation>；</translation>
+    </message>
+</context>
+<context>
+    <name>OfdSaving</name>
+    <message>
+        <source>OFD 文件中不含插入的 %1 页及其批注；另存为 PDF 可保留</source>
+        <translation>OFD 文件中不含插入的 %1 页及其批注；另存为 PDF 可保留</translation>
     </message>
 </context>
 <context>
@@ -815,13 +1143,21 @@ F11：全屏</translation>
         <source>关闭</source>
         <translation>关闭</translation>
     </message>
+    <message>
+        <source>正在统计…</source>
+        <translation>正在统计…</translation>
+    </message>
+    <message>
+        <source>权限</source>
+        <translation>权限</translation>
+    </message>
+    <message>
+        <source>%1（正在统计…）</source>
+        <translation>%1（正在统计…）</translation>
+    </message>
 </context>
 <context>
     <name>ReaderWindow</name>
-    <message>
-        <source>宿主</source>
-        <translation>宿主</translation>
-    </message>
     <message>
         <source>没有实现的命令：%1</source>
         <translation>没有实现的命令：%1</translation>
@@ -838,12 +1174,59 @@ F11：全屏</translation>
         <source>第 %1 / %2 页&#x3000;%3%</source>
         <translation>第 %1 / %2 页&#x3000;%3%</translation>
     </message>
+    <message>
+        <source>没有这一页：共 %1 页</source>
+        <translation>没有这一页：共 %1 页</translation>
+    </message>
 </context>
 <context>
-    <name>RemoveMarkEdit</name>
+    <name>Refusal</name>
     <message>
-        <source>擦除笔迹</source>
-        <translation>擦除笔迹</translation>
+        <source>编辑</source>
+        <translation>编辑</translation>
+    </message>
+    <message>
+        <source>批注</source>
+        <translation>批注</translation>
+    </message>
+    <message>
+        <source>导出</source>
+        <translation>导出</translation>
+    </message>
+    <message>
+        <source>签章</source>
+        <translation>签章</translation>
+    </message>
+    <message>
+        <source>添加水印</source>
+        <translation>添加水印</translation>
+    </message>
+    <message>
+        <source>打印</source>
+        <translation>打印</translation>
+    </message>
+    <message>
+        <source>本文件自 %1 起才有效，此前只能阅读。</source>
+        <translation>本文件自 %1 起才有效，此前只能阅读。</translation>
+    </message>
+    <message>
+        <source>本文件的有效期到 %1 为止，现在只能阅读。</source>
+        <translation>本文件的有效期到 %1 为止，现在只能阅读。</translation>
+    </message>
+    <message>
+        <source>本文件的作者不允许%1。</source>
+        <translation>本文件的作者不允许%1。</translation>
+    </message>
+    <message>
+        <source>、</source>
+        <translation>、</translation>
+    </message>
+</context>
+<context>
+    <name>SafeFile</name>
+    <message>
+        <source>附件</source>
+        <translation>附件</translation>
     </message>
 </context>
 <context>
@@ -868,6 +1251,22 @@ F11：全屏</translation>
         <source>没有找到“%1”</source>
         <translation>没有找到“%1”</translation>
     </message>
+    <message>
+        <source>搜索进度</source>
+        <translation>搜索进度</translation>
+    </message>
+    <message>
+        <source>停止</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>正在查找“%1”…</source>
+        <translation>正在查找“%1”…</translation>
+    </message>
+    <message>
+        <source>%1（只查找了 %2 / %3 页）</source>
+        <translation>%1（只查找了 %2 / %3 页）</translation>
+    </message>
 </context>
 <context>
     <name>SignalLog</name>
@@ -882,6 +1281,136 @@ F11：全屏</translation>
     <message>
         <source>收到的信号</source>
         <translation>收到的信号</translation>
+    </message>
+</context>
+<context>
+    <name>SignatureDialog</name>
+    <message>
+        <source>共 %1 个</source>
+        <translation>共 %1 个</translation>
+    </message>
+    <message>
+        <source>、</source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>签名证书</source>
+        <translation>签名证书</translation>
+    </message>
+    <message>
+        <source>主体</source>
+        <translation>主体</translation>
+    </message>
+    <message>
+        <source>颁发者</source>
+        <translation>颁发者</translation>
+    </message>
+    <message>
+        <source>序列号</source>
+        <translation>序列号</translation>
+    </message>
+    <message>
+        <source>有效期</source>
+        <translation>有效期</translation>
+    </message>
+    <message>
+        <source>%1 至 %2</source>
+        <translation>%1 至 %2</translation>
+    </message>
+    <message>
+        <source>信任</source>
+        <translation>信任</translation>
+    </message>
+    <message>
+        <source>没有检查证书是否可信、是否已吊销。</source>
+        <translation>没有检查证书是否可信、是否已吊销。</translation>
+    </message>
+    <message>
+        <source>签名</source>
+        <translation>签名</translation>
+    </message>
+    <message>
+        <source>签名的详情</source>
+        <translation>签名的详情</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>转到签章</source>
+        <translation>转到签章</translation>
+    </message>
+    <message>
+        <source>%1：%2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>注意</source>
+        <translation>注意</translation>
+    </message>
+    <message>
+        <source>印章</source>
+        <translation>印章</translation>
+    </message>
+    <message>
+        <source>所在页</source>
+        <translation>所在页</translation>
+    </message>
+    <message>
+        <source>签名时间</source>
+        <translation>签名时间</translation>
+    </message>
+    <message>
+        <source>%1（由签名者声明）</source>
+        <translation>%1（由签名者声明）</translation>
+    </message>
+    <message>
+        <source>签名程序</source>
+        <translation>签名程序</translation>
+    </message>
+    <message>
+        <source>签名方法</source>
+        <translation>签名方法</translation>
+    </message>
+    <message>
+        <source>受保护的文件</source>
+        <translation>受保护的文件</translation>
+    </message>
+    <message>
+        <source>%1 个未被修改</source>
+        <translation>%1 个未被修改</translation>
+    </message>
+    <message>
+        <source>不受保护的文件</source>
+        <translation>不受保护的文件</translation>
+    </message>
+</context>
+<context>
+    <name>StartPage</name>
+    <message>
+        <source>OFD阅读器</source>
+        <translation>OFD阅读器</translation>
+    </message>
+    <message>
+        <source>打开…</source>
+        <translation>打开…</translation>
+    </message>
+    <message>
+        <source>也可以把 OFD 文件拖到这里</source>
+        <translation>也可以把 OFD 文件拖到这里</translation>
+    </message>
+    <message>
+        <source>最近打开的文件</source>
+        <translation>最近打开的文件</translation>
+    </message>
+    <message>
+        <source>从列表中移除</source>
+        <translation>从列表中移除</translation>
+    </message>
+    <message>
+        <source>从列表中移除选中的文件（Delete）</source>
+        <translation>从列表中移除选中的文件（Delete）</translation>
     </message>
 </context>
 <context>
