@@ -155,14 +155,14 @@ private Q_SLOTS:
         const auto document = opened(entries);
         QVERIFY(document && document->unsupported.isEmpty());
         QVERIFY(document->page(0)->fault.isNull() && !document->page(0)->layers.isEmpty());
-        QCOMPARE(document->unsupported.value("无法读取的注释"), 1);
+        QCOMPARE(document->unsupported.value("无法读取的批注"), 1);
         // On the second page the damaged template must not be taken for a circular one.
         for (const int page : {1, 2})
             QVERIFY(document->page(page)->fault.contains("T.xml"));
         entries["Doc_0/A.xml"] = "damaged";
         const auto withoutIndex = opened(entries);
         QVERIFY(withoutIndex && withoutIndex->page(0)->fault.isNull());
-        QCOMPARE(withoutIndex->unsupported.value("无法读取的注释"), 1);
+        QCOMPARE(withoutIndex->unsupported.value("无法读取的批注"), 1);
     }
 
     void shouldOpenEachDocumentOfAPackage()

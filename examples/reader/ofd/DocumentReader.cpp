@@ -148,7 +148,7 @@ private:
         try {
             m_annotations = Annotations::lists(*m_document.package, root, path, indexes);
         } catch (const Fault &) {
-            ++m_counts[Wording::tr("无法读取的注释")];
+            ++m_counts[Wording::tr("无法读取的批注")];
         }
     }
 
@@ -173,7 +173,7 @@ private:
             const XmlElement element = XmlElement::parse(m_document.package->read(list), list);
             page->annotations = Annotations::read(element, m_resources.objects());
         } catch (const Fault &) {
-            ++m_counts[Wording::tr("无法读取的注释")];
+            ++m_counts[Wording::tr("无法读取的批注")];
         }
     }
 

@@ -40,7 +40,7 @@ void Screenshot::look()
         return;
     }
     const auto *view = m_window->findChild<PageView *>();
-    if (now.isNull() || now != m_last || (view && !view->isSharp())) {
+    if (now.isNull() || now != m_last || (view && view->isVisible() && !view->isSharp())) {
         m_last = now;
         return;
     }

@@ -883,7 +883,7 @@ F11: full screen</translation>
         <translation>Document %1</translation>
     </message>
     <message>
-        <source>无法读取的注释</source>
+        <source>无法读取的批注</source>
         <translation>annotations that cannot be read</translation>
     </message>
     <message>

@@ -883,8 +883,8 @@ F11：全屏</translation>
         <translation>文档 %1</translation>
     </message>
     <message>
-        <source>无法读取的注释</source>
-        <translation>无法读取的注释</translation>
+        <source>无法读取的批注</source>
+        <translation>无法读取的批注</translation>
     </message>
     <message>
         <source>包内没有这一页的文件。</source>
