@@ -27,9 +27,9 @@
 #include <utility>
 
 /** The names in a description, by the signals that may report them. */
-struct DescribedNames
+struct NamesInUse
 {
-    explicit DescribedNames(const QDomDocument &document)
+    explicit NamesInUse(const QDomDocument &document)
     {
         // An entry "menu_…" and a quick access button are reported under the command's name.
         static const QRegularExpression prefixes("^(menu_)?(qbar_)?");
@@ -84,7 +84,7 @@ class Witness : public QObject
 {
 public:
     /** @param react is called on every signal, as the host's answer. */
-    Witness(DescribedNames names, std::function<void()> react)
+    Witness(NamesInUse names, std::function<void()> react)
         : m_names(std::move(names))
         , m_react(std::move(react))
     {
@@ -291,7 +291,7 @@ private:
                 "too many entries in the zoom box");
     }
 
-    DescribedNames m_names;
+    NamesInUse m_names;
     std::function<void()> m_react;
     QString m_fault;
     QSet<QString> m_recentFiles;

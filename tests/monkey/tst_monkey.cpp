@@ -197,7 +197,7 @@ private:
 
     RandomSource m_random;
     QDomDocument m_document;
-    DescribedNames m_names;
+    NamesInUse m_names;
     Witness m_witness;
     QString m_kept; ///< From one toolbar to the next.
     RandomHost m_host;

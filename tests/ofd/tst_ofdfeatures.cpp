@@ -4,6 +4,7 @@
 #include "tests/ofd/OfdFiles.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QTest>
 
 /** Each source in the folder features/ is made, opened and painted as the kept picture shows. */
@@ -34,6 +35,36 @@ private Q_SLOTS:
             const QString difference =
                 OfdFiles::difference(OfdFiles::painted(document, page), picture);
             QVERIFY2(difference.isEmpty(), qPrintable(difference));
+        }
+    }
+
+    void shouldPaintTheRealFilesAsBefore_data()
+    {
+        QTest::addColumn<QString>("file");
+        const QDir folder(qEnvironmentVariable("MRTOOLBAR_SAMPLES"));
+        if (folder.path() == QLatin1String("."))
+            QSKIP("MRTOOLBAR_SAMPLES does not name the folder of the real files");
+        const QStringList names = folder.entryList({"*.ofd"});
+        for (const QString &name : names)
+            QTest::newRow(qPrintable(name)) << folder.filePath(name);
+    }
+
+    void shouldPaintTheRealFilesAsBefore()
+    {
+        QFETCH(QString, file);
+        QString error;
+        const auto document = Ofd::read(file, &error);
+        QVERIFY2(document, qPrintable(error));
+        for (int page = 0; page < document->pageCount(); ++page) {
+            const QImage whole = OfdFiles::painted(document, page);
+            // A small picture shows what is where, and not how the system's fonts are drawn.
+            const QImage small =
+                whole.scaled(whole.size() / 8, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+            const QString name =
+                QStringLiteral("real-%1-%2").arg(QFileInfo(file).baseName()).arg(page + 1);
+            const QString difference = OfdFiles::difference(small, name);
+            QVERIFY2(difference.isEmpty(), qPrintable(difference));
+            QVERIFY(document->page(page)->fault.isEmpty());
         }
     }
 };

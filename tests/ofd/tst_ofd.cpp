@@ -6,6 +6,7 @@
 #include "ofd/PageText.h"
 #include "ofd/Painter.h"
 #include "ofd/PathData.h"
+#include "tests/ofd/OfdFiles.h"
 #include "tests/support/Icons.h"
 
 #include <QDir>
@@ -24,7 +25,8 @@
 
 namespace {
 
-constexpr int pixelsPerMillimetre = 4;
+using OfdFiles::painted;
+using OfdFiles::pixelsPerMillimetre;
 
 QString samplePath(const QString &name)
 {
@@ -36,17 +38,6 @@ std::shared_ptr<const Ofd::Document> sample(const QString &name)
     QString error;
     const auto document = Ofd::read(samplePath(name), &error);
     return error.isEmpty() ? document : nullptr;
-}
-
-QImage painted(const std::shared_ptr<const Ofd::Document> &document, int page)
-{
-    const QSizeF size = document->area(page).size() * pixelsPerMillimetre;
-    QImage image(size.toSize(), QImage::Format_RGB32);
-    image.fill(Qt::white);
-    QPainter painter(&image);
-    painter.scale(pixelsPerMillimetre, pixelsPerMillimetre);
-    Ofd::Painter(document).paint(painter, page);
-    return image;
 }
 
 QColor at(const QImage &image, qreal x, qreal y)
