@@ -82,7 +82,9 @@ if(MRTOOLBAR_BUILD_EXAMPLES)
     set(CPACK_DEBIAN_READER_PACKAGE_SECTION text)
     set(CPACK_DEBIAN_READER_PACKAGE_SHLIBDEPS ON)
     set(CPACK_DEBIAN_READER_PACKAGE_DEPENDS ${needs_runtime})
-    set(CPACK_DEBIAN_READER_PACKAGE_RECOMMENDS fonts-noto-cjk)
+    # The plug-ins decode TIFF and WebP.
+    set(CPACK_DEBIAN_READER_PACKAGE_RECOMMENDS
+        "fonts-noto-cjk, qt${MRTOOLBAR_QT_MAJOR}-image-formats-plugins")
     set(CPACK_DEBIAN_READER_DESCRIPTION "small reader for OFD documents
 Opens documents in the Open Fixed-layout Document format; shows, searches,
 marks and prints their pages, and exports them as PDF or text.\n
