@@ -6,6 +6,7 @@
 #include <QDataStream>
 #include <QFont>
 #include <QFontDatabase>
+#include <QIODevice>
 #include <QMap>
 #include <QStringList>
 
