@@ -12,6 +12,21 @@
 
 #include <array>
 
+namespace {
+
+/** The two versions of Qt name their checks for exceptions differently. */
+bool isRefused(const Ofd::Package &package, const QString &location)
+{
+    try {
+        package.find("Doc_0/Document.xml", location);
+        return false;
+    } catch (const Ofd::Fault &) {
+        return true;
+    }
+}
+
+} // namespace
+
 /** How locations in a document lead to entries of its archive. */
 class TestOfdPackage : public QObject
 {
@@ -72,7 +87,7 @@ private Q_SLOTS:
         const Ofd::Package package(m_folder.filePath("a.ofd"));
         for (const char *location :
              {"../../a", "..\\..\\a", "/../a", "C:\\a", "c:/a", "%2E%2e/../a"})
-            QVERIFY_EXCEPTION_THROWN(package.find("Doc_0/Document.xml", location), Ofd::Fault);
+            QVERIFY2(isRefused(package, location), location);
     }
 
 private:
