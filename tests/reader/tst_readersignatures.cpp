@@ -125,6 +125,7 @@ void ReaderSignaturesTest::shouldShowWhatTheCheckTells()
     Reader reader;
     QVERIFY(reader.command);
     reader.window.open(m_signed);
+    QTRY_VERIFY(reader.command->isEnabled());
     const QStringList texts = textsAfter([&] { reader.command->trigger(); });
     QCOMPARE(texts.size(), 3);
     QVERIFY2(texts.at(0).contains("测试专用章"), qUtf8Printable(texts.at(0)));
