@@ -13,6 +13,7 @@
 #include <QInputDialog>
 #include <QMainWindow>
 #include <QMap>
+#include <QPlainTextEdit>
 
 #include <algorithm>
 
@@ -206,11 +207,16 @@ void EditCommands::editMark(int id)
     const Mark *mark = m_parts.document->markOf(id);
     if (!mark || !mayAnnotate())
         return;
-    bool isGiven = false;
-    const QString text = QInputDialog::getMultiLineText(m_parts.window, tr("编辑批注"), tr("备注"),
-                                                        mark->text, &isGiven);
-    if (isGiven)
-        m_parts.document->setMarkText(id, text);
+    QInputDialog dialog(m_parts.window);
+    dialog.setOption(QInputDialog::UsePlainTextEditForTextInput);
+    dialog.setWindowTitle(tr("编辑批注"));
+    dialog.setLabelText(tr("备注"));
+    dialog.setTextValue(mark->text);
+    // Otherwise the buttons cannot be reached with the keyboard.
+    if (auto *field = dialog.findChild<QPlainTextEdit *>())
+        field->setTabChangesFocus(true);
+    if (dialog.exec() == QDialog::Accepted)
+        m_parts.document->setMarkText(id, dialog.textValue());
 }
 
 void EditCommands::removeMark(int id)
