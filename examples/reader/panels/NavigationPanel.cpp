@@ -131,7 +131,10 @@ void NavigationPanel::addBookmarkButton()
 
 void NavigationPanel::addListActions()
 {
-    m_markActions = new ListActions(m_lists.value(marks));
+    QListWidget *remarks = m_lists.value(marks);
+    remarks->setWordWrap(true);
+    remarks->setResizeMode(QListView::Adjust);
+    m_markActions = new ListActions(remarks);
     m_markActions->add(Qt::Key_F2, [this](int id) { Q_EMIT markEditAsked(id); });
     m_markActions->add(QKeySequence::Delete, [this](int id) { Q_EMIT markRemovalAsked(id); });
     QListWidget *files = m_lists.value(attachments);
@@ -288,6 +291,8 @@ void NavigationPanel::fillMarks()
     for (const Mark &mark : m_document.marks()) {
         auto *item = new QListWidgetItem(MarkEntry::textOf(mark), list);
         item->setData(ListActions::numberRole, mark.id);
+        // If centred, a last line that is lower than the one before is elided.
+        item->setTextAlignment(Qt::AlignLeft | Qt::AlignTop);
     }
     if (list->count() == 0)
         addNotice(list, tr("还没有批注"));
