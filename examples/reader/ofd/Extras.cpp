@@ -107,10 +107,13 @@ void Extras::readAttachments(const XmlElement &root, const QString &from, Docume
     if (!list)
         return;
     for (const XmlElement &attachment : list->children) {
-        if (attachment.flag("Visible", true))
-            document.attachments.append(
-                {attachment.attribute("ID"), attachment.attribute("Name"),
-                 document.package->find(path, attachment.childText("FileLoc"))});
+        if (!attachment.flag("Visible", true))
+            continue;
+        const QString location = attachment.childText("FileLoc");
+        const QString file = document.package->find(path, location);
+        // A missing file keeps its location, which is named when the attachment is to be opened.
+        document.attachments.append({attachment.attribute("ID"), attachment.attribute("Name"),
+                                     file.isEmpty() ? location : file});
     }
 }
 
