@@ -188,12 +188,19 @@ QString NavigationPanel::shownPanel() const
     return isHidden() ? QString() : m_panel;
 }
 
+void NavigationPanel::setCurrentPage(int page)
+{
+    m_currentPage = page;
+    m_thumbnails->showPage(page);
+}
+
 void NavigationPanel::documentOpened()
 {
     if (m_fileName != m_document.fileName()) {
         m_fileName = m_document.fileName();
         m_bookmarks.clear();
     }
+    m_thumbnails->showPage(m_currentPage);
     refill();
 }
 

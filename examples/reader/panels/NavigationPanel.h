@@ -28,8 +28,8 @@ public:
     void toggle(const QString &name);
     /** The name of the shown panel; empty while the dock is hidden. */
     QString shownPanel() const;
-    /** Sets the page for new bookmarks. */
-    void setCurrentPage(int page) { m_currentPage = page; }
+    /** Sets the page for new bookmarks and shows its thumbnail. */
+    void setCurrentPage(int page);
 
     static QStringList names();
 

@@ -79,6 +79,7 @@ ThumbnailList::ThumbnailList(const Document &document, QWidget *parent)
     , m_document(document)
 {
     setUniformItemSizes(true);
+    setSpacing(2);
     setModel(new Pages(document, this));
     setItemDelegate(new Delegate(this));
     connect(&document, &Document::pagesChanged, &m_cache, &PageCache::clear);
@@ -88,6 +89,11 @@ ThumbnailList::ThumbnailList(const Document &document, QWidget *parent)
     const auto choose = [this](const QModelIndex &index) { Q_EMIT pageChosen(index.row()); };
     connect(this, &QListView::clicked, this, choose);
     connect(this, &QListView::activated, this, choose);
+}
+
+void ThumbnailList::showPage(int page)
+{
+    setCurrentIndex(model()->index(page, 0));
 }
 
 void ThumbnailList::paintEvent(QPaintEvent *event)

@@ -17,6 +17,9 @@ class ThumbnailList : public QListView
 public:
     explicit ThumbnailList(const Document &document, QWidget *parent = nullptr);
 
+    /** Marks the page as the current one and scrolls to it. */
+    void showPage(int page);
+
 Q_SIGNALS:
     void pageChosen(int page);
 
