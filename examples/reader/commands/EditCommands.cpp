@@ -109,8 +109,10 @@ void EditCommands::addSelection(MRToolBarCommands &commands)
     });
     m_parts.addForDocument(commands, "e_selectall",
                            [this] { selectPages(0, m_parts.document->pageCount() - 1); });
-    commands.add("e_unselect", [this] { m_parts.view->setSelection({}); })
-        .usableWhen([view = m_parts.view] { return !view->selection().isEmpty(); });
+    const auto hasSelection = [view = m_parts.view] { return !view->selection().isEmpty(); };
+    commands.add("e_copy", [view = m_parts.view] { view->copySelection(); })
+        .usableWhen(hasSelection);
+    commands.add("e_unselect", [this] { m_parts.view->setSelection({}); }).usableWhen(hasSelection);
 }
 
 void EditCommands::addPages(MRToolBarCommands &commands)

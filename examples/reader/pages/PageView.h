@@ -53,6 +53,7 @@ public:
     const QList<TextRange> &selection() const { return m_decoration.selection; }
     void setSelection(const QList<TextRange> &selection);
     QString selectedText() const;
+    void copySelection() const;
     /** The marks of the current tool for the selected text, one for each page. */
     QList<Mark> marksOnSelection() const;
 

@@ -204,6 +204,13 @@ QString PageView::selectedText() const
     return text;
 }
 
+void PageView::copySelection() const
+{
+    // Without a selection the clipboard keeps what it has.
+    if (!selection().isEmpty())
+        QApplication::clipboard()->setText(selectedText());
+}
+
 QList<Mark> PageView::marksOnSelection() const
 {
     QList<Mark> marks;
@@ -255,7 +262,7 @@ bool PageView::turnPage(int direction)
 void PageView::keyPressEvent(QKeyEvent *event)
 {
     if (event->matches(QKeySequence::Copy))
-        QApplication::clipboard()->setText(selectedText());
+        copySelection();
     else if (event->key() == Qt::Key_Home)
         setCurrentPage(0);
     else if (event->key() == Qt::Key_End)
