@@ -210,8 +210,11 @@ bool FileCommands::mayReplaceFile() const
     if (document.isGenerated() || !OfdSaving::lossOf(document).isEmpty()
         || !document.fileName().endsWith(ofdSuffix, Qt::CaseInsensitive))
         return false;
-    // Another program may have changed the file since it was read.
     QFile file(document.fileName());
+    // The administrator can write into any file, but this one was marked to stay as it is.
+    if (!(file.permissions() & QFile::WriteOwner))
+        return false;
+    // Another program may have changed the file since it was read.
     return file.open(QIODevice::ReadOnly) && file.readAll() == document.file().archive;
 }
 
