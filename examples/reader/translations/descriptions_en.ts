@@ -660,6 +660,10 @@
         <translation>Verify signatures;Show the signatures, seals and certificates of the document</translation>
     </message>
     <message>
+        <source>缩略图</source>
+        <translation>Thumbnails</translation>
+    </message>
+    <message>
         <source>大纲</source>
         <translation>Outline</translation>
     </message>
@@ -686,6 +690,14 @@
     <message>
         <source>全屏;隐藏窗口边框全屏阅读</source>
         <translation>Full screen;Read without the frame of the window</translation>
+    </message>
+    <message>
+        <source>复制</source>
+        <translation>Copy</translation>
+    </message>
+    <message>
+        <source>复制;把选中的文字放到剪贴板(Ctrl+C)</source>
+        <translation>Copy;Put the selected text on the clipboard (Ctrl+C)</translation>
     </message>
     <message>
         <source>隐藏功能区</source>
