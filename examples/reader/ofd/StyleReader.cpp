@@ -77,8 +77,7 @@ void StyleReader::resolve()
         Parameters &parameters = m_parameters[id];
         QSet<QString> visited = {id};
         for (QString &next = parameters.relative; m_parameters.contains(next);) {
-            // A chain without end of parameters is as bad as a circle.
-            if (visited.contains(next) || visited.size() > Limits::xmlDepth)
+            if (visited.contains(next))
                 throw Fault{Wording::tr("绘制参数“%1”循环引用。").arg(next)};
             visited.insert(next);
             const Parameters wider = m_parameters.value(next);
