@@ -74,15 +74,20 @@ void StyleReader::resolve()
     // Taken first, so that a circle on one page does not stay for the next one.
     const QStringList ids = std::exchange(m_unresolved, {});
     for (const QString &id : ids) {
-        Parameters &parameters = m_parameters[id];
-        QSet<QString> visited = {id};
-        for (QString &next = parameters.relative; m_parameters.contains(next);) {
+        QStringList chain;
+        QSet<QString> visited;
+        for (QString next = id; m_parameters.contains(next);
+             next = m_parameters.value(next).relative) {
             if (visited.contains(next))
                 throw Fault{Wording::tr("绘制参数“%1”循环引用。").arg(next)};
             visited.insert(next);
-            const Parameters wider = m_parameters.value(next);
-            parameters.style = parameters.style.over(wider.style);
-            next = wider.relative;
+            chain.append(next);
+        }
+        // From the widest one, so that no link of a long chain is followed twice.
+        for (int at = int(chain.size()) - 2; at >= 0; --at) {
+            Parameters &parameters = m_parameters[chain.at(at)];
+            parameters.style = parameters.style.over(m_parameters.value(chain.at(at + 1)).style);
+            parameters.relative.clear();
         }
     }
 }
