@@ -92,6 +92,16 @@ Mark markOf(int kind)
     return mark;
 }
 
+QMap<int, QVector<Ofd::Annotation>> headsOf(const std::shared_ptr<const Ofd::Document> &document)
+{
+    return Ofd::Annotations::heads(*document, Ofd::DocumentRoot(*document));
+}
+
+QList<Mark> marksOf(const std::shared_ptr<const Ofd::Document> &document)
+{
+    return MarkAnnotation::marksOf(*document, Ofd::DocumentRoot(*document));
+}
+
 } // namespace
 
 /** Annotations are written into a copy of the file and read again. */
@@ -113,7 +123,7 @@ private Q_SLOTS:
                 changes[page].added.append(draft);
             const auto again = reread(Ofd::withAnnotations(*document, changes));
             QVERIFY(again);
-            const QList<Mark> marks = MarkAnnotation::marksOf(*again);
+            const QList<Mark> marks = marksOf(again);
             QCOMPARE(marks.size(), 1);
             QCOMPARE(int(marks.first().kind), kind);
             QCOMPARE(marks.first().page, mark.page);
@@ -147,7 +157,7 @@ private Q_SLOTS:
 
         const auto again = reread(written);
         QVERIFY(again);
-        const auto heads = Ofd::Annotations::heads(*again);
+        const auto heads = headsOf(again);
         QCOMPARE(heads.value(0).at(1).remark, QStringLiteral("新\n<备注>"));
         QCOMPARE(heads.value(0).at(1).date, QStringLiteral("2026-01-02"));
         QCOMPARE(heads.value(0).at(1).creator, QStringLiteral("乙"));
@@ -164,7 +174,7 @@ private Q_SLOTS:
         changes[0].removed = {0};
         changes[0].added = {draftOf(markOf(0), *document), draftOf(markOf(7), *document)};
         const auto again = reread(Ofd::withAnnotations(*document, changes));
-        const auto heads = Ofd::Annotations::heads(*again).value(0);
+        const auto heads = headsOf(again).value(0);
         QCOMPARE(heads.size(), 3);
         QCOMPARE(heads.at(0).id, QStringLiteral("922"));
         QCOMPARE(heads.at(1).id, QStringLiteral("924")); // The file uses 923, but declares 900.
@@ -202,7 +212,7 @@ private Q_SLOTS:
         QVERIFY(from.isEmpty() || bytes.contains(from));
         bytes.replace(from, to);
         const QByteArray archive = Ofd::Archive::withEntries(*written->package, {{list, bytes}});
-        const QList<Mark> marks = MarkAnnotation::marksOf(*reread(archive));
+        const QList<Mark> marks = marksOf(reread(archive));
         QCOMPARE(marks.size(), 1);
         QCOMPARE(marks.first().kind, from.isEmpty() ? MarkKind::Highlight : MarkKind::Annotation);
     }
@@ -253,8 +263,8 @@ private Q_SLOTS:
         try {
             const auto again = reread(Ofd::withAnnotations(*document, changes));
             QVERIFY(again);
-            const int before = int(Ofd::Annotations::heads(*document).value(0).size());
-            QCOMPARE(Ofd::Annotations::heads(*again).value(0).size(), before + 1);
+            const int before = int(headsOf(document).value(0).size());
+            QCOMPARE(headsOf(again).value(0).size(), before + 1);
         } catch (const Ofd::Fault &fault) {
             QVERIFY(!fault.message.isEmpty());
         }
@@ -263,7 +273,7 @@ private Q_SLOTS:
     void shouldFindWhereLinksLead()
     {
         const auto document = OfdFiles::opened("acts");
-        const PageLinks links(*document);
+        const PageLinks links(*document, Ofd::DocumentRoot(*document));
         const auto first = links.on(*document->page(0), {});
         QCOMPARE(first.size(), 2);
         QCOMPARE(first.at(0).place.page, 1);

@@ -214,11 +214,11 @@ void MarkAnnotation::setAppearance(Ofd::AnnotationDraft &draft,
     draft.parameters.append({boundaryName, boxText(draft.boundary)});
 }
 
-QList<Mark> MarkAnnotation::marksOf(const Ofd::Document &document)
+QList<Mark> MarkAnnotation::marksOf(const Ofd::Document &document, const Ofd::DocumentRoot &root)
 {
     QList<Mark> marks;
     QHash<QString, QVector<int>> groups;
-    const auto heads = Ofd::Annotations::heads(document);
+    const auto heads = Ofd::Annotations::heads(document, root);
     for (auto page = heads.cbegin(); page != heads.cend(); ++page) {
         document.pages->measure(page.key()); // An estimate would misplace marks.
         const QPointF corner = document.area(page.key()).topLeft();

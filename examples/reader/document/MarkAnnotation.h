@@ -5,6 +5,7 @@
 
 #include "document/Mark.h"
 #include "ofd/AnnotationWriter.h"
+#include "ofd/DocumentRoot.h"
 
 /** Marks as annotations of a file, whose parameters keep what the appearance does not tell. */
 namespace MarkAnnotation {
@@ -22,6 +23,6 @@ void setAppearance(Ofd::AnnotationDraft &draft, const QVector<Ofd::DrawnPath> &p
  * The marks of a document by its annotations. What this program has drawn is such a mark again,
  * unless another program has moved it; the others have the kind Annotation.
  */
-QList<Mark> marksOf(const Ofd::Document &document);
+QList<Mark> marksOf(const Ofd::Document &document, const Ofd::DocumentRoot &root);
 
 } // namespace MarkAnnotation

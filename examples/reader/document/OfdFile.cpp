@@ -6,7 +6,6 @@
 #include "document/MarkAnnotation.h"
 #include "document/OfdPainters.h"
 #include "document/PageLinks.h"
-#include "ofd/DocumentRoot.h"
 #include "ofd/Fault.h"
 #include "ofd/PageText.h"
 
@@ -199,7 +198,8 @@ bool OfdFile::read(const QString &fileName, QList<Page> *pages, QString *error, 
     document = read;
     const auto painters = std::make_shared<OfdPainters>(document);
     hidden = std::make_shared<HiddenAnnotations>();
-    const auto links = std::make_shared<const PageLinks>(*document);
+    const Ofd::DocumentRoot root(*document);
+    const auto links = std::make_shared<const PageLinks>(*document, root);
     pages->clear();
     for (int i = 0; i < document->pageCount(); ++i) {
         Page page;
@@ -215,16 +215,9 @@ bool OfdFile::read(const QString &fileName, QList<Page> *pages, QString *error, 
     bookmarks = placesOf(document->bookmarks);
     for (const Ofd::Attachment &attachment : document->attachments)
         attachments.append(attachment.name);
-    readActs();
-    return true;
-}
-
-void OfdFile::readActs()
-{
-    const Ofd::DocumentRoot root(*document);
     permissions = Ofd::Permissions::of(root.element);
-    isSigned = root.isSigned;
-    marks = MarkAnnotation::marksOf(*document);
+    marks = MarkAnnotation::marksOf(*document, root);
+    return true;
 }
 
 QPointF OfdFile::cornerOf(int page) const

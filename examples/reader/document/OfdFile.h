@@ -58,8 +58,6 @@ public:
     QByteArray attachment(int index, QString *error) const;
 
 private:
-    void readActs();
-
     mutable QStringList m_missingFonts;
     mutable int m_testedFonts = 0;
 };

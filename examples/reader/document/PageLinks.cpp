@@ -4,12 +4,10 @@
 #include "document/PageLinks.h"
 
 #include "document/MarkAnnotation.h"
-#include "ofd/DocumentRoot.h"
 #include "ofd/Links.h"
 
-PageLinks::PageLinks(const Ofd::Document &document)
+PageLinks::PageLinks(const Ofd::Document &document, const Ofd::DocumentRoot &root)
 {
-    const Ofd::DocumentRoot root(document);
     m_pages = root.pageIndexes;
     m_bookmarks = Ofd::Links::bookmarks(root.element);
     for (int i = 0; i < document.attachments.size(); ++i)

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "document/PageLink.h"
-#include "ofd/Document.h"
+#include "ofd/DocumentRoot.h"
 
 #include <QSet>
 
@@ -12,7 +12,7 @@
 class PageLinks
 {
 public:
-    explicit PageLinks(const Ofd::Document &document);
+    PageLinks(const Ofd::Document &document, const Ofd::DocumentRoot &root);
 
     /** The links of a page in page units; those that lead nowhere are left out. */
     QVector<PageLink> on(const Ofd::Page &page, const QSet<int> &hiddenAnnotations) const;

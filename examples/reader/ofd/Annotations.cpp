@@ -3,7 +3,6 @@
 
 #include "ofd/Annotations.h"
 
-#include "ofd/DocumentRoot.h"
 #include "ofd/Extras.h"
 #include "ofd/Fault.h"
 #include "ofd/Links.h"
@@ -98,11 +97,11 @@ QVector<Annotation> Annotations::read(const XmlElement &list, ObjectReader &obje
     return annotations;
 }
 
-QMap<int, QVector<Annotation>> Annotations::heads(const Document &document)
+QMap<int, QVector<Annotation>> Annotations::heads(const Document &document,
+                                                  const DocumentRoot &root)
 {
     QMap<int, QVector<Annotation>> heads;
     const Package &package = *document.package;
-    const DocumentRoot root(document);
     QHash<int, QString> files;
     try {
         files = lists(package, root.element, document.path, root.pageIndexes);

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "ofd/DocumentRoot.h"
 #include "ofd/ResourceReader.h"
 
 /** Annotations, which are drawn above the content of their pages. */
@@ -20,6 +21,6 @@ QVector<Annotation> read(const XmlElement &list, ObjectReader &objects);
  * Reads all lists without the content of the appearances, by the index of the page. Lists that
  * cannot be read are left out.
  */
-QMap<int, QVector<Annotation>> heads(const Document &document);
+QMap<int, QVector<Annotation>> heads(const Document &document, const DocumentRoot &root);
 
 } // namespace Ofd::Annotations

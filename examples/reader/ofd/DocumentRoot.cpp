@@ -3,32 +3,12 @@
 
 #include "ofd/DocumentRoot.h"
 
-#include "ofd/Fault.h"
-
 namespace Ofd {
-
-namespace {
-
-bool isBodyOf(const XmlElement &body, const Document &document)
-{
-    try {
-        const QString root = body.childText("DocRoot");
-        return document.package->find(QStringLiteral("OFD.xml"), root) == document.path;
-    } catch (const Fault &) {
-        return false; // Of another document, which does not matter here.
-    }
-}
-
-} // namespace
 
 DocumentRoot::DocumentRoot(const Document &document)
     : element(XmlElement::parse(document.package->read(document.path), document.path))
 {
     readPages();
-    const QString entryPoint = QStringLiteral("OFD.xml");
-    const XmlElement entry = XmlElement::parse(document.package->read(entryPoint), entryPoint);
-    for (const XmlElement &body : entry.children)
-        isSigned = isSigned || (body.child("Signatures") && isBodyOf(body, document));
 }
 
 void DocumentRoot::readPages()

@@ -15,7 +15,6 @@ struct DocumentRoot
     explicit DocumentRoot(const Document &document);
 
     XmlElement element;
-    bool isSigned = false;
     QStringList pageIds;
     QHash<QString, int> pageIndexes; ///< By identifier.
 

@@ -27,7 +27,6 @@ public:
     explicit Painter(std::shared_ptr<const Document> document);
 
     const Document &document() const { return *m_document; }
-    std::shared_ptr<const Document> sharedDocument() const { return m_document; }
     FontSet &fonts() { return m_fonts; }
 
     /**

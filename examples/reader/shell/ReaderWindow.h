@@ -75,7 +75,6 @@ protected:
 
 private:
     ReaderParts parts();
-    void createDocks();
     void createToolBar(const QDomDocument &description);
     void removeToolBar();
     bool focusControl(const QString &name);
