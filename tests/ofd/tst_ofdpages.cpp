@@ -127,7 +127,7 @@ private Q_SLOTS:
         QImage sheet(document.sizeOf(1).toSize(), QImage::Format_RGB32);
         sheet.fill(Qt::white);
         QPainter painter(&sheet);
-        document.contentOf(1)->paint(painter);
+        document.contentOf(1)->painter().paint(painter, 1, nullptr);
         painter.end();
         QImage blank(sheet.size(), sheet.format());
         blank.fill(Qt::white);

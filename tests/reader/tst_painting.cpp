@@ -54,7 +54,7 @@ public:
     {
     }
 
-    void paint(QPainter &painter, int index, const std::atomic_bool &isAbandoned) override
+    void paint(QPainter &painter, int index, const std::atomic_bool *isAbandoned) override
     {
         {
             const QMutexLocker lock(&m_work.mutex);
@@ -62,11 +62,12 @@ public:
                 {index, QSize(painter.device()->width(), painter.device()->height())});
         }
         m_work.permits.acquire();
-        while (m_work.mustWaitForTheEnd && !isAbandoned)
+        while (m_work.mustWaitForTheEnd && !*isAbandoned)
             QThread::msleep(1);
-        m_work.abandoned += isAbandoned ? 1 : 0;
+        m_work.abandoned += *isAbandoned ? 1 : 0;
         paintLetters(painter, index);
     }
+    void readText(int, Page &) override {}
 
 private:
     Work &m_work;
@@ -77,20 +78,21 @@ class TestContent : public PageContent
 public:
     TestContent(Work &work, int index)
         : m_work(work)
+        , m_painter(work)
         , m_index(index)
     {
     }
 
-    void paint(QPainter &painter) const override { paintLetters(painter, m_index); }
-    void readText(Page &) const override {}
+    int index() const override { return m_index; }
+    ContentPainter &painter() const override { return m_painter; }
     MakeContentPainter painterMaker() const override
     {
         return [&work = m_work] { return std::make_unique<TestPainter>(work); };
     }
-    int index() const override { return m_index; }
 
 private:
     Work &m_work;
+    mutable TestPainter m_painter;
     int m_index;
 };
 
@@ -295,7 +297,7 @@ private Q_SLOTS:
         direct.fill(Qt::white);
         QPainter painter(&direct);
         painter.scale(zoom, zoom);
-        content->paint(painter);
+        content->painter().paint(painter, 0, nullptr);
 
         PageCache cache;
         QImage tiled(direct.size(), direct.format());

@@ -150,7 +150,7 @@ Page Document::page(int index) const
         return page;
     if (const Page *known = m_texts.object(page.content.get()))
         return *known;
-    const Page read = page.withText();
+    const Page read = page.withText(page.content->painter());
     const int bytes = int(read.text.size() * (sizeof(QChar) + sizeof(QRectF))
                           + read.lines.size() * sizeof(TextLine));
     m_texts.insert(page.content.get(), new Page(read), 1 + (bytes >> 10));

@@ -43,7 +43,8 @@ public:
     int pageCount() const { return int(m_pages.size()); }
     /** The page with its text, which takes time now and then; sizeOf() does not need it. */
     Page page(int index) const;
-    /** All pages; those from a file have no text. Other threads may read it from their content. */
+    /** All pages; those from a file have no text. Other threads read it with painters of their own.
+     */
     QList<Page> pages() const { return m_pages; }
     QSizeF sizeOf(int page) const { return m_pages.at(page).size; }
     /** The content that paints the page; nullptr for a generated page, painted from its lines. */

@@ -19,11 +19,10 @@ QFont TextLine::font() const
     return font;
 }
 
-Page Page::withText() const
+Page Page::withText(ContentPainter &painter) const
 {
     Page page = *this;
-    if (!isTextRead)
-        content->readText(page);
+    painter.readText(content->index(), page);
     page.isTextRead = true;
     return page;
 }

@@ -22,8 +22,10 @@ struct Page;
 constexpr QSizeF pageSize(794, 1123);
 
 /**
- * Paints the pages of one file in the thread that made it, and must be deleted in that thread,
- * because fonts belong to the thread that loads them.
+ * Paints the pages of one file and reads their texts, each page by its PageContent::index().
+ *
+ * Only the thread that made it may use and delete it, because fonts belong to the thread that
+ * loads them.
  */
 class ContentPainter
 {
@@ -32,8 +34,13 @@ public:
     virtual ~ContentPainter() = default;
     Q_DISABLE_COPY(ContentPainter)
 
-    /** Paints like PageContent::paint(), but ends early once @p isAbandoned is true. */
-    virtual void paint(QPainter &painter, int index, const std::atomic_bool &isAbandoned) = 0;
+    /**
+     * Paints a page in page units from its top left corner, without paper. Ends early once
+     * @p isAbandoned is true; nothing ends it if that is nullptr.
+     */
+    virtual void paint(QPainter &painter, int index, const std::atomic_bool *isAbandoned) = 0;
+    /** Sets the text, lines and boxes of @p page. */
+    virtual void readText(int index, Page &page) = 0;
 };
 
 using MakeContentPainter = std::function<std::unique_ptr<ContentPainter>()>;
@@ -46,17 +53,18 @@ public:
     virtual ~PageContent() = default;
     Q_DISABLE_COPY(PageContent)
 
-    /** Paints the content in page units from the top left corner of the page, without paper. */
-    virtual void paint(QPainter &painter) const = 0;
+    /** The index of the page in its file. */
+    virtual int index() const = 0;
+    /** The painter of the thread that opened the file; other threads make their own. */
+    virtual ContentPainter &painter() const = 0;
+    /**
+     * Makes painters of the same file. It can be called in any thread, and after the content is
+     * gone: a thread that kept the content could be the one that deletes the painter of another.
+     */
+    virtual MakeContentPainter painterMaker() const = 0;
+
     /** The signature, counted from 0, whose seal is at a point in page units; -1 without one. */
     virtual int signatureAt(QPointF) const { return -1; }
-    /** Sets the text, lines and boxes of the page. */
-    virtual void readText(Page &page) const = 0;
-
-    /** Makes painters of the pages of the same file; can be called in any thread, and later. */
-    virtual MakeContentPainter painterMaker() const = 0;
-    /** The index of the page for such a painter. */
-    virtual int index() const = 0;
     /** The size of the page as far as it is known now; null if it stays what it was. */
     virtual QSizeF size() const { return QSizeF(); }
     /** Why nothing is shown, in one sentence; empty also as long as the page was not read. */
@@ -94,8 +102,8 @@ struct Page
     std::shared_ptr<const PageContent> content;
     bool isTextRead = true; ///< False for a page from a file whose text was not read.
 
-    /** This page with its text. */
-    Page withText() const;
+    /** This page with the text that its content has. */
+    Page withText(ContentPainter &painter) const;
 
     /** The rectangles of a range of the text, one for each line. */
     QList<QRectF> rectsOf(int start, int length) const;

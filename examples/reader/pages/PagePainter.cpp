@@ -145,7 +145,7 @@ void paintSheet(QPainter &painter, const Document &document, int index, const Pa
 {
     painter.fillRect(QRectF(QPointF(0, 0), document.sizeOf(index)), colours.paper);
     if (const PageContent *content = document.contentOf(index)) {
-        content->paint(painter);
+        content->painter().paint(painter, content->index(), nullptr);
         return;
     }
     const Page &page = document.page(index);

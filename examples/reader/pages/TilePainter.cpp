@@ -46,6 +46,21 @@ void recolour(QImage &image, const PageColours &colours)
     }
 }
 
+/** Empty in places if it was abandoned. */
+QImage imageOf(const Tile &tile, ContentPainter &pages, const std::atomic_bool &isAbandoned)
+{
+    QImage image(tile.size, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.setTransform(tile.toPixels);
+    pages.paint(painter, tile.index, &isAbandoned);
+    painter.end();
+    if (tile.colours.paper != QColor(Qt::white) && !isAbandoned)
+        recolour(image, tile.colours);
+    image.setDevicePixelRatio(tile.ratio);
+    return image;
+}
+
 } // namespace
 
 TilePainter::TilePainter(MakeContentPainter makePainter, QObject *parent)
@@ -95,21 +110,6 @@ void TilePainter::stop()
     m_isAbandoned = true;
     m_wanted.clear();
     m_hasChanged.wakeOne();
-}
-
-QImage TilePainter::imageOf(const Tile &tile, ContentPainter &pages,
-                            const std::atomic_bool &isAbandoned)
-{
-    QImage image(tile.size, QImage::Format_RGB32);
-    image.fill(Qt::white);
-    QPainter painter(&image);
-    painter.setTransform(tile.toPixels);
-    pages.paint(painter, tile.index, isAbandoned);
-    painter.end();
-    if (tile.colours.paper != QColor(Qt::white) && !isAbandoned)
-        recolour(image, tile.colours);
-    image.setDevicePixelRatio(tile.ratio);
-    return image;
 }
 
 void TilePainter::run()

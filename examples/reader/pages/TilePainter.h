@@ -52,10 +52,6 @@ public:
     /** Ends the thread without waiting for it. Nothing is painted any more. */
     void stop();
 
-    /** Paints a tile at once, in the calling thread. */
-    static QImage imageOf(const Tile &tile, ContentPainter &pages,
-                          const std::atomic_bool &isAbandoned);
-
 Q_SIGNALS:
     /** There are tiles to take. */
     void painted();

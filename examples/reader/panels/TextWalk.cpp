@@ -24,20 +24,12 @@ TextWalk::~TextWalk()
 void TextWalk::start(const QList<Page> &pages, int first, bool isDown, const Visit &visit)
 {
     stop();
+    m_pages = pages;
     m_count = 0;
     m_isStopped = false;
     m_isDone = false;
     m_timer.start(firstLook);
-    m_thread = std::thread([this, pages, first, isDown, visit] {
-        const int count = int(pages.size());
-        for (int i = 0; i < count && !m_isStopped; ++i) {
-            const int index = (first + (isDown ? i : count - i)) % count;
-            if (!visit(index, pages.at(index).withText()))
-                break;
-            ++m_count;
-        }
-        m_isDone = true;
-    });
+    m_thread = std::thread([this, first, isDown, visit] { walk(first, isDown, visit); });
 }
 
 void TextWalk::stop()
@@ -46,6 +38,23 @@ void TextWalk::stop()
     m_isStopped = true;
     if (m_thread.joinable())
         m_thread.join();
+    m_pages.clear();
+}
+
+void TextWalk::walk(int first, bool isDown, const Visit &visit)
+{
+    std::unique_ptr<ContentPainter> painter;
+    const int count = int(m_pages.size());
+    for (int i = 0; i < count && !m_isStopped; ++i) {
+        const int index = (first + (isDown ? i : count - i)) % count;
+        const Page &page = m_pages.at(index);
+        if (!painter && !page.isTextRead)
+            painter = page.content->painterMaker()();
+        if (!visit(index, page.isTextRead ? page : page.withText(*painter)))
+            break;
+        ++m_count;
+    }
+    m_isDone = true;
 }
 
 void TextWalk::follow()

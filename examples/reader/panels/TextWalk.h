@@ -38,9 +38,11 @@ Q_SIGNALS:
     void stepped();
 
 private:
+    void walk(int first, bool isDown, const Visit &visit);
     void follow();
 
     QTimer m_timer;
+    QList<Page> m_pages; ///< Empty without a thread, which must not be the last that has them.
     std::atomic<int> m_count{0};
     std::atomic<bool> m_isStopped{false};
     std::atomic<bool> m_isDone{false};
