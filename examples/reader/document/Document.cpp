@@ -126,14 +126,15 @@ void Document::measureLargest()
         m_largestSize = m_largestSize.expandedTo(page.size);
 }
 
-void Document::learn()
+void Document::learn(const QVector<int> &filePages)
 {
     bool isNew = false;
-    for (Page &page : m_pages) {
-        const QSizeF size = page.content ? page.content->size() : QSizeF();
-        if (size.isEmpty() || size == page.size)
+    for (const int filePage : filePages) {
+        const int page = pageOfFilePage(filePage);
+        const QSizeF size = contentOf(page)->size();
+        if (size.isEmpty() || size == sizeOf(page))
             continue;
-        page.size = size;
+        m_pages[page].size = size;
         isNew = true;
     }
     if (isNew) {
@@ -244,16 +245,15 @@ const Mark *Document::markOf(int id) const
 
 int Document::filePageOf(int page) const
 {
-    // Pages can be inserted, but not moved or removed.
-    return contentOf(page) ? int(std::count_if(m_pages.cbegin(), m_pages.cbegin() + page,
-                                               [](const Page &each) { return each.content; }))
-                           : -1;
+    const PageContent *content = contentOf(page);
+    return content ? content->index() : -1;
 }
 
 int Document::pageOfFilePage(int filePage) const
 {
-    for (int page = 0; page < pageCount(); ++page) {
-        if (contentOf(page) && filePage-- == 0)
+    // Pages can be inserted, but not moved or removed, so it is not before its place in the file.
+    for (int page = filePage; page >= 0 && page < pageCount(); ++page) {
+        if (filePageOf(page) == filePage)
             return page;
     }
     return -1;

@@ -96,7 +96,7 @@ private:
     void replace(const QString &fileName, const QList<Page> &pages, const OfdFile &file);
     void pagesReplaced();
     void measureLargest();
-    void learn();
+    void learn(const QVector<int> &filePages);
     void adoptMarks();
     void setHidden(const Mark &mark, bool isHidden);
 

@@ -5,8 +5,10 @@
 
 #include "ofd/Document.h"
 
+#include <QMutex>
 #include <QObject>
 #include <QTimer>
+#include <QVector>
 
 #include <atomic>
 #include <thread>
@@ -22,16 +24,22 @@ public:
     Q_DISABLE_COPY(PageSurvey)
 
 Q_SIGNALS:
-    /** Pages were measured or read; several times a second at most. */
-    void learnt();
+    /**
+     * Pages of the file were read, all were measured, or painting has left something out. Emitted
+     * several times a second at most.
+     */
+    void learnt(const QVector<int> &pages);
 
 private:
     void measureAll();
-    void tell();
+    void tell(const QVector<int> &pages);
+    void forward();
 
     std::shared_ptr<const Ofd::Document> m_document;
     QTimer m_timer;
-    std::atomic<bool> m_isTold{false};
     std::atomic<bool> m_isStopped{false};
+    QMutex m_lock;         ///< Of the next two.
+    bool m_isTold = false; ///< Since learnt() was emitted.
+    QVector<int> m_pages;  ///< Those that it did not have yet.
     std::thread m_thread;
 };

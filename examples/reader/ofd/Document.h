@@ -86,11 +86,13 @@ struct Document
         return page.composites.value(id, resources.composites.value(id));
     }
 
-    /** Counts a file that cannot be shown as a left out part of that kind, but only once. */
+    /** Counts a file that painting cannot show as a left out part of that kind, but only once. */
     void leaveOut(const QString &kind, const QString &file) const
     {
-        if (leftOutFiles.insert(file, kind))
-            unsupported.add(kind, 1);
+        if (!leftOutFiles.insert(file, kind))
+            return;
+        unsupported.add(kind, 1);
+        pages->tell({});
     }
 
     std::shared_ptr<Package> package;

@@ -87,9 +87,7 @@ std::shared_ptr<const Page> PageStore::page(int index) const
     if (const Kept kept = known(index))
         return kept;
     const Kept page = readUnlessKnown(index);
-    const QMutexLocker guard(&m_listening);
-    if (m_listener)
-        m_listener();
+    tell({index});
     return page;
 }
 
@@ -116,10 +114,17 @@ QString PageStore::fault(int index) const
     return m_faults.value(index);
 }
 
-void PageStore::setListener(std::function<void()> listener) const
+void PageStore::setListener(Listener listener) const
 {
     const QMutexLocker guard(&m_listening);
     m_listener = std::move(listener);
+}
+
+void PageStore::tell(const QVector<int> &read) const
+{
+    const QMutexLocker guard(&m_listening);
+    if (m_listener)
+        m_listener(read);
 }
 
 } // namespace Ofd

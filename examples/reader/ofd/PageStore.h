@@ -66,8 +66,11 @@ public:
     /** Why a page is empty; null also as long as it was not read. */
     QString fault(int index) const;
 
-    /** Sets what is called when a page was read, in the thread that did. */
-    void setListener(std::function<void()> listener) const;
+    using Listener = std::function<void(const QVector<int> &read)>;
+    /** Sets what is called when pages were read or tell() is called, in the thread that did. */
+    void setListener(Listener listener) const;
+    /** Calls the listener, also without pages if something else became known about the document. */
+    void tell(const QVector<int> &read) const;
 
 private:
     std::shared_ptr<const Page> known(int index) const;
@@ -85,7 +88,7 @@ private:
     mutable QHash<int, QString> m_faults;
     mutable QCache<int, Kept> m_pages;
     mutable QMutex m_listening; ///< Of the listener.
-    mutable std::function<void()> m_listener;
+    mutable Listener m_listener;
 };
 
 } // namespace Ofd
