@@ -129,10 +129,13 @@ void Painter::paintOne(QPainter &painter, const Object &object)
     painter.setOpacity(painter.opacity() * object.alpha);
     if (!area.isNull())
         clipTo(painter, area);
+    const auto paintClipped = [&](QPainter &layer) {
+        paintInside(layer, object.clips, [&](QPainter &inside) { paintPlaced(inside, object); });
+    };
     if (painter.opacity() < 1 && hasParts(object) && ++m_layers <= Limits::layersPerPage)
-        PaintLayer::paint(painter, [&](QPainter &layer) { paintClipped(layer, object, 0); });
+        PaintLayer::paint(painter, paintClipped);
     else
-        paintClipped(painter, object, 0);
+        paintClipped(painter);
     painter.restore();
 }
 
@@ -169,17 +172,23 @@ QRectF Painter::areaOf(const QPainter &painter, const Object &object)
     return object.boundary.adjusted(-margin, -margin, margin, margin);
 }
 
-void Painter::paintClipped(QPainter &painter, const Object &object, int firstClip)
+void Painter::paintInside(QPainter &painter, const QVector<Clip> &clips,
+                          const std::function<void(QPainter &)> &paint, int first)
 {
-    for (int i = firstClip; i < object.clips.size(); ++i) {
-        const QPainterPath clip = outlineOf(object.clips.at(i));
+    for (int i = first; i < clips.size(); ++i) {
+        const QPainterPath clip = outlineOf(clips.at(i));
         if (DensePath::isDense(painter, clip)) {
-            DensePath::paintInside(painter, clip,
-                                   [&](QPainter &inside) { paintClipped(inside, object, i + 1); });
+            DensePath::paintInside(
+                painter, clip, [&](QPainter &inside) { paintInside(inside, clips, paint, i + 1); });
             return;
         }
         painter.setClipPath(clip, Qt::IntersectClip);
     }
+    paint(painter);
+}
+
+void Painter::paintPlaced(QPainter &painter, const Object &object)
+{
     painter.setTransform(object.placement(), true);
     const QTransform outer = std::exchange(m_toPage, object.placement() * m_toPage);
     std::visit([&](const auto &content) { paintContent(painter, object, content); },

@@ -9,6 +9,7 @@
 #include <QSet>
 
 #include <atomic>
+#include <functional>
 #include <map>
 
 class QPainter;
@@ -41,7 +42,10 @@ private:
     void paintStamp(QPainter &painter, const Stamp &stamp);
     void paintAll(QPainter &painter, const Objects &objects);
     void paintOne(QPainter &painter, const Object &object);
-    void paintClipped(QPainter &painter, const Object &object, int firstClip);
+    /** Calls @p paint with a painter that has the clips from @p first on, which stay. */
+    void paintInside(QPainter &painter, const QVector<Clip> &clips,
+                     const std::function<void(QPainter &)> &paint, int first = 0);
+    void paintPlaced(QPainter &painter, const Object &object);
     QImage pictureOf(const Image &image, QSizeF target);
     QPainterPath outlineOf(const Clip &clip);
     /** Whether the parts of an object would shine through each other if each was transparent. */

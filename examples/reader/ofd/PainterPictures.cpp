@@ -27,24 +27,22 @@ QPainterPath frameOf(QSizeF size, const Border &border, qreal inset)
 
 void Painter::paintStamp(QPainter &painter, const Stamp &stamp)
 {
-    if (!stamp.drawing) {
-        paintOne(painter, stamp.object);
+    if (!stamp.drawing)
+        return paintOne(painter, stamp.object);
+    const QRectF &boundary = stamp.object.boundary;
+    const QSizeF sheet = stamp.drawing->area(0).size();
+    if (sheet.isEmpty() || !isOnDevice(painter, boundary))
         return;
-    }
     std::unique_ptr<Painter> &drawing = m_drawings[stamp.drawing.get()];
     if (!drawing)
         drawing = std::make_unique<Painter>(stamp.drawing);
-    const QRectF sheet(QPointF(), stamp.drawing->area(0).size());
-    if (sheet.isEmpty())
-        return;
-    const QSizeF size = stamp.object.boundary.size();
     painter.save();
-    for (const Clip &clip : stamp.object.clips)
-        painter.setClipPath(clip.path, Qt::IntersectClip);
-    painter.setTransform(stamp.object.placement(), true);
-    painter.scale(size.width() / sheet.width(), size.height() / sheet.height());
-    painter.setClipRect(sheet, Qt::IntersectClip);
-    drawing->paint(painter, 0);
+    clipTo(painter, boundary);
+    paintInside(painter, stamp.object.clips, [&](QPainter &inside) {
+        inside.setTransform(stamp.object.placement(), true);
+        inside.scale(boundary.width() / sheet.width(), boundary.height() / sheet.height());
+        drawing->paint(inside, 0, {}, m_isAbandoned);
+    });
     painter.restore();
 }
 
@@ -60,11 +58,11 @@ void Painter::paintContent(QPainter &painter, const Object &object, const Image 
         return;
     const QImage picture = pictureOf(image, sizeOf(painter.deviceTransform()));
     const QTransform toSquare = QTransform::fromScale(1 / size.width(), 1 / size.height());
-    painter.save();
+    QVector<Clip> clips;
     if (image.border)
-        painter.setClipPath(toSquare.map(frameOf(size, *image.border, 0)), Qt::IntersectClip);
-    if (!picture.isNull())
-        painter.drawImage(square, picture);
+        clips.append({toSquare.map(frameOf(size, *image.border, 0)), {}});
+    painter.save();
+    paintInside(painter, clips, [&](QPainter &inside) { inside.drawImage(square, picture); });
     painter.restore();
     painter.setTransform(toSquare, true);
     if (image.border) {
