@@ -1,9 +1,8 @@
 // SPDX-FileCopyrightText: The MRToolBar authors
 // SPDX-License-Identifier: MIT
 
-#include "ofd/Jbig2.h"
-
 #include "ofd/Limits.h"
+#include "ofd/PictureDecoder.h"
 
 #include <QDataStream>
 
@@ -100,16 +99,12 @@ QSize sizeOf(const QByteArray &bytes)
     return QSize(int(width), height == unknown ? 1 : int(qMin(height, quint32(INT_MAX))));
 }
 
-} // namespace
-
-bool Jbig2::isOne(const QByteArray &bytes)
+bool isOne(const QByteArray &bytes)
 {
     return bytes.startsWith(fileSignature) || sizeOf(bytes).isValid();
 }
 
 #ifdef READER_HAS_JBIG2
-
-namespace {
 
 /** The picture, a part of it that is as large, and dictionaries; eight pixels are in a byte. */
 constexpr std::size_t mostBytes = Limits::imagePixels / 8 * 4;
@@ -173,15 +168,13 @@ QImage imageOf(const Jbig2Image &page)
     return image;
 }
 
-} // namespace
-
-bool Jbig2::isReadable(const QByteArray &bytes)
+bool isReadable(const QByteArray &bytes)
 {
     const QSize size = sizeOf(bytes);
     return !size.isEmpty() && qint64(size.width()) * size.height() <= Limits::imagePixels;
 }
 
-QImage Jbig2::decoded(const QByteArray &bytes)
+QImage decoded(const QByteArray &bytes)
 {
     if (!isReadable(bytes))
         return QImage();
@@ -208,18 +201,14 @@ QImage Jbig2::decoded(const QByteArray &bytes)
     return image;
 }
 
+#endif
+
+} // namespace
+
+#ifdef READER_HAS_JBIG2
+const PictureDecoder jbig2{"JBIG2", isOne, isReadable, decoded};
 #else
-
-bool Jbig2::isReadable(const QByteArray &)
-{
-    return false;
-}
-
-QImage Jbig2::decoded(const QByteArray &)
-{
-    return QImage();
-}
-
+const PictureDecoder jbig2{"JBIG2", isOne};
 #endif
 
 } // namespace Ofd

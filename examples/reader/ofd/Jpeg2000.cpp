@@ -1,10 +1,9 @@
 // SPDX-FileCopyrightText: The MRToolBar authors
 // SPDX-License-Identifier: MIT
 
-#include "ofd/Jpeg2000.h"
-
 #include "ofd/Codestream.h"
 #include "ofd/Limits.h"
+#include "ofd/PictureDecoder.h"
 
 #include <QColor>
 
@@ -18,14 +17,14 @@
 
 namespace Ofd {
 
-bool Jpeg2000::isOne(const QByteArray &bytes)
+namespace {
+
+bool isOne(const QByteArray &bytes)
 {
     return Codestream::isFile(bytes) || Codestream::isBare(bytes);
 }
 
 #ifdef READER_HAS_JPEG2000
-
-namespace {
 
 struct Source
 {
@@ -206,32 +205,26 @@ QImage imageOf(const opj_image_t &decoded)
     return image;
 }
 
-} // namespace
-
-bool Jpeg2000::isReadable(const QByteArray &bytes)
+bool isReadable(const QByteArray &bytes)
 {
     return Codestream(bytes).isAllowed();
 }
 
-QImage Jpeg2000::decoded(const QByteArray &bytes)
+QImage decoded(const QByteArray &bytes)
 {
     const Codestream header(bytes);
     const Decoded picture = header.isAllowed() ? decode(bytes, header) : nullptr;
     return picture && picture->numcomps > 0 ? imageOf(*picture) : QImage();
 }
 
+#endif
+
+} // namespace
+
+#ifdef READER_HAS_JPEG2000
+const PictureDecoder jpeg2000{"JPEG 2000", isOne, isReadable, decoded};
 #else
-
-bool Jpeg2000::isReadable(const QByteArray &)
-{
-    return false;
-}
-
-QImage Jpeg2000::decoded(const QByteArray &)
-{
-    return QImage();
-}
-
+const PictureDecoder jpeg2000{"JPEG 2000", isOne};
 #endif
 
 } // namespace Ofd

@@ -3,9 +3,8 @@
 
 #include "ofd/Picture.h"
 
-#include "ofd/Jbig2.h"
-#include "ofd/Jpeg2000.h"
 #include "ofd/Limits.h"
+#include "ofd/PictureDecoder.h"
 #include "ofd/Wording.h"
 
 #include <QBuffer>
@@ -46,6 +45,15 @@ const Format *formatOf(const QByteArray &bytes)
         if (bytes.startsWith(format.signature)
             && (format.later.isEmpty() || bytes.mid(8).startsWith(format.later)))
             return &format;
+    }
+    return nullptr;
+}
+
+const PictureDecoder *decoderOf(const QByteArray &bytes)
+{
+    for (const PictureDecoder *decoder : {&jpeg2000, &jbig2}) {
+        if (decoder->isOne(bytes))
+            return decoder;
     }
     return nullptr;
 }
@@ -115,11 +123,11 @@ QString Picture::faultOf(const QByteArray &bytes)
                    ? QString()
                    : Wording::tr("图像（%1）").arg(QLatin1String(format->name));
     }
-    if (Jpeg2000::isOne(bytes))
-        return Jpeg2000::isReadable(bytes) ? QString() : Wording::tr("图像（%1）").arg("JPEG 2000");
-    if (Jbig2::isOne(bytes))
-        return Jbig2::isReadable(bytes) ? QString() : Wording::tr("图像（%1）").arg("JBIG2");
-    return Wording::tr("图像");
+    const PictureDecoder *decoder = decoderOf(bytes);
+    if (!decoder)
+        return Wording::tr("图像");
+    return decoder->isReadable(bytes) ? QString()
+                                      : Wording::tr("图像（%1）").arg(QLatin1String(decoder->name));
 }
 
 QImage Picture::decoded(const QByteArray &bytes)
@@ -129,9 +137,8 @@ QImage Picture::decoded(const QByteArray &bytes)
         QtReader reader(bytes, *format);
         return reader.isReadable() ? reader.read() : QImage();
     }
-    if (Jpeg2000::isOne(bytes))
-        return Jpeg2000::decoded(bytes);
-    return Jbig2::isOne(bytes) ? Jbig2::decoded(bytes) : QImage();
+    const PictureDecoder *decoder = decoderOf(bytes);
+    return decoder ? decoder->decoded(bytes) : QImage();
 }
 
 } // namespace Ofd
