@@ -33,7 +33,7 @@ struct Finder
         panel.show();
     }
 
-    void search(const QString &word, bool isDown = true)
+    void find(const QString &word, bool isDown = true)
     {
         SearchOption option;
         option.content = word;
@@ -51,6 +51,7 @@ struct Finder
     Document document;
     PageView view{document};
     SearchPanel panel{document, view};
+    const TextSearch &search = *panel.findChild<TextSearch *>();
     const QListWidget *list = panel.findChild<QListWidget *>();
     const QLabel *label = panel.findChild<QLabel *>();
     QPushButton *stopButton = panel.findChild<QPushButton *>();
@@ -101,14 +102,14 @@ private Q_SLOTS:
         QFETCH(int, first);
         Finder finder(m_short);
         finder.view.setCurrentPage(from);
-        finder.search("needle", isDown);
-        QTRY_VERIFY(!finder.panel.isSearching());
+        finder.find("needle", isDown);
+        QTRY_VERIFY(!finder.search.isActive());
         QCOMPARE(finder.list->count(), 12);
         QCOMPARE(finder.currentPage(), first);
         QCOMPARE(finder.view.currentPage(), first - 1);
         // Four hits further is the next page with hits, from the last one to the first.
         for (int i = 0; i < 4; ++i)
-            finder.search("needle", isDown);
+            finder.find("needle", isDown);
         const QList<int> order = isDown ? QList<int>{2, 5, 8} : QList<int>{8, 5, 2};
         QCOMPARE(finder.currentPage(), order.at((order.indexOf(first) + 1) % 3));
     }
@@ -117,13 +118,13 @@ private Q_SLOTS:
     {
         Finder finder(m_long);
         finder.view.setCurrentPage(manyPages / 2);
-        finder.search("number");
+        finder.find("number");
         QTRY_VERIFY(finder.list->count() > 0);
-        QVERIFY(finder.panel.isSearching());
+        QVERIFY(finder.search.isActive());
         QCOMPARE(finder.currentPage(), manyPages / 2 + 1);
         const auto *progress = finder.panel.findChild<QProgressBar *>();
         QTRY_VERIFY(progress->isVisible() && finder.stopButton->isVisible());
-        QTRY_VERIFY_WITH_TIMEOUT(!finder.panel.isSearching(), 120000);
+        QTRY_VERIFY_WITH_TIMEOUT(!finder.search.isActive(), 120000);
         QVERIFY(!progress->isVisible() && !finder.stopButton->isVisible());
         // Four on each page, in the order of the pages although the first ones were found last.
         QCOMPARE(finder.list->count(), 4 * manyPages);
@@ -137,29 +138,29 @@ private Q_SLOTS:
     void shouldStopWhenTheUserSaysSo()
     {
         Finder finder(m_long);
-        finder.search("number");
+        finder.find("number");
         QTRY_VERIFY(finder.stopButton->isVisible() && finder.list->count() > 0);
         finder.stopButton->click();
-        QVERIFY(!finder.panel.isSearching() && !finder.stopButton->isVisible());
+        QVERIFY(!finder.search.isActive() && !finder.stopButton->isVisible());
         const int count = finder.list->count();
         QVERIFY(count > 0 && count < 4 * manyPages);
         QVERIFY2(finder.label->text().contains("只查找了"), qPrintable(finder.label->text()));
         QTest::qWait(200);
         QCOMPARE(finder.list->count(), count);
         // The same question goes to the next of the hits that there are.
-        finder.search("number");
-        QVERIFY(!finder.panel.isSearching());
+        finder.find("number");
+        QVERIFY(!finder.search.isActive());
         QCOMPARE(finder.list->currentRow(), 1);
     }
 
     void shouldEndWithTheDocument()
     {
         Finder finder(m_long);
-        finder.search("number");
+        finder.find("number");
         QTRY_VERIFY(finder.list->count() > 0);
         QString error;
         QVERIFY(finder.document.open(m_short, &error));
-        QVERIFY(!finder.panel.isSearching());
+        QVERIFY(!finder.search.isActive());
         QSignalSpy found(&finder.panel, &SearchPanel::found);
         QTest::qWait(200);
         QCOMPARE(finder.list->count(), 0);
@@ -169,14 +170,14 @@ private Q_SLOTS:
     void shouldForgetTheSearchBefore()
     {
         Finder finder(m_long);
-        finder.search("number");
+        finder.find("number");
         QTRY_VERIFY(finder.list->count() > 0);
-        finder.search(QStringLiteral("number %1 of").arg(manyPages - 1));
-        QTRY_VERIFY_WITH_TIMEOUT(!finder.panel.isSearching(), 120000);
+        finder.find(QStringLiteral("number %1 of").arg(manyPages - 1));
+        QTRY_VERIFY_WITH_TIMEOUT(!finder.search.isActive(), 120000);
         QCOMPARE(finder.list->count(), 4);
         QCOMPARE(finder.currentPage(), manyPages - 1);
-        finder.search("nowhere");
-        QTRY_VERIFY_WITH_TIMEOUT(!finder.panel.isSearching(), 120000);
+        finder.find("nowhere");
+        QTRY_VERIFY_WITH_TIMEOUT(!finder.search.isActive(), 120000);
         QVERIFY(finder.list->count() == 0 && finder.label->text().contains("没有找到"));
     }
 

@@ -129,7 +129,7 @@ private Q_SLOTS:
         view->setZoomMode(ZoomMode::fromName("vzmode_125p"));
         view->setCurrentPage(2);
         search->searchWord(QStringLiteral("文档"));
-        QTRY_VERIFY(!search->isSearching());
+        QTRY_VERIFY(!search->findChild<TextSearch *>()->isActive());
         QVERIFY(QTest::qWaitForWindowExposed(&preview.window));
         view->verticalScrollBar()->setValue(view->verticalScrollBar()->maximum() / 2);
         const auto *hits = search->findChild<QListWidget *>();

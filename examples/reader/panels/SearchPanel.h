@@ -29,7 +29,6 @@ public:
     /** Goes to the first or next hit without showing or hiding the dock. */
     void search(const SearchOption &option);
     void searchWord(const QString &word);
-    bool isSearching() const { return m_search.isActive(); }
     /** Shows the dock and focuses its field. */
     void open();
 
@@ -49,7 +48,7 @@ private:
 
     const Document &m_document;
     PageView &m_view;
-    TextSearch m_search;
+    TextSearch m_search{this};
     QElapsedTimer m_clock; ///< Since the search began.
     QLineEdit *m_field;
     QLabel *m_label;
