@@ -47,7 +47,8 @@ class TestOfdPages : public QObject
     Q_OBJECT
 
 private:
-    std::shared_ptr<const Ofd::Document> opened(const PackageMaker::Entries &entries, int body = 0)
+    std::shared_ptr<const Ofd::Document> opened(const PackageMaker::Entries &entries,
+                                                int body = Ofd::firstReadable)
     {
         const QString file = m_folder.filePath("made.ofd");
         QString error = "not written";
@@ -136,12 +137,12 @@ private Q_SLOTS:
         QVERIFY(document.faultOf(1).startsWith("第 2 页"));
         QVERIFY(document.file().leftOut().contains("无法显示的页面"));
         QVERIFY(document.page(1).text.isEmpty() && document.faultOf(0).isEmpty());
-    }
         // A picture can be found to be damaged long after its page was read.
         QTest::qWait(200);
         learnt.clear();
         document.file().document->leaveOut("image", "image.png");
         QTRY_VERIFY(!learnt.isEmpty());
+    }
 
     void shouldReadAnnotationsAndTemplatesWithTheirPageOnly()
     {
@@ -183,9 +184,25 @@ private Q_SLOTS:
         QCOMPARE(first->area(0).width(), 210.0);
         QCOMPARE(second->area(0).width(), 70.0);
         QCOMPARE(second->body, 1);
+        QVERIFY(first->body == 0 && first->unsupported.isEmpty());
         QString error;
-        for (const int body : {2, 3, -1})
+        for (const int body : {2, 3, -2})
             QVERIFY(!Ofd::read(m_folder.filePath("made.ofd"), &error, body) && !error.isEmpty());
+
+        // The others stay open to the user if the first one is broken in whatever way.
+        for (const QByteArray &root :
+             {QByteArray(), QByteArray("damaged"),
+              QByteArray(entries["Doc_0/Document.xml"]).replace("210", "0")}) {
+            entries["Doc_0/Document.xml"] = root;
+            if (root.isEmpty())
+                entries.remove("Doc_0/Document.xml");
+            const auto next = opened(entries);
+            QVERIFY(next);
+            QCOMPARE(next->body, 1);
+            QCOMPARE(next->bodies, first->bodies);
+            QCOMPARE(next->unsupported.value("无法打开的文档（文档 1）"), 1);
+            QVERIFY(!Ofd::read(m_folder.filePath("made.ofd"), &error, 0) && !error.isEmpty());
+        }
     }
 
     void shouldLearnTheSizesOfAllPagesWithoutReadingThem()

@@ -26,7 +26,7 @@ public:
     explicit Document(QObject *parent = nullptr);
 
     /** On failure changes nothing and sets @p error to one sentence. */
-    bool open(const QString &fileName, QString *error, int body = 0);
+    bool open(const QString &fileName, QString *error, int body = Ofd::firstReadable);
     /** Generates pages; the name is their seed, so that one name always gives the same text. */
     void openGenerated(const QString &name);
     void close();

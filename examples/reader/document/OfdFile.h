@@ -50,7 +50,8 @@ public:
      * Reads one of the documents of a file; on failure changes nothing and sets @p error to one
      * sentence.
      */
-    bool read(const QString &fileName, QList<Page> *pages, QString *error, int body = 0);
+    bool read(const QString &fileName, QList<Page> *pages, QString *error,
+              int body = Ofd::firstReadable);
 
     /** The top left corner of a page in the coordinates of the file. */
     QPointF cornerOf(int page) const;

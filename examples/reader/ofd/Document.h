@@ -115,12 +115,16 @@ struct Document
     mutable std::mutex painting;
 };
 
+/** In place of the index of a document: the first one that is not broken. */
+constexpr int firstReadable = -1;
+
 /**
  * Reads one of the documents of a file; on failure returns null and sets @p error to one sentence.
  *
  * The pages are read later, and one that cannot be read costs itself only.
  */
-std::shared_ptr<const Document> read(const QString &fileName, QString *error, int body = 0);
+std::shared_ptr<const Document> read(const QString &fileName, QString *error,
+                                     int body = firstReadable);
 /** The same for one that lies inside of another document; its own signatures do not matter. */
 std::shared_ptr<const Document> read(const QByteArray &archive, QString *error);
 

@@ -24,6 +24,14 @@ const QString entryPoint = QStringLiteral("OFD.xml");
  */
 constexpr int measuredAtOnce = 200;
 
+/** Of documents, so that a package of many broken ones is refused in time. */
+constexpr int mostTried = 10;
+
+QString noRoot()
+{
+    return Wording::tr("文件不完整：没有文档入口 Document.xml。");
+}
+
 /** Reads a document up to the list of its pages, and later each page. The document owns it. */
 class DocumentReader
 {
@@ -33,24 +41,20 @@ public:
     {
     }
 
-    void read(int body, bool withSignatures)
+    /** @param body What the entry point has about the document. */
+    void read(const XmlElement &body, bool withSignatures)
     {
         const Package &package = *m_document.package;
-        if (!package.has(entryPoint))
-            throw Fault{Wording::tr("这不是 OFD 文件：包内没有 OFD.xml。")};
-        const XmlElement root = XmlElement::parse(package.read(entryPoint), entryPoint);
-        const XmlElement *chosen = chooseBody(root, body);
-        const QString path =
-            chosen ? package.find(entryPoint, chosen->childText("DocRoot")) : QString();
+        const QString path = package.find(entryPoint, body.childText("DocRoot"));
         if (path.isEmpty())
-            throw Fault{Wording::tr("文件不完整：没有文档入口 Document.xml。")};
+            throw Fault{noRoot()};
         m_document.path = path;
-        if (const XmlElement *information = chosen->child("DocInfo"))
+        if (const XmlElement *information = body.child("DocInfo"))
             Extras::readInformation(*information, m_document);
         const QHash<QString, int> pages =
             readDocument(XmlElement::parse(package.read(path), path), path);
         if (withSignatures)
-            Signatures::read(*chosen, entryPoint, pages, m_document);
+            Signatures::read(body, entryPoint, pages, m_document);
         addCounts();
     }
 
@@ -88,24 +92,6 @@ public:
     }
 
 private:
-    const XmlElement *chooseBody(const XmlElement &root, int wanted)
-    {
-        const XmlElement *chosen = nullptr;
-        for (const XmlElement &child : root.children) {
-            if (!child.is("DocBody"))
-                continue;
-            const int number = int(m_document.bodies.size());
-            const XmlElement *information = child.child("DocInfo");
-            const QString title = information ? information->childText("Title") : QString();
-            m_document.bodies.append(title.isEmpty() ? Wording::tr("文档 %1").arg(number + 1)
-                                                     : title);
-            if (number == wanted)
-                chosen = &child;
-        }
-        m_document.body = wanted;
-        return chosen;
-    }
-
     /** Returns the indexes of the pages by their identifiers. */
     QHash<QString, int> readDocument(const XmlElement &root, const QString &path)
     {
@@ -194,16 +180,37 @@ private:
     QBitArray m_isCounted;
 };
 
-template <typename MakePackage>
-std::shared_ptr<const Document> readFrom(MakePackage makePackage, int body, bool withSignatures,
-                                         QString *error)
+/** The documents that the entry point of a package lists. */
+class Bodies
 {
-    error->clear();
-    try {
+public:
+    explicit Bodies(std::shared_ptr<Package> package)
+        : m_package(std::move(package))
+    {
+        if (!m_package->has(entryPoint))
+            throw Fault{Wording::tr("这不是 OFD 文件：包内没有 OFD.xml。")};
+        m_root = XmlElement::parse(m_package->read(entryPoint), entryPoint);
+        for (const XmlElement &child : m_root.children) {
+            if (!child.is("DocBody"))
+                continue;
+            m_bodies.append(&child);
+            const XmlElement *information = child.child("DocInfo");
+            const QString title = information ? information->childText("Title") : QString();
+            m_names.append(title.isEmpty() ? Wording::tr("文档 %1").arg(m_bodies.size()) : title);
+        }
+    }
+    Q_DISABLE_COPY(Bodies)
+
+    std::shared_ptr<const Document> open(int body, bool withSignatures) const
+    {
+        if (body < 0 || body >= m_bodies.size())
+            throw Fault{noRoot()};
         const auto document = std::make_shared<Document>();
-        document->package = makePackage();
+        document->package = m_package;
+        document->bodies = m_names;
+        document->body = body;
         const auto reader = std::make_shared<DocumentReader>(*document);
-        reader->read(body, withSignatures);
+        reader->read(*m_bodies.at(body), withSignatures);
         document->pages = std::make_unique<PageStore>(
             reader->pageCount(), reader->commonArea(),
             [reader](int index) { return reader->page(index); },
@@ -211,6 +218,42 @@ std::shared_ptr<const Document> readFrom(MakePackage makePackage, int body, bool
         for (int page = 0; page < std::min(reader->pageCount(), measuredAtOnce); ++page)
             document->pages->measure(page);
         return document;
+    }
+
+    /** Leaves out those before it, which are broken. */
+    std::shared_ptr<const Document> openFirstReadable(bool withSignatures) const
+    {
+        Fault first{noRoot()};
+        for (int body = 0; body < std::min(int(m_bodies.size()), mostTried); ++body) {
+            try {
+                const auto document = open(body, withSignatures);
+                for (const QString &name : m_names.mid(0, body))
+                    document->unsupported.add(Wording::tr("无法打开的文档（%1）").arg(name), 1);
+                return document;
+            } catch (const Fault &fault) {
+                if (body == 0)
+                    first = fault;
+            }
+        }
+        throw first;
+    }
+
+private:
+    std::shared_ptr<Package> m_package;
+    XmlElement m_root;
+    QVector<const XmlElement *> m_bodies;
+    QStringList m_names;
+};
+
+template <typename MakePackage>
+std::shared_ptr<const Document> readFrom(MakePackage makePackage, int body, bool withSignatures,
+                                         QString *error)
+{
+    error->clear();
+    try {
+        const Bodies bodies(makePackage());
+        return body == firstReadable ? bodies.openFirstReadable(withSignatures)
+                                     : bodies.open(body, withSignatures);
     } catch (const Fault &fault) {
         *error = fault.message;
         return nullptr;
