@@ -287,6 +287,25 @@ private Q_SLOTS:
         QCOMPARE(second.at(1).attachment, 0);
     }
 
+    void shouldFindLinksOfTemplatesCompositesAndBlocks()
+    {
+        const auto document = OfdFiles::opened("links");
+        const auto page = document->page(0);
+        QStringList found;
+        for (const Ofd::Link &link : page->links + page->annotations.at(0).links) {
+            const QRectF area = link.area;
+            found.append(QStringLiteral("%1 %2 %3 %4 %5")
+                             .arg(link.target)
+                             .arg(area.x())
+                             .arg(area.y())
+                             .arg(area.width())
+                             .arg(area.height()));
+        }
+        QCOMPARE(found, QStringList({"template 2 2 10 10", "unit 22 4 8 16", "unit 46 3 8 4",
+                                     "unit 46 15 3 8", "unit 25 30 4 8", "block 2 25 10 10",
+                                     "unit 51 15 4 8"}));
+    }
+
     void shouldReadPermissions_data()
     {
         QTest::addColumn<QByteArray>("inside");

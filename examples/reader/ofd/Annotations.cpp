@@ -5,7 +5,6 @@
 
 #include "ofd/Extras.h"
 #include "ofd/Fault.h"
-#include "ofd/Links.h"
 #include "ofd/Values.h"
 
 namespace Ofd {
@@ -36,15 +35,8 @@ Annotation headOf(const XmlElement &element)
     annotation.parameters = parametersOf(element);
     annotation.isVisible = element.flag("Visible", true);
     const XmlElement *appearance = element.child("Appearance");
-    if (!appearance)
-        return annotation;
-    annotation.appearance.boundary = Values::box(appearance->attribute("Boundary"));
-    annotation.links = Links::read(*appearance, annotation.appearance.boundary.topLeft());
-    // The whole of a link leads to its target, not only the object that has it.
-    if (annotation.type == QLatin1String("Link")) {
-        for (Link &link : annotation.links)
-            link.area |= annotation.appearance.boundary;
-    }
+    if (appearance)
+        annotation.appearance.boundary = Values::box(appearance->attribute("Boundary"));
     return annotation;
 }
 

@@ -7,6 +7,7 @@
 #include "ofd/Extras.h"
 #include "ofd/Fault.h"
 #include "ofd/Limits.h"
+#include "ofd/Links.h"
 #include "ofd/PageReader.h"
 #include "ofd/Signatures.h"
 #include "ofd/Wording.h"
@@ -146,6 +147,8 @@ private:
         Page page = m_pages.read(path);
         readAnnotations(index, &page);
         checkExpansion(page, m_document);
+        if (!Links::place(page, m_document))
+            ++m_counts[Wording::tr("过多的链接")];
         return page;
     }
 

@@ -34,6 +34,7 @@ constexpr qint64 sealBytes = 16LL << 20;
 constexpr qint64 objects = 2000000;
 /** Characters and points of paths, with every composite and template expanded. */
 constexpr qint64 marksPerPage = 3000000;
+constexpr int linksPerPage = 10000;
 /** Objects of templates that are kept for further pages. */
 constexpr qint64 templateObjects = 200000;
 

@@ -4,7 +4,10 @@
 #include "ofd/Links.h"
 
 #include "ofd/Fault.h"
+#include "ofd/Limits.h"
 #include "ofd/Values.h"
+
+#include <utility>
 
 namespace Ofd {
 
@@ -56,31 +59,72 @@ std::optional<Link> firstLinkOf(const XmlElement &actions)
     return std::nullopt;
 }
 
-/** Lower objects come first, as they do in the file. */
-void addLinks(QVector<Link> &links, const XmlElement &parent, QPointF origin)
+/** Finds the links of a page in the order in which their objects are painted. */
+class Finder
 {
-    for (const XmlElement &element : parent.children) {
-        if (!element.name.endsWith(QLatin1String("Object"))) {
-            addLinks(links, element, origin);
-            continue;
-        }
-        const XmlElement *actions = element.child("Actions");
-        if (!actions || !element.flag("Visible", true))
-            continue;
-        if (auto link = firstLinkOf(*actions)) {
-            link->area = Values::box(element.attribute("Boundary")).translated(origin);
-            links.append(*link);
+public:
+    Finder(const Document &document, const Page &page)
+        : m_document(document)
+        , m_page(page)
+    {
+    }
+
+    bool isFull() const { return m_count > Limits::linksPerPage; }
+
+    /** Adds the links of the objects that are seen inside of an area of the page. */
+    void find(QVector<Link> &links, const Objects &objects, const QTransform &toPage,
+              const QRectF &visible)
+    {
+        for (const Object &object : objects) {
+            const auto *composite = std::get_if<Composite>(&object.content);
+            const auto *group = std::get_if<Group>(&object.content);
+            if (!object.link && !composite && !group)
+                continue;
+            const QRectF area = toPage.mapRect(object.boundary) & visible;
+            if (object.link && ++m_count <= Limits::linksPerPage) {
+                links.append(*object.link);
+                links.last().area = area;
+            }
+            // An empty boundary hides nothing.
+            const QRectF &inside = object.boundary.isEmpty() ? visible : area;
+            const auto parts =
+                composite ? m_document.composite(composite->resource, m_page) : nullptr;
+            if (parts)
+                find(links, *parts, object.placement() * toPage, inside);
+            else if (group)
+                find(links, *group->objects, object.placement() * toPage, inside);
         }
     }
-}
+
+private:
+    const Document &m_document;
+    const Page &m_page;
+    int m_count = 0;
+};
 
 } // namespace
 
-QVector<Link> Links::read(const XmlElement &parent, QPointF origin)
+std::shared_ptr<const Link> Links::of(const XmlElement &object)
 {
-    QVector<Link> links;
-    addLinks(links, parent, origin);
-    return links;
+    const XmlElement *actions = object.child("Actions");
+    const auto link = actions ? firstLinkOf(*actions) : std::nullopt;
+    return link ? std::make_shared<const Link>(*link) : nullptr;
+}
+
+bool Links::place(Page &page, const Document &document)
+{
+    Finder finder(document, page);
+    for (const auto &layer : std::as_const(page.layers))
+        finder.find(page.links, *layer, QTransform(), page.area);
+    for (Annotation &annotation : page.annotations) {
+        finder.find(annotation.links, {annotation.appearance}, QTransform(), page.area);
+        // The whole of a link leads to its target, not only the object that has it.
+        if (annotation.type == QLatin1String("Link")) {
+            for (Link &link : annotation.links)
+                link.area |= annotation.appearance.boundary;
+        }
+    }
+    return !finder.isFull();
 }
 
 std::optional<Destination> Links::destinationIn(const XmlElement &element)

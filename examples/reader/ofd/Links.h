@@ -3,17 +3,22 @@
 
 #pragma once
 
-#include "ofd/Link.h"
+#include "ofd/Document.h"
 #include "ofd/XmlElement.h"
 
 #include <QHash>
-#include <QVector>
 
 /** Reading of the actions of objects. Actions that no click starts are left out. */
 namespace Ofd::Links {
 
-/** The links of all objects inside an element whose objects are placed from @p origin. */
-QVector<Link> read(const XmlElement &parent, QPointF origin);
+/** The link of an object, still without an area; null if it has none. */
+std::shared_ptr<const Link> of(const XmlElement &object);
+
+/**
+ * Gives a page and its annotations the links of their objects, also of those in templates and
+ * composites. Call it after checkExpansion(). Returns false if Limits::linksPerPage cut them short.
+ */
+bool place(Page &page, const Document &document);
 
 /** The destination of an element that has one inside; nothing without a page. */
 std::optional<Destination> destinationIn(const XmlElement &element);

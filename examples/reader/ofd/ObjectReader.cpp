@@ -5,6 +5,7 @@
 
 #include "ofd/Fault.h"
 #include "ofd/Limits.h"
+#include "ofd/Links.h"
 #include "ofd/PathData.h"
 #include "ofd/Values.h"
 #include "ofd/Wording.h"
@@ -136,6 +137,7 @@ Object ObjectReader::common(const XmlElement &element, const Style &wider)
     reference(element, "DrawParam", m_styles);
     object.alpha = alphaOf(element);
     object.clips = clipsOf(element, object.placement());
+    object.link = Links::of(element);
     return object;
 }
 

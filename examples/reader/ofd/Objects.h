@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "ofd/Link.h"
 #include "ofd/Paint.h"
 
 #include <QPainterPath>
@@ -126,6 +127,7 @@ struct Object
     qreal alpha = 1;
     QVector<Clip> clips; ///< Their intersection is visible.
     std::variant<Path, Text, Image, Composite, Group> content;
+    std::shared_ptr<const Link> link; ///< Without an area; null for most objects.
 
     /** From the coordinates of the object to those of its page or group. */
     QTransform placement() const

@@ -5,7 +5,6 @@
 
 #include "ofd/Fault.h"
 #include "ofd/Limits.h"
-#include "ofd/Links.h"
 #include "ofd/Values.h"
 #include "ofd/Wording.h"
 
@@ -97,7 +96,6 @@ Page PageReader::read(const QString &path)
         page.area = own.isNull() ? m_commonArea : own;
     }
     page.layers = layersOf(content, path, &page.composites);
-    page.links = Links::read(content, QPointF());
     return page;
 }
 

@@ -37,8 +37,9 @@ int kilobytesOf(const Page &page)
         bytes += bytesOf(*layer);
     for (const auto &composite : page.composites)
         bytes += bytesOf(*composite);
+    bytes += page.links.size() * qint64(sizeof(Link));
     for (const Annotation &annotation : page.annotations)
-        bytes += bytesOf({annotation.appearance});
+        bytes += bytesOf({annotation.appearance}) + annotation.links.size() * qint64(sizeof(Link));
     return 1 + int(bytes >> 10);
 }
 

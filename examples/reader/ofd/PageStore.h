@@ -3,7 +3,6 @@
 
 #pragma once
 
-#include "ofd/Link.h"
 #include "ofd/Objects.h"
 
 #include <QCache>
