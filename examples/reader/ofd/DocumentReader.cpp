@@ -26,7 +26,7 @@ const QString entryPoint = QStringLiteral("OFD.xml");
 constexpr int measuredAtOnce = 200;
 
 /** Of documents, so that a package of many broken ones is refused in time. */
-constexpr int mostTried = 10;
+constexpr int mostTried = 5;
 
 QString noRoot()
 {
