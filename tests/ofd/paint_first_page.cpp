@@ -29,7 +29,7 @@ void paintFirstPage(const Document &document)
     image.fill(Qt::white);
     QPainter painter(&image);
     if (const PageContent *content = document.contentOf(0))
-        content->painter().paint(painter, 0, nullptr);
+        content->painter().paint(painter, {0});
 }
 
 } // namespace

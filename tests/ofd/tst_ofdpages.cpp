@@ -128,7 +128,7 @@ private Q_SLOTS:
         QImage sheet(document.sizeOf(1).toSize(), QImage::Format_RGB32);
         sheet.fill(Qt::white);
         QPainter painter(&sheet);
-        document.contentOf(1)->painter().paint(painter, 1, nullptr);
+        document.contentOf(1)->painter().paint(painter, {1});
         painter.end();
         QImage blank(sheet.size(), sheet.format());
         blank.fill(Qt::white);

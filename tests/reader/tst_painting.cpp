@@ -54,18 +54,18 @@ public:
     {
     }
 
-    void paint(QPainter &painter, int index, const std::atomic_bool *isAbandoned) override
+    void paint(QPainter &painter, const PaintRequest &request) override
     {
         {
             const QMutexLocker lock(&m_work.mutex);
             m_work.begun.append(
-                {index, QSize(painter.device()->width(), painter.device()->height())});
+                {request.index, QSize(painter.device()->width(), painter.device()->height())});
         }
         m_work.permits.acquire();
-        while (m_work.mustWaitForTheEnd && !*isAbandoned)
+        while (m_work.mustWaitForTheEnd && !*request.isAbandoned)
             QThread::msleep(1);
-        m_work.abandoned += *isAbandoned ? 1 : 0;
-        paintLetters(painter, index);
+        m_work.abandoned += *request.isAbandoned ? 1 : 0;
+        paintLetters(painter, request.index);
     }
     void readText(int, Page &) override {}
 
@@ -297,7 +297,7 @@ private Q_SLOTS:
         direct.fill(Qt::white);
         QPainter painter(&direct);
         painter.scale(zoom, zoom);
-        content->painter().paint(painter, 0, nullptr);
+        content->painter().paint(painter, {0});
 
         PageCache cache;
         QImage tiled(direct.size(), direct.format());

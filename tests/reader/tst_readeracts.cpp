@@ -263,6 +263,23 @@ private Q_SLOTS:
         QVERIFY(list->item(1)->text().endsWith("旧的备注") && !acts.window.isWindowModified());
     }
 
+    void shouldNotDeleteReadOnlyAnnotations()
+    {
+        const QTemporaryDir folder;
+        const QString name = folder.filePath("fixed.ofd");
+        QVERIFY(
+            rewrite(name, "Doc_0/Annots/Page_0.xml", "ID=\"922\"", "ID=\"922\" ReadOnly=\"1\""));
+        Acts acts(name);
+        QListWidget *list = acts.list("vn_annotation");
+        for (const int row : {1, 0}) {
+            list->setCurrentRow(row);
+            QCOMPARE(list->actions().at(1)->isEnabled(), row == 0);
+            QCOMPARE(list->item(row)->toolTip().contains("只读"), row == 1);
+            list->actions().at(1)->trigger();
+            QCOMPARE(list->count(), row + 1);
+        }
+    }
+
     void shouldObeyPermissions_data()
     {
         QTest::addColumn<QByteArray>("permissions");

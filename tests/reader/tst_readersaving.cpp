@@ -2,9 +2,12 @@
 // SPDX-License-Identifier: MIT
 
 #include "document/Document.h"
+#include "ofd/Archive.h"
 #include "ofd/Painter.h"
 #include "pages/MarkPainter.h"
 #include "pages/OfdSaving.h"
+#include "pages/PagePainter.h"
+#include "panels/MarkEntry.h"
 
 #include <QDir>
 #include <QPainter>
@@ -99,6 +102,53 @@ private Q_SLOTS:
             document.deleteMark(document.marks().last().id, QString());
         QVERIFY(save(document, saved) && document.open(saved, &error));
         QVERIFY(document.marks().isEmpty());
+    }
+
+    void shouldObeyWhatAnAnnotationSaysOfItself_data()
+    {
+        QTest::addColumn<QByteArray>("attribute");
+        QTest::addColumn<QString>("states");
+        QTest::addColumn<QString>("seen");
+        QTest::newRow("nothing") << QByteArray() << ""
+                                 << "screen print";
+        QTest::newRow("screen") << QByteArray("Print=\"false\"") << ""
+                                << "screen";
+        QTest::newRow("hidden") << QByteArray("Visible=\"false\"") << "　不可见"
+                                << "";
+        QTest::newRow("fixed") << QByteArray("ReadOnly=\"true\"") << "　只读"
+                               << "screen print";
+    }
+
+    void shouldObeyWhatAnAnnotationSaysOfItself()
+    {
+        QFETCH(QByteArray, attribute);
+        QFETCH(QString, states);
+        const QTemporaryDir folder;
+        QString error;
+        const auto acts = Ofd::read(actsFile, &error);
+        const QString list = QStringLiteral("Doc_0/Annots/Page_0.xml");
+        const QByteArray bytes =
+            acts->package->read(list).replace("ID=\"922\"", "ID=\"922\" " + attribute);
+        QFile file(folder.filePath("annotation.ofd"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(Ofd::Archive::withEntries(*acts->package, {{list, bytes}}));
+        file.close();
+        Document document;
+        QVERIFY2(document.open(file.fileName(), &error), qPrintable(error));
+        QVERIFY(
+            MarkEntry::textOf(document.marks().at(1)).startsWith("第 1 页　图形" + states + "\n"));
+        QStringList seen;
+        for (const bool forPrint : {false, true}) {
+            QImage image(240, 160, QImage::Format_RGB32);
+            QPainter painter(&image);
+            painter.scale(4 / unit, 4 / unit);
+            PageDecoration decoration;
+            decoration.forPrint = forPrint;
+            paintPage(painter, document, 0, PageColours::of(Background_Default), decoration);
+            if (image.pixelColor(40, 100) == QColor(200, 40, 40))
+                seen.append(forPrint ? "print" : "screen");
+        }
+        QTEST(seen.join(' '), "seen");
     }
 
     void shouldShowEveryMarkToOtherReaders_data()

@@ -7,6 +7,7 @@
 #include "document/PageGenerator.h"
 #include "pages/PageView.h"
 #include "panels/HandwritingSettings.h"
+#include "panels/MarkEntry.h"
 
 #include <toolbar/MRToolBarCommands.h>
 
@@ -189,10 +190,10 @@ void EditCommands::editHandwriting()
     m_parts.say(tr("按住鼠标左键在页面上书写"));
 }
 
-bool EditCommands::mayAnnotate() const
+bool EditCommands::may(Act act) const
 {
     // A tool may be in use from before the document was opened.
-    const QString refusal = m_parts.document->refusalOf(Act::Annotate);
+    const QString refusal = m_parts.document->refusalOf(act);
     if (!refusal.isEmpty())
         m_parts.say(refusal);
     return refusal.isEmpty();
@@ -200,14 +201,26 @@ bool EditCommands::mayAnnotate() const
 
 void EditCommands::eraseInk(int page, QPointF point, qreal radius)
 {
-    if (mayAnnotate())
-        m_parts.document->eraseInk(page, point, radius);
+    if (!may(Act::Annotate))
+        return;
+    if (const auto kept = m_parts.document->eraseInk(page, point, radius))
+        m_parts.say(MarkEntry::refusalOf(*kept));
+}
+
+bool EditCommands::mayChange(const Mark *mark) const
+{
+    if (!mark || !may(Act::Annotate))
+        return false;
+    const QString refusal = MarkEntry::refusalOf(*mark);
+    if (!refusal.isEmpty())
+        m_parts.say(refusal);
+    return refusal.isEmpty();
 }
 
 void EditCommands::editMark(int id)
 {
     const Mark *mark = m_parts.document->markOf(id);
-    if (!mark || !mayAnnotate())
+    if (!mayChange(mark))
         return;
     QInputDialog dialog(m_parts.window);
     dialog.setOption(QInputDialog::UsePlainTextEditForTextInput);
@@ -223,13 +236,13 @@ void EditCommands::editMark(int id)
 
 void EditCommands::removeMark(int id)
 {
-    if (mayAnnotate())
+    if (mayChange(m_parts.document->markOf(id)))
         m_parts.document->deleteMark(id, tr("删除批注"));
 }
 
 void EditCommands::addDrawn(Mark mark)
 {
-    if (!mayAnnotate())
+    if (!may(Act::Annotate))
         return;
     if (mark.kind == MarkKind::TextBox || mark.kind == MarkKind::Note) {
         bool isGiven = false;

@@ -38,8 +38,9 @@ private:
     void place(MarkKind kind, const QRectF &rect, const QString &text);
     void placeOnEveryPage(MarkKind kind, const QRectF &rect, const QString &text);
     void addWatermark();
-    /** Whether marks may be changed; otherwise the user is told why not. */
-    bool mayAnnotate() const;
+    /** Whether the act is allowed; otherwise the user is told why not, as for a mark. */
+    bool may(Act act) const;
+    bool mayChange(const Mark *mark) const;
     void selectPages(int first, int last);
 
     ReaderParts m_parts;

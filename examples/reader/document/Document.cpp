@@ -208,13 +208,19 @@ void Document::addMark(Mark mark, const QString &what)
     m_undoStack.push(new AddMarkEdit(*this, mark, what));
 }
 
-void Document::eraseInk(int page, QPointF point, qreal radius)
+std::optional<Mark> Document::eraseInk(int page, QPointF point, qreal radius)
 {
+    std::optional<Mark> kept;
     for (int i = int(m_marks.size()) - 1; i >= 0; --i) {
         const Mark mark = m_marks.at(i);
-        if (mark.kind == MarkKind::Ink && mark.page == page && passesNear(mark, point, radius))
+        if (mark.kind != MarkKind::Ink || mark.page != page || !passesNear(mark, point, radius))
+            continue;
+        if (mark.isReadOnly)
+            kept = mark;
+        else
             m_undoStack.push(new RemoveMarkEdit(*this, i, tr("擦除笔迹")));
     }
+    return kept;
 }
 
 void Document::deleteMark(int id, const QString &what)

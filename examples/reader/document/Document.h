@@ -13,6 +13,8 @@
 #include <QObject>
 #include <QUndoStack>
 
+#include <optional>
+
 /**
  * A document with marks on its pages. The pages are read from an OFD file or generated.
  *
@@ -66,8 +68,8 @@ public:
     void turn(int quarters, const QString &what);
 
     void addMark(Mark mark, const QString &what);
-    /** Removes the ink that passes within @p radius of a point. */
-    void eraseInk(int page, QPointF point, qreal radius);
+    /** Removes the ink near a point; returns a mark that has to stay because it is read-only. */
+    std::optional<Mark> eraseInk(int page, QPointF point, qreal radius);
     void deleteMark(int id, const QString &what);
     void setMarkText(int id, const QString &text);
     /** The mark of that identifier; nullptr if there is none. */

@@ -59,6 +59,9 @@ struct Mark
     /** Its annotations in the file, by the index of a page in the file and in its list. */
     QVector<QPair<int, int>> origins;
     bool isEdited = false; ///< It is not any more what is in the file.
+    bool isVisible = true; ///< As are the next two, what the file says.
+    bool isPrinted = true;
+    bool isReadOnly = false;
 
     QRectF rect() const { return points.boundingRect(); }
 };

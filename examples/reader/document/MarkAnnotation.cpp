@@ -149,6 +149,9 @@ Mark markOf(const Ofd::Annotation &annotation, QPointF corner)
         mark.text = annotation.remark;
         mark.type = annotation.type;
     }
+    mark.isVisible = annotation.isVisible;
+    mark.isPrinted = annotation.isPrinted;
+    mark.isReadOnly = annotation.isReadOnly;
     mark.creator = annotation.creator;
     mark.date = QDate::fromString(annotation.date.left(10), Qt::ISODate);
     return mark;
@@ -164,8 +167,10 @@ void joinEveryPage(QList<Mark> &marks, const QHash<QString, QVector<int>> &group
             continue;
         Mark &first = marks[group.first()];
         first.page = everyPage;
-        for (const int other : group.mid(1))
+        for (const int other : group.mid(1)) {
             first.origins += marks.at(other).origins;
+            first.isReadOnly = first.isReadOnly || marks.at(other).isReadOnly;
+        }
         joined += group.mid(1);
     }
     std::sort(joined.begin(), joined.end(), std::greater<>());
@@ -187,7 +192,7 @@ Ofd::AnnotationDraft MarkAnnotation::draftOf(const Mark &mark)
     draft.creator = mark.creator;
     draft.date = (mark.date.isValid() ? mark.date : QDate::currentDate()).toString(Qt::ISODate);
     draft.remark = mark.text;
-    draft.isPrinted = mark.kind != MarkKind::DisplayMask;
+    draft.isPrinted = mark.isPrinted && mark.kind != MarkKind::DisplayMask;
     draft.parameters = {{pointsName, pointsText(mark.points)},
                         {textName, mark.text},
                         {colourName, mark.colour.name(QColor::HexArgb)},

@@ -39,16 +39,30 @@ OfdContentPainter::OfdContentPainter(const std::shared_ptr<const Ofd::Document> 
 {
 }
 
-void OfdContentPainter::paint(QPainter &painter, int index, const std::atomic_bool *isAbandoned)
+void OfdContentPainter::paint(QPainter &painter, const PaintRequest &request)
 {
+    const int index = request.index;
     painter.save();
     painter.scale(unitsPerMillimetre, unitsPerMillimetre);
-    m_painter.paint(painter, index, m_hidden->on(index), isAbandoned);
+    m_painter.paint(painter, index, hiddenBy(request), request.isAbandoned);
     painter.restore();
     const QString fault = m_document->pages->fault(index);
     if (!fault.isEmpty())
         paintFault(painter, m_document->area(index).size() * unitsPerMillimetre,
                    OfdFile::faultOf(index, fault));
+}
+
+QSet<int> OfdContentPainter::hiddenBy(const PaintRequest &request) const
+{
+    QSet<int> hidden = m_hidden->on(request.index);
+    if (!request.forPrint)
+        return hidden;
+    const auto page = m_document->page(request.index);
+    for (int i = 0; i < page->annotations.size(); ++i) {
+        if (!page->annotations.at(i).isPrinted)
+            hidden.insert(i);
+    }
+    return hidden;
 }
 
 void OfdContentPainter::readText(int index, Page &page)

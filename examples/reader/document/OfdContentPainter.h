@@ -19,10 +19,12 @@ public:
     const std::shared_ptr<const Ofd::Document> &document() const { return m_document; }
     const std::shared_ptr<const HiddenAnnotations> &hidden() const { return m_hidden; }
 
-    void paint(QPainter &painter, int index, const std::atomic_bool *isAbandoned) override;
+    void paint(QPainter &painter, const PaintRequest &request) override;
     void readText(int index, Page &page) override;
 
 private:
+    QSet<int> hiddenBy(const PaintRequest &request) const;
+
     std::shared_ptr<const Ofd::Document> m_document;
     std::shared_ptr<const HiddenAnnotations> m_hidden;
     Ofd::Painter m_painter;

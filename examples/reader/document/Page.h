@@ -21,6 +21,14 @@ struct Page;
 /** Size of a generated page, in page units: pixels of an A4 sheet at 96 dpi. */
 constexpr QSizeF pageSize(794, 1123);
 
+/** Which page is painted, and how. */
+struct PaintRequest
+{
+    int index = 0;
+    bool forPrint = false;                         ///< Without what the file keeps from printers.
+    const std::atomic_bool *isAbandoned = nullptr; ///< Painting ends early once this is true.
+};
+
 /**
  * Paints the pages of one file and reads their texts, each page by its PageContent::index().
  *
@@ -34,11 +42,8 @@ public:
     virtual ~ContentPainter() = default;
     Q_DISABLE_COPY(ContentPainter)
 
-    /**
-     * Paints a page in page units from its top left corner, without paper. Ends early once
-     * @p isAbandoned is true; nothing ends it if that is nullptr.
-     */
-    virtual void paint(QPainter &painter, int index, const std::atomic_bool *isAbandoned) = 0;
+    /** Paints a page in page units from its top left corner, without paper. */
+    virtual void paint(QPainter &painter, const PaintRequest &request) = 0;
     /** Sets the text, lines and boxes of @p page. */
     virtual void readText(int index, Page &page) = 0;
 };

@@ -34,6 +34,9 @@ Annotation headOf(const XmlElement &element)
     annotation.remark = element.childText("Remark");
     annotation.parameters = parametersOf(element);
     annotation.isVisible = element.flag("Visible", true);
+    annotation.isPrinted = element.flag("Print", true);
+    // By default all would be read-only, but the writers that do not say so do not mean it.
+    annotation.isReadOnly = element.flag("ReadOnly", false);
     const XmlElement *appearance = element.child("Appearance");
     if (appearance)
         annotation.appearance.boundary = Values::box(appearance->attribute("Boundary"));

@@ -135,6 +135,8 @@ void writeAnnotation(XmlCopy &copy, const AnnotationDraft &draft, qint64 &lastId
     writer.writeAttribute(QStringLiteral("LastModDate"), draft.date);
     if (!draft.isPrinted)
         writer.writeAttribute(QStringLiteral("Print"), QStringLiteral("false"));
+    // Without it, other readers may refuse to change the annotation.
+    writer.writeAttribute(QStringLiteral("ReadOnly"), QStringLiteral("false"));
     if (!draft.remark.isEmpty())
         copy.addElement("Remark", allowedInXml(draft.remark));
     writeParameters(copy, draft);

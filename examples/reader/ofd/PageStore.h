@@ -25,6 +25,8 @@ struct Annotation
     QString remark; ///< What it says, as plain text.
     QVector<QPair<QString, QString>> parameters;
     bool isVisible = true;
+    bool isPrinted = true;
+    bool isReadOnly = false;
     Object appearance;
     QVector<Link> links;
 };

@@ -110,9 +110,8 @@ bool isShown(const Mark &mark, int index, const PageDecoration &decoration)
         return false;
     if (mark.kind == MarkKind::Revision)
         return decoration.revisionsVisible;
-    if (mark.kind == MarkKind::DisplayMask)
-        return !decoration.forPrint;
-    return true;
+    const bool isForScreen = mark.kind == MarkKind::DisplayMask || !mark.isPrinted;
+    return !isForScreen || !decoration.forPrint;
 }
 
 } // namespace
@@ -145,7 +144,7 @@ void paintSheet(QPainter &painter, const Document &document, int index, const Pa
 {
     painter.fillRect(QRectF(QPointF(0, 0), document.sizeOf(index)), colours.paper);
     if (const PageContent *content = document.contentOf(index)) {
-        content->painter().paint(painter, content->index(), nullptr);
+        content->painter().paint(painter, {content->index(), decoration.forPrint});
         return;
     }
     const Page &page = document.page(index);

@@ -36,7 +36,7 @@ struct PageDecoration
     TextRange currentHit;
     QList<TextRange> selection;
     bool revisionsVisible = true;
-    bool forPrint = false; ///< Selects print masks instead of display masks.
+    bool forPrint = false; ///< Leaves out display masks and what the file keeps from printers.
 };
 
 /** Paints a page in page units; the origin is its top left corner. */

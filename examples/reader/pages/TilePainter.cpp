@@ -53,7 +53,7 @@ QImage imageOf(const Tile &tile, ContentPainter &pages, const std::atomic_bool &
     image.fill(Qt::white);
     QPainter painter(&image);
     painter.setTransform(tile.toPixels);
-    pages.paint(painter, tile.index, &isAbandoned);
+    pages.paint(painter, {tile.index, false, &isAbandoned});
     painter.end();
     if (tile.colours.paper != QColor(Qt::white) && !isAbandoned)
         recolour(image, tile.colours);

@@ -43,7 +43,9 @@ QAction *ListActions::add(const QKeySequence &key, const std::function<void(int)
 void ListActions::update()
 {
     const QListWidgetItem *item = m_list->currentItem();
+    const QString refusal = item ? item->data(refusalRole).toString() : QString();
     const QList<QAction *> actions = m_list->actions();
     for (QAction *action : actions)
-        action->setEnabled(item && item->data(numberRole).isValid());
+        action->setEnabled(item && item->data(numberRole).isValid() && refusal.isEmpty());
+    setToolTip(refusal); // Buttons have none of their own.
 }

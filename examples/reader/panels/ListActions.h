@@ -23,6 +23,8 @@ class ListActions : public QWidget
 public:
     /** The role of the number of an item. */
     static constexpr int numberRole = Qt::UserRole + 16;
+    /** The role of a sentence that says why an item must stay as it is. */
+    static constexpr int refusalRole = numberRole + 1;
 
     explicit ListActions(QListWidget *list, QWidget *parent = nullptr);
 

@@ -28,6 +28,13 @@ QString MarkEntry::kindOf(const Mark &mark)
     return name ? QCoreApplication::translate("MarkEntry", name) : mark.type.left(mostCharacters);
 }
 
+QString MarkEntry::refusalOf(const Mark &mark)
+{
+    return mark.isReadOnly
+               ? QCoreApplication::translate("MarkEntry", "这条批注是只读的，不能编辑或删除")
+               : QString();
+}
+
 QString MarkEntry::textOf(const Mark &mark)
 {
     const QString place =
@@ -36,6 +43,10 @@ QString MarkEntry::textOf(const Mark &mark)
             : QCoreApplication::translate("MarkEntry", "第 %1 页").arg(mark.page + 1);
     const QChar gap = u'　';
     QStringList lines = {place + gap + kindOf(mark)};
+    if (!mark.isVisible)
+        lines.first() += gap + QCoreApplication::translate("MarkEntry", "不可见");
+    if (mark.isReadOnly)
+        lines.first() += gap + QCoreApplication::translate("MarkEntry", "只读");
     QStringList origin = {mark.creator.simplified().left(mostCharacters),
                           mark.date.toString(Qt::ISODate)};
     origin.removeAll(QString());

@@ -11,7 +11,11 @@ namespace MarkEntry {
 /** The kind, for an annotation of the file by what the file calls it. */
 QString kindOf(const Mark &mark);
 
-/** Lines with the page and the kind, with who made it when, and with its text. */
+/** One sentence that says why a mark cannot be changed; empty if it can. */
+QString refusalOf(const Mark &mark);
+
+/** Lines with the page, the kind and whether it is hidden or read-only, with who made it when, and
+ * with its text. */
 QString textOf(const Mark &mark);
 
 } // namespace MarkEntry

@@ -298,6 +298,8 @@ void NavigationPanel::fillMarks()
     for (const Mark &mark : m_document.marks()) {
         auto *item = new QListWidgetItem(MarkEntry::textOf(mark), list);
         item->setData(ListActions::numberRole, mark.id);
+        item->setData(ListActions::refusalRole, MarkEntry::refusalOf(mark));
+        item->setToolTip(MarkEntry::refusalOf(mark));
         // If centred, a last line that is lower than the one before is elided.
         item->setTextAlignment(Qt::AlignLeft | Qt::AlignTop);
     }
