@@ -121,7 +121,7 @@ private Q_SLOTS:
             QMap<int, Ofd::AnnotationChanges> changes;
             for (int page = 0; page < (isOnAll ? document->pageCount() : 1); ++page)
                 changes[page].added.append(draft);
-            const auto again = reread(Ofd::withAnnotations(*document, changes));
+            const auto again = reread(Ofd::withChanges(*document, changes));
             QVERIFY(again);
             const QList<Mark> marks = marksOf(again);
             QCOMPARE(marks.size(), 1);
@@ -143,7 +143,7 @@ private Q_SLOTS:
         changes[0].remarks.insert(1, QStringLiteral("新\n<备注>"));
         changes[0].date = QStringLiteral("2026-01-02");
         changes[1].added.append(draftOf(markOf(0), *document));
-        const QByteArray written = Ofd::withAnnotations(*document, changes);
+        const QByteArray written = Ofd::withChanges(*document, changes);
         const auto before = entriesOf(document->package->archive());
         const auto after = entriesOf(written);
         QCOMPARE(after.size(), before.size() + 1);
@@ -173,7 +173,7 @@ private Q_SLOTS:
         QMap<int, Ofd::AnnotationChanges> changes;
         changes[0].removed = {0};
         changes[0].added = {draftOf(markOf(0), *document), draftOf(markOf(7), *document)};
-        const auto again = reread(Ofd::withAnnotations(*document, changes));
+        const auto again = reread(Ofd::withChanges(*document, changes));
         const auto heads = headsOf(again).value(0);
         QCOMPARE(heads.size(), 3);
         QCOMPARE(heads.at(0).id, QStringLiteral("922"));
@@ -206,7 +206,7 @@ private Q_SLOTS:
         const auto document = plain();
         QMap<int, Ofd::AnnotationChanges> changes;
         changes[0].added.append(draftOf(markOf(0), *document));
-        const auto written = reread(Ofd::withAnnotations(*document, changes));
+        const auto written = reread(Ofd::withChanges(*document, changes));
         const QString list = QStringLiteral("Doc_0/Annots/Page_0/Annotation.xml");
         QByteArray bytes = written->package->read(list);
         QVERIFY(from.isEmpty() || bytes.contains(from));
@@ -261,7 +261,7 @@ private Q_SLOTS:
         QMap<int, Ofd::AnnotationChanges> changes;
         changes[0].added.append(draftOf(markOf(0), *document));
         try {
-            const auto again = reread(Ofd::withAnnotations(*document, changes));
+            const auto again = reread(Ofd::withChanges(*document, changes));
             QVERIFY(again);
             const int before = int(headsOf(document).value(0).size());
             QCOMPARE(headsOf(again).value(0).size(), before + 1);

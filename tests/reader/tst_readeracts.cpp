@@ -310,6 +310,19 @@ private Q_SLOTS:
         QCOMPARE(list->count(), sentence.isEmpty() ? 3 : 2);
         QVERIFY(acts.said().contains(sentence));
         QCOMPARE(acts.window.isWindowModified(), sentence.isEmpty());
+
+        const bool mayEdit = !sentence.contains("有效期");
+        list = acts.list("vn_bookmark");
+        const auto buttons =
+            acts.window.findChild<NavigationPanel *>()->findChildren<QPushButton *>();
+        for (QPushButton *button : buttons) {
+            if (button->text() == QStringLiteral("为当前页添加书签"))
+                button->click();
+        }
+        QCOMPARE(list->count(), mayEdit ? 2 : 1);
+        list->setCurrentRow(0);
+        list->actions().first()->trigger();
+        QCOMPARE(list->item(0)->text(), QString(mayEdit ? "第 1 页" : "首页"));
     }
 
     void shouldSaveIntoTheOpenedFileUntilItIsChangedElsewhere()

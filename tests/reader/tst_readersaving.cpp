@@ -151,6 +151,60 @@ private Q_SLOTS:
         QTEST(seen.join(' '), "seen");
     }
 
+    void shouldSaveBookmarksAndNothingElse()
+    {
+        const QTemporaryDir folder;
+        const QString saved = folder.filePath("saved.ofd");
+        const auto rootOf = [](const Document &document) {
+            return document.file().document->package->read("Doc_0/Document.xml");
+        };
+        const auto namesOf = [](const Document &document) {
+            QStringList names;
+            for (const NamedPlace &place : document.bookmarks())
+                names.append(QStringLiteral("%1: %2").arg(place.name).arg(place.page));
+            return names;
+        };
+        QString error;
+        Document document;
+        QVERIFY(document.open(actsFile, &error));
+        // Only the line breaks around the root element are lost.
+        const QByteArray before = rootOf(document).replace("?>\n", "?>").trimmed();
+        const QString first = QStringLiteral("首页: 0");
+        const QString second = QStringLiteral("第 2 页: 1");
+        document.addBookmark(1);
+        document.addBookmark(1);
+        QCOMPARE(namesOf(document), QStringList({first, second}));
+        QVERIFY(document.isModified() && save(document, saved) && document.open(saved, &error));
+        QCOMPARE(namesOf(document), QStringList({first, second}));
+        QCOMPARE(rootOf(document),
+                 QByteArray(before).replace("</ofd:Bookmarks>",
+                                            "<ofd:Bookmark Name=\"第 2 页\"><ofd:Dest "
+                                            "Type=\"XYZ\" PageID=\"2\" Left=\"0\" Top=\"0\" "
+                                            "Zoom=\"0\"/></ofd:Bookmark></ofd:Bookmarks>"));
+
+        document.removeBookmark(0);
+        document.insertPage(0, Page(), QString());
+        QCOMPARE(namesOf(document), QStringList("第 2 页: 2"));
+        document.addBookmark(1);
+        QCOMPARE(namesOf(document), QStringList({"第 2 页: 2", "第 2 页 (2): 1"}));
+        document.addBookmark(0); // Of a page that is not saved.
+        QVERIFY(save(document, saved));
+        Document again;
+        QVERIFY(again.open(saved, &error));
+        QCOMPARE(namesOf(again), QStringList({second, "第 2 页 (2): 0"}));
+        while (!again.bookmarks().isEmpty())
+            again.removeBookmark(0);
+        QVERIFY(save(again, saved) && again.open(saved, &error));
+        QVERIFY(!rootOf(again).contains("Bookmark"));
+        again.addBookmark(0);
+        again.undoStack().undo();
+        QVERIFY(again.bookmarks().isEmpty() && !again.isModified());
+        again.addBookmark(0);
+        QVERIFY(save(again, saved) && again.open(saved, &error));
+        QCOMPARE(namesOf(again), QStringList("第 1 页: 0"));
+        QVERIFY(rootOf(again).contains("</ofd:Bookmarks><ofd:Annotations>"));
+    }
+
     void shouldShowEveryMarkToOtherReaders_data()
     {
         QTest::addColumn<int>("kind");
@@ -199,11 +253,13 @@ private Q_SLOTS:
             QVERIFY(document.open(samples.filePath(name), &error));
             const int before = int(document.marks().size());
             document.addMark(markOf(MarkKind::Note, 0), QString());
+            document.addBookmark(document.pageCount() - 1);
             QVERIFY(save(document, folder.filePath(name)));
             Document again;
             QVERIFY2(again.open(folder.filePath(name), &error), qPrintable(name + error));
             QCOMPARE(again.marks().size(), before + 1);
             QCOMPARE(again.pageCount(), document.pageCount());
+            QCOMPARE(again.bookmarks().last().page, document.pageCount() - 1);
             const auto isNote = [](const Mark &mark) { return mark.kind == MarkKind::Note; };
             QVERIFY(std::any_of(again.marks().begin(), again.marks().end(), isNote));
         }

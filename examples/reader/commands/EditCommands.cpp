@@ -240,6 +240,18 @@ void EditCommands::removeMark(int id)
         m_parts.document->deleteMark(id, tr("删除批注"));
 }
 
+void EditCommands::addBookmark(int page)
+{
+    if (may(Act::Edit))
+        m_parts.document->addBookmark(page);
+}
+
+void EditCommands::removeBookmark(int index)
+{
+    if (may(Act::Edit))
+        m_parts.document->removeBookmark(index);
+}
+
 void EditCommands::addDrawn(Mark mark)
 {
     if (!may(Act::Annotate))

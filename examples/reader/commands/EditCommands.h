@@ -29,6 +29,8 @@ public:
     /** Asks for another text of a mark. */
     void editMark(int id);
     void removeMark(int id);
+    void addBookmark(int page);
+    void removeBookmark(int index);
 
 private:
     void addTools(MRToolBarCommands &commands);

@@ -258,7 +258,7 @@ bool FileCommands::mayBreakSignature(const QString &fileName) const
         || !fileName.endsWith(ofdSuffix, Qt::CaseInsensitive))
         return true;
     QMessageBox box(QMessageBox::Question, m_parts.window->windowTitle(),
-                    tr("本文件有电子签名，写入批注后签名可能不再有效。要继续保存吗？"),
+                    tr("本文件有电子签名，写入修改后签名可能不再有效。要继续保存吗？"),
                     QMessageBox::NoButton, m_parts.window);
     const QPushButton *saving = box.addButton(tr("保存"), QMessageBox::AcceptRole);
     QPushButton *cancelling = box.addButton(tr("取消"), QMessageBox::RejectRole);

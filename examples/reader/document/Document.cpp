@@ -87,6 +87,7 @@ void Document::replace(const QString &fileName, const QList<Page> &pages, const 
     m_undoStack.clear();
     m_quarters = 0;
     m_pages = pages;
+    m_bookmarks = m_file.bookmarks;
     adoptMarks();
     pagesReplaced();
     Q_EMIT marksChanged();
@@ -240,6 +241,36 @@ void Document::setMarkText(int id, const QString &text)
         m_undoStack.push(new ChangeTextEdit(*this, *mark, text));
 }
 
+void Document::addBookmark(int page)
+{
+    const auto named = [this](const QString &name) {
+        return std::find_if(m_bookmarks.cbegin(), m_bookmarks.cend(),
+                            [&name](const NamedPlace &each) { return each.name == name; });
+    };
+    const QString plain = tr("第 %1 页").arg(page + 1);
+    QString name = plain;
+    // Links refer to bookmarks by their names, so no two may have the same one.
+    for (int copy = 2; named(name) != m_bookmarks.cend(); ++copy) {
+        if (named(name)->page == page)
+            return;
+        name = QStringLiteral("%1 (%2)").arg(plain).arg(copy);
+    }
+    QList<NamedPlace> bookmarks = m_bookmarks;
+    const auto next =
+        std::find_if(bookmarks.begin(), bookmarks.end(), [page](const NamedPlace &each) {
+            return each.origin < 0 && each.page > page;
+        });
+    bookmarks.insert(next, {name, 0, page});
+    m_undoStack.push(new ChangeBookmarksEdit(*this, m_bookmarks, bookmarks, tr("添加书签")));
+}
+
+void Document::removeBookmark(int index)
+{
+    QList<NamedPlace> bookmarks = m_bookmarks;
+    bookmarks.removeAt(index);
+    m_undoStack.push(new ChangeBookmarksEdit(*this, m_bookmarks, bookmarks, tr("删除书签")));
+}
+
 const Mark *Document::markOf(int id) const
 {
     for (const Mark &mark : m_marks) {
@@ -304,6 +335,12 @@ void Document::removeMark(int id)
     Q_EMIT marksChanged();
 }
 
+void Document::replaceBookmarks(const QList<NamedPlace> &bookmarks)
+{
+    m_bookmarks = bookmarks;
+    Q_EMIT bookmarksChanged();
+}
+
 void Document::placePage(int index, const Page &page)
 {
     m_pages.insert(index, page);
@@ -311,6 +348,8 @@ void Document::placePage(int index, const Page &page)
         if (mark.page >= index)
             ++mark.page;
     }
+    for (NamedPlace &bookmark : m_bookmarks)
+        bookmark.page += bookmark.page >= index ? 1 : 0;
     pagesReplaced();
 }
 
@@ -321,5 +360,7 @@ void Document::removePage(int index)
         if (mark.page > index)
             --mark.page;
     }
+    for (NamedPlace &bookmark : m_bookmarks)
+        bookmark.page -= bookmark.page > index ? 1 : 0;
     pagesReplaced();
 }

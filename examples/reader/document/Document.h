@@ -57,6 +57,8 @@ public:
     QSizeF largestSize() const { return m_largestSize; }
     const QList<Mark> &marks() const override { return m_marks; }
     bool hasPageOf(const Mark &mark) const;
+    /** The bookmarks of the file in its order, and then the new ones by page. */
+    const QList<NamedPlace> &bookmarks() const { return m_bookmarks; }
 
     QUndoStack &undoStack() { return m_undoStack; }
     const QUndoStack &undoStack() const { return m_undoStack; }
@@ -74,6 +76,9 @@ public:
     void setMarkText(int id, const QString &text);
     /** The mark of that identifier; nullptr if there is none. */
     const Mark *markOf(int id) const;
+    /** Adds a bookmark for a page that is named after it, unless there is one already. */
+    void addBookmark(int page);
+    void removeBookmark(int index);
     void insertPage(int index, const Page &page, const QString &what);
     /** The index that a page has in the file; -1 for an inserted one. */
     int filePageOf(int page) const;
@@ -83,6 +88,7 @@ public:
 Q_SIGNALS:
     /** Marks were added, changed or removed. */
     void marksChanged();
+    void bookmarksChanged();
     /** Pages look different, because annotations of the file were removed or restored. */
     void contentChanged();
     /** Pages were added or removed; the pages of marks may have changed. */
@@ -105,6 +111,7 @@ private:
     void placeMark(int position, const Mark &mark) override;
     void removeMark(int id) override;
     void replaceMark(const Mark &mark) override;
+    void replaceBookmarks(const QList<NamedPlace> &bookmarks) override;
     void placePage(int index, const Page &page) override;
     void removePage(int index) override;
     void turnBy(int quarters) override;
@@ -116,6 +123,7 @@ private:
     mutable QCache<const PageContent *, Page> m_texts; ///< Costs are in kilobytes.
     QSizeF m_largestSize;
     QList<Mark> m_marks;
+    QList<NamedPlace> m_bookmarks;
     QUndoStack m_undoStack;
     int m_lastMarkId = 0;
     int m_quarters = 0;

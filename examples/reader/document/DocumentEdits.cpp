@@ -59,6 +59,26 @@ void ChangeTextEdit::undo()
     m_document.replaceMark(m_before);
 }
 
+ChangeBookmarksEdit::ChangeBookmarksEdit(EditableDocument &document,
+                                         const QList<NamedPlace> &before,
+                                         const QList<NamedPlace> &after, const QString &what)
+    : QUndoCommand(what)
+    , m_document(document)
+    , m_before(before)
+    , m_after(after)
+{
+}
+
+void ChangeBookmarksEdit::redo()
+{
+    m_document.replaceBookmarks(m_after);
+}
+
+void ChangeBookmarksEdit::undo()
+{
+    m_document.replaceBookmarks(m_before);
+}
+
 InsertPageEdit::InsertPageEdit(EditableDocument &document, int index, const Page &page,
                                const QString &what)
     : QUndoCommand(what)

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "document/Mark.h"
+#include "document/OfdFile.h"
 #include "document/Page.h"
 
 #include <QCoreApplication>
@@ -22,6 +23,7 @@ public:
     virtual void removeMark(int id) = 0;
     /** Replaces the mark with the same identifier. */
     virtual void replaceMark(const Mark &mark) = 0;
+    virtual void replaceBookmarks(const QList<NamedPlace> &bookmarks) = 0;
     virtual void placePage(int index, const Page &page) = 0;
     virtual void removePage(int index) = 0;
     /** Rotates all pages clockwise by quarter turns. */
@@ -69,6 +71,21 @@ private:
     EditableDocument &m_document;
     Mark m_before;
     Mark m_after;
+};
+
+/** Adds or removes bookmarks. */
+class ChangeBookmarksEdit : public QUndoCommand
+{
+public:
+    ChangeBookmarksEdit(EditableDocument &document, const QList<NamedPlace> &before,
+                        const QList<NamedPlace> &after, const QString &what);
+    void redo() override;
+    void undo() override;
+
+private:
+    EditableDocument &m_document;
+    QList<NamedPlace> m_before;
+    QList<NamedPlace> m_after;
 };
 
 /** Rotates the pages, which does not modify the document. */

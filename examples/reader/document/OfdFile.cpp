@@ -73,7 +73,7 @@ QList<NamedPlace> placesOf(const QVector<Ofd::Target> &targets)
 {
     QList<NamedPlace> places;
     for (const Ofd::Target &target : targets)
-        places.append({target.title, target.depth, target.page});
+        places.append({target.title, target.depth, target.page, int(places.size())});
     return places;
 }
 

@@ -21,7 +21,8 @@ struct NamedPlace
 {
     QString name;
     int depth = 0;
-    int page = -1; ///< Counted from 0; -1 without a target.
+    int page = -1;   ///< Counted from 0; -1 without a target.
+    int origin = -1; ///< Which one of the file it is; -1 for a new bookmark.
 };
 
 /** What the reader reads from a file besides its pages. All is empty for generated pages. */

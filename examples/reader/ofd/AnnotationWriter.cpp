@@ -45,11 +45,11 @@ qint64 highestId(const XmlElement &element)
     return highest;
 }
 
-/** Writes the files of a document that its annotations are in. */
-class AnnotationFiles
+/** Writes the files of a document that its annotations and bookmarks are in. */
+class ChangedFiles
 {
 public:
-    explicit AnnotationFiles(const Document &document)
+    explicit ChangedFiles(const Document &document)
         : m_document(document)
         , m_package(*document.package)
         , m_root(document)
@@ -63,7 +63,19 @@ public:
             m_lastId = std::max(m_lastId, highestId(XmlElement::parse(read(list), list)));
     }
 
-    QMap<QString, QByteArray> changed(const QMap<int, AnnotationChanges> &changes)
+    QMap<QString, QByteArray> changed(const QMap<int, AnnotationChanges> &annotations,
+                                      const BookmarkChanges &bookmarks)
+    {
+        writeAnnotations(annotations);
+        const QString &path = m_document.path;
+        if (!bookmarks.isEmpty())
+            m_entries.insert(path,
+                             withBookmarks(m_entries.value(path, read(path)), m_root, bookmarks));
+        return m_entries;
+    }
+
+private:
+    void writeAnnotations(const QMap<int, AnnotationChanges> &changes)
     {
         for (auto page = changes.cbegin(); page != changes.cend(); ++page) {
             if (page->isEmpty() || page.key() >= m_root.pageIds.size())
@@ -76,12 +88,12 @@ public:
             if (known.isEmpty())
                 m_newLists.insert(m_root.pageIds.at(page.key()), path);
         }
+        if (m_entries.isEmpty())
+            return;
         const QString index = m_newLists.isEmpty() ? QString() : writeIndex();
         m_entries.insert(m_document.path, root(index));
-        return m_entries;
     }
 
-private:
     QByteArray read(const QString &path) const { return m_package.read(path); }
 
     QString folder() const
@@ -211,9 +223,10 @@ private:
 
 } // namespace
 
-QByteArray withAnnotations(const Document &document, const QMap<int, AnnotationChanges> &changes)
+QByteArray withChanges(const Document &document, const QMap<int, AnnotationChanges> &annotations,
+                       const BookmarkChanges &bookmarks)
 {
-    const auto entries = AnnotationFiles(document).changed(changes);
+    const auto entries = ChangedFiles(document).changed(annotations, bookmarks);
     return Archive::withEntries(*document.package, entries);
 }
 

@@ -3,10 +3,9 @@
 
 #pragma once
 
-#include "ofd/Document.h"
+#include "ofd/BookmarkWriter.h"
 
 #include <QColor>
-#include <QSet>
 
 namespace Ofd {
 
@@ -44,9 +43,10 @@ struct AnnotationChanges
 };
 
 /**
- * The archive of a document with changed annotations, by the index of the page. Entries that have
- * nothing to do with annotations keep their bytes. Throws a Fault if it cannot be made.
+ * The archive of a document with changed annotations, by the index of the page, and bookmarks.
+ * Entries that have nothing to do with them keep their bytes. Throws a Fault if it cannot be made.
  */
-QByteArray withAnnotations(const Document &document, const QMap<int, AnnotationChanges> &changes);
+QByteArray withChanges(const Document &document, const QMap<int, AnnotationChanges> &annotations,
+                       const BookmarkChanges &bookmarks = {});
 
 } // namespace Ofd

@@ -95,8 +95,10 @@ void Extras::readTargets(const XmlElement &root, const QHash<QString, int> &page
     const XmlElement *bookmarks = root.child("Bookmarks");
     if (!bookmarks)
         return;
-    for (const XmlElement &bookmark : bookmarks->children)
-        document.bookmarks.append({bookmark.attribute("Name"), 0, pageOf(bookmark, pages)});
+    for (const XmlElement &bookmark : bookmarks->children) {
+        if (bookmark.is("Bookmark"))
+            document.bookmarks.append({bookmark.attribute("Name"), 0, pageOf(bookmark, pages)});
+    }
 }
 
 void Extras::readAttachments(const XmlElement &root, const QString &from, Document &document)

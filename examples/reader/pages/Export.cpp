@@ -133,5 +133,7 @@ QString Export::lossOf(const Document &document, const QString &fileName)
         return OfdSaving::lossOf(document);
     if (hasSuffix(fileName, ".txt") && document.isModified())
         return QCoreApplication::translate("Export", "文本文件中不含批注");
+    if (OfdSaving::changesBookmarks(document))
+        return QCoreApplication::translate("Export", "书签只能保存到 OFD 文件中");
     return QString();
 }

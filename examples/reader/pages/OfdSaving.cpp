@@ -65,6 +65,20 @@ void addMark(Changes &changes, const Document &document, const Mark &mark)
     }
 }
 
+Ofd::BookmarkChanges bookmarkChanges(const Document &document)
+{
+    Ofd::BookmarkChanges changes;
+    for (int i = 0; i < document.file().bookmarks.size(); ++i)
+        changes.removed.insert(i);
+    for (const NamedPlace &bookmark : document.bookmarks()) {
+        changes.removed.remove(bookmark.origin);
+        const int page = bookmark.origin < 0 ? document.filePageOf(bookmark.page) : -1;
+        if (page >= 0)
+            changes.added.append({bookmark.name, page});
+    }
+    return changes;
+}
+
 bool isEmpty(const Changes &changes)
 {
     for (const Ofd::AnnotationChanges &page : changes) {
@@ -85,14 +99,20 @@ QByteArray OfdSaving::archiveOf(const Document &document, QString *error)
         if (isNew(mark))
             addMark(changes, document, mark);
     }
-    if (isEmpty(changes))
+    const Ofd::BookmarkChanges bookmarks = bookmarkChanges(document);
+    if (isEmpty(changes) && bookmarks.isEmpty())
         return document.file().archive;
     try {
-        return Ofd::withAnnotations(*document.file().document, changes);
+        return Ofd::withChanges(*document.file().document, changes, bookmarks);
     } catch (const Ofd::Fault &fault) {
         *error = fault.message;
         return QByteArray();
     }
+}
+
+bool OfdSaving::changesBookmarks(const Document &document)
+{
+    return !document.isGenerated() && !bookmarkChanges(document).isEmpty();
 }
 
 QString OfdSaving::lossOf(const Document &document)

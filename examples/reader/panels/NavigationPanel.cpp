@@ -14,8 +14,6 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
-#include <algorithm>
-
 namespace {
 
 const QString outline = QStringLiteral("vn_outline");
@@ -86,6 +84,7 @@ NavigationPanel::NavigationPanel(const Document &document, QWidget *parent)
     hide();
     connect(&document, &Document::pagesChanged, this, &NavigationPanel::documentOpened);
     connect(&document, &Document::marksChanged, this, &NavigationPanel::refill);
+    connect(&document, &Document::bookmarksChanged, this, &NavigationPanel::refill);
     connect(&m_walk, &TextWalk::stepped, this, &NavigationPanel::showWordCounts);
     connect(this, &QDockWidget::visibilityChanged, this, &NavigationPanel::shownPanelChanged);
 }
@@ -121,11 +120,8 @@ void NavigationPanel::addBookmarkButton()
 {
     setTabOrder(m_lists.value(bookmarks), m_bookmarkButton);
     connect(m_bookmarkButton, &QPushButton::clicked, this, [this] {
-        if (!m_document.isOpen() || m_bookmarks.contains(m_currentPage))
-            return;
-        m_bookmarks.append(m_currentPage);
-        std::sort(m_bookmarks.begin(), m_bookmarks.end());
-        refill();
+        if (m_document.isOpen())
+            Q_EMIT bookmarkAsked(m_currentPage);
     });
 }
 
@@ -146,8 +142,11 @@ void NavigationPanel::addListActions()
     // A double click and the Return key, but not a single click.
     connect(files, &QListWidget::itemActivated, this,
             [files] { files->actions().first()->trigger(); });
+    m_bookmarkActions = new ListActions(m_lists.value(bookmarks));
+    m_bookmarkActions->add(QKeySequence::Delete,
+                           [this](int index) { Q_EMIT bookmarkRemovalAsked(index); });
     QWidget *before = m_bookmarkButton;
-    for (ListActions *actions : {m_markActions, m_attachmentActions}) {
+    for (ListActions *actions : {m_bookmarkActions, m_markActions, m_attachmentActions}) {
         widget()->layout()->addWidget(actions);
         actions->hide();
         setTabOrder(before, actions);
@@ -157,6 +156,7 @@ void NavigationPanel::addListActions()
 
 void NavigationPanel::nameListActions()
 {
+    m_lists.value(bookmarks)->actions().first()->setText(tr("删除书签"));
     const QList<QAction *> ofMarks = m_lists.value(marks)->actions();
     ofMarks.at(0)->setText(tr("编辑备注…"));
     ofMarks.at(1)->setText(tr("删除批注"));
@@ -176,6 +176,7 @@ void NavigationPanel::toggle(const QString &name)
     QWidget *list = m_lists.value(name);
     m_stack->setCurrentWidget(name == thumbnails ? m_thumbnails : list);
     m_bookmarkButton->setVisible(name == bookmarks);
+    m_bookmarkActions->setVisible(name == bookmarks);
     m_markActions->setVisible(name == marks);
     m_attachmentActions->setVisible(name == attachments);
     show();
@@ -196,10 +197,6 @@ void NavigationPanel::setCurrentPage(int page)
 
 void NavigationPanel::documentOpened()
 {
-    if (m_fileName != m_document.fileName()) {
-        m_fileName = m_document.fileName();
-        m_bookmarks.clear();
-    }
     m_thumbnails->showPage(m_currentPage);
     refill();
 }
@@ -283,11 +280,9 @@ void NavigationPanel::showWordCounts()
 void NavigationPanel::fillBookmarks()
 {
     QListWidget *list = m_lists.value(bookmarks);
-    addPlaces(bookmarks, m_document.file().bookmarks);
-    for (const int page : std::as_const(m_bookmarks)) {
-        if (page < m_document.pageCount())
-            addItem(list, tr("第 %1 页").arg(page + 1), page);
-    }
+    addPlaces(bookmarks, m_document.bookmarks());
+    for (int i = 0; i < list->count(); ++i)
+        list->item(i)->setData(ListActions::numberRole, i);
     if (list->count() == 0)
         addNotice(list, tr("还没有书签"));
 }

@@ -38,6 +38,9 @@ Q_SIGNALS:
     void pageChosen(int page);
     /** The user chose the mark with that identifier. */
     void markChosen(int id);
+    /** The user wants a bookmark for the page with that index. */
+    void bookmarkAsked(int page);
+    void bookmarkRemovalAsked(int index);
     void markEditAsked(int id);
     void markRemovalAsked(int id);
     /** The user wants to open or to save the attached file with that index. */
@@ -69,10 +72,9 @@ private:
     QHash<QString, QListWidget *> m_lists; ///< Without the thumbnails.
     ThumbnailList *m_thumbnails;
     QPushButton *m_bookmarkButton;
+    ListActions *m_bookmarkActions = nullptr;
     ListActions *m_markActions = nullptr;
     ListActions *m_attachmentActions = nullptr;
-    QList<int> m_bookmarks;
-    QString m_fileName; ///< The file of the bookmarks.
     QString m_panel;
     int m_currentPage = 0;
     std::shared_ptr<const QVector<int>> m_wordCounts; ///< Complete after the walk.

@@ -89,6 +89,10 @@ void ReaderWindow::connectLinks()
             [this](int id) { m_editCommands.editMark(id); });
     connect(m_navigation, &NavigationPanel::markRemovalAsked, this,
             [this](int id) { m_editCommands.removeMark(id); });
+    connect(m_navigation, &NavigationPanel::bookmarkAsked, this,
+            [this](int page) { m_editCommands.addBookmark(page); });
+    connect(m_navigation, &NavigationPanel::bookmarkRemovalAsked, this,
+            [this](int index) { m_editCommands.removeBookmark(index); });
     connect(m_navigation, &NavigationPanel::attachmentOpenAsked, this,
             [this](int index) { m_linkCommands.openAttachment(index); });
     connect(m_navigation, &NavigationPanel::attachmentSaveAsked, this,
