@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "pages/PageView.h"
+#include "panels/NavigationPanel.h"
 #include "panels/SignatureDialog.h"
 #include "shell/Description.h"
 #include "shell/ReaderWindow.h"
@@ -11,6 +12,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QListWidget>
+#include <QMessageBox>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTextBrowser>
@@ -85,6 +87,7 @@ private Q_SLOTS:
     void shouldOfferTheListForSignedDocumentsOnly();
     void shouldShowWhatTheCheckTells();
     void shouldShowTheSignatureOfASealThatIsClickedTwice();
+    void shouldAskBeforeItBreaksASignature();
 
 private:
     QTemporaryDir m_folder;
@@ -152,6 +155,36 @@ void ReaderSignaturesTest::shouldShowTheSignatureOfASealThatIsClickedTwice()
     QVERIFY2(texts.at(1).endsWith(result), qUtf8Printable(result));
     QVERIFY2(!texts.at(0).endsWith(result), qUtf8Printable(result));
     QVERIFY(click(red.topLeft() - QPoint(3, 3)).isEmpty());
+}
+
+void ReaderSignaturesTest::shouldAskBeforeItBreaksASignature()
+{
+    const QString name = m_folder.filePath("changed.ofd");
+    QVERIFY(QFile::copy(m_signed, name));
+    Reader reader;
+    reader.window.open(name);
+    QTRY_VERIFY(reader.command->isEnabled());
+    const auto result = [&] { return textsAfter([&] { reader.command->trigger(); }).value(0); };
+    const QString before = result();
+    Q_EMIT reader.window.findChild<NavigationPanel *>()->bookmarkAsked(0);
+    for (const QString &answer : {QStringLiteral("取消"), QStringLiteral("保存")}) {
+        reader.window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&reader.window));
+        QVERIFY(reader.window.isWindowModified());
+        QTimer::singleShot(0, [&answer] {
+            if (auto *question = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
+                for (QAbstractButton *button : question->buttons()) {
+                    if (button->text() == answer)
+                        return button->click();
+                }
+            }
+        });
+        QTest::keyClick(&reader.window, Qt::Key_S, Qt::ControlModifier);
+    }
+    QVERIFY(!reader.window.isWindowModified());
+    reader.window.open(name);
+    const QString after = result();
+    QVERIFY2(after != before && after.contains("签名后被修改"), qUtf8Printable(before + after));
 }
 
 QTEST_MAIN(ReaderSignaturesTest)
