@@ -206,6 +206,25 @@ private Q_SLOTS:
         QCOMPARE(finder.view.currentPage(), 400);
     }
 
+    void shouldSelectFromTheLineBesideThePoint()
+    {
+        // Two columns of lines 6 high; the second line on the left is short.
+        const QList<QRectF> rects{{20, 20, 80, 6},  {20, 30, 10, 6},  {20, 40, 80, 6},
+                                  {120, 25, 60, 6}, {120, 35, 60, 6}, {120, 45, 60, 6}};
+        Page page;
+        for (const QRectF &rect : rects) {
+            page.lines.append({int(page.text.size()), 2, rect});
+            page.boxes << rect.adjusted(0, 0, -rect.width() / 2, 0)
+                       << rect.adjusted(rect.width() / 2, 0, 0, 0) << QRectF();
+            page.text += "ab\n";
+        }
+        const QList<QPair<QPointF, int>> rows{{{5, 33}, 3},    {{95, 33}, 5},   {{95, 35.5}, 5},
+                                              {{105, 31}, 5},  {{30, 38.5}, 6}, {{199, 38}, 14},
+                                              {{110, 36}, 12}, {{60, 2}, 1}};
+        for (const auto &[point, position] : rows)
+            QVERIFY2(page.positionAt(point) == position, qPrintable(QString::number(point.x())));
+    }
+
     void shouldOfferEachDocumentOfAFile()
     {
         PackageMaker::Entries entries = PackageMaker::documentOf(2);

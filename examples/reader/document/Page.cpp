@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 QFont TextLine::font() const
 {
@@ -49,7 +50,7 @@ QList<QRectF> Page::rectsOf(int start, int length) const
     return rects;
 }
 
-int Page::positionAt(QPointF point) const
+const TextLine *Page::lineAt(QPointF point) const
 {
     const TextLine *nearest = nullptr;
     qreal smallest = std::numeric_limits<qreal>::max();
@@ -60,6 +61,26 @@ int Page::positionAt(QPointF point) const
             nearest = &line;
         }
     }
+    if (!nearest || boxes.isEmpty())
+        return nearest;
+
+    // Beside a short line a longer one may be nearer. The line at that height counts, unless it is
+    // of another column.
+    const QRectF column = nearest->rect;
+    for (const TextLine &line : lines) {
+        const bool isInColumn =
+            line.rect.left() < column.right() && line.rect.right() > column.left();
+        if (isInColumn
+            && std::make_pair(heightTo(line, point), distanceTo(line, point))
+                   < std::make_pair(heightTo(*nearest, point), distanceTo(*nearest, point)))
+            nearest = &line;
+    }
+    return nearest;
+}
+
+int Page::positionAt(QPointF point) const
+{
+    const TextLine *nearest = lineAt(point);
     if (!nearest)
         return -1;
 
@@ -79,12 +100,18 @@ qreal Page::leftOf(const TextLine &line, int length) const
            + QFontMetricsF(line.font()).horizontalAdvance(text.mid(line.start, length));
 }
 
-qreal Page::distanceTo(const TextLine &line, QPointF point) const
+/** How far a point is above or below a line; 0 beside it. */
+qreal Page::heightTo(const TextLine &line, QPointF point)
 {
     const qreal down = std::abs(line.rect.center().y() - point.y());
+    return std::max(0.0, down - line.rect.height() / 2);
+}
+
+qreal Page::distanceTo(const TextLine &line, QPointF point) const
+{
     if (boxes.isEmpty())
-        return down;
+        return std::abs(line.rect.center().y() - point.y());
     // Lines of a file may be side by side, so the horizontal distance counts.
     const qreal aside = std::abs(line.rect.center().x() - point.x()) - line.rect.width() / 2;
-    return std::max(0.0, down - line.rect.height() / 2) + std::max(0.0, aside);
+    return heightTo(line, point) + std::max(0.0, aside);
 }

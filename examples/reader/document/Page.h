@@ -118,5 +118,7 @@ struct Page
 
 private:
     qreal leftOf(const TextLine &line, int length) const;
+    const TextLine *lineAt(QPointF point) const;
+    static qreal heightTo(const TextLine &line, QPointF point);
     qreal distanceTo(const TextLine &line, QPointF point) const;
 };
