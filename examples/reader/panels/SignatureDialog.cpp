@@ -178,7 +178,8 @@ void SignatureDialog::showDetails(int signature)
     rows.add(tr("签名时间"), time.isEmpty() ? time : tr("%1（由签名者声明）").arg(time));
     rows.add(tr("签名程序"), result.provider);
     rows.add(tr("签名方法"), Ofd::Crypto::nameOfSignature(result.method));
-    rows.add(tr("受保护的文件"), tr("%1 个未被修改").arg(result.protectedFiles.size()));
+    if (!result.protectedFiles.isEmpty())
+        rows.add(tr("受保护的文件"), tr("%1 个未被修改").arg(result.protectedFiles.size()));
     rows.add(tr("不受保护的文件"), namesOf(result.unprotectedFiles));
     if (result.certificate)
         addCertificate(*result.certificate, rows);
