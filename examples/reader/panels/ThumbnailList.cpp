@@ -57,7 +57,10 @@ public:
                const QModelIndex &index) const override
     {
         m_thumbnail = m_list->thumbnail(index.row());
-        QStyledItemDelegate::paint(painter, option, index);
+        paintAccent(*painter, option);
+        QStyleOptionViewItem quiet = option;
+        quiet.state &= ~(QStyle::State_Selected | QStyle::State_MouseOver | QStyle::State_HasFocus);
+        QStyledItemDelegate::paint(painter, quiet, index);
     }
 
 protected:
@@ -70,6 +73,23 @@ protected:
     }
 
 private:
+    /** The style's own highlight would tint the pictures and be the strongest colour of the window.
+     */
+    static void paintAccent(QPainter &painter, const QStyleOptionViewItem &option)
+    {
+        const bool isChosen = option.state & QStyle::State_Selected;
+        QColor accent = option.palette.color(QPalette::Active, QPalette::Highlight);
+        painter.save();
+        if (isChosen) {
+            painter.setPen(QPen(accent, option.state & QStyle::State_HasFocus ? 3 : 1));
+            painter.drawRect(option.rect.adjusted(1, 1, -2, -2));
+        }
+        accent.setAlpha(isChosen ? 48 : 24);
+        if (isChosen || option.state & QStyle::State_MouseOver)
+            painter.fillRect(option.rect, accent);
+        painter.restore();
+    }
+
     ThumbnailList *m_list;
     mutable QPixmap m_thumbnail; ///< Of the item that is being painted.
 };
