@@ -190,6 +190,11 @@ QString FileCommands::folder() const
 
 void FileCommands::close()
 {
+    // The window asks by itself. Only the last one is left, to show the files opened last.
+    if (!m_parts.isOnlyWindow()) {
+        m_parts.window->close();
+        return;
+    }
     if (!mayLeaveDocument())
         return;
     m_parts.keepPlace();

@@ -34,6 +34,8 @@ struct ReaderParts
     std::function<void(const QStringList &fileNames)> openFiles;
     /** Keeps the place in the document; called before that is left. */
     std::function<void()> keepPlace;
+    /** Whether no other window of the reader is open. */
+    std::function<bool()> isOnlyWindow;
 
     /** Adds what is usable while a document is open. */
     MRToolBarCommands::Command addForDocument(MRToolBarCommands &commands, const QString &name,

@@ -112,7 +112,8 @@ ReaderParts ReaderWindow::parts()
             m_settings.get(),
             [this](const QString &name) { return focusControl(name); },
             [this](const QStringList &fileNames) { openFiles(fileNames); },
-            [this] { m_session.keepPlace(); }};
+            [this] { m_session.keepPlace(); },
+            [] { return all().size() < 2; }};
 }
 
 bool ReaderWindow::focusControl(const QString &name)
