@@ -89,13 +89,9 @@ private Q_SLOTS:
         QFETCH(int, style);
         NewToolBar::uiStyle = style;
         Reader reader(QTest::currentDataTag());
-        // A zoom box that shows no percentage is not editable and opens its list.
-        Reader::press(Qt::Key_M, Qt::ControlModifier);
-        QTRY_VERIFY(QApplication::activePopupWidget());
-        for (const Qt::Key key : {Qt::Key_End, Qt::Key_Return})
-            QTest::keyClick(QApplication::activePopupWidget()->focusWidget(), key);
-        QTRY_VERIFY(reader.view->hasFocus());
-        QVERIFY(reader.view->percent() > 3000.0);
+        // Whatever the pages fit into, a number can be typed.
+        reader.enter(Qt::Key_M, "3100");
+        QCOMPARE(qRound(reader.view->percent()), 3100);
         reader.enter(Qt::Key_M, "37");
         QCOMPARE(qRound(reader.view->percent()), 37);
         Reader::press(Qt::Key_Plus, Qt::ControlModifier);

@@ -14,8 +14,20 @@ constexpr qreal smallestPercent = 10;
 constexpr qreal largestPercent = 6400;
 constexpr std::array<int, 14> steps = {10,  25,  50,  75,   100,  125,  150,
                                        200, 400, 800, 1600, 2400, 3200, 6400};
+const QString original = QStringLiteral("vzmode_original");
 const QLatin1String prefix("vzmode_");
 const QLatin1String percentEnd("p");
+
+const QMap<QString, ZoomMode::Kind> &kinds()
+{
+    static const QMap<QString, ZoomMode::Kind> kinds = {
+        {original, ZoomMode::Percent},
+        {QStringLiteral("vzmode_fitpage"), ZoomMode::FitPage},
+        {QStringLiteral("vzmode_fitwidth"), ZoomMode::FitWidth},
+        {QStringLiteral("vzmode_fitheight"), ZoomMode::FitHeight},
+    };
+    return kinds;
+}
 
 } // namespace
 
@@ -27,15 +39,9 @@ ZoomMode::ZoomMode(qreal percent)
 
 ZoomMode ZoomMode::fromName(const QString &name)
 {
-    const QMap<QString, Kind> kinds = {
-        {QStringLiteral("vzmode_original"), Percent},
-        {QStringLiteral("vzmode_fitpage"), FitPage},
-        {QStringLiteral("vzmode_fitwidth"), FitWidth},
-        {QStringLiteral("vzmode_fitheight"), FitHeight},
-    };
     ZoomMode mode;
-    if (kinds.contains(name)) {
-        mode.m_kind = kinds.value(name);
+    if (kinds().contains(name)) {
+        mode.m_kind = kinds().value(name);
         mode.m_percent = 100;
         mode.m_name = name;
         return mode;
@@ -46,6 +52,18 @@ ZoomMode ZoomMode::fromName(const QString &name)
     const qreal percent =
         name.mid(prefix.size(), name.size() - prefix.size() - 1).toDouble(&isNumber);
     return isNumber && percent > 0 ? ZoomMode(percent) : mode;
+}
+
+QStringList ZoomMode::names()
+{
+    return kinds().keys();
+}
+
+QString ZoomMode::knownName(const QString &other) const
+{
+    if (m_kind == Percent)
+        return m_percent == 100 ? original : other;
+    return m_name;
 }
 
 ZoomMode ZoomMode::next(qreal percent, bool larger)

@@ -68,20 +68,6 @@ QDomDocument Description::parse(const QByteArray &content, std::optional<Descrip
     return document;
 }
 
-bool Description::offers(const QDomDocument &description, const QString &name)
-{
-    for (const char *tag : {"button", "menuitem", "item"}) {
-        const QDomNodeList nodes = description.elementsByTagName(QLatin1String(tag));
-        for (int i = 0; i < nodes.size(); ++i) {
-            const QDomElement element = nodes.at(i).toElement();
-            if (element.attribute(QStringLiteral("action")) == name
-                || element.attribute(QStringLiteral("name")) == name)
-                return true;
-        }
-    }
-    return false;
-}
-
 void Description::beginWithTab(QDomDocument &description, const QString &name)
 {
     const QString checked = QStringLiteral("checked");

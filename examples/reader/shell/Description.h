@@ -33,9 +33,6 @@ bool isBuiltIn(const QString &name);
 /** Reads a description from the content of a file; sets @p fault if that is not a description. */
 QDomDocument parse(const QByteArray &content, std::optional<DescriptionFault> *fault);
 
-/** Whether a button or an entry of a menu or list has the name. */
-bool offers(const QDomDocument &description, const QString &name);
-
 /** Checks the tab of that name and unchecks the others; no effect without such a tab. */
 void beginWithTab(QDomDocument &description, const QString &name);
 

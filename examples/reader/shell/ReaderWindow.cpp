@@ -188,12 +188,7 @@ void ReaderWindow::createCommands()
         .checkedWhen([this](const QString &name) {
             return m_settings->scheme() == ReaderScheme::ofCommand(name);
         });
-    m_commands.setZoom([this] { return m_document.isOpen() ? shownZoom().name() : QString(); },
-                       [this](const QString &name) {
-                           const ZoomMode mode = ZoomMode::fromName(name);
-                           if (m_document.isOpen() && mode.isValid())
-                               m_view->setZoomMode(mode);
-                       });
+    addZoomModes();
     m_commands.setSearch([this](const SearchOption &option) { m_search->search(option); });
     connect(&m_commands, &MRToolBarCommands::triggered, this, &ReaderWindow::stateChanged);
     connect(&m_commands, &MRToolBarCommands::unhandled, this,
@@ -277,16 +272,6 @@ void ReaderWindow::openSample()
 {
     m_document.openGenerated(sampleName());
     m_view->setCurrentPage(0);
-}
-
-ZoomMode ReaderWindow::shownZoom() const
-{
-    // For a mode without an entry, the zoom box would show parts of the name of the mode.
-    const ZoomMode mode = m_view->zoomMode();
-    const bool isFitted = mode.isValid() && mode.kind() != ZoomMode::Percent;
-    return isFitted && !Description::offers(m_description, mode.name())
-               ? ZoomMode(qRound(m_view->percent()))
-               : mode;
 }
 
 void ReaderWindow::stateChanged()

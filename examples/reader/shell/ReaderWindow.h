@@ -8,7 +8,6 @@
 #include "commands/LinkCommands.h"
 #include "commands/ViewCommands.h"
 #include "document/Document.h"
-#include "pages/ZoomMode.h"
 #include "shell/ReaderSettings.h"
 #include "shell/Session.h"
 
@@ -82,8 +81,9 @@ private:
     static void quit();
     void setScheme(const QString &scheme);
     void createCentre();
-    ZoomMode shownZoom() const;
+    QString shownZoom() const;
     void createCommands();
+    void addZoomModes();
     void connectKeys();
     void returnToPages();
     void connectToolBar();
@@ -97,6 +97,7 @@ private:
     void stateChanged();
     void showPagesOrStart();
     void showPage() const;
+    void offerPageAgain();
     void updateTitle();
     void tellWhatIsMissing();
 

@@ -18,6 +18,8 @@
 
 #include <QComboBox>
 
+#include <algorithm>
+
 void ReaderWindow::addHostPanel()
 {
     m_host = new HostDock(this);
@@ -116,8 +118,11 @@ void ReaderWindow::connectStartPage()
 void ReaderWindow::connectPageField()
 {
     connect(m_pageField, &PageFieldWatcher::entered, this, [this](int page) {
-        if (m_document.isOpen() && (page < 1 || page > m_document.pageCount()))
-            parts().say(tr("没有这一页：共 %1 页").arg(m_document.pageCount()));
+        if (!m_document.isOpen() || (page >= 1 && page <= m_document.pageCount()))
+            return;
+        parts().say(tr("没有这一页：共 %1 页").arg(m_document.pageCount()));
+        // Queued for the same reason as below.
+        QMetaObject::invokeMethod(this, &ReaderWindow::offerPageAgain, Qt::QueuedConnection);
     });
     // Queued, because the field is left while the toolbar still answers what was typed.
     connect(m_pageField, &PageFieldWatcher::left, this, &ReaderWindow::showPage,
@@ -130,8 +135,44 @@ void ReaderWindow::showPage() const
         m_toolBar->DoSetPageInfoSlot(m_view->currentPage() + 1, m_document.pageCount());
 }
 
-void ReaderWindow::followZoomBox()
+/** The toolbar leaves "7/12" in the field, to which further digits would be added. */
+void ReaderWindow::offerPageAgain()
 {
+    showPage();
+    const QStringList names = ToolBarReach::pageFieldNames();
+    std::any_of(names.begin(), names.end(),
+                [this](const QString &name) { return focusControl(name); });
+}
+
+QString ReaderWindow::shownZoom() const
+{
+    // Into a box that shows the name of a mode nothing can be typed: a digit would choose the first
+    // entry that begins with it. What fits the pages can be seen at the buttons.
+    const ZoomMode mode = m_view->zoomMode();
+    const bool isFitted = mode.kind() != ZoomMode::Percent;
+    return m_document.isOpen()
+               ? ZoomMode(isFitted ? qRound(m_view->percent()) : mode.percent()).name()
+               : QString();
+}
+
+void ReaderWindow::addZoomModes()
+{
+    const auto choose = [this](const QString &name) {
+        const ZoomMode mode = ZoomMode::fromName(name);
+        if (m_document.isOpen() && mode.isValid())
+            m_view->setZoomMode(mode);
+    };
+    m_commands.setZoom([this] { return shownZoom(); }, choose);
+    const QString custom = QStringLiteral("vzmode_custom");
+    m_commands.add(ZoomMode::names() << custom, choose)
+        .usableWhen([this] { return m_document.isOpen(); })
+        .checkedWhen([this, custom](const QString &name) {
+            return m_view->zoomMode().knownName(custom) == name;
+        });
+}
+
+{
+void ReaderWindow::followZoomBox()
     // DoSetZoomMode() does not report every choice in the zoom box.
     const QList<QComboBox *> boxes = ToolBarReach::zoomBoxes(*this);
     for (const QComboBox *box : boxes) {
