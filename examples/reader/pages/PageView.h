@@ -130,6 +130,7 @@ private:
     PageColours colours() const;
 
     // Links, which only the tools for reading follow.
+    void paintFrame(QPainter &painter) const;
     PageLink linkAt(QPoint position) const;
     void showToolCursor();
     void showCursorAt(QPoint position);

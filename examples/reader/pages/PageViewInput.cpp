@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QKeyEvent>
+#include <QScopedValueRollback>
 #include <QMouseEvent>
 #include <QScrollBar>
 
@@ -259,14 +260,24 @@ bool PageView::turnPage(int direction)
     return true;
 }
 
+/** Scrolls to the end of the last page, or to the top of the first one. */
+void PageView::showEnd(bool isLast)
+{
+    setCurrentPage(isLast ? m_document.pageCount() - 1 : 0);
+    // A short last page stays the current one where the one before it fills the view.
+    const QScopedValueRollback<bool> guard(m_scrollsItself, true);
+    QScrollBar *bar = verticalScrollBar();
+    bar->setValue(isLast ? bar->maximum() : bar->minimum());
+}
+
 void PageView::keyPressEvent(QKeyEvent *event)
 {
     if (event->matches(QKeySequence::Copy))
         copySelection();
     else if (event->key() == Qt::Key_Home)
-        setCurrentPage(0);
+        showEnd(false);
     else if (event->key() == Qt::Key_End)
-        setCurrentPage(m_document.pageCount() - 1);
+        showEnd(true);
     else if (!turnPageBy(*event))
         scrollBy(event);
 }
