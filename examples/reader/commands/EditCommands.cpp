@@ -11,12 +11,15 @@
 
 #include <toolbar/MRToolBarCommands.h>
 
+#include <QApplication>
+#include <QClipboard>
 #include <QInputDialog>
 #include <QMainWindow>
 #include <QMap>
 #include <QPlainTextEdit>
 
 #include <algorithm>
+#include <limits>
 
 namespace {
 
@@ -67,6 +70,7 @@ EditCommands::EditCommands(const ReaderParts &parts)
     : m_parts(parts)
     , m_lastPen(PageTool::penNames().first())
 {
+    QObject::connect(&m_walk, &TextWalk::stepped, &m_walk, [this] { followCopying(); });
 }
 
 void EditCommands::addTo(MRToolBarCommands &commands)
@@ -105,14 +109,10 @@ void EditCommands::addSelection(MRToolBarCommands &commands)
         .withToolTip([document] {
             return tellingWhat(tr("恢复：%1 (Ctrl+Y)"), document->undoStack().redoText());
         });
-    m_parts.addForDocument(commands, "e_selectpage", [this] {
-        selectPages(m_parts.view->currentPage(), m_parts.view->currentPage());
-    });
-    m_parts.addForDocument(commands, "e_selectall",
-                           [this] { selectPages(0, m_parts.document->pageCount() - 1); });
+    m_parts.addForDocument(commands, "e_selectpage", [this] { selectPage(); });
+    m_parts.addForDocument(commands, "e_selectall", [this] { selectAll(); });
     const auto hasSelection = [view = m_parts.view] { return !view->selection().isEmpty(); };
-    commands.add("e_copy", [view = m_parts.view] { view->copySelection(); })
-        .usableWhen(hasSelection);
+    commands.add("e_copy", [this] { copySelection(); }).usableWhen(hasSelection);
     commands.add("e_unselect", [this] { m_parts.view->setSelection({}); }).usableWhen(hasSelection);
 }
 
@@ -301,18 +301,58 @@ void EditCommands::addWatermark()
         placeOnEveryPage(MarkKind::Watermark, QRectF(QPointF(0, 0), size), text);
 }
 
-void EditCommands::selectPages(int first, int last)
+void EditCommands::selectPage()
 {
-    QList<TextRange> selection;
-    qint64 all = 0;
-    for (int page = first; page <= last; ++page) {
-        const int length = int(m_parts.document->page(page).text.size());
-        if (length > 0)
-            selection.append({page, 0, length});
-        all += length;
-    }
-    m_parts.view->setSelection(selection);
+    const int page = m_parts.view->currentPage();
+    const int length = int(m_parts.document->page(page).text.size());
+    m_parts.view->setSelection(length > 0 ? QList<TextRange>{{page, 0, length}}
+                                          : QList<TextRange>());
     // Ctrl+C is a shortcut of the page view.
     m_parts.view->setFocus();
-    m_parts.say(tr("已选择 %1 个字").arg(all));
+    m_parts.say(tr("已选择 %1 个字").arg(length));
+}
+
+void EditCommands::selectAll()
+{
+    // To read the texts of thousands of pages would take seconds, so nobody knows the lengths.
+    QList<TextRange> selection;
+    const int count = m_parts.document->pageCount();
+    for (int page = 0; page < count; ++page)
+        selection.append({page, 0, std::numeric_limits<int>::max()});
+    m_parts.view->setSelection(selection);
+    m_parts.view->setFocus();
+    m_parts.say(tr("已选择全部 %1 页的文字").arg(count));
+}
+
+void EditCommands::copySelection()
+{
+    const QList<TextRange> selection = m_parts.view->selection();
+    if (selection.isEmpty())
+        return;
+    const QList<Page> all = m_parts.document->pages();
+    QList<Page> pages;
+    for (const TextRange &range : selection)
+        pages.append(all.at(range.page));
+    const auto text = std::make_shared<QString>();
+    m_copied = text;
+    m_copiedPages = int(pages.size());
+    m_walk.start(pages, 0, true, [text, selection](int index, const Page &page) {
+        if (!text->isEmpty() && !text->endsWith(QChar(u'\n')))
+            *text += QChar(u'\n');
+        *text += page.text.mid(selection.at(index).start, selection.at(index).length);
+        return true;
+    });
+}
+
+void EditCommands::followCopying()
+{
+    if (m_walk.isActive()) {
+        m_parts.say(tr("正在复制：第 %1 / %2 页").arg(m_walk.visitedCount()).arg(m_copiedPages));
+        return;
+    }
+    if (!m_copied->isEmpty())
+        QApplication::clipboard()->setText(*m_copied);
+    m_parts.say(m_copied->isEmpty() ? tr("没有可以复制的文字")
+                                    : tr("已复制 %1 个字").arg(m_copied->size()));
+    m_copied.reset();
 }

@@ -5,8 +5,11 @@
 
 #include "commands/ReaderParts.h"
 #include "document/Mark.h"
+#include "panels/TextWalk.h"
 
 #include <QCoreApplication>
+
+#include <memory>
 
 class MRToolBarCommands;
 class QString;
@@ -21,6 +24,8 @@ public:
 
     void addTo(MRToolBarCommands &commands);
 
+    /** Puts the selected text on the clipboard, after a while if it is that of many pages. */
+    void copySelection();
     void useTool(const QString &name);
     void editHandwriting();
     /** Adds what the user drew to the document; asks for the text of a text box. */
@@ -43,8 +48,13 @@ private:
     /** Whether the act is allowed; otherwise the user is told why not, as for a mark. */
     bool may(Act act) const;
     bool mayChange(const Mark *mark) const;
-    void selectPages(int first, int last);
+    void selectPage();
+    void selectAll();
+    void followCopying();
 
     ReaderParts m_parts;
     QString m_lastPen;
+    std::shared_ptr<const QString> m_copied; ///< Complete after the walk.
+    int m_copiedPages = 0;
+    TextWalk m_walk;
 };

@@ -52,8 +52,6 @@ public:
 
     const QList<TextRange> &selection() const { return m_decoration.selection; }
     void setSelection(const QList<TextRange> &selection);
-    QString selectedText() const;
-    void copySelection() const;
     /** The marks of the current tool for the selected text, one for each page. */
     QList<Mark> marksOnSelection() const;
 
@@ -72,6 +70,8 @@ Q_SIGNALS:
     void zoomStepAsked(bool larger);
     /** The user drew a mark. For a text box it has the rectangle and no text yet. */
     void markDrawn(const Mark &mark);
+    /** The user wants the selected text on the clipboard. */
+    void copyAsked();
     void inkRubbed(int page, QPointF point, qreal radius);
     /** The user wants to know about the signature, counted from 0, of a seal. */
     void signatureAsked(int signature);

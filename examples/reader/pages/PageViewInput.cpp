@@ -6,7 +6,6 @@
 #include "pages/PageView.h"
 
 #include <QApplication>
-#include <QClipboard>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
 #include <QMouseEvent>

@@ -68,6 +68,7 @@ void ReaderWindow::connectView()
     connect(m_view, &PageView::currentPageChanged, this, &ReaderWindow::tellWhatIsMissing);
     connect(m_view, &PageView::zoomChanged, this, &ReaderWindow::stateChanged);
     connect(m_view, &PageView::selectionChanged, this, &ReaderWindow::stateChanged);
+    connect(m_view, &PageView::copyAsked, this, [this] { m_editCommands.copySelection(); });
     connect(m_view, &PageView::zoomStepAsked, this, [this](bool larger) {
         if (m_document.isOpen())
             m_viewCommands.stepZoom(larger);
