@@ -14,6 +14,7 @@
 #include <QDomDocument>
 #include <QFileInfo>
 #include <QLineEdit>
+#include <QScrollBar>
 #include <QSet>
 #include <QTemporaryDir>
 #include <QTest>
@@ -105,7 +106,17 @@ private Q_SLOTS:
         reader.enter(Qt::Key_F, "", Qt::Key_Escape);
         Reader::press(Qt::Key_A, Qt::ControlModifier);
         Reader::press(Qt::Key_C, Qt::ControlModifier);
-        QVERIFY(QGuiApplication::clipboard()->text().size() > 100);
+        QTRY_VERIFY(QGuiApplication::clipboard()->text().size() > 100);
+        Reader::press(Qt::Key_F11);
+        Reader::press(Qt::Key_Escape);
+        QVERIFY(!reader.window.isFullScreen() && !reader.view->selection().isEmpty());
+        Reader::press(Qt::Key_Escape);
+        QVERIFY(reader.view->selection().isEmpty());
+        const QScrollBar *bar = reader.view->verticalScrollBar();
+        Reader::press(Qt::Key_Home);
+        QVERIFY(reader.view->currentPage() == 0 && bar->value() == 0 && bar->maximum() > 0);
+        Reader::press(Qt::Key_End);
+        QVERIFY(reader.view->currentPage() > 2 && bar->value() == bar->maximum());
     }
 
     void shouldReachNamedControlsAndThePagesByTheTabKey_data()

@@ -67,6 +67,7 @@ void LinkCommands::showMark(int id)
     place.left = mark->rect().left();
     place.top = mark->rect().top();
     m_parts.view->showPlace(place);
+    m_parts.view->pointOut(place.page, mark->rect());
 }
 
 void LinkCommands::openAddress(const QString &address)

@@ -35,7 +35,7 @@ PageView::PageView(const Document &document, QWidget *parent)
         m_cache.clear();
         viewport()->update();
     });
-    connect(&document, &Document::marksChanged, viewport(), QOverload<>::of(&QWidget::update));
+    connect(&document, &Document::marksChanged, this, [this] { pointOut(-1, QRectF()); });
 }
 
 void PageView::setCurrentPage(int page)
@@ -291,7 +291,7 @@ void PageView::documentChanged()
     m_decoration.currentHit = TextRange();
     m_drag = Drag();
     m_cache.clear();
-    setSelection({});
+    chooseNothing();
     m_currentPage = std::clamp(m_currentPage, 0, std::max(0, m_document.pageCount() - 1));
     layOut();
     Q_EMIT currentPageChanged(m_currentPage);

@@ -30,6 +30,10 @@ public:
 
     /** Scrolls to a place of the document, with its zoom if it has one. */
     void showPlace(const PagePlace &place);
+    /** Frames a part of a page until something else is chosen. */
+    void pointOut(int page, const QRectF &rect);
+    /** Ends the selection, and the frame of pointOut(). */
+    void chooseNothing();
 
     LayoutMode layoutMode() const { return m_layoutMode; }
     void setLayoutMode(LayoutMode mode);
@@ -66,12 +70,12 @@ Q_SIGNALS:
     /** The zoom mode or its percentage has changed. */
     void zoomChanged();
     void selectionChanged();
+    /** The user wants the selected text on the clipboard. */
+    void copyAsked();
     /** The user requested the next zoom step with the wheel. */
     void zoomStepAsked(bool larger);
     /** The user drew a mark. For a text box it has the rectangle and no text yet. */
     void markDrawn(const Mark &mark);
-    /** The user wants the selected text on the clipboard. */
-    void copyAsked();
     void inkRubbed(int page, QPointF point, qreal radius);
     /** The user wants to know about the signature, counted from 0, of a seal. */
     void signatureAsked(int signature);
@@ -126,11 +130,11 @@ private:
     void paintPlace(QPainter &painter, const PageLayout::Place &place);
     void prepareNext(const QRectF &visible);
     PageCache::Sheet sheetOf(int page) const;
+    void paintFrame(QPainter &painter) const;
     void paintHint(QPainter &painter);
     PageColours colours() const;
 
     // Links, which only the tools for reading follow.
-    void paintFrame(QPainter &painter) const;
     PageLink linkAt(QPoint position) const;
     void showToolCursor();
     void showCursorAt(QPoint position);
@@ -142,6 +146,7 @@ private:
     void extendDrawing(const PagePoint &to);
     void finishDrag();
     bool turnPage(int direction);
+    void showEnd(bool isLast);
     bool turnPageBy(const QKeyEvent &event);
     void scrollBy(QKeyEvent *event);
 
@@ -153,6 +158,8 @@ private:
     BackgroundStyle m_background = Background_Default;
     PageTool m_tool;
     PageDecoration m_decoration;
+    int m_framedPage = -1;
+    QRectF m_frame; ///< In page units.
     PageCache m_cache;
     Drag m_drag;
     bool m_scrollsItself = false;

@@ -7,8 +7,8 @@
 
 #include <QApplication>
 #include <QKeyEvent>
-#include <QScopedValueRollback>
 #include <QMouseEvent>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -56,6 +56,7 @@ void PageView::mousePressEvent(QMouseEvent *event)
 
 void PageView::startDrag(QPoint position)
 {
+    pointOut(-1, QRectF());
     m_drag = Drag();
     m_drag.isActive = true;
     m_drag.firstPosition = position;
@@ -196,32 +197,20 @@ void PageView::addHits(const QList<TextRange> &hits)
     viewport()->update();
 }
 
-QString PageView::selectedText() const
-{
-    QString text;
-    for (const TextRange &range : m_decoration.selection)
-        text += m_document.page(range.page).text.mid(range.start, range.length);
-    return text;
-}
-
-void PageView::copySelection() const
-{
-    // Without a selection the clipboard keeps what it has.
-    if (!selection().isEmpty())
-        QApplication::clipboard()->setText(selectedText());
-}
-
 QList<Mark> PageView::marksOnSelection() const
 {
     QList<Mark> marks;
     for (const TextRange &range : selection()) {
+        const QList<QRectF> rects = m_document.page(range.page).rectsOf(range.start, range.length);
+        if (rects.isEmpty())
+            continue;
         Mark mark;
         mark.kind = m_tool.kind;
         mark.colour = m_tool.colour;
         mark.width = m_tool.width;
         mark.text = m_tool.sign;
         mark.page = range.page;
-        mark.points = cornersOf(m_document.page(range.page).rectsOf(range.start, range.length));
+        mark.points = cornersOf(rects);
         marks.append(mark);
     }
     return marks;
@@ -259,6 +248,18 @@ bool PageView::turnPage(int direction)
     return true;
 }
 
+void PageView::keyPressEvent(QKeyEvent *event)
+{
+    if (event->matches(QKeySequence::Copy))
+        Q_EMIT copyAsked();
+    else if (event->key() == Qt::Key_Home)
+        showEnd(false);
+    else if (event->key() == Qt::Key_End)
+        showEnd(true);
+    else if (!turnPageBy(*event))
+        scrollBy(event);
+}
+
 /** Scrolls to the end of the last page, or to the top of the first one. */
 void PageView::showEnd(bool isLast)
 {
@@ -267,18 +268,6 @@ void PageView::showEnd(bool isLast)
     const QScopedValueRollback<bool> guard(m_scrollsItself, true);
     QScrollBar *bar = verticalScrollBar();
     bar->setValue(isLast ? bar->maximum() : bar->minimum());
-}
-
-void PageView::keyPressEvent(QKeyEvent *event)
-{
-    if (event->matches(QKeySequence::Copy))
-        copySelection();
-    else if (event->key() == Qt::Key_Home)
-        showEnd(false);
-    else if (event->key() == Qt::Key_End)
-        showEnd(true);
-    else if (!turnPageBy(*event))
-        scrollBy(event);
 }
 
 bool PageView::turnPageBy(const QKeyEvent &event)

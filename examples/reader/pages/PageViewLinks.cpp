@@ -90,3 +90,16 @@ void PageView::showPlace(const PagePlace &place)
     if (place.top)
         verticalScrollBar()->setValue(qRound(wanted.y()));
 }
+
+void PageView::pointOut(int page, const QRectF &rect)
+{
+    m_framedPage = page;
+    m_frame = rect;
+    viewport()->update();
+}
+
+void PageView::chooseNothing()
+{
+    setSelection({});
+    pointOut(-1, QRectF());
+}

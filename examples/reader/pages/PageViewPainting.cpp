@@ -8,6 +8,12 @@
 
 #include <QPainter>
 
+namespace {
+
+constexpr qreal frameGap = 4; // In pixels.
+
+} // namespace
+
 void PageView::paintEvent(QPaintEvent *)
 {
     QPainter painter(viewport());
@@ -78,7 +84,22 @@ void PageView::paintPlace(QPainter &painter, const PageLayout::Place &place)
     paintOver(painter, m_document, place.page, colours, m_decoration);
     if (m_drag.isActive && m_drag.start.page == place.page && !m_drag.mark.points.isEmpty())
         paintMark(painter, m_drag.mark);
+    if (place.page == m_framedPage)
+        paintFrame(painter);
     painter.restore();
+}
+
+void PageView::paintFrame(QPainter &painter) const
+{
+    // As wide and as far from the mark at every zoom, and seen on light and on dark paper.
+    const qreal pixel = 1 / scale();
+    const qreal gap = frameGap * pixel;
+    const QRectF frame = m_frame.adjusted(-gap, -gap, gap, gap);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(Qt::white, 5 * pixel));
+    painter.drawRoundedRect(frame, gap, gap);
+    painter.setPen(QPen(palette().color(QPalette::Highlight), 3 * pixel));
+    painter.drawRoundedRect(frame, gap, gap);
 }
 
 void PageView::paintHint(QPainter &painter)

@@ -207,11 +207,13 @@ void ReaderWindow::connectKeys()
 
 void ReaderWindow::returnToPages()
 {
-    if (isFullScreen() && !KeyboardReach::isField(focusWidget()))
-        m_viewCommands.toggleFullScreen();
-    // The close button of a dock cannot be reached by the keyboard.
+    // One thing for each press, the last to come first.
     if (m_search->isAncestorOf(focusWidget()))
-        m_search->hide();
+        m_search->hide(); // The close button of a dock cannot be reached by the keyboard.
+    else if (isFullScreen() && !KeyboardReach::isField(focusWidget()))
+        m_viewCommands.toggleFullScreen();
+    else if (!KeyboardReach::isField(focusWidget()))
+        m_view->chooseNothing();
     // What is typed into a field is discarded.
     m_commands.refreshAll();
     m_centre->setFocus();

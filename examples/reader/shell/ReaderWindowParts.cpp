@@ -172,8 +172,8 @@ void ReaderWindow::addZoomModes()
         });
 }
 
-{
 void ReaderWindow::followZoomBox()
+{
     // DoSetZoomMode() does not report every choice in the zoom box.
     const QList<QComboBox *> boxes = ToolBarReach::zoomBoxes(*this);
     for (const QComboBox *box : boxes) {
