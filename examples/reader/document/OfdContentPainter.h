@@ -7,8 +7,6 @@
 #include "document/Page.h"
 #include "ofd/Painter.h"
 
-constexpr qreal unitsPerMillimetre = 96 / 25.4;
-
 /** Paints the pages of an OFD document in page units; a page that is damaged says so. */
 class OfdContentPainter : public ContentPainter
 {

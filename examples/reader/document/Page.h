@@ -18,7 +18,11 @@
 class QPainter;
 struct Page;
 
-/** Size of a generated page, in page units: pixels of an A4 sheet at 96 dpi. */
+// The size of page units, which are pixels at 96 dpi.
+constexpr qreal unitsPerInch = 96;
+constexpr qreal unitsPerMillimetre = unitsPerInch / 25.4;
+
+/** Size of a generated page, in page units: an A4 sheet. */
 constexpr QSizeF pageSize(794, 1123);
 
 /** Which page is painted, and how. */

@@ -3,6 +3,7 @@
 
 #include "ofd/AreaPicture.h"
 
+#include "ofd/DeviceDrawing.h"
 #include "ofd/Limits.h"
 
 #include <QPaintEngine>
@@ -34,11 +35,8 @@ qreal pictureDensity(const QPainter &painter)
 QRect visiblePixels(const QPainter &painter, const QRectF &rect)
 {
     const QTransform toDevice = painter.deviceTransform();
-    const qreal ratio = painter.device()->devicePixelRatioF();
-    const QRectF device(0, 0, painter.device()->width() * ratio,
-                        painter.device()->height() * ratio);
     // The rectangle of a straight line has no area and would intersect nothing.
-    QRectF area = toDevice.mapRect(rect).adjusted(-1, -1, 1, 1).intersected(device);
+    QRectF area = toDevice.mapRect(rect).adjusted(-1, -1, 1, 1) & deviceRect(painter);
     if (painter.hasClipping())
         area = area.intersected(toDevice.mapRect(painter.clipBoundingRect()));
     if (area.isEmpty() || !std::isfinite(area.left() + area.right() + area.top() + area.bottom()))

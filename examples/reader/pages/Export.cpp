@@ -16,7 +16,7 @@
 
 namespace {
 
-constexpr qreal pointsPerPageUnit = 72.0 / 96.0;
+constexpr qreal pointsPerPageUnit = 72 / unitsPerInch;
 /** Pixels for a page unit: pictures have 192 dots an inch. */
 constexpr qreal pictureScale = 2;
 constexpr const char *pictureSuffix = ".png";

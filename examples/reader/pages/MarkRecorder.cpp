@@ -3,6 +3,7 @@
 
 #include "pages/MarkRecorder.h"
 
+#include "document/Page.h"
 #include "pages/MarkPainter.h"
 
 #include <QPaintDevice>
@@ -13,7 +14,6 @@
 
 namespace {
 
-constexpr int unitsPerInch = 96;
 constexpr int side = 1 << 14;
 
 /** Keeps what a painter fills and strokes. Text arrives as paths. */
@@ -75,12 +75,12 @@ protected:
             return side;
         case PdmWidthMM:
         case PdmHeightMM:
-            return int(side * 25.4 / unitsPerInch);
+            return int(side / unitsPerMillimetre);
         case PdmDpiX:
         case PdmDpiY:
         case PdmPhysicalDpiX:
         case PdmPhysicalDpiY:
-            return unitsPerInch;
+            return int(unitsPerInch);
         case PdmDepth:
             return 32;
         case PdmDevicePixelRatioScaled:

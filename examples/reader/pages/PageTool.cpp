@@ -3,11 +3,11 @@
 
 #include "pages/PageTool.h"
 
+#include "document/Page.h"
+
 #include <QList>
 
 namespace {
-
-constexpr qreal millimetre = 96 / 25.4; // In page units.
 
 QList<PageTool> textTools()
 {
@@ -58,8 +58,9 @@ QList<PageTool> shapeTools()
 QList<PageTool> penTools()
 {
     const auto pen = [](const char *name, qreal millimetres) {
-        return PageTool{QLatin1String(name),      PageTool::DrawInk, MarkKind::Ink, QColor(),
-                        millimetres * millimetre, QString()};
+        const qreal width = millimetres * unitsPerMillimetre;
+        return PageTool{
+            QLatin1String(name), PageTool::DrawInk, MarkKind::Ink, QColor(), width, QString()};
     };
     return {
         pen("tp_penceil", 0.4),  pen("signpen_05mm", 0.5), pen("signpen_1mm", 1),

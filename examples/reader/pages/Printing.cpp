@@ -17,7 +17,6 @@
 
 namespace {
 
-constexpr qreal unitsPerInch = 96;
 constexpr qreal pointsPerInch = 72;
 
 QList<int> pagesToPrint(const Document &document, int currentPage, const QPrinter &printer)

@@ -19,7 +19,6 @@
 
 namespace {
 
-constexpr qreal millimetresPerUnit = 25.4 / 96;
 constexpr int valueWidth = 340;
 constexpr int mostLength = 400;
 
@@ -36,7 +35,7 @@ QLabel *addRow(QFormLayout *form, const QString &name, const QString &value)
 
 QString sizeOf(const Document &document, int page)
 {
-    const QSizeF size = document.sizeOf(page) * millimetresPerUnit;
+    const QSizeF size = document.sizeOf(page) / unitsPerMillimetre;
     return PropertiesDialog::tr("%1 × %2 毫米（第 %3 页）")
         .arg(qRound(size.width()))
         .arg(qRound(size.height()))
