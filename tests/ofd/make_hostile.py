@@ -9,6 +9,7 @@ the sentence that it gives, or nothing if any end will do. The last field tells 
 usual time it may take, which is more than one for files of which all content has to be painted.
 """
 
+import base64
 import pathlib
 import random
 import struct
@@ -165,11 +166,17 @@ def markup():
         f'<!ENTITY {chr(98 + i)} "{f"&{chr(97 + i)};" * 10}">' for i in range(9)) + "]><x>&j;</x>"
     outside = '<!DOCTYPE x [<!ENTITY a SYSTEM "file:///etc/passwd">]><x>&a;</x>'
     start = '<?xml version="1.0"?><Res>'
+    many = "<a" + "".join(f' a{i}=""' for i in range(100000)) + "/></Res>"
     lists = {"laughs": laughs, "outside": outside, "depth": start + "<a>" * 100000,
              "wide": start + "<a/>" * 5000000 + "</Res>",
              "attributes": start + "".join(
                  "<a" + "".join(f' a{i}=""' for i in range(500)) + "/>" for _ in range(5000)) + "</Res>",
-             "one-element": start + "<a" + "".join(f' a{i}=""' for i in range(100000)) + "/></Res>",
+             "one-element": start + many,
+             "quoted": start.replace("<Res>", '<Res x=">">') + "<!-- ' -->" + '<a x=">"' + many[2:],
+             "utf-16": (start + "<!--∀--><a b='㸀'" + many[2:]).encode("utf-16"),
+             "utf-7": b'<?xml version="1.0" encoding="UTF-7"?>+' + base64.b64encode(
+                 ("<Res>" + many).encode("utf-16-be")).rstrip(b"=") + b"-",
+             "ebcdic": b'<?xml version="1.0" encoding="IBM037"?>' + ("<Res>" + many).encode("cp037"),
              "attributes-short": start + ("<a" + "".join(f' a{i}=""' for i in range(100)) + "/>") * 30000,
              "bytes": bytes(range(256)) * 40,
              "no-end": start, "nothing": "", "wrong-encoding": '<?xml version="1.0" encoding="x-none"?><Res/>'}

@@ -116,7 +116,7 @@ private:
         const XmlElement *list = root.child("Pages");
         if (!list || list->children.empty())
             throw Fault{Wording::tr("文档没有页面。")};
-        if (list->children.size() > Limits::pages)
+        if (list->childCount() > Limits::pages)
             throw Fault{Wording::tr("文档的页面过多，超过 %1 页。").arg(Limits::pages)};
         m_path = path;
         QHash<QString, int> indexes;

@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace Ofd {
 
@@ -56,9 +57,9 @@ TextRun runOf(const XmlElement &element, QPointF before)
 /** Each area is a path of its own that restricts all painting. */
 void checkAreas(const XmlElement &clips)
 {
-    std::size_t areas = clips.children.size();
+    std::size_t areas = clips.childCount();
     for (const XmlElement &clip : clips.children)
-        areas = std::max(areas, clip.children.size());
+        areas = std::max(areas, clip.childCount());
     if (areas > Limits::clips)
         throw Fault{Wording::tr("图元的裁剪区过多，超过 %1 个。").arg(Limits::clips)};
 }
@@ -101,7 +102,7 @@ void ObjectReader::readOne(Objects &objects, const XmlElement &element, const St
         object.content = Composite{reference(element, "ResourceID", m_resources.namedComposites)};
     else
         return countUnknown(element);
-    objects.append(object);
+    objects.append(std::move(object));
 }
 
 void ObjectReader::countUnknown(const XmlElement &element)

@@ -6,48 +6,36 @@
 #include "ofd/Fault.h"
 #include "ofd/Limits.h"
 #include "ofd/Wording.h"
+#include "ofd/XmlBytes.h"
 
-#include <QSet>
+#include <QBuffer>
 #include <QXmlStreamReader>
 
-#include <algorithm>
+#include <functional>
+#include <iterator>
+#include <set>
+#include <vector>
 
 namespace Ofd {
 
 namespace {
 
-/**
- * Whether one tag has more attributes than any document needs. The parser compares each of them
- * with all others, so that it must not see them.
- */
-bool hasEndlessTag(const QByteArray &bytes)
-{
-    constexpr auto leastLength = Limits::xmlAttributes * int(sizeof "a=''" - 1);
-    qsizetype begin = bytes.indexOf('<');
-    while (begin >= 0) {
-        qsizetype end = bytes.indexOf('>', int(begin));
-        if (end < 0)
-            end = bytes.size();
-        const char second = bytes.at(int(qMin<qsizetype>(begin + 1, bytes.size() - 1)));
-        if (end - begin > leastLength && second != '!' && second != '?'
-            && std::count(bytes.cbegin() + begin, bytes.cbegin() + end, '=')
-                   > Limits::xmlAttributes)
-            return true;
-        begin = bytes.indexOf('<', int(end));
-    }
-    return false;
-}
+/** Further names do not share their memory, because a file that has so many is an attack. */
+constexpr std::size_t mostSharedNames = 1000;
 
 /** Builds the tree without recursion, so that deep nesting cannot exhaust the stack. */
 class TreeBuilder
 {
 public:
     TreeBuilder(const QByteArray &bytes, const QString &path)
-        : m_reader(bytes)
+        : m_bytes(XmlBytes::inUtf8(bytes))
         , m_path(path)
     {
-        if (hasEndlessTag(bytes))
+        if (XmlBytes::hasTooMuch(m_bytes))
             throw tooMuch();
+        // From a device the reader decodes one small part after the other.
+        m_buffer.open(QIODevice::ReadOnly);
+        m_reader.setDevice(&m_buffer);
     }
 
     XmlElement build()
@@ -62,61 +50,78 @@ public:
     }
 
 private:
+    struct Open
+    {
+        XmlElement *element;
+        XmlElement::Children::iterator lastChild;
+    };
+
     void take(QXmlStreamReader::TokenType token)
     {
-        if (token == QXmlStreamReader::DTD)
+        if (token == QXmlStreamReader::StartDocument)
+            checkEncoding();
+        else if (token == QXmlStreamReader::DTD)
             throw Fault{Wording::tr("包内文件“%1”含有不允许的 DTD。").arg(m_path)};
-        if (token == QXmlStreamReader::StartElement)
+        else if (token == QXmlStreamReader::StartElement)
             begin();
         else if (token == QXmlStreamReader::EndElement)
-            end();
+            m_open.pop_back();
         else if (token == QXmlStreamReader::Characters && !m_open.empty())
-            m_open.back().text += m_reader.text();
+            m_open.back().element->text += m_reader.text();
+    }
+
+    void checkEncoding() const
+    {
+        if (!XmlBytes::isCountable(m_reader.documentEncoding()))
+            throw Fault{Wording::tr("包内文件“%1”的编码“%2”不受支持。")
+                            .arg(m_path, m_reader.documentEncoding().toString())};
     }
 
     void begin()
     {
         if (m_open.size() >= Limits::xmlDepth)
             throw Fault{Wording::tr("包内文件“%1”嵌套过深。").arg(m_path)};
-        m_open.push_back(start());
-        m_count += 1 + m_open.back().attributes.size();
-        if (m_count > Limits::xmlNodes)
-            throw tooMuch();
+        XmlElement *element = &m_root;
+        if (m_open.empty()) {
+            m_root = start();
+        } else {
+            Open &parent = m_open.back();
+            parent.lastChild = parent.element->children.insert_after(parent.lastChild, start());
+            element = &*parent.lastChild;
+        }
+        m_open.push_back({element, element->children.before_begin()});
     }
 
     XmlElement start()
     {
         XmlElement element;
-        element.name = shared(m_reader.name().toString());
+        element.name = shared(m_reader.name());
         const QXmlStreamAttributes attributes = m_reader.attributes();
         element.attributes.reserve(attributes.size());
         for (const QXmlStreamAttribute &attribute : attributes)
-            element.attributes.append(
-                {shared(attribute.name().toString()), attribute.value().toString()});
+            element.attributes.append({shared(attribute.name()), attribute.value().toString()});
         return element;
     }
 
     /** The same name with the memory of the first one: a file has few names, but many elements. */
-    const QString &shared(const QString &name) { return *m_names.insert(name); }
+    QString shared(QStringView name)
+    {
+        const auto known = m_names.find(name);
+        if (known != m_names.end())
+            return *known;
+        return m_names.size() < mostSharedNames ? *m_names.insert(name.toString()).first
+                                                : name.toString();
+    }
 
     Fault tooMuch() const { return Fault{Wording::tr("包内文件“%1”的元素过多。").arg(m_path)}; }
 
-    void end()
-    {
-        XmlElement done = std::move(m_open.back());
-        m_open.pop_back();
-        if (m_open.empty())
-            m_root = std::move(done);
-        else
-            m_open.back().children.push_back(std::move(done));
-    }
-
+    QByteArray m_bytes;
+    QBuffer m_buffer{&m_bytes};
     QXmlStreamReader m_reader;
     QString m_path;
-    std::vector<XmlElement> m_open;
+    std::vector<Open> m_open;
     XmlElement m_root;
-    QSet<QString> m_names;
-    qint64 m_count = 0;
+    std::set<QString, std::less<>> m_names;
 };
 
 } // namespace
@@ -142,6 +147,11 @@ bool XmlElement::flag(const char *wanted, bool otherwise) const
         return otherwise;
     return value == QLatin1String("1")
            || !value.compare(QLatin1String("true"), Qt::CaseInsensitive);
+}
+
+std::size_t XmlElement::childCount() const
+{
+    return std::size_t(std::distance(children.begin(), children.end()));
 }
 
 const XmlElement *XmlElement::child(const char *wanted) const
