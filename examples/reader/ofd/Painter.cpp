@@ -262,27 +262,35 @@ void Painter::paintContent(QPainter &painter, const Object &object, const Path &
 void Painter::paintContent(QPainter &painter, const Object &object, const Text &text)
 {
     Face &face = m_fonts.faceOf(text);
+    const bool lacksBold = face.lacksBold();
+    for (const TextRun &run : text.runs) {
+        layOutInParts(text, run, face, [&](const QVector<PlacedGlyph> &glyphs) {
+            paintGlyphs(painter, object, glyphs, lacksBold);
+        });
+    }
+}
+
+void Painter::paintGlyphs(QPainter &painter, const Object &object,
+                          const QVector<PlacedGlyph> &glyphs, bool lacksBold)
+{
+    const Text &text = std::get<Text>(object.content);
     const Paint paint = fillOf(object);
     const QBrush *plain = text.isFilled ? std::get_if<QBrush>(&paint) : nullptr;
-    const bool mustThicken = text.isFilled && face.lacksBold();
+    const bool mustThicken = text.isFilled && lacksBold;
     const bool isStroked = text.isStroked && object.style.stroke;
-    for (const TextRun &run : text.runs) {
-        const QVector<PlacedGlyph> glyphs = layOut(text, run, face);
-        if (plain)
-            fillGlyphs(painter, glyphs, *plain);
-        if (plain && !mustThicken && !isStroked)
-            continue;
-        const QPainterPath outlines = outlinesOf(glyphs);
-        if (!isOnDevice(painter, outlines.controlPointRect()))
-            continue;
-        if (text.isFilled && !plain)
-            fill(painter, outlines, paint);
-        if (mustThicken)
-            stroke(painter, outlines, QPen(Qt::black, text.size * boldStroke), paint);
-        if (isStroked)
-            stroke(painter, outlines, visiblePen(painter, object.style, outlines),
-                   strokeOf(object));
-    }
+    if (plain)
+        fillGlyphs(painter, glyphs, *plain);
+    if (plain && !mustThicken && !isStroked)
+        return;
+    const QPainterPath outlines = outlinesOf(glyphs);
+    if (!isOnDevice(painter, outlines.controlPointRect()))
+        return;
+    if (text.isFilled && !plain)
+        fill(painter, outlines, paint);
+    if (mustThicken)
+        stroke(painter, outlines, QPen(Qt::black, text.size * boldStroke), paint);
+    if (isStroked)
+        stroke(painter, outlines, visiblePen(painter, object.style, outlines), strokeOf(object));
 }
 
 void Painter::paintContent(QPainter &painter, const Object &, const Composite &composite)

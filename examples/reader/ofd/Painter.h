@@ -17,6 +17,7 @@ class QPainter;
 namespace Ofd {
 
 struct Ink;
+struct PlacedGlyph;
 
 /**
  * Paints the pages of one document. Every thread needs a painter of its own; painters of the same
@@ -58,6 +59,8 @@ private:
     Ink inkOf(const QPainter &painter, const QRectF &bounds, const Pattern &pattern);
     void paintContent(QPainter &painter, const Object &object, const Path &path);
     void paintContent(QPainter &painter, const Object &object, const Text &text);
+    void paintGlyphs(QPainter &painter, const Object &object, const QVector<PlacedGlyph> &glyphs,
+                     bool lacksBold);
     void paintContent(QPainter &painter, const Object &object, const Image &image);
     void paintContent(QPainter &painter, const Object &object, const Composite &composite);
     void paintContent(QPainter &painter, const Object &object, const Group &group);

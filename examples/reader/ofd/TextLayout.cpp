@@ -12,6 +12,7 @@ namespace {
 
 /** The smallest factor by which letters of a replacement font are narrowed. */
 constexpr qreal mostSqueeze = 0.5;
+constexpr int mostAtOnce = 4096;
 
 bool isShown(uint character)
 {
@@ -82,12 +83,17 @@ public:
         m_isAlongLetters = (text.readDirection - text.charDirection) % 180 == 0;
     }
 
-    QVector<PlacedGlyph> walk()
+    void walk(const std::function<void(const QVector<PlacedGlyph> &)> &take)
     {
         const auto codes = m_run.text.toUcs4();
-        for (int i = 0; i < codes.size(); ++i)
+        for (int i = 0; i < codes.size(); ++i) {
             place(i, codes.at(i), i + 1 < codes.size());
-        return std::move(m_placed);
+            if (m_placed.size() < mostAtOnce)
+                continue;
+            take(m_placed);
+            m_placed.clear();
+        }
+        take(m_placed);
     }
 
 private:
@@ -148,9 +154,17 @@ private:
 
 } // namespace
 
+void layOutInParts(const Text &text, const TextRun &run, Face &face,
+                   const std::function<void(const QVector<PlacedGlyph> &)> &take)
+{
+    RunWalker(text, run, face).walk(take);
+}
+
 QVector<PlacedGlyph> layOut(const Text &text, const TextRun &run, Face &face)
 {
-    return RunWalker(text, run, face).walk();
+    QVector<PlacedGlyph> all;
+    layOutInParts(text, run, face, [&all](const QVector<PlacedGlyph> &part) { all += part; });
+    return all;
 }
 
 } // namespace Ofd
