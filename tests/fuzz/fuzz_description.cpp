@@ -151,7 +151,11 @@ int LLVMFuzzerInitialize(int *argc, char ***argv)
 
 int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    useDescription(QByteArray(reinterpret_cast<const char *>(data), static_cast<int>(size)));
+    // Computed from the description, so that a run can be repeated.
+    const int skin = static_cast<int>(size % 2);
+    const auto alignment = static_cast<ToolBarAlignment>(size % 3);
+    useDescription(QByteArray(reinterpret_cast<const char *>(data), static_cast<int>(size)), skin,
+                   alignment);
     return 0;
 }
 

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The MRToolBar authors
 // SPDX-License-Identifier: MIT
 
+#include "tests/support/TestHost.h"
 #include "tests/support/Use.h"
 
 #include <QApplication>
@@ -31,12 +32,17 @@ private Q_SLOTS:
         QFETCH(QString, path);
         QFile file(path);
         QVERIFY2(file.open(QIODevice::ReadOnly), qPrintable(path));
-        const auto widgetsBefore = QApplication::allWidgets().size();
-        useDescription(file.readAll());
-        QVERIFY(!QApplication::activePopupWidget());
-        const auto widgetsKept = QApplication::allWidgets().size() - widgetsBefore;
-        // Qt creates a few widgets of its own for the first window and the first tooltip.
-        QVERIFY2(widgetsKept <= 4, qPrintable(QString::number(widgetsKept)));
+        const QByteArray description = file.readAll();
+        for (const int skin : {marodi, lum}) {
+            for (const auto alignment : {ToolBarLeft, ToolBarCenter, ToolBarRight}) {
+                const auto widgetsBefore = QApplication::allWidgets().size();
+                useDescription(description, skin, alignment);
+                QVERIFY(!QApplication::activePopupWidget());
+                const auto widgetsKept = QApplication::allWidgets().size() - widgetsBefore;
+                // Qt creates a few widgets of its own for the first window and the first tooltip.
+                QVERIFY2(widgetsKept <= 4, qPrintable(QString::number(widgetsKept)));
+            }
+        }
     }
 };
 

@@ -124,17 +124,17 @@ void useEverything(MRToolBar &facade, QMainWindow &window, const QStringList &na
     facade.DoResetToolbarSlot();
 }
 
-void useDescription(const QByteArray &xml)
+void useDescription(const QByteArray &xml, int skin, ToolBarAlignment alignment)
 {
     QDomDocument document;
     if (!document.setContent(xml))
         return;
-    NewToolBar::uiStyle = static_cast<int>(xml.size() % 2);
+    NewToolBar::uiStyle = skin;
     {
         QMainWindow window;
         window.resize(700, 300);
         QDomElement root = document.documentElement();
-        MRToolBar facade(&window, root, {}, static_cast<ToolBarAlignment>(xml.size() % 3));
+        MRToolBar facade(&window, root, {}, alignment);
         QString any = QStringLiteral("any");
         facade.DoSetControlUsableStateSlot(any, true);
         window.show();

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "toolbar/ToolBarTypes.h"
+
 #include <QStringList>
 
 class MRToolBar;
@@ -14,9 +16,5 @@ class QMainWindow;
  */
 void useEverything(MRToolBar &facade, QMainWindow &window, const QStringList &names = {});
 
-/**
- * Makes a toolbar from the description if it is well-formed, uses everything and deletes it.
- *
- * Skin and alignment are computed from the description, so that a run can be repeated.
- */
-void useDescription(const QByteArray &xml);
+/** Makes a toolbar from the description if it is well-formed, uses everything and deletes it. */
+void useDescription(const QByteArray &xml, int skin, ToolBarAlignment alignment);
