@@ -1,11 +1,10 @@
 // SPDX-FileCopyrightText: The MRToolBar authors
 // SPDX-License-Identifier: MIT
 
-#include "tests/support/Describe.h"
+#include "tests/support/FieldHost.h"
 #include "tests/support/Menus.h"
 #include "tests/support/Pointer.h"
 #include "tests/support/TestDocuments.h"
-#include "tests/support/TestHost.h"
 #include "toolbar/commands/ActionData.h"
 #include "toolbar/widgets/MRMainToolBar.h"
 
@@ -58,29 +57,15 @@ int entriesOf(QToolButton *button)
 
 const QString withKey = "shortcut='Ctrl+T'";
 const QKeySequence key("Ctrl+T");
+const QString plain = button("plain");
 
-QString appMenu(const QString &entries)
-{
-    return section("appbutton", menu("menu_file", entries));
-}
-
-/** Tabs "row", on show, and "other". */
-QString tabs(const QString &controls, const QString &otherControls = button("plain"))
-{
-    return row(controls, tab("other", otherControls));
-}
-
-/** A host with a field of its own and, if requested, a shortcut for the key. */
-class KeyHost : public TestHost
+/** A host that has, if requested, a shortcut of its own for the key. */
+class KeyHost : public FieldHost
 {
 public:
     explicit KeyHost(const QString &sections, bool hasShortcut = false)
-        : TestHost(sections)
-        , active(&facade(), &MRToolBar::DoActive)
+        : FieldHost(sections)
     {
-        window().setCentralWidget(field);
-        showEnabled();
-        field->setFocus();
         if (!hasShortcut)
             return;
         auto *shortcut = new QShortcut(key, &window());
@@ -100,7 +85,7 @@ public:
     }
 
     /** Sends the key to the focused widget, both directly and through the window. */
-    void press(QWidget *focused)
+    void pressIn(QWidget *focused)
     {
         // A menu that has just been closed may still be the active window.
         activate();
@@ -111,10 +96,7 @@ public:
         QTest::keyClick(focused->window()->windowHandle(), Qt::Key_T, Qt::ControlModifier);
         QCoreApplication::processEvents();
     }
-    QStringList commands() const { return texts(active); }
 
-    QSignalSpy active;
-    QLineEdit *const field = new QLineEdit;
     int hostCalls = 0;
 
     /** The widgets that may have the focus: the host's field and the controls of the toolbar. */
@@ -287,17 +269,17 @@ private Q_SLOTS:
     void shouldShowTheKeysOfApplicationMenusWithoutTakingThem_data()
     {
         QTest::addColumn<QString>("sections");
-        const QString file = appMenu(item("x", withKey) + menu("inner", item("y", withKey)));
+        const QString file = fileMenu(item("x", withKey) + menu("inner", item("y", withKey)));
         const QString drop = menu("drop", item("x") + item("z"));
-        QTest::newRow("in the menu alone") << file + tabs(button("plain"));
+        QTest::newRow("in the menu alone") << file + tabs(button("plain"), plain);
         QTest::newRow("on two rows") << file + tabs(button("x"), button("x"));
         QTest::newRow("on a row that is filled later") << file + tabs(button("a"), button("x"));
-        QTest::newRow("in a group") << file + tabs(group("g", button("x") + button("y")));
+        QTest::newRow("in a group") << file + tabs(group("g", button("x") + button("y")), plain);
         QTest::newRow("in a group that is made later")
             << file + tabs(button("a"), group("g", button("x")));
-        QTest::newRow("in a drop menu") << file + tabs(drop);
+        QTest::newRow("in a drop menu") << file + tabs(drop, plain);
         QTest::newRow("in the quick access bar")
-            << file + section("quickaccessbar", button("x")) + tabs(button("x"));
+            << file + section("quickaccessbar", button("x")) + tabs(button("x"), plain);
         QTest::newRow("in the options of the search")
             << file + section("searchbar", button("s_next") + optionsButton("st_set", item("x")));
     }
@@ -316,7 +298,7 @@ private Q_SLOTS:
                         host.openTab(tab);
                     const QWidgetList places = host.focusPlaces();
                     for (QWidget *place : places) {
-                        host.press(place);
+                        host.pressIn(place);
                         QVERIFY2(host.commands().isEmpty(), qPrintable(place->objectName()));
                         QCOMPARE(host.hostCalls, hasShortcut ? 2 : 0);
                     }
@@ -328,7 +310,7 @@ private Q_SLOTS:
 
     void shouldNotTriggerByAKeyInAnOpenMenu()
     {
-        KeyHost host(appMenu(item("x", withKey)) + tabs(button("x")));
+        KeyHost host(fileMenu(item("x", withKey)) + tabs(button("x"), plain));
         host.openMenus();
         auto *rowButton = host.focusPlaces().last();
         QCOMPARE(rowButton->actions(), QList<QAction *>{host.action("x")});
@@ -350,17 +332,17 @@ private Q_SLOTS:
         const QString drop = menu("drop", item("x", withKey) + item("z"));
         for (const QString &entry : {item("y"), item("x", withKey)}) { // Alone and shared.
             for (const bool menusFirst : {false, true}) {
-                KeyHost host(appMenu(entry) + tabs(button("plain"), drop));
+                KeyHost host(fileMenu(entry) + tabs(button("plain"), drop));
                 if (menusFirst)
                     host.openMenus();
                 host.openTab("other");
-                host.press(host.field);
+                host.pressIn(host.field);
                 QCOMPARE(host.commands(), (QStringList{"x", "x"}));
                 host.openMenus();
-                host.press(host.field);
+                host.pressIn(host.field);
                 QCOMPARE(host.commands(), (QStringList{"x", "x"}));
                 host.openTab("row");
-                host.press(host.field);
+                host.pressIn(host.field);
                 QCOMPARE(host.commands(), QStringList());
             }
         }
@@ -369,27 +351,28 @@ private Q_SLOTS:
     void shouldKeepTheKeyOfASearchOptionWorking()
     {
         KeyHost host(
-            appMenu(item("y"))
+            fileMenu(item("y"))
             + section("searchbar", button("s_next") + optionsButton("st_set", item("x", withKey))));
         const QSignalSpy triggers(host.action("x"), &QAction::triggered);
-        host.press(host.field);
+        host.pressIn(host.field);
         QCOMPARE(triggers.count(), 2);
         host.openMenus();
-        host.press(host.field);
+        host.pressIn(host.field);
         QCOMPARE(triggers.count(), 4);
     }
 
     void shouldPreferTheKeyOfTheMenuToTheRowsAndThatOfTheHostToBoth()
     {
-        KeyHost host(appMenu(item("x", withKey)) + tabs(menu("drop", item("x", "shortcut='F2'"))));
+        KeyHost host(fileMenu(item("x", withKey))
+                     + tabs(menu("drop", item("x", "shortcut='F2'")), plain));
         host.openMenus();
         QCOMPARE(host.action("x")->shortcut(), key);
-        host.press(host.field);
+        host.pressIn(host.field);
         QCOMPARE(host.commands(), QStringList());
-        KeyHost other(appMenu(item("x", withKey)) + tabs(button("x")));
+        KeyHost other(fileMenu(item("x", withKey)) + tabs(button("x"), plain));
         other.action("x")->setShortcut(key);
         other.openMenus();
-        other.press(other.field);
+        other.pressIn(other.field);
         QCOMPARE(other.commands(), (QStringList{"x", "x"}));
     }
 };
