@@ -220,15 +220,16 @@ private Q_SLOTS:
         connect(&host.facade(), &MRToolBar::DoActive, this,
                 [&heard](const QString &name) { heard.append(name); });
 
-        host.action("slow")->trigger();
-        bool isDeleted = openMenuOf.isEmpty();
-        if (isDeleted) {
+        bool isDeleted = false;
+        const auto deleteWhileACommandWaits = [&] {
+            isDeleted = true;
+            host.action("slow")->trigger();
             deleteBy(way, host);
+        };
+        if (openMenuOf.isEmpty()) {
+            deleteWhileACommandWaits();
         } else {
-            whenMenuPops([&](QMenu *) {
-                isDeleted = true;
-                deleteBy(way, host);
-            });
+            whenMenuPops([&](QMenu *) { deleteWhileACommandWaits(); });
             openMenuLater(host, openMenuOf);
             QTRY_VERIFY(isDeleted);
         }
