@@ -249,6 +249,7 @@ private Q_SLOTS:
         QCOMPARE(document->outline.size(), 2);
         QCOMPARE(document->outline.last().depth, 1);
         QCOMPARE(document->outline.last().page, 1);
+        QVERIFY(!document->outline.last().destination.top);
         QCOMPARE(document->bookmarks.value(0).title, QString("小页"));
         Ofd::Painter painter(document);
         const Ofd::PageText text = textOf(*document, 0, painter.fonts());

@@ -161,7 +161,7 @@ private Q_SLOTS:
         const auto namesOf = [](const Document &document) {
             QStringList names;
             for (const NamedPlace &place : document.bookmarks())
-                names.append(QStringLiteral("%1: %2").arg(place.name).arg(place.page));
+                names.append(QStringLiteral("%1: %2").arg(place.name).arg(place.place.page));
             return names;
         };
         QString error;
@@ -259,7 +259,7 @@ private Q_SLOTS:
             QVERIFY2(again.open(folder.filePath(name), &error), qPrintable(name + error));
             QCOMPARE(again.marks().size(), before + 1);
             QCOMPARE(again.pageCount(), document.pageCount());
-            QCOMPARE(again.bookmarks().last().page, document.pageCount() - 1);
+            QCOMPARE(again.bookmarks().last().place.page, document.pageCount() - 1);
             const auto isNote = [](const Mark &mark) { return mark.kind == MarkKind::Note; };
             QVERIFY(std::any_of(again.marks().begin(), again.marks().end(), isNote));
         }

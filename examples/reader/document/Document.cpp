@@ -251,16 +251,19 @@ void Document::addBookmark(int page)
     QString name = plain;
     // Links refer to bookmarks by their names, so no two may have the same one.
     for (int copy = 2; named(name) != m_bookmarks.cend(); ++copy) {
-        if (named(name)->page == page)
+        if (named(name)->place.page == page)
             return;
         name = QStringLiteral("%1 (%2)").arg(plain).arg(copy);
     }
+    NamedPlace added;
+    added.name = name;
+    added.place.page = page;
     QList<NamedPlace> bookmarks = m_bookmarks;
     const auto next =
         std::find_if(bookmarks.begin(), bookmarks.end(), [page](const NamedPlace &each) {
-            return each.origin < 0 && each.page > page;
+            return each.origin < 0 && each.place.page > page;
         });
-    bookmarks.insert(next, {name, 0, page});
+    bookmarks.insert(next, added);
     m_undoStack.push(new ChangeBookmarksEdit(*this, m_bookmarks, bookmarks, tr("添加书签")));
 }
 
@@ -349,7 +352,7 @@ void Document::placePage(int index, const Page &page)
             ++mark.page;
     }
     for (NamedPlace &bookmark : m_bookmarks)
-        bookmark.page += bookmark.page >= index ? 1 : 0;
+        bookmark.place.page += bookmark.place.page >= index ? 1 : 0;
     pagesReplaced();
 }
 
@@ -361,6 +364,6 @@ void Document::removePage(int index)
             --mark.page;
     }
     for (NamedPlace &bookmark : m_bookmarks)
-        bookmark.page -= bookmark.page > index ? 1 : 0;
+        bookmark.place.page -= bookmark.place.page > index ? 1 : 0;
     pagesReplaced();
 }

@@ -69,11 +69,12 @@ private:
     int m_page;
 };
 
-QList<NamedPlace> placesOf(const QVector<Ofd::Target> &targets)
+QList<NamedPlace> placesOf(const QVector<Ofd::Target> &targets, const PageLinks &links)
 {
     QList<NamedPlace> places;
     for (const Ofd::Target &target : targets)
-        places.append({target.title, target.depth, target.page, int(places.size())});
+        places.append(
+            {target.title, target.depth, links.placeOf(target.destination), int(places.size())});
     return places;
 }
 
@@ -127,8 +128,8 @@ bool OfdFile::read(const QString &fileName, QList<Page> *pages, QString *error, 
     archive = document->package->archive();
     isSigned = !document->signatures.entries.isEmpty();
     information = document->information;
-    outline = placesOf(document->outline);
-    bookmarks = placesOf(document->bookmarks);
+    outline = placesOf(document->outline, *links);
+    bookmarks = placesOf(document->bookmarks, *links);
     for (const Ofd::Attachment &attachment : document->attachments)
         attachments.append(attachment.name);
     permissions = Ofd::Permissions::of(root.element);

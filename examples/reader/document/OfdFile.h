@@ -6,6 +6,7 @@
 #include "document/HiddenAnnotations.h"
 #include "document/Mark.h"
 #include "document/Page.h"
+#include "document/PageLink.h"
 #include "ofd/Document.h"
 #include "ofd/Permissions.h"
 
@@ -21,7 +22,7 @@ struct NamedPlace
 {
     QString name;
     int depth = 0;
-    int page = -1;   ///< Counted from 0; -1 without a target.
+    PagePlace place; ///< Without a page if it leads nowhere.
     int origin = -1; ///< Which one of the file it is; -1 for a new bookmark.
 };
 

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QMetaType>
 #include <QPointF>
 #include <QRectF>
 #include <QString>
@@ -17,6 +18,8 @@ struct PagePlace
     std::optional<qreal> top;
     std::optional<qreal> percent;
 };
+
+Q_DECLARE_METATYPE(PagePlace)
 
 /** An area of a page that does something when it is clicked. */
 struct PageLink

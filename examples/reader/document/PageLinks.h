@@ -16,10 +16,11 @@ public:
 
     /** The links of a page in page units; those that lead nowhere are left out. */
     QVector<PageLink> on(const Ofd::Page &page, const QSet<int> &hiddenAnnotations) const;
+    /** Without a page if it leads nowhere. */
+    PagePlace placeOf(const Ofd::Destination &destination) const;
 
 private:
     PageLink resolved(const Ofd::Link &link, QPointF corner) const;
-    PagePlace placeOf(const Ofd::Destination &destination) const;
 
     QHash<QString, int> m_pages;
     QHash<QString, Ofd::Destination> m_bookmarks;

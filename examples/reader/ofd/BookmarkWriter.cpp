@@ -45,7 +45,7 @@ QByteArray withBookmarks(const QByteArray &file, const DocumentRoot &root,
 {
     const XmlElement *list = root.element.child(listName);
     const bool isEmptied = list && changes.added.isEmpty()
-                           && std::size_t(changes.removed.size()) == list->children.size();
+                           && std::size_t(changes.removed.size()) == list->childCount();
     bool mustAdd = !changes.added.isEmpty();
     int index = -1;
     XmlCopy copy(file);

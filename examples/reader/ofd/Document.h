@@ -72,6 +72,7 @@ struct Target
     QString title;
     int depth = 0;
     int page = -1; ///< Counted from 0; -1 without a target.
+    Destination destination;
 };
 
 /** A document, whose pages are read when they are asked for. Threads may share it. */

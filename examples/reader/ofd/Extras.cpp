@@ -3,6 +3,7 @@
 
 #include "ofd/Extras.h"
 
+#include "ofd/Links.h"
 #include "ofd/Values.h"
 #include "ofd/Wording.h"
 
@@ -30,10 +31,16 @@ const XmlElement *destinationOf(const XmlElement &element)
     return nullptr;
 }
 
-int pageOf(const XmlElement &element, const QHash<QString, int> &pages)
+Target targetOf(const XmlElement &element, const char *name, int depth,
+                const QHash<QString, int> &pages)
 {
-    const XmlElement *destination = destinationOf(element);
-    return destination ? pages.value(destination->attribute("PageID"), -1) : -1;
+    Target target;
+    target.title = element.attribute(name);
+    target.depth = depth;
+    if (const XmlElement *destination = destinationOf(element))
+        target.destination = Links::destination(*destination);
+    target.page = pages.value(target.destination.page, -1);
+    return target;
 }
 
 void readOutline(const XmlElement &parent, int depth, const QHash<QString, int> &pages,
@@ -42,7 +49,7 @@ void readOutline(const XmlElement &parent, int depth, const QHash<QString, int> 
     for (const XmlElement &element : parent.children) {
         if (!element.is("OutlineElem"))
             continue;
-        outline.append({element.attribute("Title"), depth, pageOf(element, pages)});
+        outline.append(targetOf(element, "Title", depth, pages));
         readOutline(element, depth + 1, pages, outline);
     }
 }
@@ -97,7 +104,7 @@ void Extras::readTargets(const XmlElement &root, const QHash<QString, int> &page
         return;
     for (const XmlElement &bookmark : bookmarks->children) {
         if (bookmark.is("Bookmark"))
-            document.bookmarks.append({bookmark.attribute("Name"), 0, pageOf(bookmark, pages)});
+            document.bookmarks.append(targetOf(bookmark, "Name", 0, pages));
     }
 }
 

@@ -127,14 +127,17 @@ bool Links::place(Page &page, const Document &document)
     return !finder.isFull();
 }
 
+Destination Links::destination(const XmlElement &element)
+{
+    // Of the kinds of destinations those that fit the page give its zoom no number.
+    return {element.attribute("PageID"), valueOf(element, "Left"), valueOf(element, "Top"),
+            valueOf(element, "Zoom")};
+}
+
 std::optional<Destination> Links::destinationIn(const XmlElement &element)
 {
     const XmlElement *place = element.child("Dest");
-    if (!place)
-        return std::nullopt;
-    // Of the kinds of destinations those that fit the page give its zoom no number.
-    return Destination{place->attribute("PageID"), valueOf(*place, "Left"), valueOf(*place, "Top"),
-                       valueOf(*place, "Zoom")};
+    return place ? std::make_optional(destination(*place)) : std::nullopt;
 }
 
 QHash<QString, Destination> Links::bookmarks(const XmlElement &document)

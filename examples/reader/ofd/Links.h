@@ -20,7 +20,9 @@ std::shared_ptr<const Link> of(const XmlElement &object);
  */
 bool place(Page &page, const Document &document);
 
-/** The destination of an element that has one inside; nothing without a page. */
+/** What a `Dest` element says. */
+Destination destination(const XmlElement &element);
+/** The same of the one inside an element; nothing without one. */
 std::optional<Destination> destinationIn(const XmlElement &element);
 
 /** The destinations of the bookmarks of a document by their names. */

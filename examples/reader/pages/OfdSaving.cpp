@@ -72,7 +72,7 @@ Ofd::BookmarkChanges bookmarkChanges(const Document &document)
         changes.removed.insert(i);
     for (const NamedPlace &bookmark : document.bookmarks()) {
         changes.removed.remove(bookmark.origin);
-        const int page = bookmark.origin < 0 ? document.filePageOf(bookmark.page) : -1;
+        const int page = bookmark.origin < 0 ? document.filePageOf(bookmark.place.page) : -1;
         if (page >= 0)
             changes.added.append({bookmark.name, page});
     }

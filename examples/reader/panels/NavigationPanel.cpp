@@ -23,7 +23,7 @@ const QString bookmarks = QStringLiteral("vn_bookmark");
 const QString marks = QStringLiteral("vn_annotation");
 const QString attachments = QStringLiteral("vn_attachment");
 
-constexpr int pageRole = Qt::UserRole;
+constexpr int placeRole = Qt::UserRole;
 constexpr int wordRole = Qt::UserRole + 1;
 constexpr int leastWidth = 200;
 
@@ -43,10 +43,10 @@ QStringList indexedWords()
             QStringLiteral("签章"), QStringLiteral("批注"), QStringLiteral("OFD")};
 }
 
-void addItem(QListWidget *list, const QString &text, int page)
+void addItem(QListWidget *list, const QString &text, const PagePlace &place)
 {
     auto *item = new QListWidgetItem(text, list);
-    item->setData(pageRole, page);
+    item->setData(placeRole, QVariant::fromValue(place));
 }
 
 void addNotice(QListWidget *list, const QString &text)
@@ -234,16 +234,18 @@ void NavigationPanel::fillOutline()
     }
     for (int page = 0; page < m_document.pageCount(); ++page) {
         const QString heading = m_document.page(page).heading;
-        addItem(m_lists.value(outline), QStringLiteral("%1　%2").arg(page + 1).arg(heading), page);
+        PagePlace place;
+        place.page = page;
+        addItem(m_lists.value(outline), QStringLiteral("%1　%2").arg(page + 1).arg(heading), place);
     }
 }
 
 void NavigationPanel::addPlaces(const QString &panel, const QList<NamedPlace> &places)
 {
-    for (const NamedPlace &place : places) {
-        const QString text = QString(2 * place.depth, QChar(u'　')) + place.name;
-        if (place.page >= 0)
-            addItem(m_lists.value(panel), text, place.page);
+    for (const NamedPlace &entry : places) {
+        const QString text = QString(2 * entry.depth, QChar(u'　')) + entry.name;
+        if (entry.place.page >= 0)
+            addItem(m_lists.value(panel), text, entry.place);
         else
             addNotice(m_lists.value(panel), text);
     }
@@ -321,6 +323,6 @@ void NavigationPanel::itemChosen(const QListWidgetItem *item)
     const QString word = item->data(wordRole).toString();
     if (!word.isEmpty())
         Q_EMIT wordChosen(word);
-    else if (item->data(pageRole).isValid())
-        Q_EMIT pageChosen(item->data(pageRole).toInt());
+    else if (item->data(placeRole).isValid())
+        Q_EMIT placeChosen(item->data(placeRole).value<PagePlace>());
 }

@@ -36,6 +36,8 @@ public:
 Q_SIGNALS:
     /** The user chose the page with that index. */
     void pageChosen(int page);
+    /** The user chose an entry of the outline or a bookmark. */
+    void placeChosen(const PagePlace &place);
     /** The user chose the mark with that identifier. */
     void markChosen(int id);
     /** The user wants a bookmark for the page with that index. */

@@ -54,6 +54,7 @@ void ReaderWindow::connectParts()
     connect(&m_document.undoStack(), &QUndoStack::indexChanged, this, &ReaderWindow::stateChanged);
     connect(&m_document.undoStack(), &QUndoStack::cleanChanged, this, &ReaderWindow::stateChanged);
     connect(m_navigation, &NavigationPanel::pageChosen, m_view, &PageView::setCurrentPage);
+    connect(m_navigation, &NavigationPanel::placeChosen, m_view, &PageView::showPlace);
     connect(m_navigation, &NavigationPanel::wordChosen, m_search, &SearchPanel::searchWord);
     connect(m_navigation, &NavigationPanel::shownPanelChanged, this, &ReaderWindow::stateChanged);
     connect(m_search, &SearchPanel::found, this,
