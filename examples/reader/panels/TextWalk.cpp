@@ -29,15 +29,17 @@ void TextWalk::start(const QList<Page> &pages, int first, bool isDown, const Vis
     m_isStopped = false;
     m_isDone = false;
     m_timer.start(firstLook);
-    m_thread = std::thread([this, first, isDown, visit] { walk(first, isDown, visit); });
+    m_thread.reset(QThread::create([this, first, isDown, visit] { walk(first, isDown, visit); }));
+    m_thread->start();
 }
 
 void TextWalk::stop()
 {
     m_timer.stop();
     m_isStopped = true;
-    if (m_thread.joinable())
-        m_thread.join();
+    if (m_thread)
+        m_thread->wait();
+    m_thread.reset();
     m_pages.clear();
 }
 

@@ -6,11 +6,12 @@
 #include "document/Page.h"
 
 #include <QObject>
+#include <QThread>
 #include <QTimer>
 
 #include <atomic>
 #include <functional>
-#include <thread>
+#include <memory>
 
 /** Goes through the texts of all pages in a thread, keeping one of them at a time. */
 class TextWalk : public QObject
@@ -46,5 +47,5 @@ private:
     std::atomic<int> m_count{0};
     std::atomic<bool> m_isStopped{false};
     std::atomic<bool> m_isDone{false};
-    std::thread m_thread;
+    std::unique_ptr<QThread> m_thread; ///< Not std::thread: Qt keeps fonts for a time by a timer.
 };
