@@ -7,6 +7,7 @@
 #include "toolbar/skin/ScreenDensity.h"
 
 #include <QApplication>
+#include <QToolBar>
 
 namespace {
 
@@ -144,6 +145,11 @@ void TestHost::openEachTab(const std::function<void(const QString &)> &look)
             QTest::mouseClick(tab, Qt::LeftButton);
         look(tab->objectName());
     }
+}
+
+QString TestHost::sheet() const
+{
+    return find<QToolBar>("mrtoolbar")->styleSheet();
 }
 
 int TestHost::scaled(double designPixels) const

@@ -86,6 +86,8 @@ public:
     QList<QPushButton *> shownTabs() const;
     /** Opens each visible tab and calls @p look with its name. */
     void openEachTab(const std::function<void(const QString &)> &look);
+    /** The style sheet of the strip, and with it of the whole toolbar. */
+    QString sheet() const;
     /** Device-independent pixels of a length given in pixels at 96 dpi. */
     int scaled(double designPixels) const;
 
