@@ -1,11 +1,10 @@
 // SPDX-FileCopyrightText: The MRToolBar authors
 // SPDX-License-Identifier: MIT
 
-#include "tests/support/TestHost.h"
 #include "toolbar/skin/TurnedIcon.h"
 #include "toolbar/widgets/IconLabel.h"
 
-#include <QLineEdit>
+#include <QTest>
 
 namespace {
 
@@ -26,21 +25,9 @@ QImage imageOf(const QIcon &icon)
     return icon.pixmap(size).toImage().convertToFormat(QImage::Format_ARGB32);
 }
 
-/** The button that unfolds the rows and the label in the search field. */
-QList<QImage> pictures(const TestHost &host)
-{
-    QList<QImage> images{host.find<QPushButton>("t_extend")->grab().toImage()};
-    const QList<QLineEdit *> fields = host.toolBar()->findChildren<QLineEdit *>();
-    for (QLineEdit *field : fields) {
-        for (QLabel *label : field->findChildren<QLabel *>())
-            images.append(label->grab().toImage());
-    }
-    return images;
-}
-
 } // namespace
 
-/** Icons and labels that look as they do at the moment of painting. */
+/** Icons and labels that are drawn at the moment of painting. */
 class PaintedIconsTest : public QObject
 {
     Q_OBJECT
@@ -51,20 +38,6 @@ private Q_SLOTS:
         QCOMPARE(imageOf(turnedIcon(cornerIcon())),
                  imageOf(cornerIcon()).transformed(QTransform().rotate(180)));
         QVERIFY(turnedIcon(QIcon()).isNull());
-    }
-
-    void shouldFollowTheScheme()
-    {
-        const auto dark = TestHost::withFile(SHOWCASE, {{"scheme", "dark"}});
-        const auto host = TestHost::withFile(SHOWCASE);
-        dark->showEnabled();
-        host->showEnabled();
-        const QList<QImage> light = pictures(*host);
-        QVERIFY(light.size() > 1);
-        host->facade().DoSetSkinStyleSlot({{"scheme", "dark"}});
-        QCOMPARE(pictures(*host), pictures(*dark));
-        host->facade().DoSetSkinStyleSlot({{"scheme", "light"}});
-        QCOMPARE(pictures(*host), light);
     }
 
     void shouldShowWhatAHostPutsIntoALabel()

@@ -1,118 +1,107 @@
 // SPDX-FileCopyrightText: The MRToolBar authors
 // SPDX-License-Identifier: MIT
 
+#include "tests/support/Describe.h"
 #include "tests/support/MarkedLanguage.h"
-#include "tests/support/Pictures.h"
 #include "tests/support/TestHost.h"
-#include "toolbar/widgets/MRDropButton.h"
 
-#include <QApplication>
 #include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
-#include <QPixmapCache>
 
-#include <malloc.h>
+using namespace Describe;
 
-namespace {
-
-/** Every text that is shown or spoken, each with the name of what has it. */
-QStringList texts(const TestHost &host)
-{
-    static const char *const properties[]{"text",           "toolTip",         "statusTip",
-                                          "accessibleName", "placeholderText", "title",
-                                          "currentText",    "editable"};
-    QStringList found;
-    const QList<QObject *> objects = host.toolBar()->findChildren<QObject *>();
-    for (const QObject *object : objects) {
-        // Copies in menus of what a row has no room for are made when they are needed.
-        if (object->property("position") == "toolbarextend")
-            continue;
-        QStringList line;
-        for (const char *property : properties)
-            line.append(object->property(property).toString());
-        if (const auto *button = qobject_cast<const QAbstractButton *>(object))
-            line.append(QString::number(button->minimumWidth()));
-        if (const auto *box = qobject_cast<const QComboBox *>(object)) {
-            for (int i = 0; i < box->count(); ++i)
-                line.append(box->itemText(i));
-        }
-        line.removeAll(QString());
-        found.append(line.join('|'));
-    }
-    found.removeAll(QString());
-    return found;
-}
-
-size_t bytesInUse()
-{
-    // Qt keeps the pixmaps of deleted icons until the cache is full.
-    QPixmapCache::clear();
-    const struct mallinfo2 info = mallinfo2();
-    return info.uordblks + info.hblkhd;
-}
-
-} // namespace
-
-/** The texts of descriptions in another language. */
+/** What a change of the language leaves as it is. */
 class TranslationTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void shouldShowAllAsBuiltInTheLanguage_data()
+    void shouldKeepWhatIsTyped()
     {
-        QTest::addColumn<int>("skin");
-        QTest::addColumn<QString>("path");
-        QTest::newRow("marodi") << marodi << SHOWCASE;
-        QTest::newRow("lum") << lum << SHOWCASE;
-        QTest::newRow("marodi release")
-            << marodi << ":/mr_toolbar/Resources/marodi/mr_toolbar.release.xml";
-        QTest::newRow("lum debug") << lum << ":/mr_toolbar/Resources/lum/mr_toolbar.debug.xml";
-    }
-
-    void shouldShowAllAsBuiltInTheLanguage()
-    {
-        QFETCH(int, skin);
-        QFETCH(QString, path);
-        const SkinChoice choice(skin);
-        MarkedLanguage marked;
-        const auto host = TestHost::withFile(path);
-        const auto unused = TestHost::withFile(path);
-        useForAWhile(*host);
-        const QList<QImage> before = picturesOf(*host);
-        const QStringList textsBefore = texts(*host);
-
-        marked.install();
-        const auto built = TestHost::withFile(path);
-        useForAWhile(*built);
-        QCOMPARE(texts(*host), texts(*built));
-        QTRY_VERIFY(picturesOf(*host) == picturesOf(*built));
-        QVERIFY(picturesOf(*host) != before);
-        useForAWhile(*unused); // Its rows and menus have not been made before.
-        QTRY_VERIFY(picturesOf(*unused) == picturesOf(*built));
-
-        marked.remove();
-        QCOMPARE(texts(*host), textsBefore);
-        QTRY_VERIFY(picturesOf(*host) == before);
-    }
-
-    void shouldNotGrow()
-    {
-        MarkedLanguage marked;
         const auto host = TestHost::withFile(QStringLiteral(SHOWCASE));
-        useForAWhile(*host);
-        const auto change = [&marked](int times) {
-            for (int i = 0; i < times; i += 2) {
-                marked.install();
-                marked.remove();
-            }
-        };
-        change(20);
-        const auto objects = host->window().findChildren<QObject *>().size();
-        const size_t bytes = bytesInUse();
-        change(500);
-        QCOMPARE(host->window().findChildren<QObject *>().size(), objects);
-        QVERIFY2(bytesInUse() < bytes + size_t{64} * 1024, "the heap has grown");
+        host->showEnabled();
+        host->click("tb_fields");
+        auto *box = host->find<QComboBox>("v_zoom");
+        auto *search = host->find<QLineEdit>("st_input");
+        box->lineEdit()->setText("250");
+        box->lineEdit()->setSelection(1, 1);
+        QTest::mouseClick(search, Qt::LeftButton);
+        QTest::keyClicks(search, "word");
+        const int widened = search->width();
+        const int length = int(search->placeholderText().size());
+        const int index = box->currentIndex();
+        const QSignalSpy zooms(&host->facade(), &MRToolBar::DoSetZoomMode);
+        const QSignalSpy commands(&host->facade(), &MRToolBar::DoActive);
+        const QSignalSpy entries(box, &QComboBox::currentTextChanged);
+
+        MarkedLanguage marked;
+        marked.install();
+        QCOMPARE(box->currentText(), QString("250"));
+        QCOMPARE(box->lineEdit()->selectedText(), QString("5"));
+        QCOMPARE(box->currentIndex(), index);
+        QCOMPARE(search->text(), QString("word"));
+        QCOMPARE(search->width(), widened / length * (length + 3));
+        QCOMPARE(zooms.size() + commands.size() + entries.size(), 0);
+    }
+
+    void shouldKeepTheRulesOfTheZoomBox()
+    {
+        MarkedLanguage marked;
+        marked.install();
+        TestHost host(
+            row(comboBox("v_zoom", choice("vzmode_100p", "100%") + choice("vzmode_fit", "fit"),
+                         "index='2' editable='true'")));
+        host.showEnabled();
+        auto *box = host.find<QComboBox>("v_zoom");
+        const QSignalSpy zooms(&host.facade(), &MRToolBar::DoSetZoomMode);
+        QVERIFY(!box->isEditable());
+        box->setCurrentIndex(0);
+        QVERIFY(box->isEditable());
+        QCOMPARE(box->currentText(), QString("<100% >"));
+        for (const QString number : {"100", "42"}) {
+            box->setEditText(number);
+            QTest::keyClick(box->lineEdit(), Qt::Key_Return);
+        }
+        QCOMPARE(TestHost::texts(zooms), QStringList({"vzmode_100p", "vzmode_42p"}));
+        marked.remove();
+        QCOMPARE(box->currentText(), QString("42%"));
+        QCOMPARE(box->itemText(0), QString("100%"));
+    }
+
+    void shouldPutTheTotalIntoTheText()
+    {
+        TestHost host(row(label("d_totalpagelabel", "a b c")));
+        const auto *total = host.find<QLabel>("d_totalpagelabel");
+        host.facade().DoSetPageInfoSlot(1, 12);
+        host.facade().DoSetPageInfoSlot(1, 34);
+        const QString shown = total->text();
+        QTranslator other; // Knows nothing of descriptions.
+        QCoreApplication::installTranslator(&other);
+        QEvent change(QEvent::LanguageChange);
+        QCoreApplication::sendEvent(&host.window(), &change);
+        QCOMPARE(total->text(), shown);
+        MarkedLanguage marked;
+        marked.install();
+        QCOMPARE(total->text(), QString("<a34b c >"));
+    }
+
+    void shouldKeepAMenuOpen()
+    {
+        TestHost host(row(menu("m", item("one") + item("another"))));
+        host.showEnabled();
+        auto *opened = host.find<QMenu>("m");
+        opened->popup(host.window().pos());
+        QVERIFY(QTest::qWaitForWindowExposed(opened));
+        const int width = opened->width();
+        MarkedLanguage marked;
+        marked.install();
+        QVERIFY(opened->isVisible());
+        QCOMPARE(opened->title(), QString("<m >"));
+        // The window system may still tell of the size before.
+        QTRY_VERIFY(opened->width() > width);
+        QTRY_COMPARE(opened->size(), opened->sizeHint());
     }
 };
 
