@@ -5,15 +5,12 @@
 #include "tests/support/TestHost.h"
 #include "tests/support/WarningTrap.h"
 #include "toolbar/skin/ScreenDensity.h"
-#include "toolbar/widgets/CCR_ToolTipWidget.h"
 #include "toolbar/widgets/MRDropButton.h"
 #include "toolbar/widgets/MRScrollWidget.h"
 
 #include <QRegularExpression>
 #include <QScreen>
 #include <QScrollBar>
-#include <QToolBar>
-#include <QToolTip>
 
 #include <limits>
 
@@ -155,10 +152,7 @@ private Q_SLOTS:
             QTest::mouseMove(widget, widget->rect().center());
             QVERIFY2(!widget->styleSheet().contains(name), qPrintable(widget->styleSheet()));
         }
-        const auto sheetOf = [](const TestHost &any) {
-            return any.find<QToolBar>("mrtoolbar")->styleSheet();
-        };
-        QCOMPARE(sheetOf(host), sheetOf(harmless));
+        QCOMPARE(host.sheet(), harmless.sheet());
         QCOMPARE(WarningTrap::warnings(), QStringList());
     }
 
@@ -189,8 +183,7 @@ private Q_SLOTS:
             verifyReports(host, "plain");
             // A valid skin undoes it.
             host.facade().DoSetSkinStyleSlot({{"[MainColor]", "#008AD9"}});
-            QCOMPARE(host.find<QToolBar>("mrtoolbar")->styleSheet(),
-                     untouched.find<QToolBar>("mrtoolbar")->styleSheet());
+            QCOMPARE(host.sheet(), untouched.sheet());
         }
     }
 
@@ -217,20 +210,6 @@ private Q_SLOTS:
         }
         QVERIFY2(host.toolBar()->size() == size,
                  "It keeps the density of the screen that it was made on");
-    }
-
-    void shouldAllowDeletionWithABubbleOpen()
-    {
-        TestHost host = TestHost::shown(plainRow);
-        const QPointer<CCR_ToolTipWidget> bubble = new CCR_ToolTipWidget(&host.window());
-        bubble->resize(200, 60);
-        bubble->setLabelText(QStringLiteral("text"));
-        bubble->show();
-        QToolTip::showText(QCursor::pos(), QStringLiteral("tip"), host.toolBar());
-        host.deleteWindow();
-        QVERIFY(!bubble);
-        QTest::qWait(50);
-        QToolTip::hideText();
     }
 
     void shouldAllowDeletionWhileARowScrolls()
