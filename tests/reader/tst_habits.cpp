@@ -361,6 +361,8 @@ private Q_SLOTS:
         QTest::newRow("kept") << QString() << QString() << QByteArray();
         QTest::newRow("text") << "a.txt"
                               << "a.txt" << QByteArray("");
+        QTest::newRow("PDF") << "a.pdf"
+                             << "a.pdf" << QByteArray("%PDF");
         QTest::newRow("no suffix") << "a"
                                    << "a.ofd" << QByteArray("PK");
         QTest::newRow("part of the name") << "version 1.2"
@@ -386,6 +388,8 @@ private Q_SLOTS:
         QTRY_VERIFY(QFileInfo(file(written)).size() > 0);
         QFile saved(file(written));
         QVERIFY(saved.open(QIODevice::ReadOnly) && saved.readAll().startsWith(begin));
+        QTest::qWait(50);
+        QCOMPARE(window->isWindowModified(), !written.endsWith(".ofd"));
     }
 
 private:

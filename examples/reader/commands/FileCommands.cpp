@@ -243,14 +243,21 @@ bool FileCommands::saveTo(const QString &fileName)
         m_parts.say(error);
         return false;
     }
-    const QString loss = Export::lossOf(*m_parts.document, fileName);
-    if (!loss.isEmpty()) {
-        m_parts.say(tr("已保存：%1。%2").arg(fileName, loss));
+    const Document &document = *m_parts.document;
+    const QString loss = Export::lossOf(document, fileName);
+    // Another format is a copy: the marks are still to be saved, unless no OFD file can hold them.
+    const bool isCopy = !fileName.endsWith(ofdSuffix, Qt::CaseInsensitive)
+                        && !document.isGenerated() && OfdSaving::lossOf(document).isEmpty();
+    if (!loss.isEmpty() || (isCopy && document.isModified())) {
+        const QString rest = loss.isEmpty() ? tr("批注还没有存入 OFD 文件") : loss;
+        m_parts.say(tr("已保存：%1。%2").arg(fileName, rest));
         return false;
     }
-    m_savedFile = fileName;
-    m_parts.document->undoStack().setClean();
-    m_parts.say(m_parts.document->quarters() == 0
+    if (!isCopy) {
+        m_savedFile = fileName;
+        m_parts.document->undoStack().setClean();
+    }
+    m_parts.say(document.quarters() == 0
                     ? tr("已保存：%1").arg(fileName)
                     : tr("已保存：%1。页面的旋转只用于查看，不写入文件").arg(fileName));
     return true;
