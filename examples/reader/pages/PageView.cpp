@@ -282,7 +282,14 @@ void PageView::showTopOf(int page)
         return;
     const QScopedValueRollback<bool> guard(m_scrollsItself, true);
     horizontalScrollBar()->setValue(int(place.center().x()) - viewport()->width() / 2);
-    verticalScrollBar()->setValue(int(place.top() - PageLayout::gap));
+    verticalScrollBar()->setValue(topOf(page));
+}
+
+/** Where the vertical scroll bar shows the top of a page. */
+int PageView::topOf(int page) const
+{
+    return std::clamp(int(m_layout.rectOf(page).top() - PageLayout::gap),
+                      verticalScrollBar()->minimum(), verticalScrollBar()->maximum());
 }
 
 void PageView::documentChanged()
@@ -308,9 +315,15 @@ void PageView::layOutInPlace()
         return m_layout.places.isEmpty() ? 0 : m_layout.places.first().rect.width();
     };
     const qreal before = firstWidth();
-    const QPoint middle = viewport()->rect().center();
-    const PagePoint anchor = pagePointAt(middle);
-    layOutAround(anchor, middle);
+    // What is read first stays where it is, and the top of a page without any rounding.
+    const QPoint top(viewport()->rect().center().x(), int(PageLayout::gap));
+    const PagePoint anchor = pagePointAt(top);
+    const bool isAtTop = verticalScrollBar()->value() == topOf(m_currentPage);
+    layOutAround(anchor, top);
+    if (isAtTop) {
+        const QScopedValueRollback<bool> guard(m_scrollsItself, true);
+        verticalScrollBar()->setValue(topOf(m_currentPage));
+    }
     if (m_zoomMode.kind() != ZoomMode::Percent && !qFuzzyCompare(before, firstWidth()))
         Q_EMIT zoomChanged();
 }

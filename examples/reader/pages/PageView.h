@@ -140,6 +140,7 @@ private:
     void showCursorAt(QPoint position);
     void clickLink(const Drag &drag);
 
+    int topOf(int page) const;
     // Mouse drags.
     void startDrag(QPoint position);
     void selectTextTo(const PagePoint &to);

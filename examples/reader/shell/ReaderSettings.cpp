@@ -16,6 +16,7 @@ const QString lastFolderKey = QStringLiteral("lastFolder");
 const QString schemeKey = QStringLiteral("scheme");
 const QString languageKey = QStringLiteral("language");
 const QString geometryKey = QStringLiteral("geometry");
+const QString layoutKey = QStringLiteral("layout");
 const QString docksKey = QStringLiteral("docks");
 const QString panelKey = QStringLiteral("panel");
 const QString placesKey = QStringLiteral("places");
@@ -154,6 +155,16 @@ QByteArray ReaderSettings::geometry() const
 void ReaderSettings::setGeometry(const QByteArray &geometry)
 {
     store(geometryKey, geometry);
+}
+
+LayoutMode ReaderSettings::layoutMode() const
+{
+    return LayoutMode(qBound(0, m_settings.value(layoutKey).toInt(), int(LayoutMode::DoubleFlow)));
+}
+
+void ReaderSettings::setLayoutMode(LayoutMode mode)
+{
+    store(layoutKey, int(mode));
 }
 
 QByteArray ReaderSettings::docks() const

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "commands/RecentFiles.h"
+#include "pages/PageLayout.h"
 
 #include <QByteArray>
 #include <QObject>
@@ -60,6 +61,10 @@ public:
     /** QWidget::saveGeometry() of the window that was closed last. */
     QByteArray geometry() const;
     void setGeometry(const QByteArray &geometry);
+
+    /** How the pages were laid out in that window. */
+    LayoutMode layoutMode() const;
+    void setLayoutMode(LayoutMode mode);
 
     /** QMainWindow::saveState(), and the name of the panel that was shown. */
     QByteArray docks() const;

@@ -19,7 +19,10 @@ Session::Session(const Parts &parts, ReaderSettings &settings)
 
 void Session::restoreWindow()
 {
-    if (!m_isOn || !m_parts.window.restoreGeometry(m_settings.geometry()))
+    if (!m_isOn)
+        return;
+    m_parts.view.setLayoutMode(m_settings.layoutMode());
+    if (!m_parts.window.restoreGeometry(m_settings.geometry()))
         return;
     // Whoever left the reader in full screen does not expect the next document there.
     m_parts.window.setWindowState(m_parts.window.windowState() & ~Qt::WindowFullScreen);
@@ -30,6 +33,7 @@ void Session::keepWindow()
     if (!m_isOn)
         return;
     m_settings.setGeometry(m_parts.window.saveGeometry());
+    m_settings.setLayoutMode(m_parts.view.layoutMode());
     keepPanels();
 }
 
