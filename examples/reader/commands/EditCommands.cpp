@@ -222,16 +222,24 @@ void EditCommands::editMark(int id)
     const Mark *mark = m_parts.document->markOf(id);
     if (!mayChange(mark))
         return;
+    QString text = mark->text;
+    if (askForText(tr("编辑批注"), tr("备注"), &text))
+        m_parts.document->setMarkText(id, text);
+}
+
+bool EditCommands::askForText(const QString &title, const QString &label, QString *text) const
+{
     QInputDialog dialog(m_parts.window);
     dialog.setOption(QInputDialog::UsePlainTextEditForTextInput);
-    dialog.setWindowTitle(tr("编辑批注"));
-    dialog.setLabelText(tr("备注"));
-    dialog.setTextValue(mark->text);
+    dialog.setWindowTitle(title);
+    dialog.setLabelText(label);
+    dialog.setTextValue(*text);
     // Otherwise the buttons cannot be reached with the keyboard.
     if (auto *field = dialog.findChild<QPlainTextEdit *>())
         field->setTabChangesFocus(true);
-    if (dialog.exec() == QDialog::Accepted)
-        m_parts.document->setMarkText(id, dialog.textValue());
+    const bool isGiven = dialog.exec() == QDialog::Accepted;
+    *text = dialog.textValue();
+    return isGiven;
 }
 
 void EditCommands::removeMark(int id)
@@ -257,10 +265,7 @@ void EditCommands::addDrawn(Mark mark)
     if (!may(Act::Annotate))
         return;
     if (mark.kind == MarkKind::TextBox || mark.kind == MarkKind::Note) {
-        bool isGiven = false;
-        mark.text = QInputDialog::getText(m_parts.window, markName(mark.kind), tr("文字"),
-                                          QLineEdit::Normal, QString(), &isGiven);
-        if (!isGiven || mark.text.isEmpty())
+        if (!askForText(markName(mark.kind), tr("文字"), &mark.text) || mark.text.isEmpty())
             return;
     }
     m_parts.document->addMark(mark, markName(mark.kind));

@@ -48,6 +48,8 @@ private:
     /** Whether the act is allowed; otherwise the user is told why not, as for a mark. */
     bool may(Act act) const;
     bool mayChange(const Mark *mark) const;
+    /** Returns false if the user has cancelled. */
+    bool askForText(const QString &title, const QString &label, QString *text) const;
     void selectPage();
     void selectAll();
     void followCopying();
