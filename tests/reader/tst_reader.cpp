@@ -101,6 +101,12 @@ private Q_SLOTS:
         QCOMPARE(qRound(reader.view->percent()), 100);
         reader.enter(Qt::Key_G, "3");
         QCOMPARE(reader.view->currentPage(), 2);
+        const QList<QPair<Qt::Key, int>> ways{
+            {Qt::Key_Left, 0}, {Qt::Key_Left, 0}, {Qt::Key_Right, 2}};
+        for (const auto &[key, page] : ways) {
+            Reader::press(key, Qt::AltModifier);
+            QCOMPARE(reader.view->currentPage(), page);
+        }
         reader.enter(Qt::Key_G, "7", Qt::Key_Escape);
         QCOMPARE(reader.view->currentPage(), 2);
         reader.enter(Qt::Key_F, "", Qt::Key_Escape);

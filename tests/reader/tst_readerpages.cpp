@@ -223,6 +223,9 @@ private Q_SLOTS:
                                               {{110, 36}, 12}, {{60, 2}, 1}};
         for (const auto &[point, position] : rows)
             QVERIFY2(page.positionAt(point) == position, qPrintable(QString::number(point.x())));
+        page.text[9] = QChar(u'中');
+        QCOMPARE(page.wordAt({95, 23}).length, 2);
+        QCOMPARE(page.wordAt({145, 28}).length, 1);
     }
 
     void shouldOfferEachDocumentOfAFile()

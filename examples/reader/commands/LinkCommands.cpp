@@ -54,6 +54,7 @@ void LinkCommands::follow(const PageLink &link)
         return openAddress(link.address);
     PagePlace place = link.place;
     place.page = m_parts.document->pageOfFilePage(place.page);
+    m_parts.view->rememberPlace();
     m_parts.view->showPlace(place);
 }
 
@@ -66,7 +67,10 @@ void LinkCommands::showMark(int id)
     place.page = mark->page == everyPage ? m_parts.view->currentPage() : mark->page;
     place.left = mark->rect().left();
     place.top = mark->rect().top();
-    m_parts.view->showPlace(place);
+    if (!m_parts.view->isInView(place.page, mark->rect())) {
+        m_parts.view->rememberPlace();
+        m_parts.view->showPlace(place);
+    }
     m_parts.view->pointOut(place.page, mark->rect());
 }
 

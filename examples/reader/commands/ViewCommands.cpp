@@ -51,6 +51,7 @@ void ViewCommands::addPages(MRToolBarCommands &commands)
     };
     const auto count = [document = m_parts.document] { return document->pageCount(); };
     commands.setPages(page, count, [view](int number) {
+        view->rememberPlace();
         view->setCurrentPage(number - 1);
         view->setFocus();
     });
@@ -64,6 +65,12 @@ void ViewCommands::addPages(MRToolBarCommands &commands)
         .add("d_lastpage",
              [this] { m_parts.view->setCurrentPage(m_parts.document->pageCount() - 1); })
         .usableWhen(hasLater);
+    commands.add("v_prevview", [view] { view->goBack(); }).usableWhen([view] {
+        return view->hasEarlierPlace();
+    });
+    commands.add("v_nextview", [view] { view->goForward(); }).usableWhen([view] {
+        return view->hasLaterPlace();
+    });
 }
 
 void ViewCommands::addZoom(MRToolBarCommands &commands)

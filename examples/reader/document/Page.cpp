@@ -10,6 +10,31 @@
 #include <limits>
 #include <utility>
 
+namespace {
+
+enum class CharacterClass
+{
+    Blank,
+    Sign,
+    Letter,
+    EastAsian
+};
+
+constexpr char16_t firstEastAsian = 0x2E80;
+
+CharacterClass classOf(QChar character)
+{
+    if (character.isSpace())
+        return CharacterClass::Blank;
+    if (!character.isLetterOrNumber() && !character.isMark() && !character.isSurrogate())
+        return CharacterClass::Sign;
+    // Letters of other scripts beyond the first plane are rare; most are Chinese characters.
+    return character.unicode() < firstEastAsian ? CharacterClass::Letter
+                                                : CharacterClass::EastAsian;
+}
+
+} // namespace
+
 QFont TextLine::font() const
 {
     QFont font;
@@ -92,6 +117,34 @@ int Page::positionAt(QPointF point) const
             return nearest->start + i;
     }
     return nearest->start + nearest->length;
+}
+
+TextSpan Page::wordAt(QPointF point) const
+{
+    const TextSpan line = lineOf(point);
+    if (line.length == 0)
+        return line;
+    int start = positionAt(point);
+    // The position after a character is the nearest one in its right half.
+    const QList<QRectF> before = start > line.start ? rectsOf(start - 1, 1) : QList<QRectF>();
+    if (start == line.start + line.length
+        || (!before.isEmpty() && before.first().right() > point.x()))
+        --start;
+    const CharacterClass wanted = classOf(text.at(start));
+    int end = start + 1;
+    if (wanted == CharacterClass::Sign)
+        return {start, 1};
+    while (start > line.start && classOf(text.at(start - 1)) == wanted)
+        --start;
+    while (end < line.start + line.length && classOf(text.at(end)) == wanted)
+        ++end;
+    return {start, end - start};
+}
+
+TextSpan Page::lineOf(QPointF point) const
+{
+    const TextLine *line = lineAt(point);
+    return line ? TextSpan{line->start, line->length} : TextSpan();
 }
 
 qreal Page::leftOf(const TextLine &line, int length) const

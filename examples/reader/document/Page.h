@@ -94,6 +94,13 @@ struct TextLine
     QFont font() const;
 };
 
+/** A part of the text of a page. */
+struct TextSpan
+{
+    int start = 0;
+    int length = 0;
+};
+
 /**
  * A page as a text with its lines in page units.
  *
@@ -119,6 +126,10 @@ struct Page
 
     /** The position in the text that is nearest to a point; -1 on a page without text. */
     int positionAt(QPointF point) const;
+    /** The characters at a position that belong together: a word, or a run of Chinese characters.
+     */
+    TextSpan wordAt(QPointF point) const;
+    TextSpan lineOf(QPointF point) const;
 
 private:
     qreal leftOf(const TextLine &line, int length) const;

@@ -299,6 +299,9 @@ void PageView::documentChanged()
     m_drag = Drag();
     m_cache.clear();
     chooseNothing();
+    m_anchor = PagePoint();
+    m_earlier.clear();
+    m_later.clear();
     m_currentPage = std::clamp(m_currentPage, 0, std::max(0, m_document.pageCount() - 1));
     layOut();
     Q_EMIT currentPageChanged(m_currentPage);

@@ -10,6 +10,7 @@
 #include "pages/ZoomMode.h"
 
 #include <QAbstractScrollArea>
+#include <QElapsedTimer>
 
 /**
  * Shows the pages of a document and handles the mouse on them.
@@ -30,6 +31,14 @@ public:
 
     /** Scrolls to a place of the document, with its zoom if it has one. */
     void showPlace(const PagePlace &place);
+    /** Keeps the place that is shown for goBack(); called before the user jumps to another one. */
+    void rememberPlace();
+    bool hasEarlierPlace() const { return !m_earlier.isEmpty(); }
+    bool hasLaterPlace() const { return !m_later.isEmpty(); }
+    void goBack();
+    void goForward();
+    /** Whether all of a part of a page can be seen. */
+    bool isInView(int page, const QRectF &rect) const;
     /** Frames a part of a page until something else is chosen. */
     void pointOut(int page, const QRectF &rect);
     /** Ends the selection, and the frame of pointOut(). */
@@ -80,6 +89,10 @@ Q_SIGNALS:
     /** The user wants to know about the signature, counted from 0, of a seal. */
     void signatureAsked(int signature);
     void linkClicked(const PageLink &link);
+    /** The user wants to change the remark of the mark with that identifier. */
+    void remarkAsked(int id);
+    /** The user wants the menu for the page at a place of the screen. */
+    void menuAsked(QPoint place);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -91,6 +104,7 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
 
 private:
     struct PagePoint
@@ -107,6 +121,7 @@ private:
         QPoint lastPosition;
         PagePoint start;
         int textStart = -1;
+        bool hasSelected = false;
         Mark mark;
     };
 
@@ -125,6 +140,7 @@ private:
     void layOutInPlace();
     void scrollTo(QPointF deskPoint);
     void showTopOf(int page);
+    int topOf(int page) const;
     void documentChanged();
     void documentTurned();
     void paintPlace(QPainter &painter, const PageLayout::Place &place);
@@ -134,16 +150,23 @@ private:
     void paintHint(QPainter &painter);
     PageColours colours() const;
 
+    PagePlace shownPlace() const;
+    void exchangePlace(QVector<PagePlace> &from, QVector<PagePlace> &to);
+
     // Links, which only the tools for reading follow.
     PageLink linkAt(QPoint position) const;
     void showToolCursor();
     void showCursorAt(QPoint position);
+    QString tipOf(const PageLink &link) const;
+    const Mark *remarkAt(QPoint position) const;
     void clickLink(const Drag &drag);
 
-    int topOf(int page) const;
     // Mouse drags.
-    void startDrag(QPoint position);
+    void startDrag(QPoint position, Qt::KeyboardModifiers modifiers);
+    void startSelection(Qt::KeyboardModifiers modifiers);
     void selectTextTo(const PagePoint &to);
+    void selectAround(QPoint position, bool isLine);
+    void finishSelection();
     void extendDrawing(const PagePoint &to);
     void finishDrag();
     bool turnPage(int direction);
@@ -159,9 +182,13 @@ private:
     BackgroundStyle m_background = Background_Default;
     PageTool m_tool;
     PageDecoration m_decoration;
+    QVector<PagePlace> m_earlier;
+    QVector<PagePlace> m_later; ///< After the user has gone back.
     int m_framedPage = -1;
     QRectF m_frame; ///< In page units.
     PageCache m_cache;
     Drag m_drag;
+    PagePoint m_anchor;        ///< Where the last selection began.
+    QElapsedTimer m_sinceWord; ///< Since a double click has selected a word.
     bool m_scrollsItself = false;
 };

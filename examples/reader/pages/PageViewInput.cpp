@@ -30,6 +30,8 @@ QPolygonF cornersOf(const QList<QRectF> &rects)
 /** The direction of a key in the document: 1 forwards, -1 backwards, 0 for another key. */
 int directionOf(const QKeyEvent &event)
 {
+    if (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
+        return 0;
     switch (event.key()) {
     case Qt::Key_Down:
     case Qt::Key_Right:
@@ -51,10 +53,14 @@ int directionOf(const QKeyEvent &event)
 void PageView::mousePressEvent(QMouseEvent *event)
 {
     if (event->button() == Qt::LeftButton && m_document.isOpen())
-        startDrag(event->pos());
+        startDrag(event->pos(), event->modifiers());
+    else if (event->button() == Qt::BackButton)
+        goBack();
+    else if (event->button() == Qt::ForwardButton)
+        goForward();
 }
 
-void PageView::startDrag(QPoint position)
+void PageView::startDrag(QPoint position, Qt::KeyboardModifiers modifiers)
 {
     pointOut(-1, QRectF());
     m_drag = Drag();
@@ -73,8 +79,7 @@ void PageView::startDrag(QPoint position)
         break;
     case PageTool::SelectText:
     case PageTool::MarkText:
-        m_drag.textStart = m_document.page(m_drag.start.page).positionAt(m_drag.start.point);
-        setSelection({});
+        startSelection(modifiers);
         break;
     case PageTool::DrawShape:
     case PageTool::DrawInk:
@@ -118,16 +123,6 @@ void PageView::mouseMoveEvent(QMouseEvent *event)
     }
 }
 
-void PageView::selectTextTo(const PagePoint &to)
-{
-    if (to.page != m_drag.start.page || m_drag.textStart < 0)
-        return;
-    const int end = m_document.page(to.page).positionAt(to.point);
-    const int start = std::min(m_drag.textStart, end);
-    const int length = std::abs(end - m_drag.textStart);
-    setSelection(length > 0 ? QList<TextRange>{{to.page, start, length}} : QList<TextRange>());
-}
-
 void PageView::extendDrawing(const PagePoint &to)
 {
     if (to.page != m_drag.start.page)
@@ -151,8 +146,13 @@ void PageView::mouseDoubleClickEvent(QMouseEvent *event)
     const PagePoint place = pagePointAt(event->pos());
     const PageContent *content = place.page >= 0 ? m_document.contentOf(place.page) : nullptr;
     const int signature = content ? content->signatureAt(place.point) : -1;
+    const Mark *remark = remarkAt(event->pos());
     if (signature >= 0 && m_tool.gesture == PageTool::Pan)
         Q_EMIT signatureAsked(signature);
+    else if (remark && m_tool.gesture == PageTool::Pan)
+        Q_EMIT remarkAsked(remark->id);
+    else if (place.page >= 0 && m_tool.gesture == PageTool::SelectText)
+        selectAround(event->pos(), false);
     else
         mousePressEvent(event);
 }
@@ -166,8 +166,12 @@ void PageView::finishDrag()
     QList<Mark> marks = {drag.mark};
     const QRectF rect = drag.mark.rect();
     switch (m_tool.gesture) {
-    case PageTool::Pan:
     case PageTool::SelectText:
+        if (!drag.hasSelected)
+            setSelection({});
+        finishSelection();
+        [[fallthrough]];
+    case PageTool::Pan:
         showCursorAt(drag.lastPosition);
         clickLink(drag);
         return;
@@ -263,6 +267,7 @@ void PageView::keyPressEvent(QKeyEvent *event)
 /** Scrolls to the end of the last page, or to the top of the first one. */
 void PageView::showEnd(bool isLast)
 {
+    rememberPlace();
     setCurrentPage(isLast ? m_document.pageCount() - 1 : 0);
     // A short last page stays the current one where the one before it fills the view.
     const QScopedValueRollback<bool> guard(m_scrollsItself, true);

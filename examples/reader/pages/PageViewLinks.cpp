@@ -15,6 +15,23 @@ namespace {
 constexpr qreal leastPercent = 10;
 constexpr qreal mostPercent = 6400;
 
+bool mayHaveRemark(MarkKind kind)
+{
+    const bool isOnText = kind <= MarkKind::DeleteLine;
+    const bool isShape = kind >= MarkKind::StraightLine && kind <= MarkKind::Ink;
+    const bool isBox = kind == MarkKind::TextBox || kind == MarkKind::Note;
+    return isOnText || isShape || isBox || kind == MarkKind::Annotation;
+}
+
+QString remarkOf(const Mark *mark)
+{
+    if (!mark)
+        return QString();
+    QStringList lines = {mark->creator, mark->date.toString(Qt::ISODate)};
+    lines.removeAll(QString());
+    return lines.join(QChar(u'　')) + QChar(u'\n') + mark->text;
+}
+
 } // namespace
 
 PageLink PageView::linkAt(QPoint position) const
@@ -58,8 +75,30 @@ void PageView::showCursorAt(QPoint position)
         viewport()->setCursor(Qt::PointingHandCursor);
     else
         showToolCursor();
-    viewport()->setToolTip(link.address.isEmpty() ? QString()
-                                                  : Qt::convertFromPlainText(link.address));
+    const QString tip = link.isValid() ? tipOf(link) : remarkOf(remarkAt(position));
+    viewport()->setToolTip(tip.isEmpty() ? QString() : Qt::convertFromPlainText(tip));
+}
+
+QString PageView::tipOf(const PageLink &link) const
+{
+    if (link.attachment >= 0)
+        return m_document.file().attachments.value(link.attachment);
+    return link.address.isEmpty() ? tr("第 %1 页").arg(link.place.page + 1) : link.address;
+}
+
+/** The topmost mark at a place that has a remark; nullptr without one. */
+const Mark *PageView::remarkAt(QPoint position) const
+{
+    const PagePoint at = pagePointAt(position);
+    const bool isReading =
+        m_tool.gesture == PageTool::Pan || m_tool.gesture == PageTool::SelectText;
+    const Mark *found = nullptr;
+    for (const Mark &mark : m_document.marks()) {
+        if (isReading && mayHaveRemark(mark.kind) && mark.page == at.page && !mark.text.isEmpty()
+            && mark.rect().contains(at.point))
+            found = &mark;
+    }
+    return found;
 }
 
 void PageView::clickLink(const Drag &drag)
@@ -89,6 +128,13 @@ void PageView::showPlace(const PagePlace &place)
         horizontalScrollBar()->setValue(qRound(wanted.x()));
     if (place.top)
         verticalScrollBar()->setValue(qRound(wanted.y()));
+}
+
+bool PageView::isInView(int page, const QRectF &rect) const
+{
+    const QRectF sheet = m_layout.rectOf(page);
+    return !sheet.isNull()
+           && QRectF(viewport()->rect()).contains(pageTransform({page, sheet}).mapRect(rect));
 }
 
 void PageView::pointOut(int page, const QRectF &rect)

@@ -58,6 +58,8 @@ void KeyboardReach::addCommandKeys()
         {QStringLiteral("Ctrl+="), QStringLiteral("v_zoomin")}, // Ctrl++ without Shift.
         {QStringLiteral("Ctrl+-"), QStringLiteral("v_zoomout")},
         {QStringLiteral("Ctrl+0"), QStringLiteral("vzmode_original")},
+        {QStringLiteral("Alt+Left"), QStringLiteral("v_prevview")},
+        {QStringLiteral("Alt+Right"), QStringLiteral("v_nextview")},
         {QStringLiteral("F11"), QStringLiteral("v_fullscreen")},
     };
     for (auto key = keys.cbegin(); key != keys.cend(); ++key) {

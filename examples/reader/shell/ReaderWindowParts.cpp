@@ -11,6 +11,7 @@
 #include "shell/BodyChooser.h"
 #include "shell/HostDock.h"
 #include "shell/PageFieldWatcher.h"
+#include "shell/PageMenu.h"
 #include "shell/ReaderWindow.h"
 #include "shell/StartPage.h"
 
@@ -53,8 +54,14 @@ void ReaderWindow::connectParts()
     });
     connect(&m_document.undoStack(), &QUndoStack::indexChanged, this, &ReaderWindow::stateChanged);
     connect(&m_document.undoStack(), &QUndoStack::cleanChanged, this, &ReaderWindow::stateChanged);
-    connect(m_navigation, &NavigationPanel::pageChosen, m_view, &PageView::setCurrentPage);
-    connect(m_navigation, &NavigationPanel::placeChosen, m_view, &PageView::showPlace);
+    connect(m_navigation, &NavigationPanel::pageChosen, this, [this](int page) {
+        m_view->rememberPlace();
+        m_view->setCurrentPage(page);
+    });
+    connect(m_navigation, &NavigationPanel::placeChosen, this, [this](const PagePlace &place) {
+        m_view->rememberPlace();
+        m_view->showPlace(place);
+    });
     connect(m_navigation, &NavigationPanel::wordChosen, m_search, &SearchPanel::searchWord);
     connect(m_navigation, &NavigationPanel::shownPanelChanged, this, &ReaderWindow::stateChanged);
     connect(m_search, &SearchPanel::found, this,
@@ -69,6 +76,9 @@ void ReaderWindow::connectView()
     connect(m_view, &PageView::currentPageChanged, this, &ReaderWindow::tellWhatIsMissing);
     connect(m_view, &PageView::zoomChanged, this, &ReaderWindow::stateChanged);
     connect(m_view, &PageView::selectionChanged, this, &ReaderWindow::stateChanged);
+    connect(m_view, &PageView::menuAsked, this, [this](QPoint place) {
+        PageMenu::show(m_view, place, m_commands, !m_view->selection().isEmpty());
+    });
     connect(m_view, &PageView::copyAsked, this, [this] { m_editCommands.copySelection(); });
     connect(m_view, &PageView::zoomStepAsked, this, [this](bool larger) {
         if (m_document.isOpen())
@@ -87,6 +97,7 @@ void ReaderWindow::connectLinks()
 {
     connect(m_view, &PageView::linkClicked, this,
             [this](const PageLink &link) { m_linkCommands.follow(link); });
+    connect(m_view, &PageView::remarkAsked, this, [this](int id) { m_editCommands.editMark(id); });
     connect(m_navigation, &NavigationPanel::markChosen, this,
             [this](int id) { m_linkCommands.showMark(id); });
     connect(m_navigation, &NavigationPanel::markEditAsked, this,
