@@ -11,15 +11,8 @@
 #include <QMainWindow>
 #include <QMap>
 #include <QShortcut>
-#include <QStatusBar>
 
 #include <algorithm>
-
-namespace {
-
-constexpr int messageTime = 6000;
-
-} // namespace
 
 KeyboardReach::KeyboardReach(QMainWindow *window, FocusControl focusControl)
     : QObject(window)
@@ -73,17 +66,17 @@ void KeyboardReach::addPlaceKeys()
     addKey(QStringLiteral("F6"), [this] { m_focusControl(QString()); });
     addKey(QStringLiteral("Ctrl+Shift+P"), [this] { Q_EMIT finderAsked(); });
     addPlaceKey(QStringLiteral("Ctrl+G"), ToolBarReach::pageFieldNames(),
-                tr("工具栏现在没有可用的页码框"));
+                [this] { Q_EMIT pageAsked(); });
     addPlaceKey(QStringLiteral("Ctrl+M"), ToolBarReach::zoomBoxNames(),
-                tr("工具栏现在没有可用的缩放框"));
+                [this] { Q_EMIT zoomAsked(); });
 }
 
 void KeyboardReach::addPlaceKey(const QString &key, const QStringList &names,
-                                const QString &absence)
+                                const std::function<void()> &orElse)
 {
-    addKey(key, [this, names, absence] {
+    addKey(key, [this, names, orElse] {
         if (std::none_of(names.cbegin(), names.cend(), m_focusControl))
-            m_window->statusBar()->showMessage(absence, messageTime);
+            orElse();
     });
 }
 

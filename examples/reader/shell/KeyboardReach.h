@@ -33,12 +33,16 @@ Q_SIGNALS:
     /** The toolbar is to open the field that finds its commands. */
     void finderAsked();
     void escapePressed();
+    /** The user wants to type a page or a zoom, and the toolbar shows no field for it. */
+    void pageAsked();
+    void zoomAsked();
 
 private:
     void addCommandKeys();
     void addPlaceKeys();
     void addKey(const QString &key, const std::function<void()> &press);
-    void addPlaceKey(const QString &key, const QStringList &names, const QString &absence);
+    void addPlaceKey(const QString &key, const QStringList &names,
+                     const std::function<void()> &orElse);
     void keepFocus();
 
     QMainWindow *m_window;

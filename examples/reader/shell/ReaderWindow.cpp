@@ -195,16 +195,6 @@ void ReaderWindow::createCommands()
             [this](const QString &name) { parts().say(tr("没有实现的命令：%1").arg(name)); });
 }
 
-void ReaderWindow::connectKeys()
-{
-    const auto *keys =
-        new KeyboardReach(this, [this](const QString &name) { return focusControl(name); });
-    connect(keys, &KeyboardReach::commandAsked, this,
-            [this](const QString &name) { m_commands.run(name); });
-    connect(keys, &KeyboardReach::finderAsked, this, [this] { m_toolBar->DoFindCommandSlot(); });
-    connect(keys, &KeyboardReach::escapePressed, this, &ReaderWindow::returnToPages);
-}
-
 void ReaderWindow::returnToPages()
 {
     // One thing for each press, the last to come first.
@@ -330,6 +320,8 @@ void ReaderWindow::quit()
     // All are asked before the first one closes, so that nothing is changed if one of them stays.
     const QList<ReaderWindow *> windows = all();
     for (ReaderWindow *window : windows) {
+        if (window->m_document.isModified())
+            window->raise(); // What the question is about.
         if (!window->m_fileCommands.mayLeaveDocument())
             return;
     }

@@ -10,6 +10,7 @@
 #include "reach/ToolBarReach.h"
 #include "shell/BodyChooser.h"
 #include "shell/HostDock.h"
+#include "shell/KeyboardReach.h"
 #include "shell/PageFieldWatcher.h"
 #include "shell/PageMenu.h"
 #include "shell/ReaderWindow.h"
@@ -18,8 +19,24 @@
 #include <toolbar/MRToolBar.h>
 
 #include <QComboBox>
+#include <QInputDialog>
 
 #include <algorithm>
+
+namespace {
+
+/** Nothing if the user has cancelled, or without a document. */
+std::optional<int> askForNumber(ReaderWindow *window, const QString &label, int least, int now,
+                                int most)
+{
+    bool isGiven = false;
+    const int number = window->hasDocument() ? QInputDialog::getInt(window, QString(), label, now,
+                                                                    least, most, 1, &isGiven)
+                                             : 0;
+    return isGiven ? std::make_optional(number) : std::nullopt;
+}
+
+} // namespace
 
 void ReaderWindow::addHostPanel()
 {
@@ -41,6 +58,30 @@ void ReaderWindow::addHostPanel()
         m_editCommands.editHandwriting();
         stateChanged();
     });
+}
+
+void ReaderWindow::connectKeys()
+{
+    const auto *keys =
+        new KeyboardReach(this, [this](const QString &name) { return focusControl(name); });
+    connect(keys, &KeyboardReach::commandAsked, this,
+            [this](const QString &name) { m_commands.run(name); });
+    connect(keys, &KeyboardReach::pageAsked, this, [this] {
+        const int count = m_document.pageCount();
+        const auto page = askForNumber(this, tr("转到第几页（共 %1 页）").arg(count), 1,
+                                       m_view->currentPage() + 1, count);
+        if (!page)
+            return;
+        m_view->rememberPlace();
+        m_view->setCurrentPage(*page - 1);
+    });
+    connect(keys, &KeyboardReach::zoomAsked, this, [this] {
+        if (const auto percent =
+                askForNumber(this, tr("显示比例（%）"), 10, qRound(m_view->percent()), 6400))
+            m_view->setZoomMode(ZoomMode(*percent));
+    });
+    connect(keys, &KeyboardReach::finderAsked, this, [this] { m_toolBar->DoFindCommandSlot(); });
+    connect(keys, &KeyboardReach::escapePressed, this, &ReaderWindow::returnToPages);
 }
 
 void ReaderWindow::connectParts()
