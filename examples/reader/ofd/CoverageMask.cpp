@@ -22,35 +22,26 @@ QPointF pointAtY(QPointF from, QPointF to, double y)
     return QPointF(from.x() + (to.x() - from.x()) * (y - from.y()) / (to.y() - from.y()), y);
 }
 
-/** The coverage of a pixel that the edges wind around so many times. */
-double coverOf(double windings, Qt::FillRule rule)
-{
-    const double turns = std::abs(windings);
-    if (rule == Qt::WindingFill)
-        return std::min(turns, 1.0);
-    const double rest = std::fmod(turns, 2.0);
-    return std::min(rest, 2 - rest);
-}
-
 } // namespace
 
 CoverageMask::CoverageMask(const QRect &area)
     : m_area(area)
     , m_stride(area.width() + 1)
     , m_changes(std::size_t(m_stride) * std::size_t(area.height()), 0.0)
+    , m_firstRow(area.height())
     , m_coverage(area.size(), QImage::Format_Alpha8)
 {
     m_coverage.fill(0);
 }
 
-void CoverageMask::addPolygon(const QPolygonF &polygon)
+void CoverageMask::addPolygon(const QPointF *points, qsizetype count)
 {
-    if (polygon.isEmpty())
+    if (count == 0)
         return;
     const QPointF origin = m_area.topLeft();
-    QPointF previous = polygon.last() - origin;
-    for (const QPointF &point : polygon) {
-        const QPointF next = point - origin;
+    QPointF previous = points[count - 1] - origin;
+    for (qsizetype i = 0; i < count; ++i) {
+        const QPointF next = points[i] - origin;
         addEdge(previous, next);
         previous = next;
     }
@@ -101,7 +92,9 @@ void CoverageMask::addEdgeInArea(QPointF from, QPointF to)
     const double slope = (to.x() - from.x()) / (to.y() - from.y());
     const auto [left, right] = std::minmax({from.x(), to.x()});
     double x = from.x();
-    for (int row = int(y); y < end; ++row) {
+    int row = int(y);
+    m_firstRow = std::min(m_firstRow, row);
+    for (; y < end; ++row) {
         const double nextY = std::min(row + 1.0, end);
         const double nextX = std::clamp(x + slope * (nextY - y), left, right);
         addCrossings(&m_changes[std::size_t(row) * std::size_t(m_stride)], std::min(x, nextX),
@@ -109,6 +102,7 @@ void CoverageMask::addEdgeInArea(QPointF from, QPointF to)
         x = nextX;
         y = nextY;
     }
+    m_endRow = std::max(m_endRow, row);
 }
 
 void CoverageMask::addCrossings(double *row, double left, double right, double cover) const
@@ -140,17 +134,33 @@ void CoverageMask::addCrossings(double *row, double left, double right, double c
 
 void CoverageMask::settle(Qt::FillRule rule)
 {
-    for (int y = 0; y < m_area.height(); ++y) {
+    if (rule == Qt::WindingFill) {
+        settleAs([](double windings) { return std::min(std::abs(windings), 1.0); });
+        return;
+    }
+    settleAs([](double windings) {
+        const double rest = std::fmod(std::abs(windings), 2.0);
+        return std::min(rest, 2 - rest);
+    });
+}
+
+/** @param coverOf the coverage of a pixel that the edges wind around so many times. */
+template <typename CoverOf>
+void CoverageMask::settleAs(CoverOf coverOf)
+{
+    for (int y = m_firstRow; y < m_endRow; ++y) {
         double *changes = &m_changes[std::size_t(y) * std::size_t(m_stride)];
         uchar *line = m_coverage.scanLine(y);
         double windings = 0;
         for (int x = 0; x < m_area.width(); ++x) {
             windings += changes[x];
-            const int cover = int(coverOf(windings, rule) * opaque + 0.5);
+            const int cover = int(coverOf(windings) * opaque + 0.5);
             line[x] = uchar(std::min(line[x] + cover, opaque));
         }
         std::fill_n(changes, m_stride, 0.0);
     }
+    m_firstRow = m_area.height();
+    m_endRow = 0;
 }
 
 } // namespace Ofd

@@ -26,7 +26,8 @@ public:
     QRect area() const { return m_area; }
 
     /** Adds a polygon, which is closed automatically, to the shape that settle() completes. */
-    void addPolygon(const QPolygonF &polygon);
+    void addPolygon(const QPolygonF &polygon) { addPolygon(polygon.constData(), polygon.size()); }
+    void addPolygon(const QPointF *points, qsizetype count);
     /** Adds the inside of the shape to the coverage and begins another shape. */
     void settle(Qt::FillRule rule);
 
@@ -34,6 +35,8 @@ public:
     const QImage &image() const { return m_coverage; }
 
 private:
+    template <typename CoverOf>
+    void settleAs(CoverOf coverOf);
     void addEdge(QPointF from, QPointF to);
     void addEdgeBesideArea(QPointF from, QPointF to);
     void addEdgeInArea(QPointF from, QPointF to);
@@ -44,6 +47,9 @@ private:
     int m_stride;
     /** The difference of coverage between a pixel and the one to its left. */
     std::vector<double> m_changes;
+    // The rows that the shape may have changed.
+    int m_firstRow;
+    int m_endRow = 0;
     QImage m_coverage;
 };
 

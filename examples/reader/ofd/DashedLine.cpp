@@ -3,75 +3,60 @@
 
 #include "ofd/DashedLine.h"
 
-#include <QLineF>
-#include <QVector>
-
 #include <cmath>
 
 namespace Ofd {
 
-namespace {
-
-/** A position in the dash pattern of a pen. */
-class PatternPlace
+DashedLine::DashedLine(const QPen &pen, const QTransform &toPath)
+    : m_toPath(toPath.m11(), toPath.m12(), toPath.m21(), toPath.m22(), 0, 0)
+    , m_lengths(pen.dashPattern())
 {
-public:
-    explicit PatternPlace(const QPen &pen)
-        : m_lengths(pen.dashPattern())
-    {
-        qreal period = 0;
-        for (qreal &length : m_lengths) {
-            length *= pen.widthF();
-            period += length;
-        }
-        qreal offset = std::fmod(pen.dashOffset() * pen.widthF(), period);
-        if (offset < 0)
-            offset += period;
-        for (m_toNext = m_lengths.first(); offset >= m_toNext; goToNext())
-            offset -= m_toNext;
-        goOn(offset);
+    qreal period = 0;
+    for (qreal &length : m_lengths) {
+        length *= pen.widthF();
+        period += length;
     }
+    qreal offset = std::fmod(pen.dashOffset() * pen.widthF(), period);
+    if (offset < 0)
+        offset += period;
+    for (m_start.toNext = m_lengths.first(); offset >= m_start.toNext; goToNext(&m_start))
+        offset -= m_start.toNext;
+    m_start.toNext -= offset;
+}
 
-    bool isDash() const { return m_index % 2 == 0; }
-    qreal toNext() const { return m_toNext; }
-    void goToNext()
-    {
-        m_index = (m_index + 1) % int(m_lengths.size());
-        m_toNext = m_lengths.at(m_index);
-    }
-    void goOn(qreal length) { m_toNext -= length; }
-
-private:
-    QVector<qreal> m_lengths;
-    int m_index = 0;
-    qreal m_toNext = 0;
-};
-
-} // namespace
-
-QList<QPolygonF> dashesOf(const QPolygonF &line, const QPen &pen)
+void DashedLine::goToNext(Place *place) const
 {
-    QList<QPolygonF> dashes;
-    PatternPlace place(pen);
-    QPolygonF dash({line.first()});
+    place->index = (place->index + 1) % int(m_lengths.size());
+    place->toNext = m_lengths.at(place->index);
+}
+
+void DashedLine::split(const QPolygonF &line, const std::function<void(const QPolygonF &)> &use)
+{
+    Place place = m_start;
+    m_dash.resize(0);
+    m_dash.append(line.first());
     for (int i = 1; i < line.size(); ++i) {
-        const QLineF way(line.at(i - 1), line.at(i));
-        const qreal length = way.length();
+        const QPointF way = line.at(i) - line.at(i - 1);
+        const QPointF onPath = m_toPath.map(way);
+        const qreal length = std::hypot(onPath.x(), onPath.y());
         qreal gone = 0;
-        while (place.toNext() < length - gone) {
-            gone += place.toNext();
-            const QPointF change = way.pointAt(gone / length);
+        while (place.toNext < length - gone) {
+            gone += place.toNext;
+            const QPointF change = line.at(i - 1) + way * (gone / length);
+            m_dash.append(change);
             if (place.isDash())
-                dashes.append(QPolygonF(dash << change));
-            place.goToNext();
-            dash = QPolygonF({change});
+                use(m_dash);
+            goToNext(&place);
+            m_dash.resize(0);
+            m_dash.append(change);
         }
-        place.goOn(length - gone);
-        dash.append(way.p2());
+        place.toNext -= length - gone;
+        // The points of a gap are of no use.
+        if (place.isDash())
+            m_dash.append(line.at(i));
     }
     if (place.isDash())
-        dashes.append(dash);
-    return dashes;
+        use(m_dash);
 }
 
 } // namespace Ofd

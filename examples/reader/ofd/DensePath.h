@@ -21,6 +21,9 @@ namespace Ofd::DensePath {
 /** Whether a path should be painted here; false for devices without pixels, such as PDF files. */
 bool isDense(const QPainter &painter, const QPainterPath &path);
 
+/** Whether the lines of a path, which need not be dense, are painted here sooner than by Qt. */
+bool isCompact(const QPainter &painter, const QPainterPath &path);
+
 void fill(QPainter &painter, const QPainterPath &path, const QBrush &brush);
 void stroke(QPainter &painter, const QPainterPath &path, const QPen &pen);
 

@@ -3,7 +3,6 @@
 
 #include "ofd/DeviceDrawing.h"
 
-#include "ofd/DensePath.h"
 #include "ofd/Limits.h"
 
 #include <QPainter>
@@ -11,6 +10,34 @@
 #include <cmath>
 
 namespace Ofd {
+
+namespace {
+
+/**
+ * Whether a path is longer than a length. Curves count as the mean of their chord and their control
+ * lines, because Qt takes a microsecond to measure each.
+ */
+bool isLonger(const QPainterPath &path, qreal most)
+{
+    const auto distance = [&](int from, int to) {
+        const QPointF way = QPointF(path.elementAt(to)) - QPointF(path.elementAt(from));
+        return std::hypot(way.x(), way.y());
+    };
+    qreal length = 0;
+    for (int i = 1; i < path.elementCount() && length <= most; ++i) {
+        const QPainterPath::Element &element = path.elementAt(i);
+        if (element.isLineTo()) {
+            length += distance(i - 1, i);
+        } else if (element.isCurveTo()) {
+            const qreal control = distance(i - 1, i) + distance(i, i + 1) + distance(i + 1, i + 2);
+            length += (distance(i - 1, i + 2) + control) / 2;
+            i += 2;
+        }
+    }
+    return length > most;
+}
+
+} // namespace
 
 QRectF deviceRect(const QPainter &painter)
 {
@@ -52,7 +79,7 @@ QPen visiblePen(const QPainter &painter, const Style &style, const QPainterPath 
     qreal period = 0;
     for (const qreal length : style.dashes.value_or(QVector<qreal>()))
         period += length;
-    if (period > 0 && path.length() / period > Limits::dashesPerPath)
+    if (period > 0 && isLonger(path, period * Limits::dashesPerPath))
         pen.setStyle(Qt::SolidLine);
     else if (scale > 0 && pen.widthF() * scale < leastLineWidth && period <= 0)
         pen.setWidthF(leastLineWidth / scale);
@@ -63,22 +90,6 @@ QSizeF sizeOf(const QTransform &transform)
 {
     return QSizeF(std::hypot(transform.m11(), transform.m12()),
                   std::hypot(transform.m21(), transform.m22()));
-}
-
-void fillPath(QPainter &painter, const QPainterPath &path, const QBrush &brush)
-{
-    if (DensePath::isDense(painter, path))
-        DensePath::fill(painter, path, brush);
-    else
-        painter.fillPath(path, brush);
-}
-
-void strokePath(QPainter &painter, const QPainterPath &path, const QPen &pen)
-{
-    if (DensePath::isDense(painter, path))
-        DensePath::stroke(painter, path, pen);
-    else
-        painter.strokePath(path, pen);
 }
 
 } // namespace Ofd

@@ -31,7 +31,4 @@ QPen visiblePen(const QPainter &painter, const Style &style, const QPainterPath 
 /** Lengths of the sides of the unit square under a transform. */
 QSizeF sizeOf(const QTransform &transform);
 
-void fillPath(QPainter &painter, const QPainterPath &path, const QBrush &brush);
-void strokePath(QPainter &painter, const QPainterPath &path, const QPen &pen);
-
 } // namespace Ofd

@@ -62,26 +62,29 @@ void append(QPolygonF &line, const Curve &curve, const QRectF &area, int halving
 
 } // namespace
 
-QList<QPolygonF> flattened(const QPainterPath &path, const QTransform &toDevice, const QRectF &area)
+void flatten(const QPainterPath &path, const QTransform &toDevice, const QRectF &area,
+             const std::function<void(const QPolygonF &)> &use)
 {
     const int halvings =
         std::min(mostHalvings, int(std::log2(1 + mostPoints / (1 + path.elementCount()))));
-    QList<QPolygonF> lines;
+    // One for all subpaths, as there may be a million of them.
+    QPolygonF line;
     const auto pointAt = [&](int i) { return toDevice.map(QPointF(path.elementAt(i))); };
     for (int i = 0; i < path.elementCount(); ++i) {
         const QPainterPath::Element &element = path.elementAt(i);
-        if (element.isMoveTo()) {
-            lines.append(QPolygonF());
-            lines.last().append(pointAt(i));
-        } else if (element.isCurveTo()) {
-            QPolygonF &line = lines.last();
+        if (element.isCurveTo()) {
             append(line, {line.last(), pointAt(i), pointAt(i + 1), pointAt(i + 2)}, area, halvings);
             i += 2;
-        } else {
-            lines.last().append(pointAt(i));
+            continue;
         }
+        if (element.isMoveTo() && !line.isEmpty()) {
+            use(line);
+            line.resize(0);
+        }
+        line.append(pointAt(i));
     }
-    return lines;
+    if (!line.isEmpty())
+        use(line);
 }
 
 } // namespace Ofd

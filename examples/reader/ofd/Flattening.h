@@ -3,9 +3,10 @@
 
 #pragma once
 
-#include <QList>
 #include <QPolygonF>
 #include <QRectF>
+
+#include <functional>
 
 class QPainterPath;
 class QTransform;
@@ -13,11 +14,11 @@ class QTransform;
 namespace Ofd {
 
 /**
- * The subpaths of a path as lines in device pixels. Curves are accurate inside the area; a part
- * beyond one of its sides may become a straight line. A path of very many curves, which can only be
- * small or overlap, gets few lines for each.
+ * Calls @p use with each subpath of a path as a line in device pixels. Curves are accurate inside
+ * the area; a part beyond one of its sides may become a straight line. A path of very many curves,
+ * which can only be small or overlap, gets few lines for each.
  */
-QList<QPolygonF> flattened(const QPainterPath &path, const QTransform &toDevice,
-                           const QRectF &area);
+void flatten(const QPainterPath &path, const QTransform &toDevice, const QRectF &area,
+             const std::function<void(const QPolygonF &)> &use);
 
 } // namespace Ofd

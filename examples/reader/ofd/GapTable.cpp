@@ -5,34 +5,37 @@
 
 namespace Ofd {
 
-void GapTable::count(const QImage &mask)
+namespace {
+
+bool isOpaque(const QImage &mask, const QRect &rect)
 {
-    m_area = mask.rect();
-    m_stride = std::size_t(mask.width()) + 1;
-    m_sums.assign(m_stride * (std::size_t(mask.height()) + 1), 0);
-    for (int y = 0; y < mask.height(); ++y) {
+    for (int y = rect.top(); y <= rect.bottom(); ++y) {
         const uchar *line = mask.constScanLine(y);
-        const quint32 *above = &m_sums[std::size_t(y) * m_stride];
-        quint32 *sums = &m_sums[std::size_t(y + 1) * m_stride];
-        quint32 gapsOfRow = 0;
-        for (int x = 0; x < mask.width(); ++x) {
-            gapsOfRow += line[x] < 255 ? 1 : 0;
-            sums[x + 1] = above[x + 1] + gapsOfRow;
-        }
+        if (!std::all_of(line + rect.left(), line + rect.right() + 1,
+                         [](uchar alpha) { return alpha == 255; }))
+            return false;
     }
+    return true;
 }
 
-bool GapTable::isCovered(const QRectF &rect) const
+} // namespace
+
+void GapTable::count(const QImage &mask)
 {
-    if (m_sums.empty())
-        return false;
-    const QRect pixels = rect.intersected(m_area).toAlignedRect();
-    const int left = pixels.left();
-    const int right = left + pixels.width();
-    const int top = pixels.top();
-    const int bottom = top + pixels.height();
-    return gapsBefore(right, bottom) + gapsBefore(left, top)
-           == gapsBefore(right, top) + gapsBefore(left, bottom);
+    m_columns = (mask.width() + side - 1) / side;
+    m_rows = (mask.height() + side - 1) / side;
+    m_sums.assign((std::size_t(m_columns) + 1) * (std::size_t(m_rows) + 1), 0);
+    quint32 *sum = m_sums.data() + m_columns + 1;
+    for (int row = 0; row < m_rows; ++row) {
+        const quint32 *above = sum - m_columns - 1;
+        quint32 gapsOfRow = 0;
+        *sum++ = 0;
+        for (int column = 0; column < m_columns; ++column) {
+            const QRect block(column * side, row * side, side, side);
+            gapsOfRow += isOpaque(mask, block & mask.rect()) ? 0 : 1;
+            *sum++ = *++above + gapsOfRow;
+        }
+    }
 }
 
 } // namespace Ofd

@@ -7,6 +7,7 @@
 #include "ofd/Flattening.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <utility>
 
@@ -30,17 +31,16 @@ constexpr qreal longestBatch = 2;
 constexpr qreal leastPixels = 65536;
 constexpr int mostPointsOfBatch = 65536;
 
-/** The line without points that nearly coincide with the one before; the ends are kept. */
-QPolygonF thinned(const QPolygonF &line)
+/** Copies a line without points that nearly coincide with the one before; the ends are kept. */
+void thinOut(const QPolygonF &line, QPolygonF *points)
 {
-    QPolygonF points;
-    points.append(line.first());
+    points->resize(0);
+    points->append(line.first());
     for (int i = 1; i < line.size() - 1; ++i) {
-        if ((line.at(i) - points.last()).manhattanLength() >= leastStep)
-            points.append(line.at(i));
+        if ((line.at(i) - points->constLast()).manhattanLength() >= leastStep)
+            points->append(line.at(i));
     }
-    points.append(line.last());
-    return points;
+    points->append(line.last());
 }
 
 } // namespace
@@ -70,43 +70,35 @@ StrokeMask::StrokeMask(const QRect &area, const QTransform &toDevice, const QPen
 void StrokeMask::add(const QPainterPath &path)
 {
     m_isThin = m_isThin && path.elementCount() > mostJoinedPoints;
-    if (m_pen.style() != Qt::SolidLine) {
-        addDashed(path);
-    } else {
+    if (m_pen.style() == Qt::SolidLine) {
         const QRectF area =
             QRectF(m_coverage.area()).adjusted(-m_margin, -m_margin, m_margin, m_margin);
-        const QList<QPolygonF> lines = flattened(path, m_toDevice, area);
-        for (const QPolygonF &line : lines)
-            addLine(line);
+        flatten(path, m_toDevice, area, [&](const QPolygonF &line) { addLine(line); });
+    } else {
+        // The start of a dash depends on the whole line before it, so no part of it may be cut off.
+        const QRectF everywhere = m_toDevice.mapRect(path.controlPointRect());
+        DashedLine dashed(m_pen, m_fromDevice);
+        const auto addDash = [&](const QPolygonF &dash) { addLine(dash); };
+        flatten(path, m_toDevice, everywhere,
+                [&](const QPolygonF &line) { dashed.split(line, addDash); });
     }
     outlineBatch();
 }
 
-void StrokeMask::addDashed(const QPainterPath &path)
-{
-    // The start of a dash depends on the whole line before it, so no part of it may be cut off.
-    const QRectF everywhere = m_toDevice.mapRect(path.controlPointRect());
-    const QList<QPolygonF> lines = flattened(path, m_toDevice, everywhere);
-    for (const QPolygonF &line : lines) {
-        const QList<QPolygonF> dashes = dashesOf(m_fromDevice.map(line), m_pen);
-        for (const QPolygonF &dash : dashes)
-            addLine(m_toDevice.map(dash));
-    }
-}
-
 void StrokeMask::addLine(const QPolygonF &line)
 {
-    const QPolygonF points = thinned(line);
-    const bool isClosed = points.first() == points.last();
+    thinOut(line, &m_points);
+    const bool isClosed = m_points.constFirst() == m_points.constLast();
     bool isWhole = true;
-    for (int i = 1; i < points.size(); ++i) {
-        const QLineF step(points.at(i - 1), points.at(i));
+    for (int i = 1; i < m_points.size(); ++i) {
+        const QLineF step(m_points.at(i - 1), m_points.at(i));
         isWhole = addVisible(step) && isWhole;
         if (!isBatchFull())
             continue;
-        const bool goesOn = !m_piece.isEmpty() && (isClosed || i + 1 < points.size());
+        const bool goesOn = !m_piece.isEmpty() && (isClosed || i + 1 < m_points.size());
         endPiece();
         outlineBatch();
+        m_gaps.count(m_coverage.image());
         isWhole = false;
         // Added again, so that the stroker joins the next line.
         if (goesOn)
@@ -114,7 +106,7 @@ void StrokeMask::addLine(const QPolygonF &line)
     }
     // The stroker joins the ends of a closed line only if it gets the line in one piece.
     if (isClosed && !isWhole && !m_piece.isEmpty())
-        m_piece.append(points.at(1));
+        m_piece.append(m_points.at(1));
     endPiece();
 }
 
@@ -153,19 +145,22 @@ void StrokeMask::addThin(QPointF from, QPointF to)
     const QPointF across = QPointF(-onPath.dy(), onPath.dx()) * (m_pen.widthF() / 2 / length);
     const QPointF aside = m_toDevice.map(across) - m_toDevice.map(QPointF());
     // All rectangles turn the same way round, so that those that overlap add up.
-    m_coverage.addPolygon(QPolygonF({from + aside, to + aside, to - aside, from - aside}));
+    const std::array corners{from + aside, to + aside, to - aside, from - aside};
+    m_coverage.addPolygon(corners.data(), corners.size());
 }
 
 /** Appends the parts of a line to m_parts; the line is that between two shares of a whole one. */
 void StrokeMask::findVisible(const QLineF &line, qreal start, qreal end)
 {
-    const QRectF box = QRectF(line.p1(), line.p2())
-                           .normalized()
-                           .adjusted(-m_margin, -m_margin, m_margin, m_margin);
-    const QRectF area(m_coverage.area());
-    const qreal length = (line.p2() - line.p1()).manhattanLength();
-    if (!std::isfinite(length) || !box.intersects(area)
-        || m_gaps.isCovered(box.translated(-area.topLeft())))
+    const QPointF origin = m_coverage.area().topLeft();
+    const auto [left, right] = std::minmax({line.x1(), line.x2()});
+    const auto [top, bottom] = std::minmax({line.y1(), line.y2()});
+    const QRectF box(QPointF(left - m_margin, top - m_margin) - origin,
+                     QPointF(right + m_margin, bottom + m_margin) - origin);
+    const QSize size = m_coverage.area().size();
+    const qreal length = right - left + bottom - top;
+    if (!std::isfinite(length) || box.left() >= size.width() || box.right() <= 0
+        || box.top() >= size.height() || box.bottom() <= 0 || m_gaps.isCovered(box))
         return;
     if (length > longestPart) {
         const qreal half = (start + end) / 2;
@@ -196,12 +191,9 @@ void StrokeMask::endPiece()
 
 void StrokeMask::outlineBatch()
 {
-    const QList<QPolygonF> outlines =
-        flattened(m_stroker.createStroke(m_batch), m_toDevice, m_coverage.area());
-    for (const QPolygonF &outline : outlines)
-        m_coverage.addPolygon(outline);
+    flatten(m_stroker.createStroke(m_batch), m_toDevice, m_coverage.area(),
+            [&](const QPolygonF &outline) { m_coverage.addPolygon(outline); });
     m_coverage.settle(Qt::WindingFill);
-    m_gaps.count(m_coverage.image());
     m_batch = QPainterPath();
     m_batchLength = 0;
 }

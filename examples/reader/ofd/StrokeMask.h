@@ -31,7 +31,6 @@ public:
     const QImage &image() const { return m_coverage.image(); }
 
 private:
-    void addDashed(const QPainterPath &path);
     void addLine(const QPolygonF &line);
     bool addVisible(const QLineF &line);
     void addThin(QPointF from, QPointF to);
@@ -56,6 +55,7 @@ private:
     bool m_isThin = false;
     qreal m_margin; ///< The largest distance of the stroke from the path, in device pixels.
 
+    QPolygonF m_points;    ///< Of the line that is being added.
     QVector<Part> m_parts; ///< The visible parts of the line that is being added.
     QPolygonF m_piece;     ///< In device pixels.
     QPainterPath m_batch;  ///< Pieces that are outlined together, in path coordinates.
