@@ -26,7 +26,7 @@ from make_samples import (archive, code, encrypted, package, page, path,  # noqa
                           path_sample, picture, samples, template_sample, text, text_sample, xml)
 
 SEED = 20240506
-HEAVY = {"points": 8, "points-filled": 2, "characters": 5, "scribbles": 4, "texts": 3}
+HEAVY = {"points": 3, "points-filled": 2, "characters": 5, "scribbles": 2, "texts": 3}
 LEFT_OUT = {f"jp2-{kind}": "（JPEG 2000）" for kind in
                                     ("tiles", "blocks", "components", "precincts")}
 SQUARE = "M 0 0 L 40 0 L 40 40 L 0 40 C"

@@ -94,14 +94,18 @@ void Ink::fill(QPainter &painter, const QPainterPath &path) const
         painter.fillPath(path, brush);
 }
 
-void Ink::stroke(QPainter &painter, const QPainterPath &path, QPen pen) const
+void Ink::stroke(QPainter &painter, const QPainterPath &path, QPen pen, bool isOneOfMany) const
 {
     pen.setBrush(brush);
+    const auto strokeInside = [&](const Ink &inside) {
+        inside.stroke(painter, path, pen, isOneOfMany);
+    };
     if (!extent.isEmpty())
-        paintInExtent(painter, [&](const Ink &inside) { inside.stroke(painter, path, pen); });
+        paintInExtent(painter, strokeInside);
     else if (mustFlatten(painter, brush))
         fillFlattened(painter, outlineOf(painter, path, pen), brush);
-    else if (DensePath::isDense(painter, path))
+    else if (DensePath::isDense(painter, path)
+             || (isOneOfMany && DensePath::isCompact(painter, path)))
         DensePath::stroke(painter, path, pen);
     else if (isWideCurve(painter, path, pen))
         painter.fillPath(outlineOf(painter, path, pen), brush);

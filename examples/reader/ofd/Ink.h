@@ -20,8 +20,8 @@ struct Ink
     QPainterPath extent; ///< Where the brush shows anything; empty for everywhere.
 
     void fill(QPainter &painter, const QPainterPath &path) const;
-    /** The brush of the pen is not used. */
-    void stroke(QPainter &painter, const QPainterPath &path, QPen pen) const;
+    /** The brush of the pen is not used. One of many paths must take little time. */
+    void stroke(QPainter &painter, const QPainterPath &path, QPen pen, bool isOneOfMany) const;
 
 private:
     void paintInExtent(QPainter &painter, const std::function<void(const Ink &)> &paint) const;

@@ -49,6 +49,8 @@ constexpr qreal dashPeriod = 0.01;
 constexpr qreal dashesPerPath = 50000;
 /** Further objects on the page are blended part by part. */
 constexpr int layersPerPage = 1000;
+/** Further lines that go to and fro in a small area are painted in a quicker way. */
+constexpr int linesPerPage = 1000;
 constexpr int gradientStops = 4096;
 constexpr std::size_t meshPoints = 300000;
 /** Of a picture that is computed for a shading or a pattern. */

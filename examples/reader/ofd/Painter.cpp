@@ -90,6 +90,7 @@ void Painter::paint(QPainter &painter, int page, const QSet<int> &hiddenAnnotati
                     const std::atomic_bool *isAbandoned)
 {
     m_layers = 0;
+    m_lines = 0;
     painter.save();
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     m_shown = m_document->page(page);
@@ -217,7 +218,8 @@ void Painter::stroke(QPainter &painter, const QPainterPath &path, const QPen &pe
 {
     const qreal margin = marginOf(pen);
     const QRectF bounds = path.controlPointRect().adjusted(-margin, -margin, margin, margin);
-    inkOf(painter, bounds, paint).stroke(painter, path, pen);
+    const bool isOneOfMany = ++m_lines > Limits::linesPerPage;
+    inkOf(painter, bounds, paint).stroke(painter, path, pen, isOneOfMany);
 }
 
 Ink Painter::inkOf(const QPainter &painter, const QRectF &bounds, const Paint &paint)
