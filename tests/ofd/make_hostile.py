@@ -26,7 +26,7 @@ from make_samples import (archive, code, encrypted, package, page, path,  # noqa
                           path_sample, picture, samples, template_sample, text, text_sample, xml)
 
 SEED = 20240506
-HEAVY = {"points": 3, "points-filled": 2, "characters": 5, "scribbles": 2, "texts": 3}
+HEAVY = {"points": 3, "points-filled": 2, "characters": 5, "scribbles": 3, "texts": 2}
 LEFT_OUT = {f"jp2-{kind}": "（JPEG 2000）" for kind in
                                     ("tiles", "blocks", "components", "precincts")}
 SQUARE = "M 0 0 L 40 0 L 40 40 L 0 40 C"
@@ -293,6 +293,9 @@ def contents():
         "characters": text("0 0 210 297", 1, 3, code("字" * 1000000, 0, 5, ' DeltaX="g 999999 0.0001"')),
         "glyphs": text("0 0 99 9", 1, 5, glyphs + code("四个字符", 0, 5)),
         "texts": "".join(text("0 0 99 9", 1, 5, code("字", i % 200, i % 290)) for i in range(50000)),
+        "fonts": ("".join(text("0 0 99 9", i, 5, code("字", i % 200, i % 290)) for i in range(20000)),
+                  "<ofd:Fonts>" + "".join(f'<ofd:Font ID="{i}" FontName="name{i}"/>' for i in range(20000))
+                  + "</ofd:Fonts>"),
         "numbers": "".join(path(f"0 0 {n} {n}", f"M {n} 0 L 9 {n} B {n} {n} 0 {n} {n} 9", f' CTM="{n} 0 0 {n} {n} 0"')
                            for n in ("9999999", "-9999999", "1e-300", "nan", "0", "-inf", "x")),
         "number-huge": path("0 0 1e308 1e308", SQUARE),

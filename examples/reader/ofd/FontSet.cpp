@@ -20,6 +20,8 @@ constexpr int rawSize = 256; // Pixels per em. Outlines can be scaled from any s
 constexpr int leastBold = 600;
 constexpr qreal slant = 0.21;
 constexpr std::size_t mostGlyphs = 20000;
+/** Of one document. The system takes half a millisecond for a font that it has not. */
+constexpr int mostSearches = 300;
 
 bool containsAny(const QString &name, const QStringList &parts)
 {
@@ -162,17 +164,27 @@ void Face::trim()
         m_glyphs.clear();
 }
 
+bool FontSearches::maySearch(const Font &font)
+{
+    const QString name = font.family + QChar(u'/') + font.name;
+    if (m_names.size() < mostSearches)
+        m_names.insert(name);
+    return m_names.contains(name);
+}
+
 Face &FontSet::faceOf(const Text &text)
 {
-    const Font font = m_document.resources.fonts.value(text.font);
+    Font font = m_document.resources.fonts.value(text.font);
     const bool isBold = text.weight >= leastBold || font.isBold;
     const bool isItalic = text.isItalic || font.isItalic;
-    const QString key = QStringLiteral("%1/%2/%3").arg(text.font).arg(isBold).arg(isItalic);
+    const QString key = text.font + QLatin1String(isBold ? "/bold" : "/")
+                        + QLatin1String(isItalic ? "/italic" : "/");
     const auto known = m_faces.find(key);
     if (known != m_faces.end()) {
         known->second.trim();
         return known->second;
     }
+    const QString name = font.name;
     QByteArray bytes;
     try {
         if (!font.file.isEmpty())
@@ -180,22 +192,26 @@ Face &FontSet::faceOf(const Text &text)
     } catch (const Fault &) {
         // Another font replaces it.
     }
+    if (!m_searches.maySearch(font))
+        font.name = font.family = QString();
     Face face(font, bytes, isBold, isItalic);
     if (!font.file.isEmpty() && !face.isEmbedded())
-        m_document.leaveOut(Wording::tr("嵌入字体“%1”").arg(font.name), font.file);
+        m_document.leaveOut(Wording::tr("嵌入字体“%1”").arg(name), font.file);
     return m_faces.emplace(key, std::move(face)).first->second;
 }
 
 QStringList FontSet::missing(const Resources &resources)
 {
     QStringList names;
+    FontSearches searches;
     for (const Font &font : resources.fonts.all()) {
         const QStringList families = familiesOf(font);
         const bool isThere =
             !font.file.isEmpty()
-            || std::any_of(families.cbegin(), families.cend(), [](const QString &family) {
-                   return installed(family, false, false).isValid();
-               });
+            || (searches.maySearch(font)
+                && std::any_of(families.cbegin(), families.cend(), [](const QString &family) {
+                       return installed(family, false, false).isValid();
+                   }));
         if (!isThere && !families.isEmpty())
             names.append(font.name.isEmpty() ? font.family : font.name);
     }

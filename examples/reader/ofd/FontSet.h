@@ -48,6 +48,17 @@ private:
     bool m_slants = false;
 };
 
+/** The fonts that were looked for in the system; an endless number of them is an attack. */
+class FontSearches
+{
+public:
+    /** Whether it may be looked for; always true for a font that was before. */
+    bool maySearch(const Font &font);
+
+private:
+    QSet<QString> m_names;
+};
+
 /** The faces of a document; each is created on first use. */
 class FontSet
 {
@@ -65,6 +76,7 @@ public:
 private:
     const Document &m_document;
     std::map<QString, Face> m_faces;
+    FontSearches m_searches;
 };
 
 } // namespace Ofd
