@@ -175,16 +175,21 @@ bool FontSearches::maySearch(const Font &font)
 Face &FontSet::faceOf(const Text &text)
 {
     Font font = m_document.resources.fonts.value(text.font);
+    if (font.file.isEmpty() && !m_searches.maySearch(font))
+        font = {QString(), QString(), font.isBold, font.isItalic, false, QString()};
     const bool isBold = text.weight >= leastBold || font.isBold;
     const bool isItalic = text.isItalic || font.isItalic;
-    const QString key = text.font + QLatin1String(isBold ? "/bold" : "/")
-                        + QLatin1String(isItalic ? "/italic" : "/");
+    // Those that are replaced without a search look the same.
+    const bool isPlain =
+        font.file.isEmpty() && font.name.isEmpty() && font.family.isEmpty() && !font.hasSerifs;
+    const QString id = isPlain ? QString() : text.font;
+    const QString key =
+        id + QLatin1String(isBold ? "/bold" : "/") + QLatin1String(isItalic ? "/italic" : "/");
     const auto known = m_faces.find(key);
     if (known != m_faces.end()) {
         known->second.trim();
         return known->second;
     }
-    const QString name = font.name;
     QByteArray bytes;
     try {
         if (!font.file.isEmpty())
@@ -192,11 +197,9 @@ Face &FontSet::faceOf(const Text &text)
     } catch (const Fault &) {
         // Another font replaces it.
     }
-    if (!m_searches.maySearch(font))
-        font.name = font.family = QString();
     Face face(font, bytes, isBold, isItalic);
     if (!font.file.isEmpty() && !face.isEmbedded())
-        m_document.leaveOut(Wording::tr("嵌入字体“%1”").arg(name), font.file);
+        m_document.leaveOut(Wording::tr("嵌入字体“%1”").arg(font.name), font.file);
     return m_faces.emplace(key, std::move(face)).first->second;
 }
 
