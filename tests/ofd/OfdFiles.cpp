@@ -3,10 +3,12 @@
 
 #include "tests/ofd/OfdFiles.h"
 
+#include "ofd/Archive.h"
 #include "ofd/Painter.h"
 
 #include <QDir>
 #include <QPainter>
+#include <QTemporaryFile>
 #include <QTest>
 
 namespace {
@@ -35,6 +37,28 @@ std::shared_ptr<const Ofd::Document> OfdFiles::opened(const QString &name)
     if (!document)
         qWarning("%s: %s", qUtf8Printable(name), qUtf8Printable(error));
     return document;
+}
+
+std::shared_ptr<const Ofd::Document> OfdFiles::read(const QByteArray &archive)
+{
+    QTemporaryFile file;
+    file.open();
+    file.write(archive);
+    file.flush();
+    QString error;
+    auto document = Ofd::read(file.fileName(), &error);
+    if (!document)
+        qWarning("%s", qUtf8Printable(error));
+    return document;
+}
+
+QByteArray OfdFiles::replaced(const Ofd::Document &document, const QString &entry,
+                              const QByteArray &from, const QByteArray &to)
+{
+    QByteArray bytes = document.package->read(entry);
+    if (!bytes.contains(from))
+        return QByteArray();
+    return Ofd::Archive::withEntries(*document.package, {{entry, bytes.replace(from, to)}});
 }
 
 QImage OfdFiles::painted(const std::shared_ptr<const Ofd::Document> &document, int page)

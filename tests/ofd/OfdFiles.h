@@ -8,7 +8,7 @@
 #include <QImage>
 #include <QString>
 
-/** The OFD files of the tests, which make_ofd.py makes from the folder features/. */
+/** OFD files for tests, above all those that make_ofd.py makes from the folder features/. */
 namespace OfdFiles {
 
 constexpr int pixelsPerMillimetre = 4;
@@ -18,6 +18,13 @@ QString path(const QString &name);
 
 /** Opens the file of that name; a test that gets nothing has failed and says why. */
 std::shared_ptr<const Ofd::Document> opened(const QString &name);
+
+/** Opens an archive; says why if it cannot. */
+std::shared_ptr<const Ofd::Document> read(const QByteArray &archive);
+
+/** The archive with another text in one of its entries; empty if the old one is not there. */
+QByteArray replaced(const Ofd::Document &document, const QString &entry, const QByteArray &from,
+                    const QByteArray &to);
 
 QImage painted(const std::shared_ptr<const Ofd::Document> &document, int page = 0);
 

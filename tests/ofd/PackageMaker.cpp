@@ -3,6 +3,9 @@
 
 #include "tests/ofd/PackageMaker.h"
 
+#include <QBuffer>
+#include <QFile>
+
 #include <quazip/quazip.h>
 #include <quazip/quazipfile.h>
 
@@ -71,18 +74,30 @@ PackageMaker::Entries PackageMaker::documentOf(int pages)
     return entries;
 }
 
-bool PackageMaker::write(const QString &fileName, const Entries &entries)
+QByteArray PackageMaker::archive(const Entries &entries)
 {
-    QuaZip zip(fileName);
-    if (!zip.open(QuaZip::mdCreate))
-        return false;
+    QBuffer buffer;
+    QuaZip zip(&buffer);
+    zip.open(QuaZip::mdCreate);
     for (auto entry = entries.cbegin(); entry != entries.cend(); ++entry) {
         QuaZipFile file(&zip);
-        if (!file.open(QIODevice::WriteOnly, QuaZipNewInfo(entry.key()))
-            || file.write(*entry) != entry->size())
-            return false;
+        // Not packed, so that no large entry is taken for a bomb.
+        file.open(QIODevice::WriteOnly, QuaZipNewInfo(entry.key()), nullptr, 0, 0);
+        file.write(*entry);
         file.close();
     }
     zip.close();
-    return zip.getZipError() == UNZ_OK;
+    return zip.getZipError() == UNZ_OK ? buffer.data() : QByteArray();
+}
+
+bool PackageMaker::write(const QString &fileName, const QByteArray &bytes)
+{
+    QFile file(fileName);
+    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+}
+
+QByteArray PackageMaker::bytesOf(const QString &fileName)
+{
+    QFile file(fileName);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }

@@ -7,7 +7,7 @@
 #include <QMap>
 #include <QString>
 
-/** Writes OFD files of many pages, in which a test may replace or remove any entry. */
+/** Makes OFD files in which a test may replace or remove any entry. */
 namespace PackageMaker {
 
 using Entries = QMap<QString, QByteArray>;
@@ -21,6 +21,11 @@ Entries documentOf(int pages);
 /** The content of a page with this text, on a sheet of its own if a size is given. */
 QByteArray pageOf(const QString &text, const QString &box = QString());
 
-bool write(const QString &fileName, const Entries &entries);
+QByteArray archive(const Entries &entries);
+
+bool write(const QString &fileName, const QByteArray &bytes);
+
+/** What is in a file; nothing if it cannot be read. */
+QByteArray bytesOf(const QString &fileName);
 
 } // namespace PackageMaker

@@ -10,9 +10,6 @@
 #include <openssl/evp.h>
 #include <openssl/x509.h>
 
-#include <quazip/quazip.h>
-#include <quazip/quazipfile.h>
-
 namespace {
 
 constexpr char usualSigner[] = "1234567812345678";
@@ -189,9 +186,9 @@ QByteArray SignedFiles::message(const Signer &signer, const QByteArray &descript
     return der(0x30, {identifier("1.2.156.10197.6.1.4.2.2"), der(0xA0, {data2})});
 }
 
-SignedFiles::Entries SignedFiles::document(const QString &checkMethod)
+PackageMaker::Entries SignedFiles::document(const QString &checkMethod)
 {
-    Entries entries = {
+    PackageMaker::Entries entries = {
         {"OFD.xml", "<OFD><DocBody><DocRoot>Document.xml</DocRoot>"
                     "<Signatures>Signatures.xml</Signatures></DocBody></OFD>"},
         {"Document.xml", "<Document><CommonData><PageArea><PhysicalBox>0 0 60 40</PhysicalBox>"
@@ -215,19 +212,4 @@ SignedFiles::Entries SignedFiles::document(const QString &checkMethod)
         + "</References><StampAnnot ID='1' PageRef='1' Boundary='5 5 20 20'/></SignedInfo>"
           "<SignedValue>SignedValue.dat</SignedValue></Signature>";
     return entries;
-}
-
-QByteArray SignedFiles::archive(const Entries &entries)
-{
-    QBuffer buffer;
-    QuaZip zip(&buffer);
-    zip.open(QuaZip::mdCreate);
-    for (auto entry = entries.cbegin(); entry != entries.cend(); ++entry) {
-        QuaZipFile file(&zip);
-        file.open(QIODevice::WriteOnly, QuaZipNewInfo(entry.key()), nullptr, 0, 0);
-        file.write(entry.value());
-        file.close();
-    }
-    zip.close();
-    return buffer.data();
 }

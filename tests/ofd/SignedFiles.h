@@ -3,9 +3,8 @@
 
 #pragma once
 
-#include <QByteArray>
-#include <QMap>
-#include <QString>
+#include "tests/ofd/PackageMaker.h"
+
 #include <QVector>
 
 #include <openssl/types.h>
@@ -41,11 +40,7 @@ QByteArray sealedValue(int form, const Signer &signer, const QByteArray &seal,
 /** The value without a seal, as PKCS #7 has it; for RSA with or without signed attributes. */
 QByteArray message(const Signer &signer, const QByteArray &description, bool withAttributes);
 
-using Entries = QMap<QString, QByteArray>;
-
 /** A document with the list of its signatures and a description that protects all the rest. */
-Entries document(const QString &checkMethod);
-
-QByteArray archive(const Entries &entries);
+PackageMaker::Entries document(const QString &checkMethod);
 
 } // namespace SignedFiles

@@ -1,12 +1,9 @@
 // SPDX-FileCopyrightText: The MRToolBar authors
 // SPDX-License-Identifier: MIT
 
-#include "ofd/Expansion.h"
-#include "ofd/Fault.h"
 #include "ofd/Painter.h"
-#include "ofd/ResourceReader.h"
-
 #include "tests/ofd/OfdFiles.h"
+#include "tests/ofd/PackageMaker.h"
 
 #include <QBuffer>
 #include <QPainter>
@@ -17,7 +14,6 @@
 
 namespace {
 
-constexpr int side = 400;
 const QString ends = QStringLiteral("StartPoint='0 0' EndPoint='100 0'");
 const QString colour = QStringLiteral("<Color Value='255 0 0'/>");
 const QString segments = QStringLiteral("<Segment>%1</Segment><Segment>%1</Segment>").arg(colour);
@@ -38,13 +34,13 @@ QString pattern(const QString &attributes, const QString &content)
         .arg(attributes, content);
 }
 
-QString square(const QString &fill)
+QString square(const QString &fill, const QString &attributes = {})
 {
     return QStringLiteral("<PathObject Boundary='0 0 100 100' Fill='true' Stroke='false'>"
-                          "<FillColor>%1</FillColor>"
+                          "<FillColor %1>%2</FillColor>"
                           "<AbbreviatedData>M 0 0 L 100 0 L 100 100 L 0 100 C</AbbreviatedData>"
                           "</PathObject>")
-        .arg(fill);
+        .arg(attributes, fill);
 }
 
 QString nested(int depth)
@@ -82,50 +78,24 @@ QString lattice(int perRow, int count)
         .arg(points(count));
 }
 
-/** Reads a square with that colour, as a page or a composite would contain it. */
-std::shared_ptr<Ofd::Document> documentOf(const QString &fill, const QString &attributes = {})
+/** A document whose only page has been read: a square with that colour. */
+std::shared_ptr<const Ofd::Document> documentOf(const QString &fill, const QString &attributes = {},
+                                                const QString &resources = {})
 {
-    const Ofd::Package package(OfdFiles::path("axial"));
-    auto document = std::make_shared<Ofd::Document>();
-    QMap<QString, int> unsupported;
-    Ofd::ResourceReader reader(package, document->resources, unsupported);
-    const QString text = "<Layer>"
-                         + square(fill).replace("<FillColor>", "<FillColor " + attributes + ">")
-                         + "</Layer>";
-    const auto layer = Ofd::XmlElement::parse(text.toUtf8(), "layer");
-    Ofd::Page page;
-    page.area = QRectF(0, 0, 100, 100);
-    page.layers.append(
-        std::make_shared<Ofd::Objects>(reader.objects().readAll(layer, Ofd::Style())));
-    for (auto kind = unsupported.cbegin(); kind != unsupported.cend(); ++kind)
-        document->unsupported.add(kind.key(), *kind);
-    document->pages = std::make_unique<Ofd::PageStore>(1, page.area, [page](int) { return page; });
+    PackageMaker::Entries entries = PackageMaker::documentOf(1);
+    const QString page = "<Page><Area><PhysicalBox>0 0 100 100</PhysicalBox></Area><Content><Layer>"
+                         + square(fill, attributes) + "</Layer></Content></Page>";
+    entries[PackageMaker::pagePath(0)] = page.toUtf8();
+    entries["Doc_0/PublicRes.xml"] = "<Res>" + resources.toUtf8() + "</Res>";
+    const auto document = OfdFiles::read(PackageMaker::archive(entries));
+    document->page(0);
     return document;
 }
 
-void paint(const std::shared_ptr<const Ofd::Document> &document, QPaintDevice *device)
+/** The colour at a place of the page. */
+QColor colourAt(const std::shared_ptr<const Ofd::Document> &document, QPoint place)
 {
-    QPainter painter(device);
-    painter.scale(device->width() / 100.0, device->height() / 100.0);
-    Ofd::Painter(document).paint(painter, 0);
-}
-
-QImage painted(const std::shared_ptr<const Ofd::Document> &document)
-{
-    QImage image(side, side, QImage::Format_RGB32);
-    image.fill(Qt::white);
-    paint(document, &image);
-    return image;
-}
-
-bool isRefused(const Ofd::Document &document)
-{
-    try {
-        Ofd::checkExpansion(*document.page(0), document);
-        return false;
-    } catch (const Ofd::Fault &) {
-        return true;
-    }
+    return OfdFiles::painted(document).pixelColor(place * OfdFiles::pixelsPerMillimetre);
 }
 
 } // namespace
@@ -157,12 +127,12 @@ private Q_SLOTS:
     void shouldLeaveOutAndNameWhatCannotBePainted()
     {
         QFETCH(QString, fill);
-        const auto document = documentOf(fill);
-        QCOMPARE(document->unsupported.all().size(), 1);
-        QCOMPARE(painted(document).pixelColor(side / 2, side / 2), QColor(Qt::white));
-        const auto coloured = documentOf(fill, "Value='0 0 255'");
-        QCOMPARE(coloured->unsupported.all().size(), 1);
-        QCOMPARE(painted(coloured).pixelColor(side / 2, side / 2), QColor(Qt::blue));
+        for (const auto &[attributes, colour] :
+             {std::pair{"", Qt::white}, {"Value='0 0 255'", Qt::blue}}) {
+            const auto document = documentOf(fill, attributes);
+            QCOMPARE(document->unsupported.all().size(), 1);
+            QCOMPARE(colourAt(document, {50, 50}), QColor(colour));
+        }
     }
 
     void shouldPaintExtremeValuesInLimitedTime_data()
@@ -186,10 +156,9 @@ private Q_SLOTS:
     {
         QFETCH(QString, fill);
         const auto document = documentOf(fill);
-        QVERIFY(document->unsupported.isEmpty());
-        QVERIFY(!isRefused(*document));
+        QVERIFY(document->unsupported.isEmpty() && document->page(0)->fault.isNull());
         const std::clock_t start = std::clock();
-        const QColor colour = painted(document).pixelColor(side / 4, side / 2);
+        const QColor colour = colourAt(document, {25, 50});
         // Processor time, which does not depend on other programs; without limits it is hours.
         QVERIFY((std::clock() - start) / CLOCKS_PER_SEC < 20);
         QVERIFY2(colour.red() > 250 && colour.blue() < 10, qPrintable(colour.name()));
@@ -197,11 +166,14 @@ private Q_SLOTS:
 
     void shouldRefusePatternsWithoutEnd()
     {
-        QVERIFY(isRefused(*documentOf(nested(12))));
-        const auto circle = documentOf(pattern(
-            "Width='9' Height='9'", "<CompositeObject ResourceID='1' Boundary='0 0 9 9'/>"));
-        circle->resources.composites.insert("1", circle->page(0)->layers.first());
-        QVERIFY(isRefused(*circle));
+        QVERIFY(documentOf(nested(12))->page(0)->fault.contains("嵌套过深"));
+        const QString circle =
+            pattern("Width='9' Height='9'", "<CompositeObject ResourceID='1' Boundary='0 0 9 9'/>");
+        const QString unit = "<CompositeGraphicUnits><CompositeGraphicUnit ID='1' Width='100' "
+                             "Height='100'><Content>"
+                             + square(circle) + "</Content></CompositeGraphicUnit>"
+                             + "</CompositeGraphicUnits>";
+        QVERIFY(documentOf(circle, {}, unit)->page(0)->fault.contains("循环引用"));
     }
 
     /** Qt ignores the transforms of textures there. */
@@ -210,7 +182,10 @@ private Q_SLOTS:
         QBuffer file;
         file.open(QIODevice::WriteOnly);
         QPdfWriter writer(&file);
-        paint(documentOf(pattern("Width='9' Height='9'", square(axial(ends)))), &writer);
+        QPainter painter(&writer);
+        Ofd::Painter(documentOf(pattern("Width='9' Height='9'", square(axial(ends)))))
+            .paint(painter, 0);
+        painter.end();
         QVERIFY(file.data().contains("/Subtype /Image"));
         QVERIFY(!file.data().contains("/PatternType 1"));
     }

@@ -5,8 +5,10 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
@@ -19,43 +21,48 @@ public:
     {
         Enter,
         Escape,
+        Accept,
         Discard
     };
 
-    /** @param file What is typed into a file dialog: "*" for what it proposes, empty for none. */
-    explicit DialogUser(Answer answer, const QString &file = {})
+    /** @param text What is typed into a dialog; without it a file dialog is cancelled. */
+    explicit DialogUser(Answer answer, const QString &text = {})
     {
-        QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this, answer, file] {
+        QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this, answer, text] {
             QWidget *dialog = QApplication::activeModalWidget();
             if (auto *question = qobject_cast<QMessageBox *>(dialog)) {
-                ++questions;
-                lastText = question->text();
+                questions.append(question->text());
                 give(answer, question);
             } else if (auto *chooser = qobject_cast<QFileDialog *>(dialog)) {
-                ++choosers;
-                folder = chooser->directory().absolutePath();
-                choose(file, chooser);
+                proposals.append(chooser->selectedFiles().value(0));
+                choose(text, chooser);
+            } else if (auto *input = qobject_cast<QInputDialog *>(dialog)) {
+                input->findChild<QPlainTextEdit *>()->setPlainText(text);
+                input->accept();
             }
         });
         m_timer.start(50);
     }
 
-    int questions = 0;
-    int choosers = 0;
-    QString lastText; ///< Of the last question.
-    QString folder;   ///< Where the last file dialog began.
+    QStringList questions;
+    QStringList proposals; ///< Of each file dialog.
 
 private:
     static void give(Answer answer, QMessageBox *question)
     {
+        QWidget *focus = question->focusWidget();
+        QWidget *receiver = focus ? focus : question;
+        if (answer == Enter)
+            return QTest::keyClick(receiver, Qt::Key_Return);
+        if (answer == Escape)
+            return QTest::keyClick(receiver, Qt::Key_Escape);
+        const auto role = answer == Accept ? QMessageBox::AcceptRole : QMessageBox::DestructiveRole;
         const QList<QAbstractButton *> buttons = question->buttons();
         for (QAbstractButton *button : buttons) {
-            if (answer == Discard && question->buttonRole(button) == QMessageBox::DestructiveRole)
+            if (question->buttonRole(button) == role)
                 return button->click();
         }
-        QWidget *focus = question->focusWidget();
-        QTest::keyClick(focus ? focus : question,
-                        answer == Enter ? Qt::Key_Return : Qt::Key_Escape);
+        question->reject();
     }
 
     static void choose(const QString &file, QFileDialog *chooser)
@@ -63,8 +70,7 @@ private:
         if (file.isEmpty())
             return chooser->reject();
         auto *field = chooser->findChild<QLineEdit *>();
-        if (file != QLatin1String("*"))
-            field->setText(file);
+        field->setText(file);
         QTest::keyClick(field, Qt::Key_Return);
     }
 

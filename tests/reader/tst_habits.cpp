@@ -1,51 +1,29 @@
 // SPDX-FileCopyrightText: The MRToolBar authors
 // SPDX-License-Identifier: MIT
 
-#include "pages/PageView.h"
 #include "panels/NavigationPanel.h"
-#include "shell/Description.h"
 #include "shell/ReaderSettings.h"
-#include "shell/ReaderWindow.h"
 #include "shell/StartPage.h"
 #include "shell/WindowList.h"
+#include "tests/ofd/PackageMaker.h"
 #include "tests/reader/DialogUser.h"
+#include "tests/reader/ReaderHost.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QDropEvent>
-#include <QLineEdit>
 #include <QListWidget>
 #include <QMimeData>
 #include <QScreen>
 #include <QScrollBar>
-#include <QStackedWidget>
 #include <QStatusBar>
 #include <QTemporaryDir>
-#include <QTest>
+
+#include <algorithm>
+#include <array>
+
+using PackageMaker::bytesOf;
 
 namespace {
-
-QList<ReaderWindow *> windows()
-{
-    QList<ReaderWindow *> windows;
-    const QWidgetList widgets = QApplication::topLevelWidgets();
-    for (QWidget *widget : widgets) {
-        if (auto *window = qobject_cast<ReaderWindow *>(widget))
-            windows.append(window);
-    }
-    return windows;
-}
-
-/** Without a window manager the focus may still go to a window that was shown earlier. */
-bool activate(ReaderWindow *window)
-{
-    for (int attempt = 0; attempt < 50; ++attempt) {
-        window->activateWindow();
-        if (QTest::qWaitForWindowActive(window, 100))
-            return true;
-    }
-    return false;
-}
 
 /** A run of the program with its own description. */
 struct Run
@@ -54,7 +32,7 @@ struct Run
         : list(Description::read("reader", "marodi", &error), options())
     {
     }
-    ~Run() { qDeleteAll(windows()); }
+    ~Run() { qDeleteAll(ReaderWindow::all()); }
 
     static Options options()
     {
@@ -63,39 +41,21 @@ struct Run
         return options;
     }
     /** The only window, when it is active. */
-    ReaderWindow *window() const
-    {
-        ReaderWindow *window = windows().value(0);
-        return activate(window) ? window : nullptr;
-    }
-    ReaderWindow *open(const QStringList &files)
+    ReaderWindow *open(const QStringList &files = {})
     {
         list.open(files);
-        return window();
+        ReaderWindow *window = ReaderWindow::all().value(0);
+        return activate(*window) ? window : nullptr;
     }
 
     QString error;
     WindowList list;
 };
 
-QWidget *shownIn(const ReaderWindow *window)
-{
-    return qobject_cast<QStackedWidget *>(window->centralWidget())->currentWidget();
-}
-
 QString shownFile()
 {
     const auto *window = qobject_cast<ReaderWindow *>(QApplication::activeWindow());
     return window ? QFileInfo(window->fileName()).canonicalFilePath() : QString();
-}
-
-void addMark(ReaderWindow *window)
-{
-    const QWidgetList widgets = window->findChildren<QWidget *>();
-    for (QWidget *widget : widgets) {
-        if (widget->inherits("NewToolBar"))
-            QMetaObject::invokeMethod(widget, "DoActive", Q_ARG(QString, "ti_stamp"));
-    }
 }
 
 } // namespace
@@ -126,8 +86,8 @@ private Q_SLOTS:
         for (const char *name : {"text.ofd", "image.ofd", "paths.ofd"})
             ReaderSettings::shared()->addRecentFile(file(name));
         Run run;
-        ReaderWindow *window = run.open({});
-        auto *list = window->findChild<StartPage *>()->findChild<QListWidget *>();
+        const ReaderWindow *window = run.open();
+        QListWidget *list = recentFiles(*window);
         QTRY_COMPARE(QApplication::focusWidget(), list);
         QCOMPARE(list->count(), 3);
         QTest::keyClick(list, Qt::Key_Down);
@@ -137,12 +97,12 @@ private Q_SLOTS:
         QTest::keyClick(list, Qt::Key_Return);
         QTRY_COMPARE(window->fileName(), file("text.ofd"));
         auto *view = window->findChild<PageView *>();
-        QCOMPARE(shownIn(window), view);
+        QVERIFY(view->isVisible());
         QCOMPARE(QApplication::focusWidget(), view);
 
         QTest::keyClick(view, Qt::Key_W, Qt::ControlModifier);
-        QTRY_COMPARE(shownIn(window), window->findChild<StartPage *>());
-        QVERIFY(!window->hasDocument());
+        QTRY_VERIFY(list->isVisible());
+        QVERIFY(!view->isVisible() && !window->hasDocument());
         QCOMPARE(list->item(0)->text(), QString("text.ofd"));
     }
 
@@ -150,36 +110,36 @@ private Q_SLOTS:
     {
         ReaderSettings::shared()->addRecentFile(file("gone.ofd"));
         Run run;
-        ReaderWindow *window = run.open({});
-        auto *list = window->findChild<StartPage *>()->findChild<QListWidget *>();
-        DialogUser user(DialogUser::Enter);
+        const QListWidget *list = recentFiles(*run.open());
+        const DialogUser user(DialogUser::Enter);
         QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
                           list->visualItemRect(list->item(0)).center());
-        QTRY_COMPARE(user.questions, 1);
-        QVERIFY2(user.lastText.contains(file("gone.ofd")), qPrintable(user.lastText));
+        QTRY_COMPARE(user.questions.size(), 1);
+        QVERIFY2(user.questions.first().contains(file("gone.ofd")),
+                 qPrintable(user.questions.first()));
         QCOMPARE(ReaderSettings::shared()->recentFiles(), QStringList());
     }
 
     void shouldHaveOneWindowForEachFile()
     {
         Run run;
-        run.open({});
+        run.open();
         QDir().mkdir(file("sub"));
         QVERIFY(QFile::link(file("text.ofd"), file("sub/link.ofd")));
         const QList<QPair<QString, int>> rows{{"text.ofd", 1},        {"image.ofd", 2},
                                               {"sub/../text.ofd", 2}, {"sub/link.ofd", 2},
                                               {"paths.ofd", 3},       {"image.ofd", 3}};
         for (const auto &[name, count] : rows) {
-            run.list.open({file(name)}, windows().value(0));
-            QTRY_COMPARE(windows().size(), count);
+            run.list.open({file(name)}, ReaderWindow::all().value(0));
+            QTRY_COMPARE(ReaderWindow::all().size(), count);
             const QString path = QFileInfo(file(name)).canonicalFilePath();
             QTRY_COMPARE(shownFile(), path);
         }
-        const QList<ReaderWindow *> all = windows();
+        const QList<ReaderWindow *> all = ReaderWindow::all();
         for (ReaderWindow *window : all) {
-            QVERIFY(activate(window) && (window == all[2] || window->pos() != all[2]->pos()));
+            QVERIFY(activate(*window) && (window == all[2] || window->pos() != all[2]->pos()));
             QTest::keyClick(window->findChild<PageView *>(), Qt::Key_W, Qt::ControlModifier);
-            QTRY_COMPARE(windows().contains(window), window == all[2]);
+            QTRY_COMPARE(ReaderWindow::all().contains(window), window == all[2]);
         }
         QVERIFY(!all[2]->hasDocument());
     }
@@ -187,7 +147,7 @@ private Q_SLOTS:
     void shouldOpenAllFilesThatAreDropped()
     {
         Run run;
-        ReaderWindow *window = run.open({});
+        ReaderWindow *window = run.open();
         const DialogUser user(DialogUser::Enter);
         QMimeData data;
         data.setUrls({QUrl::fromLocalFile(file("text.ofd")), QUrl("http://example.invalid/x.ofd"),
@@ -197,7 +157,7 @@ private Q_SLOTS:
         QVERIFY(entering.isAccepted());
         QDropEvent dropping(QPoint(300, 300), Qt::CopyAction, &data, Qt::LeftButton, {});
         QApplication::sendEvent(window, &dropping);
-        QTRY_COMPARE(windows().size(), 2);
+        QTRY_COMPARE(ReaderWindow::all().size(), 2);
         QCOMPARE(window->fileName(), file("text.ofd"));
     }
 
@@ -205,57 +165,52 @@ private Q_SLOTS:
     {
         Run run;
         run.open({file("text.ofd")});
-        DialogUser user(DialogUser::Enter);
+        const DialogUser user(DialogUser::Enter);
         run.list.open({file("broken-truncated.ofd")});
-        QTRY_COMPARE(user.questions, 1);
-        QVERIFY(user.lastText.contains("broken-truncated.ofd"));
-        QTRY_COMPARE(windows().size(), 1);
-        QCOMPARE(windows().first()->fileName(), file("text.ofd"));
+        QTRY_COMPARE(user.questions.size(), 1);
+        QVERIFY(user.questions.first().contains("broken-truncated.ofd"));
+        QTRY_COMPARE(ReaderWindow::all().size(), 1);
+        QCOMPARE(ReaderWindow::all().first()->fileName(), file("text.ofd"));
         QCOMPARE(ReaderSettings::shared()->recentFiles(), QStringList(file("text.ofd")));
-    }
-
-    void shouldAskInEachWindowWhenItQuits_data()
-    {
-        QTest::addColumn<int>("answer");
-        QTest::addColumn<int>("questions");
-        QTest::addColumn<int>("left");
-        QTest::newRow("cancelled") << int(DialogUser::Escape) << 1 << 3;
-        QTest::newRow("discarded") << int(DialogUser::Discard) << 2 << 0;
     }
 
     void shouldAskInEachWindowWhenItQuits()
     {
-        QFETCH(const int, answer);
-        Run run;
-        run.list.open({file("text.ofd"), file("image.ofd"), file("paths.ofd")});
-        const QList<ReaderWindow *> all = windows();
-        QCOMPARE(all.size(), 3);
-        addMark(all.at(0));
-        addMark(all.at(2));
-        QTRY_VERIFY(all.at(0)->isWindowModified() && all.at(2)->isWindowModified());
-        QVERIFY(activate(all.at(1)));
-        DialogUser user(DialogUser::Answer(answer), {});
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Q, Qt::ControlModifier);
-        QTEST(user.questions, "questions");
-        QTest::qWait(50);
-        QTEST(int(windows().size()), "left");
+        const QList<std::tuple<DialogUser::Answer, int, int>> rows{
+            // The answer, how often it is asked for, and how many windows are left.
+            {DialogUser::Escape, 1, 3},
+            {DialogUser::Discard, 2, 0}};
+        for (const auto &[answer, questions, left] : rows) {
+            Run run;
+            run.list.open({file("text.ofd"), file("image.ofd"), file("paths.ofd")});
+            const QList<ReaderWindow *> all = ReaderWindow::all();
+            QCOMPARE(all.size(), 3);
+            choose(*all.at(0), "ti_stamp");
+            choose(*all.at(2), "ti_stamp");
+            QTRY_VERIFY(all.at(0)->isWindowModified() && all.at(2)->isWindowModified());
+            QVERIFY(activate(*all.at(1)));
+            const DialogUser user(answer);
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Q, Qt::ControlModifier);
+            QCOMPARE(user.questions.size(), questions);
+            const auto isOpen = [](const ReaderWindow *window) { return window->isVisible(); };
+            QCOMPARE(int(std::count_if(all.begin(), all.end(), isOpen)), left);
+        }
     }
 
     void shouldComeBackAsItWasLeft()
     {
-        QRect place;
+        const QRect place(120, 90, 900, 640);
         int top = 0;
         {
             Run run;
             ReaderWindow *window = run.open({file("text.ofd")});
-            window->setGeometry(120, 90, 900, 640);
+            window->setGeometry(place);
             auto *view = window->findChild<PageView *>();
             view->setZoomMode(ZoomMode(137));
             view->setLayoutMode(LayoutMode::SingleFlow);
             view->setCurrentPage(1);
             window->findChild<NavigationPanel *>()->toggle("vn_thumbnail");
-            QTest::qWait(50);
-            place = window->geometry();
+            QTRY_COMPARE(window->geometry(), place);
             top = view->verticalScrollBar()->value();
             QVERIFY(window->close());
         }
@@ -263,7 +218,7 @@ private Q_SLOTS:
         QVERIFY(QFile::link(file("text.ofd"), file("link.ofd")));
         Run run;
         ReaderWindow *window = run.open({file("link.ofd")});
-        auto *view = window->findChild<PageView *>();
+        const auto *view = window->findChild<PageView *>();
         QTRY_COMPARE(window->geometry(), place);
         QVERIFY(view->currentPage() == 1 && view->layoutMode() == LayoutMode::SingleFlow);
         QVERIFY(qRound(view->percent()) == 137 && view->verticalScrollBar()->value() == top);
@@ -293,7 +248,7 @@ private Q_SLOTS:
         outside.setGeometry(5000, 4000, 900, 640);
         ReaderSettings::shared()->setGeometry(outside.saveGeometry());
         Run run;
-        const ReaderWindow *window = run.open({});
+        const ReaderWindow *window = run.open();
         const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
         QTRY_VERIFY(screen.contains(window->geometry()));
         ReaderSettings::shared()->setGeometry("nonsense");
@@ -306,16 +261,13 @@ private Q_SLOTS:
         {
             Run run;
             run.list.open({file("text.ofd"), file("image.ofd")});
-            QCOMPARE(windows().size(), 2);
-            QWidget *bar = nullptr;
-            const auto widgets = windows().first()->findChildren<QWidget *>();
-            for (QWidget *widget : widgets)
-                bar = widget->inherits("NewToolBar") ? widget : bar;
-            QMetaObject::invokeMethod(bar, "DoActive", Q_ARG(QString, "r_scheme_dark"));
+            const QList<ReaderWindow *> all = ReaderWindow::all();
+            QCOMPARE(all.size(), 2);
+            choose(*all.first(), "r_scheme_dark");
             QTRY_VERIFY(QApplication::palette().window().color().lightness() < 80);
-            for (const ReaderWindow *window : windows()) {
-                auto *row = window->findChild<QWidget *>("mrtoolbar");
-                QTRY_VERIFY(row->grab().toImage().pixelColor(4, 60).lightness() < 80);
+            for (const ReaderWindow *window : all) {
+                auto *bar = window->findChild<QWidget *>("mrtoolbar");
+                QTRY_VERIFY(bar->grab().toImage().pixelColor(4, 60).lightness() < 80);
             }
         }
         {
@@ -330,7 +282,7 @@ private Q_SLOTS:
     void shouldSayThatThereIsNoSuchPage()
     {
         Run run;
-        ReaderWindow *window = run.open({file("text.ofd")});
+        const ReaderWindow *window = run.open({file("text.ofd")});
         auto *view = window->findChild<PageView *>();
         const QList<std::tuple<const char *, int, bool, bool>> rows{
             // What is typed, the page then, whether Return ends it, and whether a sentence is said.
@@ -353,47 +305,38 @@ private Q_SLOTS:
         }
     }
 
-    void shouldSaveBesideTheDocumentAsTheSuffixSays_data()
-    {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QString>("written");
-        QTest::addColumn<QByteArray>("begin");
-        QTest::newRow("kept") << QString() << QString() << QByteArray();
-        QTest::newRow("text") << "a.txt"
-                              << "a.txt" << QByteArray("");
-        QTest::newRow("PDF") << "a.pdf"
-                             << "a.pdf" << QByteArray("%PDF");
-        QTest::newRow("no suffix") << "a"
-                                   << "a.ofd" << QByteArray("PK");
-        QTest::newRow("part of the name") << "version 1.2"
-                                          << "version 1.2.ofd" << QByteArray("PK");
-    }
-
     void shouldSaveBesideTheDocumentAsTheSuffixSays()
     {
-        QFETCH(const QString, typed);
-        QFETCH(const QString, written);
-        QFETCH(const QByteArray, begin);
-        Run run;
-        ReaderWindow *window = run.open({file("text.ofd")});
-        addMark(window);
-        QTRY_VERIFY(window->isWindowModified());
-        DialogUser user(DialogUser::Enter, typed);
-        QTest::keyClick(window->findChild<PageView *>(), Qt::Key_S,
-                        Qt::ControlModifier | Qt::ShiftModifier);
-        QTRY_COMPARE(user.choosers, 1);
-        QCOMPARE(user.folder, m_files->path());
-        if (written.isEmpty())
-            return;
-        QTRY_VERIFY(QFileInfo(file(written)).size() > 0);
-        QFile saved(file(written));
-        QVERIFY(saved.open(QIODevice::ReadOnly) && saved.readAll().startsWith(begin));
-        QTest::qWait(50);
-        QCOMPARE(window->isWindowModified(), !written.endsWith(".ofd"));
+        const QList<std::array<const char *, 3>> rows{
+            // What is typed, the file that is written, and how that begins.
+            {"", "", ""},
+            {"a.txt", "a.txt", ""},
+            {"a.pdf", "a.pdf", "%PDF"},
+            {"a", "a.ofd", "PK"},
+            {"version 1.2", "version 1.2.ofd", "PK"}};
+        for (const auto &[typed, written, begin] : rows) {
+            Run run;
+            const ReaderWindow *window = run.open({file("text.ofd")});
+            choose(*window, "ti_stamp");
+            QTRY_VERIFY(window->isWindowModified());
+            const DialogUser user(DialogUser::Enter, typed);
+            QTest::keyClick(window->findChild<PageView *>(), Qt::Key_S,
+                            Qt::ControlModifier | Qt::ShiftModifier);
+            QTRY_COMPARE(user.proposals.size(), 1);
+            QCOMPARE(QFileInfo(user.proposals.first()).path(), m_files->path());
+            QTRY_VERIFY(!*written || !bytesOf(file(written)).isEmpty());
+            QVERIFY(bytesOf(file(written)).startsWith(begin));
+            // Only an OFD file has the mark.
+            QTRY_COMPARE(window->isWindowModified(), !QString(written).endsWith(".ofd"));
+        }
     }
 
 private:
     QString file(const QString &name) const { return m_files->filePath(name); }
+    static QListWidget *recentFiles(const ReaderWindow &window)
+    {
+        return window.findChild<StartPage *>()->findChild<QListWidget *>();
+    }
 
     const QTemporaryDir m_config;
     std::unique_ptr<QTemporaryDir> m_files;

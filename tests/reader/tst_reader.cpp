@@ -1,39 +1,30 @@
 // SPDX-FileCopyrightText: The MRToolBar authors
 // SPDX-License-Identifier: MIT
 
-#include "pages/PageView.h"
-#include "shell/Description.h"
-#include "shell/ReaderWindow.h"
 #include "tests/reader/DialogUser.h"
+#include "tests/reader/ReaderHost.h"
 
 #include <toolbar/NewToolBar.h>
 
 #include <QAccessible>
-#include <QApplication>
 #include <QClipboard>
-#include <QDomDocument>
 #include <QFileInfo>
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QSet>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QToolBar>
 
 namespace {
 
-/** The reader with a shipped description, in the active window. */
-struct Reader
+/** The reader with the sample, used by keys. */
+struct Reader : ReaderHost
 {
-    explicit Reader(const QString &skin)
-        : window(Description::read("release", skin, &error), QString())
+    explicit Reader(const QString &skin = "marodi")
+        : ReaderHost("release", skin)
     {
         window.openSample();
-        window.show();
-        window.activateWindow();
-        QGuiApplication::sync(); // An earlier window may still be told of its end.
-        QVERIFY(QTest::qWaitForWindowActive(&window));
-        QTRY_VERIFY(view->hasFocus());
+        show();
     }
 
     /** Sends a key to the focus widget, as the window system does. */
@@ -58,10 +49,6 @@ struct Reader
     {
         return window.findChild<QToolBar *>()->isAncestorOf(QApplication::focusWidget());
     }
-
-    QString error;
-    ReaderWindow window;
-    PageView *view = window.findChild<PageView *>();
 };
 
 } // namespace
@@ -163,17 +150,13 @@ private Q_SLOTS:
         for (const auto &[answer, file, isSaved, isClosed] : rows) {
             const QTemporaryDir folder;
             const QString path = folder.filePath(file);
-            Reader reader("marodi");
-            const QWidgetList widgets = reader.window.findChildren<QWidget *>();
-            for (QWidget *widget : widgets) {
-                if (widget->inherits("NewToolBar"))
-                    QMetaObject::invokeMethod(widget, "DoActive", Q_ARG(QString, "ti_stamp"));
-            }
+            Reader reader;
+            choose(reader.window, "ti_stamp");
             QTRY_VERIFY(reader.window.isWindowModified());
             const DialogUser user(answer, *file ? path : QString());
             QCOMPARE(reader.window.close(), isClosed);
-            QCOMPARE(user.questions, 1);
-            QCOMPARE(user.choosers, answer == DialogUser::Enter ? 1 : 0);
+            QCOMPARE(user.questions.size(), 1);
+            QCOMPARE(user.proposals.size(), answer == DialogUser::Enter ? 1 : 0);
             QCOMPARE(reader.window.isVisible(), !isClosed);
             QCOMPARE(QFileInfo(path).isFile() && QFileInfo(path).size() > 0, isSaved);
             QTRY_COMPARE(reader.window.isWindowModified(), !isSaved || !isClosed);

@@ -1,12 +1,10 @@
 // SPDX-FileCopyrightText: The MRToolBar authors
 // SPDX-License-Identifier: MIT
 
-#include "pages/PageView.h"
 #include "panels/SearchPanel.h"
 #include "shell/BodyChooser.h"
-#include "shell/Description.h"
-#include "shell/ReaderWindow.h"
 #include "tests/ofd/PackageMaker.h"
+#include "tests/reader/ReaderHost.h"
 
 #include <QLabel>
 #include <QListWidget>
@@ -14,9 +12,9 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScrollBar>
-#include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QTest>
+
+#include <array>
 
 namespace {
 
@@ -65,53 +63,36 @@ class ReaderPagesTest : public QObject
 {
     Q_OBJECT
 
-private:
-    QTemporaryDir m_folder;
-    QString m_long = m_folder.filePath("long.ofd");
-    QString m_short = m_folder.filePath("short.ofd");
-
 private Q_SLOTS:
     void initTestCase()
     {
-        QVERIFY(PackageMaker::write(m_long, PackageMaker::documentOf(manyPages)));
+        write(m_long, PackageMaker::documentOf(manyPages));
         PackageMaker::Entries entries = PackageMaker::documentOf(9);
         for (const int page : {1, 4, 7})
             entries[PackageMaker::pagePath(page)] = PackageMaker::pageOf("needle");
         entries.remove(PackageMaker::pagePath(5));
-        QVERIFY(PackageMaker::write(m_short, entries));
-    }
-
-    void shouldBeginAtTheCurrentPage_data()
-    {
-        QTest::addColumn<int>("from");
-        QTest::addColumn<bool>("isDown");
-        QTest::addColumn<int>("first");
-        QTest::addColumn<int>("current");
-        QTest::newRow("down, on a page with hits") << 4 << true << 5 << 5;
-        QTest::newRow("down, between") << 2 << true << 5 << 5;
-        QTest::newRow("down, after the last hit") << 8 << true << 2 << 2;
-        QTest::newRow("up, on a page with hits") << 4 << false << 5 << 5;
-        QTest::newRow("up, between") << 6 << false << 5 << 5;
-        QTest::newRow("up, before the first hit") << 0 << false << 8 << 8;
+        write(m_short, entries);
     }
 
     void shouldBeginAtTheCurrentPage()
     {
-        QFETCH(int, from);
-        QFETCH(bool, isDown);
-        QFETCH(int, first);
-        Finder finder(m_short);
-        finder.view.setCurrentPage(from);
-        finder.find("needle", isDown);
-        QTRY_VERIFY(!finder.search.isActive());
-        QCOMPARE(finder.list->count(), 12);
-        QCOMPARE(finder.currentPage(), first);
-        QCOMPARE(finder.view.currentPage(), first - 1);
-        // Four hits further is the next page with hits, from the last one to the first.
-        for (int i = 0; i < 4; ++i)
+        const QList<std::tuple<int, bool, int>> rows{
+            // The page on show, whether the search goes down, and the number of the first page.
+            {4, true, 5}, {2, true, 5}, {8, true, 2}, {4, false, 5}, {6, false, 5}, {0, false, 8}};
+        for (const auto &[from, isDown, first] : rows) {
+            Finder finder(m_short);
+            finder.view.setCurrentPage(from);
             finder.find("needle", isDown);
-        const QList<int> order = isDown ? QList<int>{2, 5, 8} : QList<int>{8, 5, 2};
-        QCOMPARE(finder.currentPage(), order.at((order.indexOf(first) + 1) % 3));
+            QTRY_VERIFY(!finder.search.isActive());
+            QCOMPARE(finder.list->count(), 12);
+            QCOMPARE(finder.currentPage(), first);
+            QCOMPARE(finder.view.currentPage(), first - 1);
+            // Four hits further is the next page with hits, from the last one to the first.
+            for (int i = 0; i < 4; ++i)
+                finder.find("needle", isDown);
+            const QList<int> order = isDown ? QList<int>{2, 5, 8} : QList<int>{8, 5, 2};
+            QCOMPARE(finder.currentPage(), order.at((order.indexOf(first) + 1) % 3));
+        }
     }
 
     void shouldShowHitsWhileItGoesOn()
@@ -145,11 +126,11 @@ private Q_SLOTS:
         const int count = finder.list->count();
         QVERIFY(count > 0 && count < 4 * manyPages);
         QVERIFY2(finder.label->text().contains("只查找了"), qPrintable(finder.label->text()));
-        QTest::qWait(200);
-        QCOMPARE(finder.list->count(), count);
         // The same question goes to the next of the hits that there are.
         finder.find("number");
+        QCoreApplication::processEvents();
         QVERIFY(!finder.search.isActive());
+        QCOMPARE(finder.list->count(), count);
         QCOMPARE(finder.list->currentRow(), 1);
     }
 
@@ -161,10 +142,10 @@ private Q_SLOTS:
         QString error;
         QVERIFY(finder.document.open(m_short, &error));
         QVERIFY(!finder.search.isActive());
-        QSignalSpy found(&finder.panel, &SearchPanel::found);
-        QTest::qWait(200);
         QCOMPARE(finder.list->count(), 0);
-        QVERIFY(found.isEmpty());
+        finder.find("needle");
+        QTRY_VERIFY(!finder.search.isActive());
+        QCOMPARE(finder.list->count(), 12);
     }
 
     void shouldForgetTheSearchBefore()
@@ -189,7 +170,7 @@ private Q_SLOTS:
         for (int page = 300; page < 300 + taller; ++page)
             entries[PackageMaker::pagePath(page)] = PackageMaker::pageOf("tall", "0 0 210 594");
         const QString file = m_folder.filePath("sizes.ofd");
-        QVERIFY(PackageMaker::write(file, entries));
+        write(file, entries);
         Finder finder(file);
         finder.view.setLayoutMode(LayoutMode::SingleFlow);
         finder.view.setZoomMode(ZoomMode(100));
@@ -234,35 +215,49 @@ private Q_SLOTS:
         QByteArray body = entries["OFD.xml"];
         body = body.mid(body.indexOf("<ofd:DocBody>"));
         body.truncate(body.indexOf("</ofd:OFD>"));
-        entries["OFD.xml"].replace("</ofd:OFD>", QByteArray(body).replace("Doc_0", "Doc_1")
-                                                     + QByteArray(body).replace("Doc_0", "Doc_2")
-                                                     + "</ofd:OFD>");
+        QByteArray untitled = body;
+        untitled.replace("Doc_0", "Doc_1").replace("<ofd:Title>First</ofd:Title>", "");
+        const QByteArray damaged = QByteArray(body).replace("Doc_0", "Doc_2");
+        entries["OFD.xml"].replace("</ofd:OFD>", untitled + damaged + "</ofd:OFD>");
         const QByteArray root = entries["Doc_0/Document.xml"];
         entries["Doc_1/Document.xml"] = QByteArray(root).replace("0 0 210 297", "0 0 70 99");
         entries["Doc_2/Document.xml"] = "damaged";
         const QString file = m_folder.filePath("several.ofd");
-        QVERIFY(PackageMaker::write(file, entries));
-        QString error;
-        ReaderWindow window(Description::read("release", "marodi", &error), QString());
-        auto *chooser = window.findChild<BodyChooser *>();
-        const auto *place = window.findChild<PageView *>();
-        window.openOrExplain(m_short, &error);
-        window.show();
+        write(file, entries);
+        ReaderHost reader;
+        auto *chooser = reader.window.findChild<BodyChooser *>();
+        reader.window.open(m_short);
+        reader.window.show();
         QVERIFY(!chooser->isVisible());
-        window.openOrExplain(file, &error);
+        QString error;
+        reader.window.openOrExplain(file, &error);
         QVERIFY2(error.isEmpty(), qPrintable(error));
         QVERIFY(chooser->isVisible() && chooser->count() == 3 && chooser->currentIndex() == 0);
-        const qreal before = place->percent();
+        QVERIFY(chooser->itemText(0).endsWith("First") && chooser->itemText(1).endsWith("文档 2"));
+        const qreal before = reader.view->percent();
         Q_EMIT chooser->bodyChosen(1);
         QCOMPARE(chooser->currentIndex(), 1);
-        QVERIFY(place->percent() > before);
-        // The damaged one is refused, and the open one stays.
-        Q_EMIT chooser->bodyChosen(2);
-        QCOMPARE(chooser->currentIndex(), 1);
-        auto *refusal = window.findChild<QMessageBox *>();
-        QVERIFY(refusal && refusal->isVisible());
-        refusal->close();
+        QVERIFY(reader.view->percent() > before);
+        // The damaged one and those that are not there are refused, and the open one stays.
+        for (const int body : {2, 3}) {
+            Q_EMIT chooser->bodyChosen(body);
+            QCOMPARE(chooser->currentIndex(), 1);
+            auto *refusal = reader.window.findChild<QMessageBox *>();
+            QVERIFY(refusal && refusal->isVisible());
+            refusal->close();
+            QTRY_VERIFY(!reader.window.findChild<QMessageBox *>());
+        }
     }
+
+private:
+    static void write(const QString &fileName, const PackageMaker::Entries &entries)
+    {
+        QVERIFY(PackageMaker::write(fileName, PackageMaker::archive(entries)));
+    }
+
+    const QTemporaryDir m_folder;
+    const QString m_long = m_folder.filePath("long.ofd");
+    const QString m_short = m_folder.filePath("short.ofd");
 };
 
 QTEST_MAIN(ReaderPagesTest)
