@@ -672,6 +672,14 @@
         <translation>Outline;Show or hide the outline of the document</translation>
     </message>
     <message>
+        <source>书签</source>
+        <translation>Bookmarks</translation>
+    </message>
+    <message>
+        <source>书签;显示书签，为当前页添加书签</source>
+        <translation>Bookmarks;Show the bookmarks, and add one for the current page</translation>
+    </message>
+    <message>
         <source>批注</source>
         <translation>Annotations</translation>
     </message>
@@ -690,6 +698,90 @@
     <message>
         <source>全屏;隐藏窗口边框全屏阅读</source>
         <translation>Full screen;Read without the frame of the window</translation>
+    </message>
+    <message>
+        <source>注释</source>
+        <translation>Annotate</translation>
+    </message>
+    <message>
+        <source>高亮;拖过文字以高亮显示</source>
+        <translation>Highlight;Drag over text to highlight it</translation>
+    </message>
+    <message>
+        <source>下划线;拖过文字以加下划线</source>
+        <translation>Underline;Drag over text to underline it</translation>
+    </message>
+    <message>
+        <source>删除线</source>
+        <translation>Strikeout</translation>
+    </message>
+    <message>
+        <source>删除线;拖过文字以加删除线</source>
+        <translation>Strikeout;Drag over text to strike it out</translation>
+    </message>
+    <message>
+        <source>便签</source>
+        <translation>Note</translation>
+    </message>
+    <message>
+        <source>便签;单击页面以添加便签</source>
+        <translation>Note;Click on the page to add a note</translation>
+    </message>
+    <message>
+        <source>文本框</source>
+        <translation>Text box</translation>
+    </message>
+    <message>
+        <source>文本框;单击页面以添加文字</source>
+        <translation>Text box;Click on the page to add text</translation>
+    </message>
+    <message>
+        <source>铅笔</source>
+        <translation>Pencil</translation>
+    </message>
+    <message>
+        <source>铅笔;按住鼠标左键在页面上书写</source>
+        <translation>Pencil;Hold the left mouse button and write on the page</translation>
+    </message>
+    <message>
+        <source>橡皮</source>
+        <translation>Eraser</translation>
+    </message>
+    <message>
+        <source>橡皮;擦除手写的笔迹</source>
+        <translation>Eraser;Erase handwriting</translation>
+    </message>
+    <message>
+        <source>直线</source>
+        <translation>Line</translation>
+    </message>
+    <message>
+        <source>直线;拖动以画直线</source>
+        <translation>Line;Drag to draw a line</translation>
+    </message>
+    <message>
+        <source>箭头</source>
+        <translation>Arrow</translation>
+    </message>
+    <message>
+        <source>箭头;拖动以画箭头</source>
+        <translation>Arrow;Drag to draw an arrow</translation>
+    </message>
+    <message>
+        <source>矩形</source>
+        <translation>Rectangle</translation>
+    </message>
+    <message>
+        <source>矩形;拖动以画矩形</source>
+        <translation>Rectangle;Drag to draw a rectangle</translation>
+    </message>
+    <message>
+        <source>椭圆</source>
+        <translation>Ellipse</translation>
+    </message>
+    <message>
+        <source>椭圆;拖动以画椭圆</source>
+        <translation>Ellipse;Drag to draw an ellipse</translation>
     </message>
     <message>
         <source>复制</source>

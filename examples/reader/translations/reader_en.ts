@@ -36,6 +36,18 @@
         <source>擦除笔迹</source>
         <translation>Erase ink</translation>
     </message>
+    <message>
+        <source>第 %1 页</source>
+        <translation>Page %1</translation>
+    </message>
+    <message>
+        <source>添加书签</source>
+        <translation>Add Bookmark</translation>
+    </message>
+    <message>
+        <source>删除书签</source>
+        <translation>Delete Bookmark</translation>
+    </message>
 </context>
 <context>
     <name>EditCommands</name>
@@ -99,6 +111,22 @@
         <source>删除批注</source>
         <translation>Delete annotation</translation>
     </message>
+    <message>
+        <source>已选择全部 %1 页的文字</source>
+        <translation>Selected the text of all %1 pages</translation>
+    </message>
+    <message>
+        <source>正在复制：第 %1 / %2 页</source>
+        <translation>Copying: page %1 of %2</translation>
+    </message>
+    <message>
+        <source>没有可以复制的文字</source>
+        <translation>There is no text to copy</translation>
+    </message>
+    <message>
+        <source>已复制 %1 个字</source>
+        <translation>Copied %1 characters</translation>
+    </message>
 </context>
 <context>
     <name>Export</name>
@@ -109,6 +137,10 @@
     <message>
         <source>文本文件中不含批注</source>
         <translation>A text file holds no annotations</translation>
+    </message>
+    <message>
+        <source>书签只能保存到 OFD 文件中</source>
+        <translation>Bookmarks can be saved in OFD files only</translation>
     </message>
 </context>
 <context>
@@ -242,10 +274,6 @@ F11: full screen</translation>
         <translation>Saved: %1. The rotation of pages is for viewing only and is not written</translation>
     </message>
     <message>
-        <source>本文件有电子签名，写入批注后签名可能不再有效。要继续保存吗？</source>
-        <translation>This file has electronic signatures, which annotations may make invalid. Save it all the same?</translation>
-    </message>
-    <message>
         <source>已打印；本文件每次最多打印 %1 份</source>
         <translation>Printed; copies of this file allowed at a time: %1</translation>
     </message>
@@ -256,6 +284,14 @@ F11: full screen</translation>
     <message>
         <source>替换</source>
         <translation>Replace</translation>
+    </message>
+    <message>
+        <source>批注还没有存入 OFD 文件</source>
+        <translation>The annotations are not yet saved in an OFD file</translation>
+    </message>
+    <message>
+        <source>本文件有电子签名，写入修改后签名可能不再有效。要继续保存吗？</source>
+        <translation>This file is signed. Once the changes are written, the signatures may no longer be valid. Save it anyway?</translation>
     </message>
 </context>
 <context>
@@ -376,17 +412,6 @@ F11: full screen</translation>
     <message>
         <source>手写设置…</source>
         <translation>Handwriting settings…</translation>
-    </message>
-</context>
-<context>
-    <name>KeyboardReach</name>
-    <message>
-        <source>工具栏现在没有可用的页码框</source>
-        <translation>The toolbar has no page field to go to now</translation>
-    </message>
-    <message>
-        <source>工具栏现在没有可用的缩放框</source>
-        <translation>The toolbar has no zoom box to go to now</translation>
     </message>
 </context>
 <context>
@@ -592,6 +617,18 @@ F11: full screen</translation>
         <source>第 %1 页</source>
         <translation>Page %1</translation>
     </message>
+    <message>
+        <source>这条批注是只读的，不能编辑或删除</source>
+        <translation>This annotation is read-only and cannot be edited or deleted</translation>
+    </message>
+    <message>
+        <source>不可见</source>
+        <translation>Hidden</translation>
+    </message>
+    <message>
+        <source>只读</source>
+        <translation>Read-only</translation>
+    </message>
 </context>
 <context>
     <name>NavigationPanel</name>
@@ -636,10 +673,6 @@ F11: full screen</translation>
         <translation>%1 (%2)</translation>
     </message>
     <message>
-        <source>第 %1 页</source>
-        <translation>Page %1</translation>
-    </message>
-    <message>
         <source>还没有书签</source>
         <translation>No bookmarks yet</translation>
     </message>
@@ -666,6 +699,10 @@ F11: full screen</translation>
     <message>
         <source>附件另存为…</source>
         <translation>Save attachment as…</translation>
+    </message>
+    <message>
+        <source>删除书签</source>
+        <translation>Delete bookmark</translation>
     </message>
 </context>
 <context>
@@ -1030,6 +1067,18 @@ F11: full screen</translation>
         <source>包内的批注文件不是正确的 XML。</source>
         <translation>A file of annotations in the package is no correct XML.</translation>
     </message>
+    <message>
+        <source>过多的链接</source>
+        <translation>Too many links</translation>
+    </message>
+    <message>
+        <source>无法打开的文档（%1）</source>
+        <translation>documents that cannot be opened (%1)</translation>
+    </message>
+    <message>
+        <source>包内文件“%1”的编码“%2”不受支持。</source>
+        <translation>The encoding “%2” of the file “%1” in the package is not supported.</translation>
+    </message>
 </context>
 <context>
     <name>OfdFile</name>
@@ -1070,12 +1119,71 @@ F11: full screen</translation>
     </message>
 </context>
 <context>
+    <name>PageMenu</name>
+    <message>
+        <source>复制</source>
+        <translation>Copy</translation>
+    </message>
+    <message>
+        <source>高亮</source>
+        <translation>Highlight</translation>
+    </message>
+    <message>
+        <source>下划线</source>
+        <translation>Underline</translation>
+    </message>
+    <message>
+        <source>删除线</source>
+        <translation>Strikeout</translation>
+    </message>
+    <message>
+        <source>取消选择</source>
+        <translation>Deselect</translation>
+    </message>
+    <message>
+        <source>后退</source>
+        <translation>Back</translation>
+    </message>
+    <message>
+        <source>前进</source>
+        <translation>Forward</translation>
+    </message>
+    <message>
+        <source>全选</source>
+        <translation>Select all</translation>
+    </message>
+    <message>
+        <source>放大</source>
+        <translation>Zoom in</translation>
+    </message>
+    <message>
+        <source>缩小</source>
+        <translation>Zoom out</translation>
+    </message>
+    <message>
+        <source>适合宽度</source>
+        <translation>Fit width</translation>
+    </message>
+    <message>
+        <source>适合页面</source>
+        <translation>Fit page</translation>
+    </message>
+    <message>
+        <source>属性</source>
+        <translation>Properties</translation>
+    </message>
+</context>
+<context>
     <name>PageView</name>
     <message>
         <source>没有打开的文档
 按 Ctrl+O 打开一个文件</source>
         <translation>No document is open
 Press Ctrl+O to open a file</translation>
+    </message>
+    <message>
+        <source>第 %1 页</source>
+        <translation>Page %1</translation>
     </message>
 </context>
 <context>
@@ -1177,6 +1285,14 @@ Press Ctrl+O to open a file</translation>
     <message>
         <source>没有这一页：共 %1 页</source>
         <translation>No such page: the last one is page %1</translation>
+    </message>
+    <message>
+        <source>转到第几页（共 %1 页）</source>
+        <translation>Go to which page (of %1)</translation>
+    </message>
+    <message>
+        <source>显示比例（%）</source>
+        <translation>Zoom (%)</translation>
     </message>
 </context>
 <context>

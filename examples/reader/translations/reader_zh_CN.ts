@@ -36,6 +36,18 @@
         <source>擦除笔迹</source>
         <translation>擦除笔迹</translation>
     </message>
+    <message>
+        <source>第 %1 页</source>
+        <translation>第 %1 页</translation>
+    </message>
+    <message>
+        <source>添加书签</source>
+        <translation>添加书签</translation>
+    </message>
+    <message>
+        <source>删除书签</source>
+        <translation>删除书签</translation>
+    </message>
 </context>
 <context>
     <name>EditCommands</name>
@@ -99,6 +111,22 @@
         <source>删除批注</source>
         <translation>删除批注</translation>
     </message>
+    <message>
+        <source>已选择全部 %1 页的文字</source>
+        <translation>已选择全部 %1 页的文字</translation>
+    </message>
+    <message>
+        <source>正在复制：第 %1 / %2 页</source>
+        <translation>正在复制：第 %1 / %2 页</translation>
+    </message>
+    <message>
+        <source>没有可以复制的文字</source>
+        <translation>没有可以复制的文字</translation>
+    </message>
+    <message>
+        <source>已复制 %1 个字</source>
+        <translation>已复制 %1 个字</translation>
+    </message>
 </context>
 <context>
     <name>Export</name>
@@ -109,6 +137,10 @@
     <message>
         <source>文本文件中不含批注</source>
         <translation>文本文件中不含批注</translation>
+    </message>
+    <message>
+        <source>书签只能保存到 OFD 文件中</source>
+        <translation>书签只能保存到 OFD 文件中</translation>
     </message>
 </context>
 <context>
@@ -242,10 +274,6 @@ F11：全屏</translation>
         <translation>已保存：%1。页面的旋转只用于查看，不写入文件</translation>
     </message>
     <message>
-        <source>本文件有电子签名，写入批注后签名可能不再有效。要继续保存吗？</source>
-        <translation>本文件有电子签名，写入批注后签名可能不再有效。要继续保存吗？</translation>
-    </message>
-    <message>
         <source>已打印；本文件每次最多打印 %1 份</source>
         <translation>已打印；本文件每次最多打印 %1 份</translation>
     </message>
@@ -256,6 +284,14 @@ F11：全屏</translation>
     <message>
         <source>替换</source>
         <translation>替换</translation>
+    </message>
+    <message>
+        <source>批注还没有存入 OFD 文件</source>
+        <translation>批注还没有存入 OFD 文件</translation>
+    </message>
+    <message>
+        <source>本文件有电子签名，写入修改后签名可能不再有效。要继续保存吗？</source>
+        <translation>本文件有电子签名，写入修改后签名可能不再有效。要继续保存吗？</translation>
     </message>
 </context>
 <context>
@@ -376,17 +412,6 @@ F11：全屏</translation>
     <message>
         <source>手写设置…</source>
         <translation>手写设置…</translation>
-    </message>
-</context>
-<context>
-    <name>KeyboardReach</name>
-    <message>
-        <source>工具栏现在没有可用的页码框</source>
-        <translation>工具栏现在没有可用的页码框</translation>
-    </message>
-    <message>
-        <source>工具栏现在没有可用的缩放框</source>
-        <translation>工具栏现在没有可用的缩放框</translation>
     </message>
 </context>
 <context>
@@ -592,6 +617,18 @@ F11：全屏</translation>
         <source>第 %1 页</source>
         <translation>第 %1 页</translation>
     </message>
+    <message>
+        <source>这条批注是只读的，不能编辑或删除</source>
+        <translation>这条批注是只读的，不能编辑或删除</translation>
+    </message>
+    <message>
+        <source>不可见</source>
+        <translation>不可见</translation>
+    </message>
+    <message>
+        <source>只读</source>
+        <translation>只读</translation>
+    </message>
 </context>
 <context>
     <name>NavigationPanel</name>
@@ -636,10 +673,6 @@ F11：全屏</translation>
         <translation>%1（%2 处）</translation>
     </message>
     <message>
-        <source>第 %1 页</source>
-        <translation>第 %1 页</translation>
-    </message>
-    <message>
         <source>还没有书签</source>
         <translation>还没有书签</translation>
     </message>
@@ -666,6 +699,10 @@ F11：全屏</translation>
     <message>
         <source>附件另存为…</source>
         <translation>附件另存为…</translation>
+    </message>
+    <message>
+        <source>删除书签</source>
+        <translation>删除书签</translation>
     </message>
 </context>
 <context>
@@ -1030,6 +1067,18 @@ F11：全屏</translation>
         <source>包内的批注文件不是正确的 XML。</source>
         <translation>包内的批注文件不是正确的 XML。</translation>
     </message>
+    <message>
+        <source>过多的链接</source>
+        <translation>过多的链接</translation>
+    </message>
+    <message>
+        <source>无法打开的文档（%1）</source>
+        <translation>无法打开的文档（%1）</translation>
+    </message>
+    <message>
+        <source>包内文件“%1”的编码“%2”不受支持。</source>
+        <translation>包内文件“%1”的编码“%2”不受支持。</translation>
+    </message>
 </context>
 <context>
     <name>OfdFile</name>
@@ -1070,12 +1119,71 @@ F11：全屏</translation>
     </message>
 </context>
 <context>
+    <name>PageMenu</name>
+    <message>
+        <source>复制</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>高亮</source>
+        <translation>高亮</translation>
+    </message>
+    <message>
+        <source>下划线</source>
+        <translation>下划线</translation>
+    </message>
+    <message>
+        <source>删除线</source>
+        <translation>删除线</translation>
+    </message>
+    <message>
+        <source>取消选择</source>
+        <translation>取消选择</translation>
+    </message>
+    <message>
+        <source>后退</source>
+        <translation>后退</translation>
+    </message>
+    <message>
+        <source>前进</source>
+        <translation>前进</translation>
+    </message>
+    <message>
+        <source>全选</source>
+        <translation>全选</translation>
+    </message>
+    <message>
+        <source>放大</source>
+        <translation>放大</translation>
+    </message>
+    <message>
+        <source>缩小</source>
+        <translation>缩小</translation>
+    </message>
+    <message>
+        <source>适合宽度</source>
+        <translation>适合宽度</translation>
+    </message>
+    <message>
+        <source>适合页面</source>
+        <translation>适合页面</translation>
+    </message>
+    <message>
+        <source>属性</source>
+        <translation>属性</translation>
+    </message>
+</context>
+<context>
     <name>PageView</name>
     <message>
         <source>没有打开的文档
 按 Ctrl+O 打开一个文件</source>
         <translation>没有打开的文档
 按 Ctrl+O 打开一个文件</translation>
+    </message>
+    <message>
+        <source>第 %1 页</source>
+        <translation>第 %1 页</translation>
     </message>
 </context>
 <context>
@@ -1177,6 +1285,14 @@ F11：全屏</translation>
     <message>
         <source>没有这一页：共 %1 页</source>
         <translation>没有这一页：共 %1 页</translation>
+    </message>
+    <message>
+        <source>转到第几页（共 %1 页）</source>
+        <translation>转到第几页（共 %1 页）</translation>
+    </message>
+    <message>
+        <source>显示比例（%）</source>
+        <translation>显示比例（%）</translation>
     </message>
 </context>
 <context>
