@@ -12,6 +12,7 @@
 #include <QDesktopServices>
 #include <QListWidget>
 #include <QMouseEvent>
+#include <QScrollBar>
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QTemporaryDir>
@@ -113,6 +114,32 @@ private Q_SLOTS:
         acts.view->setTool(PageTool::of("tp_rectangle"));
         acts.click(acts.at(45, 10));
         QCOMPARE(acts.view->currentPage(), 0);
+    }
+
+    void shouldLeadFromOutlineAndBookmarksToTheirPlaces()
+    {
+        const QTemporaryDir folder;
+        const QString name = folder.filePath("places.ofd");
+        const QByteArray place = "<ofd:Dest Type=\"XYZ\" PageID=\"2\" Top=\"30\" Zoom=\"8\"/>";
+        QVERIFY(rewrite(name, "Doc_0/Document.xml",
+                        "<ofd:Dest Type=\"Fit\" PageID=\"1\"/></ofd:Bookmark></ofd:Bookmarks>",
+                        place
+                            + "</ofd:Bookmark></ofd:Bookmarks><ofd:Outlines><ofd:OutlineElem "
+                              "Title=\"A\"><ofd:Actions><ofd:Action><ofd:Goto>"
+                            + place
+                            + "</ofd:Goto></ofd:Action></ofd:Actions></ofd:OutlineElem>"
+                              "</ofd:Outlines>"));
+        for (const char *panel : {"vn_bookmark", "vn_outline"}) {
+            Acts acts(name);
+            const QListWidget *list = acts.list(panel);
+            QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
+                              list->visualItemRect(list->item(0)).center());
+            QCOMPARE(acts.view->currentPage(), 1);
+            QCOMPARE(qRound(acts.view->percent()), 800);
+            const int top = acts.view->verticalScrollBar()->value();
+            acts.view->setCurrentPage(1);
+            QVERIFY2(top - acts.view->verticalScrollBar()->value() > 20 * unit * 8, panel);
+        }
     }
 
     void shouldAskBeforeItOpensAnAddress()

@@ -76,8 +76,10 @@ void SearchPanel::search(const SearchOption &option)
     if (!m_document.isOpen() || option.content.isEmpty())
         return;
     m_field->setText(option.content);
-    if (!m_search.isActive())
+    if (!m_search.isActive()) {
         m_clock.start();
+        m_hasOpened = isVisible();
+    }
     m_search.search(m_document, option, m_view.currentPage());
     if (m_search.hasHits())
         showHits();
@@ -149,6 +151,11 @@ void SearchPanel::showProgress()
     m_progress->setRange(0, std::max(1, m_search.pageCount()));
     m_progress->setValue(m_search.searchedPages());
     const bool isLong = isActive && m_clock.elapsed() > patience;
+    // Progress and stop are also for a search from a field of the toolbar.
+    if (isLong && !m_hasOpened) {
+        m_hasOpened = true;
+        show();
+    }
     m_progress->setVisible(isLong);
     m_stopButton->setVisible(isLong);
     say();

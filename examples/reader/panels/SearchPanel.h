@@ -49,7 +49,8 @@ private:
     const Document &m_document;
     PageView &m_view;
     TextSearch m_search{this};
-    QElapsedTimer m_clock; ///< Since the search began.
+    QElapsedTimer m_clock;    ///< Since the search began.
+    bool m_hasOpened = false; ///< By itself for this search, or before it.
     QLineEdit *m_field;
     QLabel *m_label;
     QProgressBar *m_progress;
