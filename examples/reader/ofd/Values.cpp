@@ -10,7 +10,9 @@
 #include <QLocale>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <optional>
 
 namespace Ofd {
 
@@ -39,6 +41,19 @@ bool toNumber(QStringView word, qreal *value)
     return true;
 }
 
+/** The numbers of a text that has exactly so many; without memory that grows, as there are many. */
+template <std::size_t count>
+std::optional<std::array<qreal, count>> exactly(QStringView text)
+{
+    std::array<qreal, count> values;
+    for (qreal &value : values) {
+        if (!toNumber(takeWord(&text), &value))
+            return std::nullopt;
+    }
+    qreal further = 0;
+    return toNumber(takeWord(&text), &further) ? std::nullopt : std::make_optional(values);
+}
+
 } // namespace
 
 qreal Values::number(QStringView text, qreal otherwise)
@@ -58,16 +73,16 @@ QVector<qreal> Values::numbers(QStringView text)
 
 QRectF Values::box(const QString &text)
 {
-    const QVector<qreal> v = numbers(text);
-    return v.size() == 4 ? QRectF(v.at(0), v.at(1), v.at(2), v.at(3)) : QRectF();
+    const auto box = exactly<4>(text);
+    return box ? QRectF((*box)[0], (*box)[1], (*box)[2], (*box)[3]) : QRectF();
 }
 
 QTransform Values::matrix(const QString &text)
 {
-    const QVector<qreal> v = numbers(text);
-    if (v.size() != 6)
+    const auto v = exactly<6>(text);
+    if (!v)
         return QTransform();
-    const QTransform matrix(v.at(0), v.at(1), v.at(2), v.at(3), v.at(4), v.at(5));
+    const QTransform matrix((*v)[0], (*v)[1], (*v)[2], (*v)[3], (*v)[4], (*v)[5]);
     // Computed here, because Qt keeps it without protection and several threads read the matrix.
     matrix.type();
     return matrix;
@@ -75,8 +90,8 @@ QTransform Values::matrix(const QString &text)
 
 QPointF Values::point(const QString &text, QPointF otherwise)
 {
-    const QVector<qreal> v = numbers(text);
-    return v.size() == 2 ? QPointF(v.at(0), v.at(1)) : otherwise;
+    const auto point = exactly<2>(text);
+    return point ? QPointF((*point)[0], (*point)[1]) : otherwise;
 }
 
 QVector<qreal> Values::deltas(const QString &text, int most)
