@@ -51,6 +51,8 @@ constexpr qreal dashesPerPath = 50000;
 constexpr int layersPerPage = 1000;
 /** Further lines that go to and fro in a small area are painted in a quicker way. */
 constexpr int linesPerPage = 1000;
+/** Further characters are left out: nobody could read so many on a page. */
+constexpr int glyphsPerPage = 250000;
 constexpr int gradientStops = 4096;
 constexpr std::size_t meshPoints = 300000;
 /** Of a picture that is computed for a shading or a pattern. */

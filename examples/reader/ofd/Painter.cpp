@@ -11,6 +11,7 @@
 #include "ofd/Pattern.h"
 #include "ofd/Shading.h"
 #include "ofd/TextLayout.h"
+#include "ofd/Wording.h"
 
 #include <QPainter>
 
@@ -90,6 +91,7 @@ void Painter::paint(QPainter &painter, int page, const QSet<int> &hiddenAnnotati
                     const std::atomic_bool *isAbandoned)
 {
     m_layers = 0;
+    m_glyphs = 0;
     m_lines = 0;
     painter.save();
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
@@ -275,6 +277,11 @@ void Painter::paintContent(QPainter &painter, const Object &object, const Text &
 void Painter::paintGlyphs(QPainter &painter, const Object &object,
                           const QVector<PlacedGlyph> &glyphs, bool lacksBold)
 {
+    m_glyphs += int(glyphs.size());
+    if (m_glyphs > Limits::glyphsPerPage) {
+        m_document->leaveOut(Wording::tr("过多的字符"), QString());
+        return;
+    }
     const Text &text = std::get<Text>(object.content);
     const Paint paint = fillOf(object);
     const QBrush *plain = text.isFilled ? std::get_if<QBrush>(&paint) : nullptr;

@@ -74,6 +74,7 @@ private:
     const std::atomic_bool *m_isAbandoned = nullptr; ///< Valid during paint().
     QCache<QPair<qint64, qint64>, QImage> m_masked;  ///< By the keys of the picture and its mask.
     int m_layers = 0;                                ///< That the page needed so far.
+    int m_glyphs = 0;                                ///< Of texts on the page so far.
     int m_lines = 0;                                 ///< Stroked paths of the page so far.
     QTransform m_toPage; ///< From the coordinates of the object that is painted.
     int m_openPatterns = 0;

@@ -1079,6 +1079,10 @@ F11: full screen</translation>
         <source>包内文件“%1”的编码“%2”不受支持。</source>
         <translation>The encoding “%2” of the file “%1” in the package is not supported.</translation>
     </message>
+    <message>
+        <source>过多的字符</source>
+        <translation>characters beyond what a page can show</translation>
+    </message>
 </context>
 <context>
     <name>OfdFile</name>

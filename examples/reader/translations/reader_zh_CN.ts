@@ -1079,6 +1079,10 @@ F11：全屏</translation>
         <source>包内文件“%1”的编码“%2”不受支持。</source>
         <translation>包内文件“%1”的编码“%2”不受支持。</translation>
     </message>
+    <message>
+        <source>过多的字符</source>
+        <translation>过多的字符</translation>
+    </message>
 </context>
 <context>
     <name>OfdFile</name>
