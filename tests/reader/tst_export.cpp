@@ -98,6 +98,11 @@ private Q_SLOTS:
         Document document;
         QString error;
         QVERIFY2(document.open(QDir(OFD_SAMPLES).filePath("text.ofd"), &error), qPrintable(error));
+        for (const char *name : {"a.png", "a.pdf", "a.txt"}) {
+            QVERIFY(!Export::write(document, folder.filePath(name), &error,
+                                   [](int page) { return page < 1; }));
+            QVERIFY(error.contains("取消") && QDir(folder.path()).isEmpty());
+        }
         QVERIFY2(Export::write(document, folder.filePath("a.png"), &error), qPrintable(error));
         QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList({"a-1.png", "a-2.png"}));
         QVERIFY2(!Export::write(document, folder.filePath("a.png"), &error),

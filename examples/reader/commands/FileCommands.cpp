@@ -21,6 +21,7 @@
 #include <QMainWindow>
 #include <QMap>
 #include <QMessageBox>
+#include <QProgressDialog>
 #include <QPushButton>
 
 namespace {
@@ -239,7 +240,7 @@ bool FileCommands::saveTo(const QString &fileName)
     if (!mayBreakSignature(fileName))
         return false;
     QString error;
-    if (!Export::write(*m_parts.document, fileName, &error)) {
+    if (!write(fileName, &error)) {
         m_parts.say(error);
         return false;
     }
@@ -261,6 +262,21 @@ bool FileCommands::saveTo(const QString &fileName)
                     ? tr("已保存：%1").arg(fileName)
                     : tr("已保存：%1。页面的旋转只用于查看，不写入文件").arg(fileName));
     return true;
+}
+
+bool FileCommands::write(const QString &fileName, QString *error) const
+{
+    constexpr int patience = 500; // Milliseconds before the dialog shows.
+    QProgressDialog progress(tr("正在写入“%1”…").arg(QFileInfo(fileName).fileName()), tr("取消"), 0,
+                             m_parts.document->pageCount(), m_parts.window);
+    progress.setWindowTitle(m_parts.window->windowTitle());
+    progress.setMinimumDuration(patience);
+    // Another window could close the program.
+    progress.setWindowModality(Qt::ApplicationModal);
+    return Export::write(*m_parts.document, fileName, error, [&progress](int page) {
+        progress.setValue(page);
+        return !progress.wasCanceled();
+    });
 }
 
 bool FileCommands::mayBreakSignature(const QString &fileName) const

@@ -51,6 +51,8 @@ private:
     bool saveTo(const QString &fileName);
     /** Whether saving may replace the opened file, which then loses nothing. */
     bool mayReplaceFile() const;
+    /** Can be cancelled if it takes long. */
+    bool write(const QString &fileName, QString *error) const;
     bool mayBreakSignature(const QString &fileName) const;
     void print();
     void showProperties() const;

@@ -14,6 +14,8 @@
 #include <QPdfWriter>
 #include <QSaveFile>
 
+#include <utility>
+
 namespace {
 
 constexpr qreal pointsPerPageUnit = 72 / unitsPerInch;
@@ -26,7 +28,7 @@ bool hasSuffix(const QString &fileName, const char *suffix)
     return fileName.endsWith(QLatin1String(suffix), Qt::CaseInsensitive);
 }
 
-bool writePdf(const Document &document, QSaveFile &file)
+bool writePdf(const Document &document, QSaveFile &file, const Export::MayGoOn &mayGoOn)
 {
     QPdfWriter writer(&file);
     writer.setTitle(document.title());
@@ -37,7 +39,7 @@ bool writePdf(const Document &document, QSaveFile &file)
         const QSizeF size = document.sizeOf(page);
         writer.setPageSize(QPageSize(size * pointsPerPageUnit, QPageSize::Point, QString(),
                                      QPageSize::ExactMatch));
-        if (page > 0 ? !writer.newPage() : !painter.begin(&writer))
+        if (!mayGoOn(page) || (page > 0 ? !writer.newPage() : !painter.begin(&writer)))
             return false;
         painter.save();
         painter.scale(writer.width() / size.width(), writer.width() / size.width());
@@ -48,10 +50,10 @@ bool writePdf(const Document &document, QSaveFile &file)
     return painter.end();
 }
 
-bool writeText(const Document &document, QSaveFile &file)
+bool writeText(const Document &document, QSaveFile &file, const Export::MayGoOn &mayGoOn)
 {
     for (int page = 0; page < document.pageCount(); ++page) {
-        if (file.write(document.page(page).text.toUtf8() + '\n') < 0)
+        if (!mayGoOn(page) || file.write(document.page(page).text.toUtf8() + '\n') < 0)
             return false;
     }
     return true;
@@ -86,7 +88,8 @@ bool writePicture(const Document &document, int page, const QString &fileName)
     return file.open(QIODevice::WriteOnly) && image.save(&file, "PNG") && file.commit();
 }
 
-bool writePictures(const Document &document, const QString &fileName)
+bool writePictures(const Document &document, const QString &fileName,
+                   const Export::MayGoOn &mayGoOn)
 {
     const int pages = document.pageCount();
     // The dialog asked about the name itself only; nothing else may be overwritten.
@@ -94,37 +97,46 @@ bool writePictures(const Document &document, const QString &fileName)
         if (QFile::exists(pictureOf(fileName, page, pages)))
             return false;
     }
+    QStringList written;
     for (int page = 0; page < pages; ++page) {
-        if (!writePicture(document, page, pictureOf(fileName, page, pages)))
+        const QString name = pictureOf(fileName, page, pages);
+        if (!mayGoOn(page) || !writePicture(document, page, name)) {
+            for (const QString &half : std::as_const(written))
+                QFile::remove(half);
             return false;
+        }
+        written.append(name);
     }
     return pages > 0;
 }
 
 } // namespace
 
-bool Export::write(const Document &document, const QString &fileName, QString *error)
+bool Export::write(const Document &document, const QString &fileName, QString *error,
+                   const MayGoOn &mayGoOn)
 {
     const QString refusal = QCoreApplication::translate("Export", "无法写入：%1").arg(fileName);
     *error = refusal;
+    const MayGoOn goesOn = [&](int page) {
+        const bool isEnd = mayGoOn && !mayGoOn(page);
+        if (isEnd)
+            *error = QCoreApplication::translate("Export", "已取消，没有写入文件");
+        return !isEnd;
+    };
     if (hasSuffix(fileName, pictureSuffix))
-        return writePictures(document, fileName);
+        return writePictures(document, fileName, goesOn);
     QSaveFile file(fileName);
     if (!file.open(QIODevice::WriteOnly))
         return false;
-    bool isWritten = false;
-    if (hasSuffix(fileName, ".ofd")) {
-        const QByteArray archive = OfdSaving::archiveOf(document, error);
-        if (archive.isEmpty())
-            return false;
-        *error = refusal;
-        isWritten = file.write(archive) == archive.size();
-    } else if (hasSuffix(fileName, ".txt")) {
-        isWritten = writeText(document, file);
-    } else {
-        isWritten = writePdf(document, file);
-    }
-    return isWritten && file.commit();
+    if (hasSuffix(fileName, ".txt"))
+        return writeText(document, file, goesOn) && file.commit();
+    if (!hasSuffix(fileName, ".ofd"))
+        return writePdf(document, file, goesOn) && file.commit();
+    const QByteArray archive = OfdSaving::archiveOf(document, error);
+    if (archive.isEmpty())
+        return false;
+    *error = refusal;
+    return file.write(archive) == archive.size() && file.commit();
 }
 
 QString Export::lossOf(const Document &document, const QString &fileName)

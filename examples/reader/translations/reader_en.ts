@@ -142,6 +142,10 @@
         <source>书签只能保存到 OFD 文件中</source>
         <translation>Bookmarks can be saved in OFD files only</translation>
     </message>
+    <message>
+        <source>已取消，没有写入文件</source>
+        <translation>Cancelled; no file was written</translation>
+    </message>
 </context>
 <context>
     <name>FileCommands</name>
@@ -292,6 +296,10 @@ F11: full screen</translation>
     <message>
         <source>本文件有电子签名，写入修改后签名可能不再有效。要继续保存吗？</source>
         <translation>This file is signed. Once the changes are written, the signatures may no longer be valid. Save it anyway?</translation>
+    </message>
+    <message>
+        <source>正在写入“%1”…</source>
+        <translation>Writing “%1”…</translation>
     </message>
 </context>
 <context>

@@ -142,6 +142,10 @@
         <source>书签只能保存到 OFD 文件中</source>
         <translation>书签只能保存到 OFD 文件中</translation>
     </message>
+    <message>
+        <source>已取消，没有写入文件</source>
+        <translation>已取消，没有写入文件</translation>
+    </message>
 </context>
 <context>
     <name>FileCommands</name>
@@ -292,6 +296,10 @@ F11：全屏</translation>
     <message>
         <source>本文件有电子签名，写入修改后签名可能不再有效。要继续保存吗？</source>
         <translation>本文件有电子签名，写入修改后签名可能不再有效。要继续保存吗？</translation>
+    </message>
+    <message>
+        <source>正在写入“%1”…</source>
+        <translation>正在写入“%1”…</translation>
     </message>
 </context>
 <context>
