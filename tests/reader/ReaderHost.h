@@ -7,6 +7,7 @@
 #include "shell/Description.h"
 #include "shell/ReaderWindow.h"
 
+#include <QTemporaryDir>
 #include <QTest>
 
 /** Without a window manager the focus may still go to a window that was shown earlier. */
@@ -18,6 +19,13 @@ inline bool activate(ReaderWindow &window)
             return true;
     }
     return false;
+}
+
+/** For the whole program, before its first window. */
+inline void keepUsersSettings()
+{
+    static const QTemporaryDir folder;
+    qputenv("XDG_CONFIG_HOME", folder.path().toLocal8Bit());
 }
 
 /** Chooses a command of the toolbar, also one on a row that is not on show. */

@@ -90,7 +90,7 @@ private Q_SLOTS:
     void initTestCase()
     {
         QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-        qputenv("XDG_CONFIG_HOME", "/nowhere"); // Not the user's own settings.
+        keepUsersSettings();
     }
 
     void shouldFollowLinksOfPages()

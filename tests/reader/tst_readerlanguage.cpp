@@ -28,7 +28,7 @@ class ReaderLanguageTest : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        qputenv("XDG_CONFIG_HOME", "/nowhere"); // Not the user's own settings.
+        keepUsersSettings();
         Language::install("en");
     }
 

@@ -66,6 +66,7 @@ class ReaderPagesTest : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
+        keepUsersSettings();
         write(m_long, PackageMaker::documentOf(manyPages));
         PackageMaker::Entries entries = PackageMaker::documentOf(9);
         for (const int page : {1, 4, 7})

@@ -18,7 +18,7 @@ class ReaderRowsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { qputenv("XDG_CONFIG_HOME", "/nowhere"); } // Not the user's own settings.
+    void initTestCase() { keepUsersSettings(); }
 
     void shouldHaveEveryCommandAtMostTwoClicksAway_data()
     {

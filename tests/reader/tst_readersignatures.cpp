@@ -80,7 +80,7 @@ class ReaderSignaturesTest : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        qputenv("XDG_CONFIG_HOME", "/nowhere"); // Not the user's own settings.
+        keepUsersSettings();
         const Signer signer("SM2");
         PackageMaker::Entries entries = document("SM3");
         entries["SignedValue.dat"] = sealedValue(

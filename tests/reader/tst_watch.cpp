@@ -4,7 +4,7 @@
 #include "pages/PageView.h"
 #include "panels/SearchPanel.h"
 #include "shell/LivePreview.h"
-#include "shell/ReaderWindow.h"
+#include "tests/reader/ReaderHost.h"
 
 #include <QDomDocument>
 #include <QLineEdit>
@@ -13,7 +13,6 @@
 #include <QScrollBar>
 #include <QTableWidget>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <filesystem>
 
@@ -73,7 +72,7 @@ class WatchTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { qputenv("XDG_CONFIG_HOME", "/nowhere"); } // Not the user's own settings.
+    void initTestCase() { keepUsersSettings(); }
 
     void shouldFollowTheFileHoweverItIsSaved_data()
     {
