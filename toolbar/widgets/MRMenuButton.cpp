@@ -18,7 +18,12 @@ MRMenuButton::MRMenuButton(QWidget *parent, int dx, int dy, QWidget *anchor)
 
 void MRMenuButton::SetMenu(QMenu *menu)
 {
+    if (m_menu)
+        m_menu->disconnect(this);
     m_menu = menu;
+    // The pointer leaves the button below the open menu, for which Qt does not repaint.
+    if (menu)
+        connect(menu, &QMenu::aboutToHide, this, qOverload<>(&QWidget::update));
 }
 
 QMenu *MRMenuButton::GetMenu() const
