@@ -107,6 +107,8 @@ private Q_SLOTS:
         QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList({"a-1.png", "a-2.png"}));
         QVERIFY2(!Export::write(document, folder.filePath("a.png"), &error),
                  "It overwrote pictures");
+        QVERIFY2(error.contains("a-1.png"), qPrintable(error));
+        QVERIFY(Export::writtenNames(document, "b.png").startsWith("b-1.png"));
         const QImage second(folder.filePath("a-2.png"));
         QCOMPARE(second.size(), (document.sizeOf(1) * 2).toSize());
         QVERIFY2(second.convertToFormat(QImage::Format_Indexed8).colorCount() > 2, "It is blank");

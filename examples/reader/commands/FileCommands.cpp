@@ -246,12 +246,13 @@ bool FileCommands::saveTo(const QString &fileName)
     }
     const Document &document = *m_parts.document;
     const QString loss = Export::lossOf(document, fileName);
+    const QString written = Export::writtenNames(document, fileName);
     // Another format is a copy: the marks are still to be saved, unless no OFD file can hold them.
     const bool isCopy = !fileName.endsWith(ofdSuffix, Qt::CaseInsensitive)
                         && !document.isGenerated() && OfdSaving::lossOf(document).isEmpty();
     if (!loss.isEmpty() || (isCopy && document.isModified())) {
         const QString rest = loss.isEmpty() ? tr("批注还没有存入 OFD 文件") : loss;
-        m_parts.say(tr("已保存：%1。%2").arg(fileName, rest));
+        m_parts.say(tr("已保存：%1。%2").arg(written, rest));
         return false;
     }
     if (!isCopy) {
@@ -259,8 +260,8 @@ bool FileCommands::saveTo(const QString &fileName)
         m_parts.document->undoStack().setClean();
     }
     m_parts.say(document.quarters() == 0
-                    ? tr("已保存：%1").arg(fileName)
-                    : tr("已保存：%1。页面的旋转只用于查看，不写入文件").arg(fileName));
+                    ? tr("已保存：%1").arg(written)
+                    : tr("已保存：%1。页面的旋转只用于查看，不写入文件").arg(written));
     return true;
 }
 

@@ -9,7 +9,7 @@
 #include "pages/PdfText.h"
 
 #include <QCoreApplication>
-#include <QFile>
+#include <QFileInfo>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QSaveFile>
@@ -89,13 +89,16 @@ bool writePicture(const Document &document, int page, const QString &fileName)
 }
 
 bool writePictures(const Document &document, const QString &fileName,
-                   const Export::MayGoOn &mayGoOn)
+                   const Export::MayGoOn &mayGoOn, QString *error)
 {
     const int pages = document.pageCount();
     // The dialog asked about the name itself only; nothing else may be overwritten.
     for (int page = 0; pages > 1 && page < pages; ++page) {
-        if (QFile::exists(pictureOf(fileName, page, pages)))
+        const QString name = pictureOf(fileName, page, pages);
+        if (QFile::exists(name)) {
+            *error = QCoreApplication::translate("Export", "没有写入，因为已有文件：%1").arg(name);
             return false;
+        }
     }
     QStringList written;
     for (int page = 0; page < pages; ++page) {
@@ -124,7 +127,7 @@ bool Export::write(const Document &document, const QString &fileName, QString *e
         return !isEnd;
     };
     if (hasSuffix(fileName, pictureSuffix))
-        return writePictures(document, fileName, goesOn);
+        return writePictures(document, fileName, goesOn, error);
     QSaveFile file(fileName);
     if (!file.open(QIODevice::WriteOnly))
         return false;
@@ -137,6 +140,16 @@ bool Export::write(const Document &document, const QString &fileName, QString *e
         return false;
     *error = refusal;
     return file.write(archive) == archive.size() && file.commit();
+}
+
+QString Export::writtenNames(const Document &document, const QString &fileName)
+{
+    const int pages = document.pageCount();
+    if (pages < 2 || !hasSuffix(fileName, pictureSuffix))
+        return fileName;
+    return QCoreApplication::translate("Export", "%1 至 %2")
+        .arg(pictureOf(fileName, 0, pages),
+             QFileInfo(pictureOf(fileName, pages - 1, pages)).fileName());
 }
 
 QString Export::lossOf(const Document &document, const QString &fileName)

@@ -24,6 +24,9 @@ using MayGoOn = std::function<bool(int page)>;
 bool write(const Document &document, const QString &fileName, QString *error,
            const MayGoOn &mayGoOn = {});
 
+/** The file that write() makes of that name; of several pictures the first and the last one. */
+QString writtenNames(const Document &document, const QString &fileName);
+
 /** One sentence about what the format for that file name loses; empty if it loses nothing. */
 QString lossOf(const Document &document, const QString &fileName);
 

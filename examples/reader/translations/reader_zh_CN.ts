@@ -146,6 +146,14 @@
         <source>已取消，没有写入文件</source>
         <translation>已取消，没有写入文件</translation>
     </message>
+    <message>
+        <source>没有写入，因为已有文件：%1</source>
+        <translation>没有写入，因为已有文件：%1</translation>
+    </message>
+    <message>
+        <source>%1 至 %2</source>
+        <translation>%1 至 %2</translation>
+    </message>
 </context>
 <context>
     <name>FileCommands</name>
