@@ -336,8 +336,10 @@ void EditCommands::copySelection()
         return;
     const QList<Page> all = m_parts.document->pages();
     QList<Page> pages;
+    // The text of a single page is known, so that no painter has to load its fonts again.
+    const bool isOne = selection.size() == 1;
     for (const TextRange &range : selection)
-        pages.append(all.at(range.page));
+        pages.append(isOne ? m_parts.document->page(range.page) : all.at(range.page));
     const auto text = std::make_shared<QString>();
     m_copied = text;
     m_copiedPages = int(pages.size());

@@ -279,7 +279,8 @@ void Painter::paintGlyphs(QPainter &painter, const Object &object,
 {
     m_glyphs += int(glyphs.size());
     if (m_glyphs > Limits::glyphsPerPage) {
-        m_document->leaveOut(Wording::tr("过多的字符"), QString());
+        const QString kind = Wording::tr("过多的字符");
+        m_document->leaveOut(kind, kind); // Of no file, so once for the document.
         return;
     }
     const Text &text = std::get<Text>(object.content);

@@ -22,6 +22,7 @@
 #include <QInputDialog>
 
 #include <algorithm>
+#include <optional>
 
 namespace {
 
